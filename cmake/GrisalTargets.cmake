@@ -1,0 +1,17 @@
+# SPDX-License-Identifier: MIT
+# What every target of the project has in common.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+add_library(grisal_options INTERFACE)
+target_include_directories(grisal_options INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_options(grisal_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
+
+# grisal_add_library(NAME sources...): one of the program's libraries, headers included by their path from the root.
+function(grisal_add_library name)
+  add_library(${name} STATIC ${ARGN})
+  target_link_libraries(${name} PUBLIC grisal_options)
+endfunction()
