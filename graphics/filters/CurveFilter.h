@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/filters/IFilter.h"
+#include "graphics/gl/Textures.h"
+#include "graphics/shader/ShaderProgram.h"
+
+#include <QVector>
+
+namespace grisal::graphics
+{
+
+/// Maps grey through a tone curve: the sample nearest to the red channel v, clamped to 0..0.999, goes into all four
+/// channels, alpha included. Before the first setCurve() the pass reads texture 0.
+class CurveFilter : public IFilter
+{
+public:
+    CurveFilter();
+
+    void apply(GLuint sourceTexture, const FramebufferObject &target) override;
+
+    /// Takes the outputs 0..1 for evenly spaced greys, 256 of them from the curves panel. The identity is i / 256,
+    /// which an 8-bit target stores as the grey it came from. The context must be current.
+    void setCurve(const QVector<float> &values);
+
+    const QVector<float> &curve() const { return m_curve; }
+    GLuint curveTexture() const { return m_curveTexture.name(); }
+
+private:
+    ShaderProgram m_program;
+    Texture m_curveTexture;
+    QVector<float> m_curve;
+};
+
+} // namespace grisal::graphics

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/filters/IFilter.h"
+#include "graphics/filters/VignetteParameters.h"
+#include "graphics/gl/Textures.h"
+#include "graphics/shader/ShaderProgram.h"
+
+namespace grisal::graphics
+{
+
+/// Draws a vignette as a mask of its own: (v, v, v, 0) with v = vignetteValue() for the size of the pass. The source
+/// texture of apply() is not read.
+class FinalVignetteFilter : public IFilter
+{
+public:
+    FinalVignetteFilter();
+
+    void apply(GLuint sourceTexture, const FramebufferObject &target) override;
+
+    VignetteParameters parameters;
+    float maxWidth = 0;  ///< sent, but the mask goes by the size of the pass
+    float maxHeight = 0; ///< as maxWidth
+
+private:
+    ShaderProgram m_program;
+    Texture m_noiseTexture;
+};
+
+} // namespace grisal::graphics

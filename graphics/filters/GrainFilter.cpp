@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/filters/GrainFilter.h"
+
+#include "graphics/filters/NoiseMap.h"
+
+namespace grisal::graphics
+{
+
+GrainFilter::GrainFilter()
+    : IFilter("GrainFilter"), m_program("GrainFilter", vertexSource(), fragmentSource("GrainFilter")),
+      m_noiseTexture(loadNoiseMap())
+{
+}
+
+void GrainFilter::setWeights(const QVector<float> &values)
+{
+    m_weightsTexture =
+        Texture(create1DTexture(static_cast<std::int32_t>(values.size()), GL_R32F, GL_RED, GL_FLOAT, values.data()));
+}
+
+void GrainFilter::setSigma(float sigma)
+{
+    glEnable(GL_TEXTURE_1D);
+    glEnable(GL_TEXTURE_2D);
+    m_sigma = sigma;
+    if (!m_blur) {
+        m_blur = std::make_unique<GaussianBlurFilter>(sigma, 64.0F, noiseMapSide, noiseMapSide, GL_RGB8, GL_RGB,
+                                                      GL_UNSIGNED_BYTE);
+    }
+    if (!m_blurredNoise) {
+        m_blurredNoise = std::make_unique<RenderTarget>(noiseMapSide, noiseMapSide, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+    }
+    m_blur->sigma = sigma;
+    m_blur->radius = sigma;
+    m_blur->scale = 1.0F;
+    m_blur->apply(m_noiseTexture.name(), m_blurredNoise->record());
+}
+
+void GrainFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
+{
+    setUniform1f(m_program, "Width", static_cast<float>(width));
+    setUniform1f(m_program, "Height", static_cast<float>(height));
+    setUniform1f(m_program, "Sigma", m_sigma);
+    setUniform1f(m_program, "MaxPixel", maxPixel);
+    const GLuint noise = m_blurredNoise ? m_blurredNoise->record().texture : 0;
+    bindTexture2D(m_program, "NoiseMap", noise, unit::extra);
+    bindTexture1D(m_program, "Weights", m_weightsTexture.name(), unit::weights);
+    runPass(m_program, width, height, sourceTexture, target);
+
+    glActiveTexture(GL_TEXTURE0 + unit::source);
+    glBindTexture(GL_TEXTURE_2D, 0);
+    glActiveTexture(GL_TEXTURE0 + unit::extra);
+    glBindTexture(GL_TEXTURE_2D, 0);
+    glActiveTexture(GL_TEXTURE0 + unit::weights);
+    glBindTexture(GL_TEXTURE_1D, 0);
+}
+
+} // namespace grisal::graphics

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/filters/GaussianBlurFilter.h"
+#include "graphics/filters/IFilter.h"
+#include "graphics/gl/Textures.h"
+#include "graphics/shader/ShaderProgram.h"
+
+#include <QVector>
+
+#include <memory>
+
+namespace grisal::graphics
+{
+
+/// Film grain: overlays blurred noise n onto the picture c, mixed in by the weight w of the pixel's grey:
+/// c * (1 - w) + overlay(c, n) * w with the overlay of HalfToneFilter. Noise is read at pixel * 0.0019, in units of
+/// the noise map, which mirrors beyond its edges. Weights of 0 leave the picture exactly as it is.
+///
+/// setSigma() has to be called before the first pass.
+class GrainFilter : public IFilter
+{
+public:
+    GrainFilter();
+
+    void apply(GLuint sourceTexture, const FramebufferObject &target) override;
+
+    /// Takes the strengths 0..1 for evenly spaced greys, 256 of them from the grain panel. The context must be
+    /// current.
+    void setWeights(const QVector<float> &values);
+
+    /// Blurs the noise with a radius of `sigma` pixels: the coarseness of the grain. Renders, so that the context must
+    /// be current.
+    void setSigma(float sigma);
+
+    float sigma() const { return m_sigma; }
+    GLuint weightsTexture() const { return m_weightsTexture.name(); }
+    const GaussianBlurFilter *blur() const { return m_blur.get(); }
+    const RenderTarget *blurredNoise() const { return m_blurredNoise.get(); }
+
+private:
+    ShaderProgram m_program;
+    float m_sigma = 0;
+    Texture m_noiseTexture;
+    Texture m_weightsTexture;
+    std::unique_ptr<GaussianBlurFilter> m_blur;
+    std::unique_ptr<RenderTarget> m_blurredNoise;
+};
+
+} // namespace grisal::graphics

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/filters/ColorRGB.h"
+#include "graphics/filters/IFilter.h"
+#include "graphics/shader/ShaderProgram.h"
+
+namespace grisal::graphics
+{
+
+/// Split toning of a grey picture i: with h = i * weight, s = (1 - h)^2 and o = 1 - h - s the result is
+/// overlay(i, firstColor) * h + overlay(i, secondColor) * s + i * o,
+/// overlay(I, M) = (I * 0.0039) * (I + (M * 2 * 0.0039) * (255 - I)) * 0.0039 on a scale of 0..255.
+class HalfToneFilter : public IFilter
+{
+public:
+    HalfToneFilter();
+
+    void apply(GLuint sourceTexture, const FramebufferObject &target) override;
+
+    float weight = 1;            ///< share of the highlights; 0 tints everything with secondColor
+    ColorRGB<float> firstColor;  ///< tint of the highlights, 0..1
+    ColorRGB<float> secondColor; ///< tint of the shadows, 0..1
+
+private:
+    ShaderProgram m_program;
+};
+
+} // namespace grisal::graphics

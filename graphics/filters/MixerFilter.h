@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/filters/ColorRGB.h"
+#include "graphics/filters/IFilter.h"
+#include "graphics/shader/ShaderProgram.h"
+
+namespace grisal::graphics
+{
+
+/// Turns colour into grey: g = r * weights.r + g * weights.g + b * weights.b in all channels, alpha 1.
+class MixerFilter : public IFilter
+{
+public:
+    MixerFilter();
+
+    void apply(GLuint sourceTexture, const FramebufferObject &target) override;
+
+    /// Multipliers of the channels, not normalised: a sum above 1 brightens. No neutral value for colour pictures; a
+    /// sum of 1 leaves greys as they are.
+    ColorRGB<float> weights;
+
+private:
+    ShaderProgram m_program;
+};
+
+} // namespace grisal::graphics

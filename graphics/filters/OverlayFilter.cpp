@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/filters/OverlayFilter.h"
+
+namespace grisal::graphics
+{
+
+// The label is the mixer's: both programs are listed under it wherever programs are listed.
+OverlayFilter::OverlayFilter()
+    : IFilter("OverlayFilter"), m_program("BWConversionMixer", vertexSource(), fragmentSource("OverlayFilter"))
+{
+}
+
+void OverlayFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
+{
+    setUniform1f(m_program, "Width", static_cast<float>(width));
+    setUniform1f(m_program, "Height", static_cast<float>(height));
+    bindTexture2D(m_program, "OverlayTexture", overlayTexture, unit::extra);
+    runPass(m_program, width, height, sourceTexture, target);
+}
+
+} // namespace grisal::graphics

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/filters/IFilter.h"
+#include "graphics/shader/ShaderProgram.h"
+
+namespace grisal::graphics
+{
+
+/// Darkens a picture I by a grey mask m: (1 - m) * I + m * I^2 * 0.0039 on a scale of 0..255, times 0.0039.
+/// A mask of 0 leaves a pixel as it is but for the factor 255 * 0.0039 = 0.9945; there is no neutral value.
+class OverlayFilter : public IFilter
+{
+public:
+    OverlayFilter();
+
+    void apply(GLuint sourceTexture, const FramebufferObject &target) override;
+
+    GLuint overlayTexture = 0; ///< the mask, in its red channel; owned by whoever sets it
+
+private:
+    ShaderProgram m_program;
+};
+
+} // namespace grisal::graphics

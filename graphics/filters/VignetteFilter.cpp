@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/filters/VignetteFilter.h"
+
+#include "graphics/filters/NoiseMap.h"
+
+namespace grisal::graphics
+{
+
+VignetteFilter::VignetteFilter()
+    : IFilter("VignetteFilter"), m_program("BWVignette", vertexSource(), fragmentSource("VignetteFilter")),
+      m_noiseTexture(loadNoiseMap())
+{
+}
+
+void VignetteFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
+{
+    setVignetteUniforms(m_program, parameters, width, height, maxWidth, maxHeight);
+    bindTexture2D(m_program, "NoiseMap", m_noiseTexture.name(), unit::extra);
+    runPass(m_program, width, height, sourceTexture, target);
+}
+
+} // namespace grisal::graphics
