@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/document/FlexibleDocumentView.h"
+
+namespace grisal::graphics
+{
+
+FlexibleDocumentView::FlexibleDocumentView(float viewportWidth, float viewportHeight, float imageWidth,
+                                           float imageHeight, GLenum internalFormat, GLenum pixelFormat,
+                                           GLenum pixelType)
+    : DocumentView(static_cast<int>(imageWidth), static_cast<int>(imageHeight), pixelFormat, internalFormat, pixelType),
+      m_imageWidth(static_cast<int>(imageWidth)), m_imageHeight(static_cast<int>(imageHeight)),
+      m_offsetX(viewportWidth * 0.5F), m_offsetY(viewportHeight * 0.5F), m_viewportWidth(viewportWidth),
+      m_viewportHeight(viewportHeight)
+{
+}
+
+void FlexibleDocumentView::setup()
+{
+    glViewport(0, 0, static_cast<GLsizei>(m_viewportWidth), static_cast<GLsizei>(m_viewportHeight));
+    glMatrixMode(GL_PROJECTION);
+    glLoadIdentity();
+    gluOrtho2D(0, m_viewportWidth, 0, m_viewportHeight);
+
+    glMatrixMode(GL_MODELVIEW);
+    glLoadIdentity();
+    glTranslatef(m_offsetX, m_offsetY, 0);
+    // Flat on purpose: the picture has no depth to scale.
+    glScalef(m_scale, m_scale, 0);
+    glTranslatef(static_cast<float>(-m_imageWidth) * 0.5F, static_cast<float>(-m_imageHeight) * 0.5F, 0);
+}
+
+void FlexibleDocumentView::setViewportSize(float width, float height)
+{
+    m_viewportWidth = width;
+    m_viewportHeight = height;
+}
+
+void FlexibleDocumentView::setOffset(float x, float y)
+{
+    m_offsetX = x;
+    m_offsetY = y;
+}
+
+void FlexibleDocumentView::centre()
+{
+    m_offsetX = m_viewportWidth * 0.5F;
+    m_offsetY = m_viewportHeight * 0.5F;
+}
+
+} // namespace grisal::graphics

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/render/Preview.h"
+
+#include "graphics/filters/FilterSet.h"
+#include "graphics/image/PreviewPixels.h"
+
+namespace grisal::graphics
+{
+
+PixelFormats pixelFormatsFor(bool sixteenBit, bool alpha)
+{
+    if (sixteenBit) {
+        return alpha ? PixelFormats{GL_UNSIGNED_SHORT, GL_RGBA16, GL_RGBA}
+                     : PixelFormats{GL_UNSIGNED_SHORT, GL_RGB16, GL_RGB};
+    }
+    return alpha ? PixelFormats{GL_UNSIGNED_BYTE, GL_RGBA8, GL_RGBA} : PixelFormats{GL_UNSIGNED_BYTE, GL_RGB8, GL_RGB};
+}
+
+void addPreviewFilters(DocumentFilterQueue &queue, FilterSet &filters)
+{
+    queue.add(&filters.mixer);
+    queue.add(&filters.curve);
+    queue.add(&filters.grain);
+    queue.add(&filters.splitTone);
+    queue.add(&filters.vignette);
+}
+
+// The pixels have three components whatever the formats say: GL_RGB for the upload.
+Preview::Preview(const PreviewPixels &pixels, const PixelFormats &formats, float viewportWidth, float viewportHeight)
+    : m_source(
+          createTexture(pixels.width, pixels.height, formats.internalFormat, GL_RGB, formats.pixelType, pixels.data())),
+      m_view(viewportWidth, viewportHeight, static_cast<float>(pixels.width), static_cast<float>(pixels.height),
+             formats.internalFormat, formats.pixelFormat, formats.pixelType),
+      m_document(m_source.name(), &m_queue),
+      m_renderer(static_cast<std::uint32_t>(pixels.width), static_cast<std::uint32_t>(pixels.height),
+                 formats.pixelFormat, formats.internalFormat, formats.pixelType)
+{
+    m_document.setView(&m_view);
+}
+
+} // namespace grisal::graphics

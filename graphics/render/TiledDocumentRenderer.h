@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/gl/Framebuffers.h"
+#include "graphics/image/ImageBuffer.h"
+#include "graphics/render/IRenderer.h"
+#include "graphics/render/TilePlan.h"
+
+#include <memory>
+#include <vector>
+
+namespace grisal::graphics
+{
+
+class IFilter;
+class OverlayFilter;
+struct TileArea;
+
+/// Formats of the tiles and of the targets they are rendered into.
+struct TileFormats {
+    GLenum pixelFormat;    ///< GL_RGB: tiles have three components
+    GLenum pixelType;      ///< GL_UNSIGNED_BYTE, or GL_UNSIGNED_SHORT for 16-bit words; nothing else renders
+    GLenum internalFormat; ///< GL_RGB8 with bytes, GL_RGB16F with words
+};
+
+/// Renders a picture of any size at full resolution, tile by tile.
+///
+/// What depends on the place in the whole picture cannot be computed in a tile: an enabled vignette is drawn once, as
+/// a mask of the padded size, and inside the tiles an OverlayFilter with its piece of the mask stands in its place.
+/// Unlike in the preview, the first filter of the queue runs once; with exactly one filter enabled it is the first of
+/// the queue that runs, whichever is enabled; with none the source is the result.
+class TiledDocumentRenderer : public IRenderer
+{
+public:
+    /// `source` describes the picture, 3 components a pixel or 4 with `hasAlpha`; its pixels have to outlive the
+    /// render. `horizontal` and `vertical` are the plan for its width and height.
+    TiledDocumentRenderer(bool hasAlpha, TileSide horizontal, TileSide vertical, const TileFormats &formats,
+                          const ImageBuffer &source);
+    ~TiledDocumentRenderer() override;
+
+    /// Renders the document's queue over the source and returns true. The queue itself is left as it is.
+    bool render(Document &document) override;
+
+    /// The result, with size and components of the source and, with alpha, its fourth component; null before a
+    /// render and after one with an unknown pixel type. The renderer owns it.
+    const ImageBuffer *output() const { return m_output.get(); }
+
+private:
+    struct Chain;
+
+    void logSizes() const;
+    void replaceVignette(Chain &chain) const;
+    template <typename T>
+    void renderPicture(Document &document, const Chain &chain, std::vector<T> &pixels);
+    template <typename T>
+    void renderTiles(Document &document, const Chain &chain, std::vector<T> &pixels) const;
+    template <typename T>
+    void renderTile(Document &document, const Chain &chain, const TileArea &area, std::vector<T> &tile,
+                    const RenderTarget &first, const RenderTarget &second) const;
+    const FramebufferObject &runChain(const Chain &chain, const TileArea &area, GLuint texture,
+                                      const FramebufferObject &first, const FramebufferObject &second) const;
+    void applyFilter(const Chain &chain, IFilter *filter, const TileArea &area, GLuint texture,
+                     const FramebufferObject &target) const;
+
+    bool m_hasAlpha;
+    TileSide m_horizontal;
+    TileSide m_vertical;
+    TileFormats m_formats;
+    ImageBuffer m_source;
+    std::vector<std::uint8_t> m_bytes;
+    std::vector<std::uint16_t> m_words;
+    std::unique_ptr<ImageBuffer> m_output;
+};
+
+} // namespace grisal::graphics
