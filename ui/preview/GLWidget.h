@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// GLEW comes before any header of the toolkit that brings in GL.
+#include "graphics/gl/GL.h"
+
+#include "graphics/render/PreviewStage.h"
+#include "ui/preview/ZoomFit.h"
+
+#include <QOpenGLWidget>
+#include <QTimer>
+#include <QVector>
+
+#include <memory>
+
+namespace grisal::graphics
+{
+class IFilter;
+struct PreviewPixels;
+} // namespace grisal::graphics
+
+namespace grisal::ui
+{
+
+/// Shows a picture through the filters, with zoom and pan, and renders it at full size on request.
+///
+/// Owns the GL context, the filters and everything that is rendered into. All lengths are device pixels: a scale of 1
+/// is one pixel of the preview per pixel of the screen. Without a GL context (not shown yet, or a machine that gives
+/// none) nothing is drawn, a loaded picture waits for the context, and renderFinal() reports failure.
+class GLWidget : public QOpenGLWidget
+{
+    Q_OBJECT
+
+public:
+    /// How a picture is fitted into the widget.
+    enum enumFitTo {
+        FitLarger = 0,  ///< the larger of the two ratios: the picture fills the widget
+        FitSmaller = 1, ///< the smaller of the two ratios: the whole picture is seen
+        FitActual = 2,  ///< one picture pixel per device pixel
+    };
+    Q_ENUM(enumFitTo)
+
+    explicit GLWidget(QWidget *parent = nullptr);
+    ~GLWidget() override;
+
+    /// Loads the GL entry points. Needs the context to be current; may be called again at any time.
+    void initializeGL() override;
+
+    /// Takes a copy of width x height pixels for the preview: 3 components each, or 4 with `alpha` (the fourth is
+    /// dropped), bytes or, with `sixteenBit`, 16-bit words. Every filter but the mixer is switched off, the parameters
+    /// are kept and sent to the filters again, the zoom starts afresh. A null `pixels` changes nothing.
+    void loadImage(const void *pixels, int width, int height, bool sixteenBit, bool alpha);
+
+    /// Renders the whole picture in `pixels` in place with the current filters and parameters: width x height pixels
+    /// of 3 components, 4 with `hasAlpha`, bytes or 16-bit words. Returns false, with the buffer unchanged, where
+    /// nothing could be rendered. The preview is as before afterwards.
+    bool renderFinal(void *pixels, int width, int height, bool sixteenBit, bool hasAlpha);
+
+    /// The next paint renders the preview again.
+    void setDirty() { m_dirty = true; }
+
+    /// Fills the queue of the preview again, in its order.
+    void rebuildQueue() { m_stage.rebuildQueue(); }
+
+    /// The filters that the window switches on and off; null before the first picture was loaded.
+    graphics::IFilter *curveFilter() const;
+    graphics::IFilter *vignetteFilter() const;
+    graphics::IFilter *splitToneFilter() const;
+    graphics::IFilter *grainFilter() const;
+
+    /// The fit whose ratio is, at this moment, the one of the width (of the height).
+    enumFitTo fitOnWidth() const;
+    enumFitTo fitOnHeight() const;
+
+    /// Why the machine cannot draw the preview, in words for the user; empty while nothing is wrong.
+    QString graphicsProblem() const;
+
+    const graphics::FilterParameters &parameters() const { return m_stage.parameters(); }
+    int previewWidth() const { return m_previewWidth; }
+    int previewHeight() const { return m_previewHeight; }
+    enumFitTo fitMode() const { return m_fitMode; }
+    float scale() const;
+    QPointF offset() const;
+
+public slots:
+    void renderImage();
+    void slotZoomIn();
+    void slotZoomOut();
+    void slotFitTo(grisal::ui::GLWidget::enumFitTo mode);
+    void slotActualPixels();
+    void slotChangeMixer(float r, float g, float b);
+    void slotChangeVignette(float x, float y, float radius, float strength, bool extraBlur);
+    void slotChangeSplit(float weight, float r1, float g1, float b1, float r2, float g2, float b2);
+    void slotChangeGrain(QVector<float> weights, float radius);
+    void slotChangeCurves(QVector<float> curve);
+    void zoom(float step);
+
+protected:
+    void paintGL() override;
+    void resizeGL(int width, int height) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private slots:
+    void singleClick();
+    void resize();
+    void releaseGraphics();
+
+private:
+    bool makeContextCurrent();
+    void startGraphics();
+    void showPicture(const graphics::PreviewPixels &pixels);
+    void bindScreen();
+    void drawPreview(GLuint texture) const;
+    void setBypass(bool bypass);
+    void fitViewToWidget();
+    void showCentred(float scale);
+    FitRatios ratios() const;
+    QSize pixelSize() const;
+    QPointF pixelPosition(const QMouseEvent *event) const;
+
+    graphics::PreviewStage m_stage;
+    graphics::PixelFormats m_formats;
+    std::unique_ptr<graphics::PreviewPixels> m_waitingPixels;
+    int m_previewWidth = 0;
+    int m_previewHeight = 0;
+    bool m_dirty = false;
+    bool m_started = false;
+    bool m_pressed = false;
+    enumFitTo m_fitMode = FitSmaller;
+    QPointF m_lastPos;
+    QTimer m_clickTimer;
+    QTimer m_resizeTimer;
+    QString m_problem;
+};
+
+} // namespace grisal::ui

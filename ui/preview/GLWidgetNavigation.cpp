@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+//
+// How the user moves about in the preview: zoom, fit, pan, hold to compare.
+#include "ui/preview/GLWidget.h"
+
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+#include <chrono>
+#include <utility>
+
+namespace grisal::ui
+{
+
+using namespace std::chrono_literals;
+
+namespace
+{
+
+constexpr auto holdToCompare = 250ms;
+constexpr auto refitAfterResize = 100ms;
+
+} // namespace
+
+void GLWidget::resizeGL(int, int)
+{
+    m_resizeTimer.start(refitAfterResize);
+}
+
+void GLWidget::resize()
+{
+    slotFitTo(m_fitMode);
+}
+
+FitRatios GLWidget::ratios() const
+{
+    const QSize size = pixelSize();
+    return fitRatios(size.width(), size.height(), m_previewWidth, m_previewHeight);
+}
+
+GLWidget::enumFitTo GLWidget::fitOnWidth() const
+{
+    return ratios().width >= ratios().height ? FitLarger : FitSmaller;
+}
+
+GLWidget::enumFitTo GLWidget::fitOnHeight() const
+{
+    return fitOnWidth() == FitLarger ? FitSmaller : FitLarger;
+}
+
+float GLWidget::scale() const
+{
+    return m_stage.preview() ? m_stage.preview()->view().scale() : 1.0F;
+}
+
+QPointF GLWidget::offset() const
+{
+    const graphics::Preview *preview = m_stage.preview();
+    return preview ? QPointF(preview->view().offsetX(), preview->view().offsetY()) : QPointF();
+}
+
+void GLWidget::slotZoomIn()
+{
+    zoom(1);
+}
+
+void GLWidget::slotZoomOut()
+{
+    zoom(-1);
+}
+
+void GLWidget::zoom(float step)
+{
+    if (graphics::Preview *preview = m_stage.preview()) {
+        preview->view().setScale(zoomedScale(scale(), step, ratios().smaller()));
+        update();
+    }
+}
+
+void GLWidget::slotFitTo(enumFitTo mode)
+{
+    m_fitMode = mode;
+    switch (mode) {
+    case FitLarger:
+        showCentred(fitMargin * ratios().larger());
+        break;
+    case FitSmaller:
+        showCentred(fitMargin * ratios().smaller());
+        break;
+    case FitActual:
+        showCentred(1.0F);
+        break;
+    default:
+        qWarning("Wrong zoom mode selected");
+        showCentred(1.0F);
+    }
+}
+
+void GLWidget::slotActualPixels()
+{
+    slotFitTo(FitActual);
+}
+
+void GLWidget::showCentred(float scale)
+{
+    if (graphics::Preview *preview = m_stage.preview()) {
+        fitViewToWidget();
+        preview->view().setScale(scale);
+        preview->view().centre();
+        update();
+    }
+}
+
+void GLWidget::singleClick()
+{
+    setBypass(true);
+}
+
+void GLWidget::setBypass(bool bypass)
+{
+    if (graphics::Preview *preview = m_stage.preview()) {
+        preview->document().setBypass(bypass);
+    }
+    renderImage();
+}
+
+QPointF GLWidget::pixelPosition(const QMouseEvent *event) const
+{
+    return event->position() * devicePixelRatioF();
+}
+
+void GLWidget::mousePressEvent(QMouseEvent *event)
+{
+    m_pressed = true;
+    m_lastPos = pixelPosition(event);
+    m_clickTimer.start(holdToCompare);
+    update();
+}
+
+void GLWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_pressed) {
+        return;
+    }
+    m_clickTimer.stop();
+    const QPointF position = pixelPosition(event);
+    const QPointF moved = position - std::exchange(m_lastPos, position);
+    if (graphics::Preview *preview = m_stage.preview()) {
+        // A drag moves the window over the picture, so that the picture goes the other way. Offsets count upwards.
+        graphics::FlexibleDocumentView &view = preview->view();
+        view.setOffset(view.offsetX() - static_cast<float>(moved.x()), view.offsetY() + static_cast<float>(moved.y()));
+    }
+    update();
+}
+
+void GLWidget::mouseReleaseEvent(QMouseEvent *)
+{
+    m_pressed = false;
+    m_clickTimer.stop();
+    setBypass(false);
+}
+
+void GLWidget::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    m_clickTimer.stop();
+    slotFitTo(event->button() == Qt::RightButton ? FitLarger : FitSmaller);
+}
+
+void GLWidget::wheelEvent(QWheelEvent *event)
+{
+    zoom(static_cast<float>(wheelSteps(event->angleDelta().y())));
+    event->accept();
+}
+
+} // namespace grisal::ui
