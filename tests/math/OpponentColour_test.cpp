@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "math/OpponentColour.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace grisal::math;
+
+TEST(OpponentColour, TheMeanWeighsAllChannelsAlike)
+{
+    EXPECT_FLOAT_EQ(meanOf({30, 60, 90}), 60);
+    EXPECT_FLOAT_EQ(meanOf({85, 85, 85}), 85);
+}
+
+TEST(OpponentColour, WeightsAreKeptWithinTheirLimits)
+{
+    EXPECT_FLOAT_EQ(clampedWeight(600), 512);
+    EXPECT_FLOAT_EQ(clampedWeight(-600), -512);
+    EXPECT_FLOAT_EQ(clampedWeight(511.5F), 511.5F);
+}
+
+TEST(OpponentColour, AShiftMovesAllChannelsAlike)
+{
+    const ChannelWeights shifted = shiftedToSum({77, 150, 28}, 300);
+    // Single precision: 43.0 sharp and not 42.99999, so that the truncation to whole weights does not lose one.
+    EXPECT_EQ(static_cast<int>(shifted.r), 92);
+    EXPECT_EQ(static_cast<int>(shifted.g), 165);
+    EXPECT_EQ(static_cast<int>(shifted.b), 43);
+}
+
+TEST(OpponentColour, AShiftToTheSameSumChangesNothing)
+{
+    const ChannelWeights shifted = shiftedToSum({77, 150, 28}, 255);
+    EXPECT_NEAR(shifted.r, 77, 1e-4);
+    EXPECT_NEAR(shifted.g, 150, 1e-4);
+    EXPECT_NEAR(shifted.b, 28, 1e-4);
+}
+
+TEST(OpponentColour, GreenTakesUpWhatTheClampingLeaves)
+{
+    const ChannelWeights shifted = shiftedToSum({511, -300, -200}, 511);
+    EXPECT_FLOAT_EQ(shifted.r, 512);
+    EXPECT_NEAR(shifted.r + shifted.g + shifted.b, 511, 1e-2);
+}
+
+} // namespace

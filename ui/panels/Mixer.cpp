@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "ui/panels/Mixer.h"
+
+#include "math/OpponentColour.h"
+#include "ui/panels/FilmPresets.h"
+#include "ui_Mixer.h"
+
+#include <QSignalBlocker>
+
+namespace
+{
+
+constexpr float fullWeight = 255.0F;
+constexpr int neutralWeight = 85;
+constexpr int neutralSum = 255;
+
+} // namespace
+
+Mixer::Mixer(QWidget *parent) : QWidget(parent), m_form(std::make_unique<Ui::Mixer>())
+{
+    m_form->setupUi(this);
+    fillPresets();
+}
+
+Mixer::~Mixer() = default;
+
+void Mixer::fillPresets()
+{
+    int index = 0;
+    for (const FilmPreset &preset : filmPresets) {
+        m_form->comboPresets->insertItem(index++, QIcon(), QString::fromLatin1(preset.name),
+                                         QVariantList{preset.r, preset.g, preset.b});
+    }
+}
+
+void Mixer::slotSetRGB(float r, float g, float b)
+{
+    const int wholeR = static_cast<int>(r);
+    const int wholeG = static_cast<int>(g);
+    const int wholeB = static_cast<int>(b);
+    const int sum = static_cast<int>(static_cast<float>(wholeG + wholeR + wholeB) + 0.5F);
+    {
+        const QSignalBlocker blockR(m_form->sliderR);
+        const QSignalBlocker blockG(m_form->sliderG);
+        const QSignalBlocker blockB(m_form->sliderB);
+        const QSignalBlocker blockLuma(m_form->sliderLuma);
+        m_form->sliderR->setValue(wholeR);
+        m_form->sliderG->setValue(wholeG);
+        m_form->sliderB->setValue(wholeB);
+        m_form->sliderLuma->setValue(sum);
+        m_form->spinBoxR->setValue(wholeR);
+        m_form->spinBoxG->setValue(wholeG);
+        m_form->spinBoxB->setValue(wholeB);
+        m_form->spinBoxLuma->setValue(sum);
+    }
+    emit signalMixer(r / fullWeight, g / fullWeight, b / fullWeight);
+}
+
+grisal::graphics::ColorRGB<float> Mixer::channels() const
+{
+    return {static_cast<float>(m_form->sliderR->value()), static_cast<float>(m_form->sliderG->value()),
+            static_cast<float>(m_form->sliderB->value())};
+}
+
+void Mixer::refreshFromSliders()
+{
+    const auto [r, g, b] = channels();
+    const QSignalBlocker blockLuma(m_form->sliderLuma);
+    m_form->sliderLuma->setValue(static_cast<int>(g + r + b));
+}
+
+void Mixer::on_sliderLuma_valueChanged(int value)
+{
+    m_form->spinBoxLuma->setValue(value);
+    const auto [r, g, b] = channels();
+    const grisal::math::ChannelWeights shifted = grisal::math::shiftedToSum({r, g, b}, static_cast<float>(value));
+    slotSetRGB(shifted.r, shifted.g, shifted.b);
+}
+
+void Mixer::on_sliderR_valueChanged(int value)
+{
+    m_form->spinBoxR->setValue(value);
+    refreshFromSliders();
+}
+
+void Mixer::on_sliderG_valueChanged(int value)
+{
+    m_form->spinBoxG->setValue(value);
+    refreshFromSliders();
+}
+
+void Mixer::on_sliderB_valueChanged(int value)
+{
+    m_form->spinBoxB->setValue(value);
+    refreshFromSliders();
+}
+
+void Mixer::on_spinBoxLuma_valueChanged(int value)
+{
+    m_form->sliderLuma->setValue(value);
+}
+
+void Mixer::on_spinBoxR_valueChanged(int value)
+{
+    m_form->sliderR->setValue(value);
+}
+
+void Mixer::on_spinBoxG_valueChanged(int value)
+{
+    m_form->sliderG->setValue(value);
+}
+
+void Mixer::on_spinBoxB_valueChanged(int value)
+{
+    m_form->sliderB->setValue(value);
+}
+
+void Mixer::on_buttonReset_clicked()
+{
+    {
+        const QSignalBlocker blockPanel(this);
+        {
+            const QSignalBlocker blockSliderR(m_form->sliderR);
+            const QSignalBlocker blockSliderG(m_form->sliderG);
+            const QSignalBlocker blockSliderB(m_form->sliderB);
+            const QSignalBlocker blockSpinR(m_form->spinBoxR);
+            const QSignalBlocker blockSpinG(m_form->spinBoxG);
+            const QSignalBlocker blockSpinB(m_form->spinBoxB);
+            m_form->sliderR->setValue(neutralWeight);
+            m_form->sliderG->setValue(neutralWeight);
+            m_form->sliderB->setValue(neutralWeight);
+            m_form->spinBoxR->setValue(neutralWeight);
+            m_form->spinBoxG->setValue(neutralWeight);
+            m_form->spinBoxB->setValue(neutralWeight);
+        }
+        m_form->sliderLuma->setValue(neutralSum);
+    }
+    constexpr float third = 1.0F / 3;
+    emit signalMixer(third, third, third);
+}
+
+void Mixer::on_comboPresets_currentIndexChanged(int index)
+{
+    applyPreset(index);
+}
+
+// Looking through the list changes nothing.
+void Mixer::on_comboPresets_highlighted(int) {}
+
+void Mixer::applyPreset(int index)
+{
+    const QVariantList weights = m_form->comboPresets->itemData(index).toList();
+    if (weights.size() < 3) {
+        qWarning("mixer: color list too small");
+        return;
+    }
+    // The last of the three conversions is the one that counts.
+    bool converted = false;
+    const auto r = static_cast<float>(weights[0].toInt(&converted));
+    const auto g = static_cast<float>(weights[1].toInt(&converted));
+    const auto b = static_cast<float>(weights[2].toInt(&converted));
+    m_preset = {r, g, b};
+    if (!converted) {
+        qWarning("mixer: could not get all rgb values");
+        return;
+    }
+    slotSetRGB(r, g, b);
+    refreshFromSliders();
+}
