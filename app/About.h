@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui
+{
+class About;
+}
+
+/// What the program is and when it was built.
+class About : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit About(QWidget *parent = nullptr);
+    ~About() override;
+
+public slots:
+    void on_buttonWebsite_clicked();
+
+private:
+    std::unique_ptr<Ui::About> m_form;
+};

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "app/FileDealer.h"
+
+#include "app/Product.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QSettings>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr int recentCount = 5;
+
+QString filter()
+{
+    return QStringLiteral("Images (*.jpg *.jpeg *.JPG *.JPEG *.png *.PNG *.tif *.TIF)");
+}
+
+QString lastDirectoryKey()
+{
+    return QStringLiteral("lastDirectory");
+}
+
+QString recentImagesKey()
+{
+    return QStringLiteral("recentImages");
+}
+
+class Settings : public QSettings
+{
+public:
+    Settings() : QSettings(QString::fromLatin1(product::organisation), QString::fromLatin1(product::settingsName)) {}
+};
+
+QString startDirectory()
+{
+    const QString last = Settings().value(lastDirectoryKey()).toString();
+    return last.isEmpty() ? QDir::homePath() : last;
+}
+
+} // namespace
+
+FileDealer::FileDealer(QObject *parent) : QObject(parent) {}
+
+void FileDealer::setUpRecentMenu(QMenu *menu)
+{
+    for (int i = 0; i < recentCount; ++i) {
+        auto *action = new QAction(this);
+        action->setVisible(false);
+        connect(action, &QAction::triggered, this, &FileDealer::openRecent);
+        m_recentActions << action;
+    }
+    refreshRecentMenu();
+    menu->addActions(m_recentActions);
+}
+
+QString FileDealer::openDialog()
+{
+    m_currentPath = QFileDialog::getOpenFileName(nullptr, tr("Open Image"), startDirectory(), filter());
+    return m_currentPath;
+}
+
+QString FileDealer::saveDialog() const
+{
+    return QFileDialog::getSaveFileName(nullptr, tr("Save image"), startDirectory(), filter());
+}
+
+// It is always the path of the last dialog that is recorded, also when the picture came from the Recent menu: Save
+// writes to this path, and the menu shows where it would write.
+void FileDealer::addToRecent()
+{
+    Settings settings;
+    if (QFileInfo::exists(m_currentPath)) {
+        settings.setValue(lastDirectoryKey(), QFileInfo(m_currentPath).absolutePath());
+    }
+    QStringList recent = settings.value(recentImagesKey()).toStringList();
+    recent.removeAll(m_currentPath);
+    recent.prepend(m_currentPath);
+    while (recent.size() > recentCount) {
+        recent.removeLast();
+    }
+    settings.setValue(recentImagesKey(), recent);
+    refreshRecentMenu();
+}
+
+void FileDealer::refreshRecentMenu()
+{
+    const QStringList recent = Settings().value(recentImagesKey()).toStringList();
+    const int shown = std::min<int>(static_cast<int>(recent.size()), static_cast<int>(m_recentActions.size()));
+    int digit = 1;
+    for (int i = 0; i < shown; ++i) {
+        // An entry without a file keeps its action as it is: a picture on a drive that comes back is there again.
+        if (!QFileInfo::exists(recent[i])) {
+            continue;
+        }
+        QAction *action = m_recentActions[i];
+        action->setText(QFileInfo(recent[i]).fileName());
+        action->setData(recent[i]);
+        action->setVisible(true);
+        action->setShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(digit++)));
+    }
+    for (int i = shown; i < m_recentActions.size(); ++i) {
+        m_recentActions[i]->setVisible(false);
+    }
+}
+
+void FileDealer::openRecent()
+{
+    if (const auto *action = qobject_cast<QAction *>(sender())) {
+        emit signalOpenImage(action->data().toString());
+    }
+}

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// GLEW comes before any header of the toolkit that brings in GL.
+#include "ui/preview/GLWidget.h"
+
+#include "app/FileDealer.h"
+#include "graphics/image/LumioImage.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+class Curves;
+class Grain;
+class Mixer;
+class QStackedLayout;
+class QToolBar;
+class Sharpen;
+class SplitTone;
+class Vignette;
+
+namespace Ui
+{
+class MainWindow;
+}
+
+namespace grisal::ui
+{
+
+/// The application's one window: preview, filter panels, menus and tool bar, and the ways a picture takes in and out.
+///
+/// The checked state of a filter's action is the state of the filter. Going from panel to panel leaves filters on; an
+/// action triggered while its panel is shown switches its filter off and goes back to the mixer.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    /// Shows width x height pixels of 3 components, bytes or 16-bit words, in the preview and puts all panels back to
+    /// their initial settings. The pixels are not needed afterwards. Null pixels are reported in the log.
+    void loadBuffer(const void *pixels, int width, int height, bool sixteenBit);
+
+    /// Renders the picture at full size and writes it to `path`. Failures are told in the status bar and in the log;
+    /// a picture that could not be rendered is not written.
+    void saveImage(const QString &path);
+
+    /// Why the machine cannot draw pictures, in words for the user; empty while nothing is wrong.
+    QString graphicsProblem() const;
+
+signals:
+    void signalFinished();
+
+public slots:
+    void on_actionMixer_triggered();
+    void on_actionVignette_triggered();
+    void on_actionSplitTone_triggered();
+    void on_actionGrain_triggered();
+    void slotFinalRendering();
+    void slotAbout();
+    void slotResetFilters();
+    void slotResetActions();
+    void openImage(QString filename);
+    void on_actionQuit_triggered();
+    void on_actionOpen_triggered();
+    void on_actionSave_triggered();
+    void on_actionSave_As_triggered();
+    void on_actionSharpen_triggered();
+    void on_actionCurves_triggered();
+    void on_actionWebsite_triggered();
+    void on_actionAbout_triggered();
+    void on_actionZoomIn_triggered();
+    void on_actionZoomOut_triggered();
+    void on_actionFitOnWidth_triggered();
+    void on_actionFitOnHeight_triggered();
+    void on_actionActualPixels_triggered();
+
+private:
+    void setUpPanels();
+    void setUpToolBar();
+    void connectPanels();
+    bool togglePanel(QWidget *panel, QAction *action);
+    void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter);
+    bool readSource(const QString &filename);
+    void tellCannotLoad(const QString &filename);
+    void tell(const QString &message);
+    bool renderOutput();
+
+    Mixer *m_mixer;
+    Vignette *m_vignette;
+    SplitTone *m_splitTone;
+    Grain *m_grain;
+    Sharpen *m_sharpen;
+    Curves *m_curves;
+    QStackedLayout *m_panels;
+    QToolBar *m_toolBar;
+    graphics::LumioImage m_source;
+    graphics::LumioImage m_output;
+    FileDealer m_fileDealer;
+    std::unique_ptr<Ui::MainWindow> m_form;
+};
+
+} // namespace grisal::ui

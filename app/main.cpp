@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "app/MainWindow.h"
+#include "app/MessageLog.h"
+#include "graphics/gl/SurfaceFormat.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace
+{
+
+constexpr int placeholderWidth = 300;
+constexpr int placeholderHeight = 200;
+constexpr std::uint8_t placeholderGrey = 128;
+
+void tellGraphicsProblem(QWidget *window, const QString &problem)
+{
+    qCritical("%s", qPrintable(problem));
+    QMessageBox::critical(window, QApplication::tr("No OpenGL"),
+                          QApplication::tr("%1\nGrisal needs OpenGL 2.1 to show and save pictures. Please install or "
+                                           "update the graphics driver and start Grisal again.")
+                              .arg(problem));
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    grisal::graphics::initializeImageLibrary(argv[0]);
+    message_log::install();
+    grisal::graphics::setDefaultSurfaceFormat();
+
+    QApplication application(argc, argv);
+    QApplication::setDesktopFileName(QStringLiteral(GRISAL_APP_ID));
+    auto window = std::make_unique<grisal::ui::MainWindow>();
+
+    std::vector<std::uint8_t> placeholder(std::size_t{placeholderWidth} * placeholderHeight * 3, placeholderGrey);
+    window->show();
+    window->loadBuffer(placeholder.data(), placeholderWidth, placeholderHeight, false);
+    if (const QString problem = window->graphicsProblem(); !problem.isEmpty()) {
+        tellGraphicsProblem(window.get(), problem);
+    }
+    return QApplication::exec();
+}
