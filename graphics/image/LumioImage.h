@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <Magick++.h>
+
+#include <QString>
+
+#include <string>
+
+namespace grisal::graphics
+{
+
+/// Starts the image library, without its signal handlers, so that abort() and debuggers work as everywhere.
+/// `programPath` is argv[0] or null. Does its work once per process; every LumioImage makes sure that it was done.
+void initializeImageLibrary(const char *programPath);
+
+/// A picture in memory, read from and written to an image file. The only place that touches image files.
+///
+/// Pixels travel in interleaved buffers of the caller, rows from top to bottom without padding: R, G, B and, with the
+/// alpha option, a fourth component; bytes, or 16-bit words in machine order. The library's own samples have 16 bits:
+/// a byte b stands there as b << 8 and comes back as the high byte. At writing time the samples of an 8-bit picture
+/// are spread to b * 257, so that the file holds the very bytes that were put in.
+///
+/// Copies share their pixels until one of them changes.
+///
+/// No operation throws. Where one fails, it returns false, problem() tells why in the library's words, and the
+/// picture held before is still there. Nothing is written to the log here.
+class LumioImage
+{
+public:
+    /// An empty picture: isNull().
+    LumioImage();
+    /// A blank picture of the given size and depth: 16 bits a channel, or 8. isNull() where that cannot be had.
+    LumioImage(int width, int height, bool sixteenBit);
+
+    /// Reads a file, the first picture in it. The picture is replaced only when the new one is good. A file that the
+    /// library could read only in part, with a warning, counts as good; warning() then tells what it said.
+    /// What cannot be opened, or is no plain file, is not given to the library at all.
+    bool read(const QString &path);
+
+    /// Writes the picture, without alpha, as true colour of its own depth, 8 or 16 bits a channel (JPEG always 8);
+    /// the format follows from the extension of `path`. `quality` is 0..100. An existing file is replaced.
+    /// True only if the file can be opened for reading afterwards. A null picture is reported on standard output.
+    bool save(const QString &path, int quality);
+
+    bool isNull() const;
+    /// Whether the depth is 16 bits a channel. A file of more than 8 bits counts as 16.
+    bool is16Bit() const;
+    int width() const;
+    int height() const;
+
+    /// Copies all pixels out into width * height * (3 or 4) components. Makes the picture true colour. The fourth
+    /// component is the library's opacity, of which bytes take the low half. False, with the buffer undefined, where
+    /// the library fails.
+    bool getPixels(void *buffer, bool alpha, bool sixteenBit);
+
+    /// Copies all pixels in from such a buffer. Makes the picture true colour.
+    bool setPixels(const void *buffer, bool alpha, bool sixteenBit);
+
+    /// A description for the log, several lines.
+    std::string info() const;
+
+    /// Why the last operation failed; empty if it did not.
+    QString problem() const { return m_problem; }
+    /// What the library complained about in the last operation although it gave a result; else empty.
+    QString warning() const { return m_warning; }
+
+private:
+    template <typename Step>
+    bool attempt(Step step);
+    template <typename Step>
+    bool withTrueColorPixels(Step step);
+    bool prepareForWriting();
+
+    Magick::Image m_image;
+    QString m_problem;
+    QString m_warning;
+};
+
+} // namespace grisal::graphics

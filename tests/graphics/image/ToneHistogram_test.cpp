@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/image/ToneHistogram.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
+using grisal::graphics::toneHistogram;
+
+namespace
+{
+
+using Bytes = std::vector<std::uint8_t>;
+using Words = std::vector<std::uint16_t>;
+
+QVector<float> ofBytes(const Bytes &bytes, bool withAlpha = false)
+{
+    return toneHistogram(bytes.data(), bytes.size() / (withAlpha ? 4 : 3), false, withAlpha);
+}
+
+QVector<float> ofWords(const Words &words, bool withAlpha = false)
+{
+    return toneHistogram(words.data(), words.size() / (withAlpha ? 4 : 3), true, withAlpha);
+}
+
+/// All zeros but for the given bins.
+QVector<float> bins(std::initializer_list<std::pair<int, float>> filled)
+{
+    QVector<float> histogram(256, 0.0F);
+    for (const auto &[bin, value] : filled) {
+        histogram[bin] = value;
+    }
+    return histogram;
+}
+
+TEST(ToneHistogramTest, IsEmptyWithoutPixels)
+{
+    const std::uint8_t byte = 0;
+    EXPECT_EQ(toneHistogram(nullptr, 5, false, false), bins({}));
+    EXPECT_EQ(toneHistogram(&byte, 0, false, false), bins({}));
+}
+
+TEST(ToneHistogramTest, GivesTheShareOfATonesPixelsTimesThirty)
+{
+    EXPECT_EQ(ofBytes({10, 10, 10, 10, 10, 10, 10, 10, 10, 200, 200, 200}), bins({{10, 22.5F}, {200, 7.5F}}));
+}
+
+TEST(ToneHistogramTest, ReachesOneForAThirtiethOfThePixels)
+{
+    Bytes bytes(30 * 3, 0);
+    bytes[0] = bytes[1] = bytes[2] = 77;
+    EXPECT_FLOAT_EQ(ofBytes(bytes)[77], 1.0F);
+}
+
+TEST(ToneHistogramTest, TruncatesTheMeanOfTheChannels)
+{
+    EXPECT_EQ(ofBytes({0, 0, 2}), bins({{0, 30.0F}}));
+    EXPECT_EQ(ofBytes({1, 1, 1}), bins({{1, 30.0F}}));
+    EXPECT_EQ(ofBytes({255, 0, 0}), bins({{85, 30.0F}}));
+    EXPECT_EQ(ofBytes({255, 255, 254}), bins({{254, 30.0F}}));
+    EXPECT_EQ(ofBytes({255, 255, 255}), bins({{255, 30.0F}}));
+}
+
+TEST(ToneHistogramTest, PutsEveryGreyIntoItsOwnBin)
+{
+    Bytes bytes;
+    for (int level = 0; level < 256; ++level) {
+        bytes.insert(bytes.end(), 3, static_cast<std::uint8_t>(level));
+    }
+    EXPECT_EQ(ofBytes(bytes), QVector<float>(256, 30.0F / 256.0F));
+}
+
+TEST(ToneHistogramTest, SkipsTheFourthComponent)
+{
+    EXPECT_EQ(ofBytes({10, 10, 10, 255, 20, 20, 20, 255}, true), bins({{10, 15.0F}, {20, 15.0F}}));
+    EXPECT_EQ(ofWords({255, 255, 255, 65535, 510, 510, 510, 65535}, true), bins({{1, 15.0F}, {2, 15.0F}}));
+}
+
+// The curve panel has always drawn 16-bit tones by every 255th value, which leaves most of the others out.
+TEST(ToneHistogramTest, SamplesEvery255thValueOf16Bits)
+{
+    EXPECT_EQ(ofWords({254, 254, 254}), bins({}));
+    EXPECT_EQ(ofWords({255, 255, 255}), bins({{1, 30.0F}}));
+    EXPECT_EQ(ofWords({256, 256, 256}), bins({}));
+    EXPECT_EQ(ofWords({25500, 25500, 25500}), bins({{100, 30.0F}}));
+    EXPECT_EQ(ofWords({65025, 65025, 65025}), bins({{255, 30.0F}}));
+}
+
+TEST(ToneHistogramTest, LeavesTheBrightest16BitTonesOut)
+{
+    EXPECT_EQ(ofWords({65535, 65535, 65535}), bins({}));
+}
+
+TEST(ToneHistogramTest, TruncatesTheMeanOf16BitChannels)
+{
+    EXPECT_EQ(ofWords({255, 255, 257}), bins({{1, 30.0F}}));
+    EXPECT_EQ(ofWords({765, 0, 0}), bins({{1, 30.0F}}));
+}
+
+TEST(ToneHistogramTest, CountsAllSampledValuesOfAFullRamp)
+{
+    Words words;
+    for (int level = 0; level < 65536; ++level) {
+        words.insert(words.end(), 3, static_cast<std::uint16_t>(level));
+    }
+    EXPECT_EQ(ofWords(words), QVector<float>(256, 30.0F / 65536.0F));
+}
+
+} // namespace
