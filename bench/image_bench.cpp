@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+//
+// What an opened picture costs on the processor: pixels out of the image library and into it, the preview's copy, the
+// tone histogram. 24 megapixels.
+#include "graphics/image/LumioImage.h"
+#include "graphics/image/PreviewPixels.h"
+#include "graphics/image/ToneHistogram.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdint>
+#include <vector>
+
+namespace
+{
+
+using namespace grisal::graphics;
+
+constexpr int width = 6000;
+constexpr int height = 4000;
+constexpr std::size_t pixelCount = std::size_t{width} * height;
+
+void copyOut(benchmark::State &state)
+{
+    LumioImage image(width, height, false);
+    std::vector<std::uint8_t> pixels(pixelCount * 3);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(image.getPixels(pixels.data(), false, false));
+    }
+}
+
+void copyIn(benchmark::State &state)
+{
+    LumioImage image(width, height, false);
+    const std::vector<std::uint8_t> pixels(pixelCount * 3, 100);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(image.setPixels(pixels.data(), false, false));
+    }
+}
+
+void previewCopy(benchmark::State &state)
+{
+    const std::vector<std::uint8_t> pixels(pixelCount * 3, 100);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(makePreviewPixels(pixels.data(), width, height, false, false).data());
+    }
+}
+
+void histogram(benchmark::State &state)
+{
+    const std::vector<std::uint8_t> pixels(pixelCount * 3, 100);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(toneHistogram(pixels.data(), pixelCount, false, false).data());
+    }
+}
+
+BENCHMARK(copyOut)->Unit(benchmark::kMillisecond);
+BENCHMARK(copyIn)->Unit(benchmark::kMillisecond);
+BENCHMARK(previewCopy)->Unit(benchmark::kMillisecond);
+BENCHMARK(histogram)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+BENCHMARK_MAIN();
