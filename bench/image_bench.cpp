@@ -24,7 +24,7 @@ void copyOut(benchmark::State &state)
 {
     LumioImage image(width, height, false);
     std::vector<std::uint8_t> pixels(pixelCount * 3);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(image.getPixels(pixels.data(), false, false));
     }
 }
@@ -33,7 +33,7 @@ void copyIn(benchmark::State &state)
 {
     LumioImage image(width, height, false);
     const std::vector<std::uint8_t> pixels(pixelCount * 3, 100);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(image.setPixels(pixels.data(), false, false));
     }
 }
@@ -41,7 +41,7 @@ void copyIn(benchmark::State &state)
 void previewCopy(benchmark::State &state)
 {
     const std::vector<std::uint8_t> pixels(pixelCount * 3, 100);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(makePreviewPixels(pixels.data(), width, height, false, false).data());
     }
 }
@@ -49,7 +49,7 @@ void previewCopy(benchmark::State &state)
 void histogram(benchmark::State &state)
 {
     const std::vector<std::uint8_t> pixels(pixelCount * 3, 100);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(toneHistogram(pixels.data(), pixelCount, false, false).data());
     }
 }

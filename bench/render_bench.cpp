@@ -45,7 +45,7 @@ void setPixelRate(benchmark::State &state, int width, int height)
 void previewFrame(benchmark::State &state)
 {
     const auto stage = stageWithAllFilters(4096, 2730);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         stage->preview()->render();
         glFinish();
     }
@@ -59,7 +59,7 @@ void finalRender(benchmark::State &state)
     const int height = width * 2 / 3;
     const auto stage = stageWithAllFilters(400, 300);
     std::vector<T> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 3, 100);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         stage->renderFinal({pixels.data(), width, height, sizeof(T) == 2, false});
     }
     setPixelRate(state, width, height);
