@@ -13,16 +13,10 @@
 #include "ui/panels/Vignette.h"
 #include "ui_MainWindow.h"
 
-#include <QDebug>
 #include <QDesktopServices>
-#include <QFileInfo>
-#include <QMessageBox>
 #include <QStackedLayout>
 #include <QToolBar>
 #include <QUrl>
-
-#include <cstdint>
-#include <vector>
 
 namespace grisal::ui
 {
@@ -30,24 +24,7 @@ namespace grisal::ui
 namespace
 {
 
-constexpr int messageDuration = 2000;
-constexpr int saveQuality = 90;
 constexpr int toolBarGap = 20;
-
-std::size_t pixelCount(const graphics::LumioImage &image)
-{
-    return static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height());
-}
-
-/// The pixels as bytes, R, G, B; empty where they cannot be had.
-std::vector<std::uint8_t> bytesOf(graphics::LumioImage &image)
-{
-    std::vector<std::uint8_t> pixels(pixelCount(image) * 3);
-    if (!image.getPixels(pixels.data(), false, false)) {
-        pixels.clear();
-    }
-    return pixels;
-}
 
 QWidget *newGap()
 {
@@ -171,8 +148,11 @@ bool MainWindow::togglePanel(QWidget *panel, QAction *action)
     return on;
 }
 
-void MainWindow::toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter)
+void MainWindow::toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem)
 {
+    if (filter == nullptr) {
+        qWarning("%s", problem);
+    }
     const bool on = togglePanel(panel, action);
     if (filter != nullptr) {
         filter->enabled = on;
@@ -191,37 +171,25 @@ void MainWindow::on_actionMixer_triggered()
 void MainWindow::on_actionVignette_triggered()
 {
     graphics::IFilter *filter = m_form->glWidgetPreview->vignetteFilter();
-    if (filter == nullptr) {
-        qWarning("vignette filter is invalid");
-    }
-    toggleFilter(m_vignette, m_form->actionVignette, filter);
+    toggleFilter(m_vignette, m_form->actionVignette, filter, "vignette filter is invalid");
 }
 
 void MainWindow::on_actionSplitTone_triggered()
 {
     graphics::IFilter *filter = m_form->glWidgetPreview->splitToneFilter();
-    if (filter == nullptr) {
-        qWarning("split tone filter is invalid");
-    }
-    toggleFilter(m_splitTone, m_form->actionSplitTone, filter);
+    toggleFilter(m_splitTone, m_form->actionSplitTone, filter, "split tone filter is invalid");
 }
 
 void MainWindow::on_actionGrain_triggered()
 {
     graphics::IFilter *filter = m_form->glWidgetPreview->grainFilter();
-    if (filter == nullptr) {
-        qWarning("grain filter is invalid");
-    }
-    toggleFilter(m_grain, m_form->actionGrain, filter);
+    toggleFilter(m_grain, m_form->actionGrain, filter, "grain filter is invalid");
 }
 
 void MainWindow::on_actionCurves_triggered()
 {
     graphics::IFilter *filter = m_form->glWidgetPreview->curveFilter();
-    if (filter == nullptr) {
-        qWarning("curve filter is invalid");
-    }
-    toggleFilter(m_curves, m_form->actionCurves, filter);
+    toggleFilter(m_curves, m_form->actionCurves, filter, "curve filter is invalid");
 }
 
 void MainWindow::on_actionSharpen_triggered()
@@ -230,125 +198,6 @@ void MainWindow::on_actionSharpen_triggered()
         m_form->glWidgetPreview->setDirty();
     }
     m_form->glWidgetPreview->update();
-}
-
-void MainWindow::on_actionOpen_triggered()
-{
-    openImage(m_fileDealer.openDialog());
-    activateWindow();
-}
-
-void MainWindow::openImage(QString filename)
-{
-    if (filename.isEmpty() || !readSource(filename)) {
-        return;
-    }
-    std::vector<std::uint8_t> pixels = bytesOf(m_source);
-    loadBuffer(pixels.data(), m_source.width(), m_source.height(), false);
-    m_fileDealer.addToRecent();
-    setWindowTitle(QStringLiteral("%1 - %2 %3x%4")
-                       .arg(QString::fromLatin1(product::title), QFileInfo(filename).fileName())
-                       .arg(m_source.width())
-                       .arg(m_source.height()));
-    slotResetActions();
-    update();
-}
-
-// A file that is there and cannot be read leaves everything as it is. A file that is not there any more leaves the
-// picture that is open, which is then opened again: its panels start afresh under the name that was asked for.
-bool MainWindow::readSource(const QString &filename)
-{
-    graphics::LumioImage image;
-    if (image.read(filename)) {
-        if (!image.warning().isEmpty()) {
-            qWarning("%s", qPrintable(image.warning()));
-            tell(image.warning());
-        }
-        m_source = image;
-    } else if (QFileInfo::exists(filename)) {
-        qWarning("%s", qPrintable(image.problem()));
-        tellCannotLoad(filename);
-        return false;
-    }
-    qDebug("%s", m_source.info().c_str());
-    if (m_source.isNull()) {
-        tellCannotLoad(filename);
-        return false;
-    }
-    m_output = graphics::LumioImage(m_source.width(), m_source.height(), m_source.is16Bit());
-    return true;
-}
-
-void MainWindow::tellCannotLoad(const QString &filename)
-{
-    QMessageBox::information(this, tr("Open Image"), tr("Cannot load %1.").arg(filename));
-}
-
-void MainWindow::tell(const QString &message)
-{
-    m_form->statusbar->showMessage(message, messageDuration);
-}
-
-void MainWindow::saveImage(const QString &path)
-{
-    if (path.isEmpty()) {
-        qWarning("MainWindow::saveImage(): Invalid filename");
-        tell(tr("No filename"));
-        return;
-    }
-    if (m_output.isNull()) {
-        qWarning("MainWindow::saveImage(): Image is Null");
-        tell(tr("No image"));
-        return;
-    }
-    if (!renderOutput()) {
-        return;
-    }
-    if (!m_output.save(path, saveQuality)) {
-        qWarning("Cannot save %s: %s", qPrintable(path), qPrintable(m_output.problem()));
-        tell(tr("Cannot save %1. Choose another place or name.").arg(path));
-    }
-}
-
-void MainWindow::slotFinalRendering()
-{
-    renderOutput();
-}
-
-bool MainWindow::renderOutput()
-{
-    update();
-    const bool sixteenBit = m_source.is16Bit();
-    std::vector<std::uint8_t> pixels(pixelCount(m_source) * 3 * (sixteenBit ? 2 : 1));
-    const bool done =
-        m_source.getPixels(pixels.data(), false, sixteenBit) &&
-        m_form->glWidgetPreview->renderFinal(pixels.data(), m_source.width(), m_source.height(), sixteenBit, false) &&
-        m_output.setPixels(pixels.data(), false, sixteenBit);
-    if (!done) {
-        qWarning("The picture could not be rendered. %s%s", qPrintable(m_source.problem()),
-                 qPrintable(m_output.problem()));
-        tell(tr("The picture could not be rendered. Nothing was saved; the log tells more."));
-    }
-    return done;
-}
-
-void MainWindow::on_actionSave_triggered()
-{
-    const QFileInfo file(m_fileDealer.currentPath());
-    if (file.exists()) {
-        const QString question = tr("File %1 already exists.\n Do you want to replace it?").arg(file.baseName());
-        if (QMessageBox::question(nullptr, tr("Overwrite?"), question, QMessageBox::Ok | QMessageBox::Cancel,
-                                  QMessageBox::Ok) == QMessageBox::Ok) {
-            saveImage(m_fileDealer.currentPath());
-        }
-    }
-    activateWindow();
-}
-
-void MainWindow::on_actionSave_As_triggered()
-{
-    saveImage(m_fileDealer.saveDialog());
-    activateWindow();
 }
 
 void MainWindow::on_actionQuit_triggered()

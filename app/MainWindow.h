@@ -83,11 +83,12 @@ private:
     void setUpToolBar();
     void connectPanels();
     bool togglePanel(QWidget *panel, QAction *action);
-    void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter);
-    bool readSource(const QString &filename);
+    void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem);
+    void tellProblems(const graphics::LumioImage &image);
     void tellCannotLoad(const QString &filename);
     void tell(const QString &message);
     bool renderOutput();
+    bool tellRenderFailed(const QString &reason);
 
     Mixer *m_mixer;
     Vignette *m_vignette;

@@ -7,6 +7,7 @@
 #include <QMessageBox>
 
 #include <cstdint>
+#include <cstdlib>
 #include <memory>
 #include <vector>
 
@@ -17,10 +18,10 @@ constexpr int placeholderWidth = 300;
 constexpr int placeholderHeight = 200;
 constexpr std::uint8_t placeholderGrey = 128;
 
-void tellGraphicsProblem(QWidget *window, const QString &problem)
+void tellGraphicsProblem(const QString &problem)
 {
     qCritical("%s", qPrintable(problem));
-    QMessageBox::critical(window, QApplication::tr("No OpenGL"),
+    QMessageBox::critical(nullptr, QApplication::tr("No OpenGL"),
                           QApplication::tr("%1\nGrisal needs OpenGL 2.1 to show and save pictures. Please install or "
                                            "update the graphics driver and start Grisal again.")
                               .arg(problem));
@@ -42,7 +43,10 @@ int main(int argc, char **argv)
     window->show();
     window->loadBuffer(placeholder.data(), placeholderWidth, placeholderHeight, false);
     if (const QString problem = window->graphicsProblem(); !problem.isEmpty()) {
-        tellGraphicsProblem(window.get(), problem);
+        // The toolkit crashes when it paints a window that holds an OpenGL widget and there is no OpenGL.
+        window->hide();
+        tellGraphicsProblem(problem);
+        return EXIT_FAILURE;
     }
     return QApplication::exec();
 }

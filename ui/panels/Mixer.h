@@ -25,6 +25,9 @@ public:
     explicit Mixer(QWidget *parent = nullptr);
     ~Mixer() override;
 
+    /// The weights of the preset that was chosen last, 0..255, whether or not they could be applied.
+    grisal::graphics::ColorRGB<float> presetWeights() const { return m_preset; }
+
 signals:
     /// The weights as multipliers, 1 for 255.
     void signalMixer(float r, float g, float b);

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+// The ways a picture takes into the window and out of it again.
+#include "app/MainWindow.h"
+
+#include "app/Product.h"
+#include "ui_MainWindow.h"
+
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include <cstdint>
+#include <vector>
+
+namespace grisal::ui
+{
+
+namespace
+{
+
+constexpr int messageDuration = 2000;
+constexpr int saveQuality = 90;
+
+std::size_t pixelCount(const graphics::LumioImage &image)
+{
+    return static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height());
+}
+
+/// The pixels as bytes, R, G, B; empty where they cannot be had.
+std::vector<std::uint8_t> bytesOf(graphics::LumioImage &image)
+{
+    std::vector<std::uint8_t> pixels(pixelCount(image) * 3);
+    if (!image.getPixels(pixels.data(), false, false)) {
+        pixels.clear();
+    }
+    return pixels;
+}
+
+/// Whether the path leads to something, if only to a link whose target is missing.
+bool isThere(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.exists() || file.isSymLink();
+}
+
+QString titleFor(const QString &path, const graphics::LumioImage &image)
+{
+    return QStringLiteral("%1 - %2 %3x%4")
+        .arg(QString::fromLatin1(product::title), QFileInfo(path).fileName(), QString::number(image.width()),
+             QString::number(image.height()));
+}
+
+} // namespace
+
+void MainWindow::on_actionOpen_triggered()
+{
+    openImage(m_fileDealer.openDialog());
+    activateWindow();
+}
+
+// A file that is there and cannot be read leaves everything as it is. A file that is not there any more leaves the
+// picture that is open, which is then opened again: its panels start afresh under the name that was asked for.
+void MainWindow::openImage(QString filename)
+{
+    if (filename.isEmpty()) {
+        return;
+    }
+    graphics::LumioImage image = m_source;
+    const bool read = image.read(filename);
+    tellProblems(image);
+    if (!read && isThere(filename)) {
+        tellCannotLoad(filename);
+        return;
+    }
+    qDebug("%s", image.info().c_str());
+    if (image.isNull()) {
+        tellCannotLoad(filename);
+        return;
+    }
+    const std::vector<std::uint8_t> pixels = bytesOf(image);
+    if (pixels.empty()) {
+        tellProblems(image);
+        tellCannotLoad(filename);
+        return;
+    }
+    m_source = image;
+    m_output = graphics::LumioImage(image.width(), image.height(), image.is16Bit());
+    loadBuffer(pixels.data(), image.width(), image.height(), false);
+    m_fileDealer.addToRecent();
+    setWindowTitle(titleFor(filename, image));
+    slotResetActions();
+    update();
+}
+
+void MainWindow::tellProblems(const graphics::LumioImage &image)
+{
+    if (!image.problem().isEmpty()) {
+        qWarning("%s", qPrintable(image.problem()));
+    }
+    if (!image.warning().isEmpty()) {
+        qWarning("%s", qPrintable(image.warning()));
+        tell(image.warning());
+    }
+}
+
+void MainWindow::tellCannotLoad(const QString &filename)
+{
+    QMessageBox::information(this, tr("Open Image"), tr("Cannot load %1.").arg(filename));
+}
+
+void MainWindow::tell(const QString &message)
+{
+    m_form->statusbar->showMessage(message, messageDuration);
+}
+
+void MainWindow::saveImage(const QString &path)
+{
+    if (path.isEmpty()) {
+        qWarning("MainWindow::saveImage(): Invalid filename");
+        tell(tr("No filename"));
+        return;
+    }
+    if (m_output.isNull()) {
+        qWarning("MainWindow::saveImage(): Image is Null");
+        tell(tr("No image"));
+        return;
+    }
+    if (!renderOutput()) {
+        return;
+    }
+    if (!m_output.save(path, saveQuality)) {
+        qWarning("Cannot save %s: %s", qPrintable(path), qPrintable(m_output.problem()));
+        tell(tr("Cannot save %1. Choose another place or name.").arg(path));
+    }
+}
+
+void MainWindow::slotFinalRendering()
+{
+    renderOutput();
+}
+
+bool MainWindow::renderOutput()
+{
+    update();
+    const bool sixteenBit = m_source.is16Bit();
+    std::vector<std::uint8_t> pixels(pixelCount(m_source) * 3 * (sixteenBit ? 2 : 1));
+    if (!m_source.getPixels(pixels.data(), false, sixteenBit)) {
+        return tellRenderFailed(m_source.problem());
+    }
+    GLWidget *preview = m_form->glWidgetPreview;
+    if (!preview->renderFinal(pixels.data(), m_source.width(), m_source.height(), sixteenBit, false)) {
+        return tellRenderFailed(preview->graphicsProblem());
+    }
+    if (!m_output.setPixels(pixels.data(), false, sixteenBit)) {
+        return tellRenderFailed(m_output.problem());
+    }
+    return true;
+}
+
+bool MainWindow::tellRenderFailed(const QString &reason)
+{
+    qWarning("The picture could not be rendered. %s", qPrintable(reason));
+    tell(tr("The picture could not be rendered. Nothing was saved; the log tells more."));
+    return false;
+}
+
+void MainWindow::on_actionSave_triggered()
+{
+    const QFileInfo file(m_fileDealer.currentPath());
+    if (file.exists()) {
+        const QString question = tr("File %1 already exists.\n Do you want to replace it?").arg(file.baseName());
+        if (QMessageBox::question(nullptr, tr("Overwrite?"), question, QMessageBox::Ok | QMessageBox::Cancel,
+                                  QMessageBox::Ok) == QMessageBox::Ok) {
+            saveImage(m_fileDealer.currentPath());
+        }
+    }
+    activateWindow();
+}
+
+void MainWindow::on_actionSave_As_triggered()
+{
+    saveImage(m_fileDealer.saveDialog());
+    activateWindow();
+}
+
+} // namespace grisal::ui
