@@ -1,0 +1,359 @@
+// SPDX-License-Identifier: MIT
+// What the window's actions do, but for files: panels and filters, view, help, quit.
+#include "tests/app/WindowTest.h"
+
+#include "graphics/filters/IFilter.h"
+#include "tests/support/Modal.h"
+#include "ui/panels/Curves.h"
+#include "ui/panels/Grain.h"
+#include "ui/panels/Mixer.h"
+#include "ui/panels/SplitTone.h"
+#include "ui/panels/Vignette.h"
+
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QUrl>
+
+#include <array>
+#include <functional>
+
+namespace
+{
+
+using namespace grisal::test;
+using grisal::graphics::ColorRGB;
+using grisal::graphics::FilterParameters;
+using grisal::graphics::IFilter;
+
+/// A panel with a filter that its action switches on and off.
+struct FilterRow {
+    const char *action;
+    const char *panel;
+    Qt::Key key;
+    IFilter *(grisal::ui::GLWidget::*filter)() const;
+    const char *problem;
+};
+
+constexpr std::array<FilterRow, 4> filterTable{{
+    {"actionCurves", "Curves", Qt::Key_2, &grisal::ui::GLWidget::curveFilter, "curve filter is invalid"},
+    {"actionVignette", "Vignette", Qt::Key_4, &grisal::ui::GLWidget::vignetteFilter, "vignette filter is invalid"},
+    {"actionGrain", "Grain", Qt::Key_5, &grisal::ui::GLWidget::grainFilter, "grain filter is invalid"},
+    {"actionSplitTone", "SplitTone", Qt::Key_6, &grisal::ui::GLWidget::splitToneFilter, "split tone filter is invalid"},
+}};
+
+/// Closes the dialog of a class with what was seen in it.
+class AboutAnswer : public ModalAnswer
+{
+public:
+    explicit AboutAnswer(std::function<void(QDialog &)> look) : m_look(std::move(look)) {}
+
+protected:
+    bool answer(QWidget &dialog) override
+    {
+        if (dialog.objectName() != QStringLiteral("About")) {
+            return false;
+        }
+        auto &about = dynamic_cast<QDialog &>(dialog);
+        m_look(about);
+        about.findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"))->button(QDialogButtonBox::Ok)->click();
+        return true;
+    }
+
+private:
+    std::function<void(QDialog &)> m_look;
+};
+
+/// Takes what would be opened in the browser.
+class Browser : public QObject
+{
+    Q_OBJECT
+
+public:
+    Browser() { QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "open"); }
+    Browser(const Browser &) = delete;
+    Browser &operator=(const Browser &) = delete;
+    ~Browser() override { QDesktopServices::unsetUrlHandler(QStringLiteral("https")); }
+
+    QList<QUrl> opened;
+
+public slots:
+    void open(const QUrl &url) { opened << url; }
+};
+
+class MainWindowActions : public WindowTest
+{
+protected:
+    void press(Qt::Key key) { QTest::keyClick(&window, key, Qt::ControlModifier); }
+
+    bool isOn(const FilterRow &row) { return (preview().*row.filter)()->enabled; }
+
+    template <typename Panel>
+    Panel &panel()
+    {
+        return *window.findChild<Panel *>();
+    }
+};
+
+TEST_F(MainWindowActions, KeysShowThePanels)
+{
+    start();
+    QStringList shown;
+    for (const Qt::Key key : {Qt::Key_2, Qt::Key_3, Qt::Key_4, Qt::Key_5, Qt::Key_6, Qt::Key_1}) {
+        press(key);
+        shown << QString::fromStdString(shownPanel());
+    }
+    EXPECT_EQ(shown.join(QLatin1Char(' ')).toStdString(), "Curves Sharpen Vignette Grain SplitTone Mixer");
+}
+
+TEST_F(MainWindowActions, AKeyPressedTwiceSwitchesTheFilterOnAndOffAndGoesBackToTheMixer)
+{
+    start();
+    for (const FilterRow &row : filterTable) {
+        press(row.key);
+        EXPECT_EQ(shownPanel(), row.panel);
+        EXPECT_TRUE(action(row.action).isChecked()) << row.action;
+        EXPECT_TRUE(isOn(row)) << row.action;
+        press(row.key);
+        EXPECT_EQ(shownPanel(), "Mixer") << row.action;
+        EXPECT_FALSE(action(row.action).isChecked()) << row.action;
+        EXPECT_FALSE(isOn(row)) << row.action;
+    }
+}
+
+TEST_F(MainWindowActions, GoingToAnotherPanelLeavesTheFilterOn)
+{
+    start();
+    for (const FilterRow &row : filterTable) {
+        trigger(window, row.action);
+    }
+    trigger(window, "actionMixer");
+    for (const FilterRow &row : filterTable) {
+        EXPECT_TRUE(action(row.action).isChecked()) << row.action;
+        EXPECT_TRUE(isOn(row)) << row.action;
+    }
+}
+
+TEST_F(MainWindowActions, ComingBackToAPanelLeavesItsFilterOn)
+{
+    start();
+    trigger(window, "actionVignette");
+    trigger(window, "actionMixer");
+    trigger(window, "actionVignette");
+    EXPECT_EQ(shownPanel(), "Vignette");
+    EXPECT_TRUE(action("actionVignette").isChecked());
+    EXPECT_TRUE(preview().vignetteFilter()->enabled);
+}
+
+TEST_F(MainWindowActions, SharpenShowsAPanelWithoutAFilter)
+{
+    start();
+    trigger(window, "actionSharpen");
+    EXPECT_EQ(shownPanel(), "Sharpen");
+    EXPECT_TRUE(action("actionSharpen").isChecked());
+    trigger(window, "actionSharpen");
+    EXPECT_EQ(shownPanel(), "Mixer");
+    EXPECT_FALSE(action("actionSharpen").isChecked());
+}
+
+TEST_F(MainWindowActions, WithoutAPictureTheMissingFilterIsToldAndThePanelShown)
+{
+    for (const FilterRow &row : filterTable) {
+        expectWarning(QString::fromLatin1(row.problem));
+        trigger(window, row.action);
+        EXPECT_EQ(shownPanel(), row.panel);
+        EXPECT_TRUE(action(row.action).isChecked()) << row.action;
+    }
+}
+
+TEST_F(MainWindowActions, ResettingTheActionsUnchecksThemAllAndShowsTheMixer)
+{
+    start();
+    for (const FilterRow &row : filterTable) {
+        trigger(window, row.action);
+    }
+    trigger(window, "actionSharpen");
+    window.slotResetActions();
+    EXPECT_EQ(shownPanel(), "Mixer");
+    for (const char *name : {"actionCurves", "actionSharpen", "actionVignette", "actionGrain", "actionSplitTone"}) {
+        EXPECT_FALSE(action(name).isChecked()) << name;
+    }
+}
+
+TEST_F(MainWindowActions, TheMixerReachesThePreview)
+{
+    start();
+    child<QComboBox>(panel<Mixer>(), "comboPresets").setCurrentText(QStringLiteral("Rochester Tri-X"));
+    EXPECT_EQ(preview().parameters().mixerWeights, (ColorRGB<float>{64 / 255.0F, 89 / 255.0F, 102 / 255.0F}));
+}
+
+TEST_F(MainWindowActions, TheVignettePanelReachesThePreview)
+{
+    start();
+    emit panel<Vignette>().signalVignette(1, 2, 3, 4, true);
+    const FilterParameters &now = preview().parameters();
+    EXPECT_EQ(now.vignetteX, 1);
+    EXPECT_EQ(now.vignetteY, 2);
+    EXPECT_EQ(now.vignetteRadius, 3);
+    EXPECT_EQ(now.vignetteStrength, 4);
+    EXPECT_TRUE(now.extraBlur);
+}
+
+TEST_F(MainWindowActions, TheSplitTonePanelReachesThePreview)
+{
+    start();
+    emit panel<SplitTone>().signalSplit(0.5F, 0.1F, 0.2F, 0.3F, 0.4F, 0.6F, 0.7F);
+    const FilterParameters &now = preview().parameters();
+    EXPECT_EQ(now.splitWeight, 0.5F);
+    EXPECT_EQ(now.highlightTint, (ColorRGB<float>{0.1F, 0.2F, 0.3F}));
+    EXPECT_EQ(now.shadowTint, (ColorRGB<float>{0.4F, 0.6F, 0.7F}));
+}
+
+TEST_F(MainWindowActions, TheGrainPanelReachesThePreview)
+{
+    start();
+    emit panel<Grain>().signalGrain(QVector<float>(256, 0.25F), 2.5F);
+    EXPECT_EQ(preview().parameters().grainWeights, QVector<float>(256, 0.25F));
+    EXPECT_EQ(preview().parameters().grainRadius, 2.5F);
+}
+
+TEST_F(MainWindowActions, TheCurvesPanelReachesThePreview)
+{
+    start();
+    emit panel<Curves>().signalCurves(QVector<float>(256, 0.75F));
+    EXPECT_EQ(preview().parameters().curve, QVector<float>(256, 0.75F));
+}
+
+TEST_F(MainWindowActions, LoadingPixelsHandsTheirTonesToTheCurvesPanel)
+{
+    start();
+    const QSignalSpy tones(&panel<Curves>(), &Curves::signalOutHistogram);
+    panel<Curves>().on_buttonReset_clicked();
+    ASSERT_EQ(tones.count(), 1);
+    QVector<float> expected(256, 0.0F);
+    expected[128] = 30; // all pixels of the placeholder, times 30
+    EXPECT_EQ(tones[0][0].value<QVector<float>>(), expected);
+}
+
+TEST_F(MainWindowActions, LoadingPixelsPutsAllParametersBack)
+{
+    start();
+    emit panel<Mixer>().signalMixer(1, 0, 0);
+    emit panel<Vignette>().signalVignette(1, 2, 3, 4, true);
+    emit panel<SplitTone>().signalSplit(0.5F, 0, 0, 0, 0, 0, 0);
+    emit panel<Grain>().signalGrain(QVector<float>(256, 0.25F), 2.5F);
+    emit panel<Curves>().signalCurves(QVector<float>(256, 0.75F));
+    const std::uint8_t white[3] = {255, 255, 255};
+    window.loadBuffer(white, 1, 1, false);
+    const FilterParameters initial;
+    const FilterParameters &now = preview().parameters();
+    EXPECT_EQ(now.mixerWeights, initial.mixerWeights);
+    EXPECT_EQ(now.vignetteX, initial.vignetteX);
+    EXPECT_EQ(now.vignetteStrength, initial.vignetteStrength);
+    EXPECT_FALSE(now.extraBlur);
+    EXPECT_EQ(now.splitWeight, initial.splitWeight);
+    EXPECT_EQ(now.highlightTint, initial.highlightTint);
+    EXPECT_EQ(now.shadowTint, initial.shadowTint);
+    EXPECT_EQ(now.grainWeights, initial.grainWeights);
+    EXPECT_EQ(now.grainRadius, initial.grainRadius);
+    EXPECT_EQ(now.curve, initial.curve);
+}
+
+TEST_F(MainWindowActions, LoadingNoPixelsIsToldAndChangesNothing)
+{
+    start();
+    emit panel<Mixer>().signalMixer(1, 0, 0);
+    expectWarning(QStringLiteral("Buffer is invalid!"));
+    window.loadBuffer(nullptr, 10, 10, false);
+    EXPECT_EQ(preview().previewWidth(), 300);
+    EXPECT_EQ(preview().parameters().mixerWeights, (ColorRGB<float>{1, 0, 0}));
+}
+
+TEST_F(MainWindowActions, LoadingPixelsStartsTheGraphicsAgain)
+{
+    start();
+    log.clear();
+    const std::uint8_t white[3] = {255, 255, 255};
+    window.loadBuffer(white, 1, 1, false);
+    EXPECT_TRUE(log.contains(QStringLiteral("INITIALIZE GL")));
+}
+
+TEST_F(MainWindowActions, ZoomGoesInStepsOfATwentyFifth)
+{
+    start();
+    const float before = preview().scale();
+    trigger(window, "actionZoomIn");
+    EXPECT_FLOAT_EQ(preview().scale(), before + 0.04F);
+    trigger(window, "actionZoomOut");
+    EXPECT_FLOAT_EQ(preview().scale(), before);
+}
+
+TEST_F(MainWindowActions, FitAndActualPixelsSetTheScale)
+{
+    start();
+    const auto width = static_cast<float>(preview().width() * preview().devicePixelRatioF());
+    const auto height = static_cast<float>(preview().height() * preview().devicePixelRatioF());
+    trigger(window, "actionFitOnHeight");
+    EXPECT_FLOAT_EQ(preview().scale(), 0.99F * height / 200);
+    trigger(window, "actionFitOnWidth");
+    EXPECT_FLOAT_EQ(preview().scale(), 0.99F * width / 300);
+    trigger(window, "actionActualPixels");
+    EXPECT_FLOAT_EQ(preview().scale(), 1);
+}
+
+TEST_F(MainWindowActions, QuitSaysGoodbyeAndClosesTheWindow)
+{
+    start();
+    const QSignalSpy finished(&window, &grisal::ui::MainWindow::signalFinished);
+    expectWarning(QStringLiteral("Bye bye...\n\n\n"));
+    trigger(window, "actionQuit");
+    EXPECT_EQ(finished.count(), 1);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(MainWindowActions, TheWebsiteOpensInTheBrowser)
+{
+    const Browser browser;
+    trigger(window, "actionWebsite");
+    EXPECT_EQ(browser.opened, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
+}
+
+TEST_F(MainWindowActions, AboutTellsWhatTheProgramIsAndWhenItWasBuilt)
+{
+    start();
+    QString title;
+    QString description;
+    QString version;
+    QString tab;
+    const AboutAnswer answer([&](QDialog &about) {
+        title = about.windowTitle();
+        description = child<QLabel>(about, "labelAbout").text();
+        version = child<QLabel>(about, "labelVersion").text();
+        tab = child<QTabWidget>(about, "tabWidget").currentWidget()->objectName();
+    });
+    trigger(window, "actionAbout");
+    EXPECT_EQ(title, QStringLiteral("About"));
+    EXPECT_EQ(description, QStringLiteral("Lumio Grisal is a\nblack and white\nimaging toolkit\nwith focus on speed\n"
+                                          "and comfort."));
+    const QRegularExpression pattern(QStringLiteral("\\AVersion: \\w{3} [ \\d]\\d \\d{4} \\d\\d:\\d\\d:\\d\\d\\z"));
+    EXPECT_TRUE(pattern.match(version).hasMatch()) << version.toStdString();
+    EXPECT_EQ(tab, QStringLiteral("tabAbout"));
+}
+
+TEST_F(MainWindowActions, AboutOpensTheWebsiteToo)
+{
+    start();
+    const Browser browser;
+    const AboutAnswer answer([](QDialog &about) { child<QPushButton>(about, "buttonWebsite").click(); });
+    trigger(window, "actionAbout");
+    EXPECT_EQ(browser.opened, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
+}
+
+} // namespace
+
+#include "MainWindowActions_gui_test.moc"

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+// Pictures of every format, depth and size go through the window and come out again with the chosen look.
+#include "tests/app/FilesTest.h"
+
+#include "ui/panels/Mixer.h"
+
+#include <QComboBox>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+using namespace grisal::test;
+
+struct Case {
+    const char *extension;
+    int depth; ///< bits a channel; 0 where the format does not tell
+    int width;
+    int height;
+    double tolerance; ///< in 65536 levels
+
+    friend std::ostream &operator<<(std::ostream &stream, const Case &each)
+    {
+        return stream << each.extension << ", " << each.depth << " bits, " << each.width << " x " << each.height;
+    }
+};
+
+/// One level of 8 bits; what half floats keep of 16; what the JPEG format loses of soft colours.
+constexpr double oneLevel = 257;
+constexpr double halfFloats = 64;
+constexpr double jpegLoss = 4 * 257;
+
+Samples soft(int x, int y)
+{
+    const auto byte = [](int value) { return static_cast<std::uint16_t>(value * 257); };
+    return {byte(60 + x * 2), byte(220 - x - y), byte(90 + y * 3)};
+}
+
+class MainWindowFormats : public FilesTest, public testing::WithParamInterface<Case>
+{
+protected:
+    QString makeSource(const QString &stem)
+    {
+        const Case &now = GetParam();
+        const QString name = stem + QLatin1Char('.') + QString::fromLatin1(now.extension);
+        const bool jpeg = now.depth == 0;
+        return makePicture(name, now.width, now.height, jpeg ? 8 : now.depth,
+                           jpeg            ? soft
+                           : now.depth > 8 ? fine
+                                           : colourful);
+    }
+
+    QString target() const { return inHome(QStringLiteral("saved.%1").arg(QLatin1String(GetParam().extension))); }
+
+    void chooseLuma()
+    {
+        child<QComboBox>(*window.findChild<Mixer *>(), "comboPresets").setCurrentText(QStringLiteral("Luma"));
+    }
+
+    /// The largest distance of the saved samples from the weighted sum of the source's.
+    static double distanceFromLuma(const Words &saved, const Words &source)
+    {
+        if (saved.size() != source.size() || saved.empty()) {
+            return std::numeric_limits<double>::infinity();
+        }
+        double worst = 0;
+        for (std::size_t i = 0; i < source.size(); ++i) {
+            const Samples::value_type *pixel = &source[i - i % 3];
+            const double grey = (pixel[0] * 77.0 + pixel[1] * 150.0 + pixel[2] * 28.0) / 255;
+            worst = std::max(worst, std::abs(saved[i] - grey));
+        }
+        return worst;
+    }
+};
+
+TEST_P(MainWindowFormats, ALookIsSavedWithSizeAndDepthAndOpensAgain)
+{
+    start();
+    const QString source = makeSource(QStringLiteral("source"));
+    window.openImage(source);
+    chooseLuma();
+    saveWithDialog(target());
+    EXPECT_EQ(bitsPerChannel(target()), GetParam().depth);
+    EXPECT_LE(distanceFromLuma(samplesOf(target()), samplesOf(source)), GetParam().tolerance);
+    window.openImage(target());
+    EXPECT_EQ(title(), QStringLiteral("Lumio Grisal (Alpha) - %1 %2x%3")
+                           .arg(QFileInfo(target()).fileName())
+                           .arg(GetParam().width)
+                           .arg(GetParam().height)
+                           .toStdString());
+}
+
+INSTANTIATE_TEST_SUITE_P(Formats, MainWindowFormats,
+                         testing::Values(Case{"png", 8, 61, 47, oneLevel}, Case{"png", 16, 61, 47, halfFloats},
+                                         Case{"tif", 8, 61, 47, oneLevel}, Case{"tif", 16, 61, 47, halfFloats},
+                                         Case{"jpg", 0, 61, 47, jpegLoss}));
+
+INSTANTIATE_TEST_SUITE_P(SmallPictures, MainWindowFormats,
+                         testing::Values(Case{"png", 8, 1, 1, oneLevel}, Case{"png", 8, 3, 2, oneLevel},
+                                         Case{"png", 8, 2, 3, oneLevel}, Case{"tif", 16, 1, 5, halfFloats},
+                                         Case{"tif", 16, 5, 1, halfFloats}));
+
+// Above 2048 pixels a side is rendered in four tiles: 4 tiles, 4 tiles one above the other, 16 tiles.
+INSTANTIATE_TEST_SUITE_P(TiledPictures, MainWindowFormats,
+                         testing::Values(Case{"tif", 16, 2055, 6, halfFloats}, Case{"png", 16, 7, 2054, halfFloats},
+                                         Case{"png", 8, 2049, 2055, oneLevel}));
+
+class MainWindowManyPictures : public FilesTest
+{
+};
+
+TEST_F(MainWindowManyPictures, FiftyInARowKeepTheWindowAtWork)
+{
+    start();
+    const QString wide = makePicture(QStringLiteral("wide.png"), 301, 40);
+    const QString tall = makePicture(QStringLiteral("tall.tif"), 30, 203, 16);
+    for (int i = 0; i < 25; ++i) {
+        window.openImage(wide);
+        trigger(window, "actionGrain");
+        window.openImage(tall);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(title(), "Lumio Grisal (Alpha) - tall.tif 30x203");
+    EXPECT_FALSE(action("actionGrain").isChecked());
+    window.saveImage(inHome(QStringLiteral("saved.tif")));
+    EXPECT_EQ(samplesOf(inHome(QStringLiteral("saved.tif"))).size(), std::size_t{30} * 203 * 3);
+}
+
+TEST_F(MainWindowManyPictures, APictureIsSavedAgainAndAgainOverItself)
+{
+    start();
+    const auto grey = [](int x, int y) {
+        const auto value = static_cast<std::uint16_t>((x * 7 + y * 3) % 256 * 257);
+        return Samples{value, value, value};
+    };
+    const QString path = makePicture(QStringLiteral("a.tif"), 64, 48, 8, grey);
+    const Words source = samplesOf(path);
+    openWithDialog(path);
+    for (int i = 0; i < 3; ++i) {
+        const MessageBoxAnswer box(QMessageBox::Ok);
+        trigger(window, "actionSave");
+        EXPECT_EQ(samplesOf(path), source) << i;
+    }
+    EXPECT_EQ(bitsPerChannel(path), 8);
+}
+
+TEST_F(MainWindowManyPictures, AFolderInTheWayOfASavedFileStays)
+{
+    start();
+    window.openImage(makePicture(QStringLiteral("a.png"), 8, 4));
+    const QString folder = inHome(QStringLiteral("b.png"));
+    ASSERT_TRUE(QDir().mkpath(folder + QStringLiteral("/inside")));
+    expectWarning(QStringLiteral("Cannot save %1: ").arg(folder));
+    window.saveImage(folder);
+    EXPECT_EQ(status(), QStringLiteral("Cannot save %1. Choose another place or name.").arg(folder).toStdString());
+    EXPECT_TRUE(QDir(folder + QStringLiteral("/inside")).exists());
+}
+
+} // namespace

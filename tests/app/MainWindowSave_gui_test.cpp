@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: MIT
+// How pictures leave the window.
+#include "tests/app/FilesTest.h"
+
+#include "ui/panels/Mixer.h"
+
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QMenu>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+using namespace grisal::test;
+
+struct Weights {
+    double r;
+    double g;
+    double b;
+};
+
+/// One level of 8 bits, in the samples that the library reads.
+constexpr double level = 257;
+
+constexpr Weights triX{64 / 255.0, 89 / 255.0, 102 / 255.0};
+
+class MainWindowSave : public FilesTest
+{
+protected:
+    void chooseTriX()
+    {
+        auto &presets = child<QComboBox>(*window.findChild<Mixer *>(), "comboPresets");
+        // A picture that is opened takes back the look but leaves its name: only another one is a choice.
+        presets.setCurrentIndex(0);
+        presets.setCurrentText(QStringLiteral("Rochester Tri-X"));
+    }
+
+    /// The largest distance of a saved file's samples from the weighted sum of the source's.
+    static double distanceFromGrey(const Words &saved, const Words &source, const Weights &weights)
+    {
+        if (saved.size() != source.size() || saved.empty()) {
+            return std::numeric_limits<double>::infinity();
+        }
+        double worst = 0;
+        for (std::size_t i = 0; i < source.size(); i += 3) {
+            const double grey = source[i] * weights.r + source[i + 1] * weights.g + source[i + 2] * weights.b;
+            for (std::size_t c = 0; c < 3; ++c) {
+                worst = std::max(worst, std::abs(saved[i + c] - std::min(grey, 65535.0)));
+            }
+        }
+        return worst;
+    }
+
+    /// Opens `source`, chooses a look, saves as `target` and expects the look in a picture of the same depth.
+    void expectSavedWithTriX(const QString &source, const QString &target, int depth)
+    {
+        openWithDialog(source);
+        chooseTriX();
+        saveWithDialog(target);
+        EXPECT_EQ(bitsPerChannel(target), depth);
+        EXPECT_LE(distanceFromGrey(samplesOf(target), samplesOf(source), triX), level);
+    }
+};
+
+constexpr int width = 45;
+constexpr int height = 31;
+
+TEST_F(MainWindowSave, ATiffOf16BitsStaysOne)
+{
+    start();
+    expectSavedWithTriX(makePicture(QStringLiteral("a.tif"), width, height, 16, fine), inHome(QStringLiteral("b.tif")),
+                        16);
+}
+
+TEST_F(MainWindowSave, APngOf8BitsStaysOne)
+{
+    start();
+    expectSavedWithTriX(makePicture(QStringLiteral("a.png"), width, height), inHome(QStringLiteral("b.png")), 8);
+}
+
+TEST_F(MainWindowSave, AJpegIsSavedAsAPngOf8Bits)
+{
+    start();
+    expectSavedWithTriX(makePicture(QStringLiteral("a.jpg"), width, height), inHome(QStringLiteral("b.png")), 8);
+}
+
+TEST_F(MainWindowSave, TheSavedPictureHasTheSizeOfTheSource)
+{
+    start();
+    window.openImage(makePicture(QStringLiteral("a.jpg"), width, height));
+    window.saveImage(inHome(QStringLiteral("b.jpg")));
+    grisal::graphics::LumioImage saved;
+    ASSERT_TRUE(saved.read(inHome(QStringLiteral("b.jpg"))));
+    EXPECT_EQ(saved.width(), width);
+    EXPECT_EQ(saved.height(), height);
+}
+
+TEST_F(MainWindowSave, SavingWithoutAPictureIsTold)
+{
+    start();
+    expectWarning(QStringLiteral("MainWindow::saveImage(): Image is Null"));
+    saveWithDialog(inHome(QStringLiteral("a.png")));
+    EXPECT_EQ(status(), "No image");
+    EXPECT_FALSE(QFile::exists(inHome(QStringLiteral("a.png"))));
+}
+
+TEST_F(MainWindowSave, ACancelledSaveAsIsToldForTwoSeconds)
+{
+    start();
+    window.openImage(makePicture(QStringLiteral("a.png"), width, height));
+    expectWarning(QStringLiteral("MainWindow::saveImage(): Invalid filename"));
+    saveWithDialog({});
+    EXPECT_EQ(status(), "No filename");
+    QElapsedTimer shown;
+    shown.start();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return status().empty(); }, 4000));
+    EXPECT_GE(shown.elapsed(), 1500);
+}
+
+TEST_F(MainWindowSave, SaveWithoutACurrentPathDoesNothing)
+{
+    start();
+    trigger(window, "actionSave");
+    EXPECT_EQ(status(), "");
+}
+
+TEST_F(MainWindowSave, SaveToAPathThatIsGoneDoesNothing)
+{
+    start();
+    const QString path = makePicture(QStringLiteral("a.png"), width, height);
+    openWithDialog(path);
+    QFile::remove(path);
+    trigger(window, "actionSave");
+    EXPECT_EQ(status(), "");
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(MainWindowSave, SaveAsksBeforeItReplaces)
+{
+    start();
+    const QString path = makePicture(QStringLiteral("a.b.png"), width, height);
+    const Words source = samplesOf(path);
+    openWithDialog(path);
+    chooseTriX();
+    MessageBoxAnswer box(QMessageBox::Ok);
+    trigger(window, "actionSave");
+    EXPECT_EQ(box.title, QStringLiteral("Overwrite?"));
+    EXPECT_EQ(box.text, QStringLiteral("File a already exists.\n Do you want to replace it?"));
+    EXPECT_EQ(box.buttons, QMessageBox::Ok | QMessageBox::Cancel);
+    EXPECT_EQ(box.defaultButton, QMessageBox::Ok);
+    EXPECT_LE(distanceFromGrey(samplesOf(path), source, triX), level);
+}
+
+TEST_F(MainWindowSave, SaveReplacesNothingOnCancel)
+{
+    start();
+    const QString path = makePicture(QStringLiteral("a.png"), width, height);
+    const QByteArray before = contentsOf(path);
+    openWithDialog(path);
+    const MessageBoxAnswer box(QMessageBox::Cancel);
+    trigger(window, "actionSave");
+    EXPECT_EQ(contentsOf(path), before);
+}
+
+// The path that Save writes to is the one of the last dialog, whatever the Recent menu has opened since.
+TEST_F(MainWindowSave, SaveAsksForThePathOfTheLastDialog)
+{
+    start();
+    openWithDialog(makePicture(QStringLiteral("a.png"), width, height));
+    openWithDialog(makePicture(QStringLiteral("b.png"), width, height));
+    child<QMenu>(window, "menuRecent").actions()[1]->trigger();
+    MessageBoxAnswer box(QMessageBox::Cancel);
+    trigger(window, "actionSave");
+    EXPECT_EQ(box.text, QStringLiteral("File b already exists.\n Do you want to replace it?"));
+}
+
+// The file dialog has asked already.
+TEST_F(MainWindowSave, SaveAsReplacesAFileWithoutAQuestionOfTheWindow)
+{
+    start();
+    const QString source = makePicture(QStringLiteral("a.png"), width, height);
+    const QString target = makePicture(QStringLiteral("b.png"), 5, 5);
+    openWithDialog(source);
+    chooseTriX();
+    MessageBoxAnswer box(QMessageBox::Yes);
+    saveWithDialog(target);
+    EXPECT_EQ(box.title, QStringLiteral("Save image"));
+    EXPECT_LE(distanceFromGrey(samplesOf(target), samplesOf(source), triX), level);
+}
+
+TEST_F(MainWindowSave, ASavedPictureIsNotRecorded)
+{
+    start();
+    const QString source = makePicture(QStringLiteral("a.png"), width, height);
+    openWithDialog(source);
+    QDir().mkpath(inHome(QStringLiteral("elsewhere")));
+    saveWithDialog(inHome(QStringLiteral("elsewhere/b.png")));
+    ASSERT_TRUE(QFile::exists(inHome(QStringLiteral("elsewhere/b.png"))));
+    EXPECT_EQ(storedRecent(), QStringList(source));
+    EXPECT_EQ(QSettings(QStringLiteral("grisal.example"), QStringLiteral("Quillmark"))
+                  .value(QStringLiteral("lastDirectory"))
+                  .toString(),
+              homePath());
+}
+
+TEST_F(MainWindowSave, APathThatCannotBeWrittenIsTold)
+{
+    start();
+    window.openImage(makePicture(QStringLiteral("a.png"), width, height));
+    const QString path = inHome(QStringLiteral("no such folder/b.png"));
+    expectWarning(QStringLiteral("Cannot save %1: ").arg(path));
+    window.saveImage(path);
+    EXPECT_EQ(status(), QStringLiteral("Cannot save %1. Choose another place or name.").arg(path).toStdString());
+    EXPECT_EQ(title(), QStringLiteral("Lumio Grisal (Alpha) - a.png %1x%2").arg(width).arg(height).toStdString());
+}
+
+TEST_F(MainWindowSave, NothingIsWrittenOfAPictureThatCouldNotBeRendered)
+{
+    // A window that was never shown has no graphics.
+    window.openImage(makePicture(QStringLiteral("a.png"), width, height));
+    expectWarning(QStringLiteral("The picture could not be rendered."));
+    window.saveImage(inHome(QStringLiteral("b.png")));
+    EXPECT_EQ(status(), "The picture could not be rendered. Nothing was saved; the log tells more.");
+    EXPECT_FALSE(QFile::exists(inHome(QStringLiteral("b.png"))));
+}
+
+TEST_F(MainWindowSave, SavingAgainAndAgainWithNeutralSettingsChangesNothing)
+{
+    start();
+    const auto grey = [](int x, int y) {
+        const auto value = static_cast<std::uint16_t>((x * 7 + y * 3) % 256 * 257);
+        return Samples{value, value, value};
+    };
+    const QString first = makePicture(QStringLiteral("a.png"), width, height, 8, grey);
+    const Words source = samplesOf(first);
+    window.openImage(first);
+    for (int i = 0; i < 3; ++i) {
+        const QString next = inHome(QStringLiteral("%1.png").arg(i));
+        window.saveImage(next);
+        window.openImage(next);
+        EXPECT_EQ(samplesOf(next), source) << i;
+    }
+}
+
+TEST_F(MainWindowSave, PicturesOfOneToThreePixelsAreSaved)
+{
+    start();
+    for (int side = 1; side <= 3; ++side) {
+        const QString source = makePicture(QStringLiteral("%1.png").arg(side), side, side);
+        const QString target = inHome(QStringLiteral("saved%1.png").arg(side));
+        window.openImage(source);
+        chooseTriX();
+        window.saveImage(target);
+        EXPECT_LE(distanceFromGrey(samplesOf(target), samplesOf(source), triX), level) << side;
+    }
+}
+
+} // namespace

@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+// How the window is made up: actions, menus, tool bar, panels.
+#include "tests/app/WindowTest.h"
+
+#include <QFrame>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMetaMethod>
+#include <QSplitter>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <array>
+#include <string>
+
+namespace
+{
+
+using namespace grisal::test;
+
+struct ActionRow {
+    const char *name;
+    const char *text;
+    const char *statusTip;
+    const char *shortcut;
+    bool checkable;
+};
+
+constexpr std::array<ActionRow, 19> actionTable{{
+    {"actionMixer", "1. Mixer", "Channel Mixer", "Ctrl+1", false},
+    {"actionCurves", "2. Curves", "Edit mapping function", "Ctrl+2", true},
+    {"actionSharpen", "3. Sharpen", "Accentuate Details", "Ctrl+3", true},
+    {"actionVignette", "4. Vignette", "Darken Borders", "Ctrl+4", true},
+    {"actionGrain", "5. Film Grain", "Simulate High ISO Film Grain", "Ctrl+5", true},
+    {"actionSplitTone", "6. Split Tone", "Apply Color Tones", "Ctrl+6", true},
+    {"actionOpen", "Open", "", "Ctrl+O", false},
+    {"actionSave", "Save", "", "Ctrl+S", false},
+    {"actionSave_As", "Save As", "", "Ctrl+Shift+S", false},
+    {"actionQuit", "Quit", "", "Ctrl+Q", false},
+    {"actionPreferences", "Preferences", "", "", false},
+    {"actionAbout", "About", "", "", false},
+    {"actionWebsite", "Website", "", "", false},
+    {"actionHelp", "Help", "", "", false},
+    {"actionZoomIn", "Zoom In", "", "Ctrl++", false},
+    {"actionZoomOut", "Zoom Out", "", "Ctrl+-", false},
+    {"actionFitOnWidth", "Fit on Width", "", "Ctrl+0", false},
+    {"actionFitOnHeight", "Fit on Height", "", "Ctrl+Shift+0", false},
+    {"actionActualPixels", "Actual Pixels", "Zoom to 1:1", "Ctrl+Alt+0", false},
+}};
+
+class MainWindowTest : public WindowTest
+{
+protected:
+    QToolBar &toolBar() const { return *window.findChild<QToolBar *>(); }
+
+    /// Object names of a menu's items, "-" for a separator, joined by blanks.
+    std::string items(const char *menu) const
+    {
+        QStringList names;
+        for (const QAction *item : child<QMenu>(window, menu).actions()) {
+            const QString name = item->menu() != nullptr ? item->menu()->objectName() : item->objectName();
+            names << (item->isSeparator() ? QStringLiteral("-") : name);
+        }
+        return names.join(QLatin1Char(' ')).toStdString();
+    }
+};
+
+TEST_F(MainWindowTest, ActionsHaveTheirTextsTipsAndShortcuts)
+{
+    for (const ActionRow &row : actionTable) {
+        const QAction &found = action(row.name);
+        EXPECT_EQ(found.text(), QString::fromLatin1(row.text)) << row.name;
+        EXPECT_EQ(found.statusTip(), QString::fromLatin1(row.statusTip)) << row.name;
+        EXPECT_EQ(found.shortcut(), QKeySequence(QString::fromLatin1(row.shortcut))) << row.name;
+        EXPECT_EQ(found.isCheckable(), row.checkable) << row.name;
+        EXPECT_FALSE(found.isChecked()) << row.name;
+    }
+}
+
+TEST_F(MainWindowTest, TheFormHasItsTitleAndSize)
+{
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Lumio Grisal (Alpha)"));
+    EXPECT_EQ(window.size(), QSize(663, 572));
+    EXPECT_EQ(window.contextMenuPolicy(), Qt::NoContextMenu);
+}
+
+TEST_F(MainWindowTest, ThePreviewStandsLeftOfThePanels)
+{
+    const auto &splitter = child<QSplitter>(window, "splitter");
+    EXPECT_EQ(splitter.orientation(), Qt::Horizontal);
+    ASSERT_EQ(splitter.count(), 2);
+    EXPECT_EQ(splitter.widget(0), &preview());
+    EXPECT_EQ(preview().minimumWidth(), 300);
+    const auto &container = child<QFrame>(window, "container");
+    EXPECT_EQ(splitter.widget(1), &container);
+    EXPECT_EQ(container.frameShape(), QFrame::StyledPanel);
+    EXPECT_EQ(container.minimumWidth(), 300);
+    EXPECT_EQ(container.maximumWidth(), 400);
+    EXPECT_EQ(container.layout()->contentsMargins(), QMargins(0, 0, 4, 0));
+}
+
+TEST_F(MainWindowTest, MenusHaveTheirOrder)
+{
+    QStringList titles;
+    for (const QAction *item : child<QMenuBar>(window, "menubar").actions()) {
+        titles << item->text();
+    }
+    EXPECT_EQ(titles.join(QLatin1Char(' ')).toStdString(), "File Edit View Filter Help");
+    EXPECT_EQ(items("menuFile"), "actionOpen menuRecent - actionSave actionSave_As - actionQuit");
+    EXPECT_EQ(items("menuEdit"), "actionPreferences");
+    EXPECT_EQ(items("menuView"), "actionZoomIn actionZoomOut - actionFitOnWidth actionFitOnHeight - "
+                                 "actionActualPixels");
+    EXPECT_EQ(items("menuFilter"), "actionMixer - actionCurves actionSharpen actionVignette actionGrain "
+                                   "actionSplitTone");
+    EXPECT_EQ(items("menuHelp"), "actionAbout actionWebsite - actionHelp");
+    EXPECT_EQ(child<QMenu>(window, "menuRecent").title(), QStringLiteral("Recent"));
+}
+
+TEST_F(MainWindowTest, TheToolBarStandsAtTheLeftForGood)
+{
+    EXPECT_EQ(window.toolBarArea(&toolBar()), Qt::LeftToolBarArea);
+    EXPECT_EQ(toolBar().allowedAreas(), Qt::LeftToolBarArea);
+    EXPECT_FALSE(toolBar().isMovable());
+    EXPECT_FALSE(toolBar().isFloatable());
+    EXPECT_EQ(toolBar().toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+}
+
+TEST_F(MainWindowTest, TheToolBarHasItsOrder)
+{
+    QStringList found;
+    for (QAction *item : toolBar().actions()) {
+        const QWidget *widget = toolBar().widgetForAction(item);
+        if (item->isSeparator()) {
+            found << QStringLiteral("-");
+        } else if (!item->objectName().isEmpty()) {
+            found << item->objectName();
+        } else {
+            const bool fixed = widget->minimumSize() == QSize(20, 20) && widget->maximumSize() == QSize(20, 20);
+            found << (fixed ? QStringLiteral("gap") : QStringLiteral("stretch"));
+        }
+    }
+    EXPECT_EQ(found.join(QLatin1Char(' ')).toStdString(),
+              "gap actionMixer gap - actionCurves - actionSharpen - actionVignette - actionGrain - actionSplitTone - "
+              "stretch");
+    const QSizePolicy stretch = toolBar().widgetForAction(toolBar().actions().last())->sizePolicy();
+    EXPECT_EQ(stretch.horizontalPolicy(), QSizePolicy::Expanding);
+    EXPECT_EQ(stretch.verticalPolicy(), QSizePolicy::Expanding);
+}
+
+TEST_F(MainWindowTest, ThePanelsHaveTheirOrderAndTheMixerIsInFront)
+{
+    QStringList names;
+    for (int i = 0; i < panels().count(); ++i) {
+        names << QString::fromLatin1(panels().widget(i)->metaObject()->className());
+    }
+    EXPECT_EQ(names.join(QLatin1Char(' ')).toStdString(), "Mixer Vignette SplitTone Grain Sharpen Curves");
+    EXPECT_EQ(shownPanel(), "Mixer");
+}
+
+TEST_F(MainWindowTest, SlotsHaveTheirNamesAndOrder)
+{
+    QStringList methods;
+    const QMetaObject &meta = grisal::ui::MainWindow::staticMetaObject;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        methods << QString::fromLatin1(meta.method(i).methodSignature());
+    }
+    EXPECT_EQ(methods.join(QLatin1Char('\n')).toStdString(), "signalFinished()\n"
+                                                             "on_actionMixer_triggered()\n"
+                                                             "on_actionVignette_triggered()\n"
+                                                             "on_actionSplitTone_triggered()\n"
+                                                             "on_actionGrain_triggered()\n"
+                                                             "slotFinalRendering()\n"
+                                                             "slotAbout()\n"
+                                                             "slotResetFilters()\n"
+                                                             "slotResetActions()\n"
+                                                             "openImage(QString)\n"
+                                                             "on_actionQuit_triggered()\n"
+                                                             "on_actionOpen_triggered()\n"
+                                                             "on_actionSave_triggered()\n"
+                                                             "on_actionSave_As_triggered()\n"
+                                                             "on_actionSharpen_triggered()\n"
+                                                             "on_actionCurves_triggered()\n"
+                                                             "on_actionWebsite_triggered()\n"
+                                                             "on_actionAbout_triggered()\n"
+                                                             "on_actionZoomIn_triggered()\n"
+                                                             "on_actionZoomOut_triggered()\n"
+                                                             "on_actionFitOnWidth_triggered()\n"
+                                                             "on_actionFitOnHeight_triggered()\n"
+                                                             "on_actionActualPixels_triggered()");
+}
+
+TEST_F(MainWindowTest, StatusTipsShowInTheStatusBar)
+{
+    start();
+    auto *button = qobject_cast<QToolButton *>(toolBar().widgetForAction(&action("actionVignette")));
+    ASSERT_NE(button, nullptr);
+    QTest::mouseMove(button);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return status() == "Darken Borders"; })) << status();
+}
+
+} // namespace

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "app/MessageLog.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+namespace
+{
+
+class MessageLog : public testing::Test
+{
+protected:
+    MessageLog() : m_homeBefore(qgetenv("HOME")) { qputenv("HOME", home.path().toLocal8Bit()); }
+
+    ~MessageLog() override { qputenv("HOME", m_homeBefore); }
+
+    QByteArray logged() const
+    {
+        QFile file(home.filePath(QStringLiteral("GrisalLog.txt")));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir home;
+
+private:
+    QByteArray m_homeBefore;
+};
+
+/// All messages of the program into the log while it lives.
+class InstalledLog
+{
+public:
+    InstalledLog() : m_before(qInstallMessageHandler(nullptr)) { message_log::install(); }
+    InstalledLog(const InstalledLog &) = delete;
+    InstalledLog &operator=(const InstalledLog &) = delete;
+    ~InstalledLog() { qInstallMessageHandler(m_before); }
+
+private:
+    QtMessageHandler m_before;
+};
+
+void write(QtMsgType type, const char *text)
+{
+    message_log::write(type, QMessageLogContext(), QString::fromUtf8(text));
+}
+
+TEST(MessageLogLine, HasTimeLevelAndText)
+{
+    const QTime time(14, 3, 7, 125);
+    const QString text = QStringLiteral("Buffer is invalid!");
+    EXPECT_EQ(message_log::line(QtDebugMsg, time, text), QStringLiteral("14:03:07.125 Debug: Buffer is invalid!"));
+    EXPECT_EQ(message_log::line(QtWarningMsg, time, text), QStringLiteral("14:03:07.125 Warning: Buffer is invalid!"));
+    EXPECT_EQ(message_log::line(QtCriticalMsg, time, text),
+              QStringLiteral("14:03:07.125 Critical: Buffer is invalid!"));
+    EXPECT_EQ(message_log::line(QtFatalMsg, time, text), QStringLiteral("14:03:07.125 Fatal: Buffer is invalid!"));
+}
+
+TEST(MessageLogLine, HasNoLevelForOtherTypes)
+{
+    const QTime time(0, 0, 0, 5);
+    EXPECT_EQ(message_log::line(QtInfoMsg, time, QStringLiteral("so")), QStringLiteral("00:00:00.005 so"));
+    EXPECT_EQ(message_log::line(static_cast<QtMsgType>(17), time, QStringLiteral("so")),
+              QStringLiteral("00:00:00.005 so"));
+}
+
+TEST_F(MessageLog, LiesInTheHome)
+{
+    EXPECT_EQ(message_log::path(), home.path() + QStringLiteral("/GrisalLog.txt"));
+}
+
+TEST_F(MessageLog, AMessageIsALineThatEndsWithALineFeed)
+{
+    write(QtWarningMsg, "Buffer is invalid!");
+    const QRegularExpression pattern(
+        QStringLiteral("\\A\\d\\d:\\d\\d:\\d\\d\\.\\d\\d\\d Warning: Buffer is invalid!\n\\z"));
+    EXPECT_TRUE(pattern.match(QString::fromUtf8(logged())).hasMatch()) << logged().toStdString();
+}
+
+TEST_F(MessageLog, EarlierLinesStay)
+{
+    QFile file(home.filePath(QStringLiteral("GrisalLog.txt")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("of an earlier run\n");
+    file.close();
+    write(QtDebugMsg, "first");
+    write(QtDebugMsg, "second");
+    const QList<QByteArray> lines = logged().split('\n');
+    ASSERT_EQ(lines.size(), 4);
+    EXPECT_EQ(lines[0], "of an earlier run");
+    EXPECT_TRUE(lines[1].endsWith(" Debug: first"));
+    EXPECT_TRUE(lines[2].endsWith(" Debug: second"));
+    EXPECT_EQ(lines[3], "");
+}
+
+TEST_F(MessageLog, TextIsUtf8)
+{
+    write(QtWarningMsg, "Größe → 3 µm");
+    EXPECT_TRUE(logged().endsWith("Warning: Größe → 3 µm\n")) << logged().toStdString();
+}
+
+TEST_F(MessageLog, TakesTheToolkitsMessagesOnceInstalled)
+{
+    const InstalledLog log;
+    qDebug("a");
+    qInfo("b");
+    qWarning("c");
+    qCritical("d");
+    QString text = QString::fromUtf8(logged());
+    text.remove(QRegularExpression(QStringLiteral("^[\\d:.]{12}"), QRegularExpression::MultilineOption));
+    EXPECT_EQ(text.toStdString(), " Debug: a\n b\n Warning: c\n Critical: d\n");
+}
+
+TEST_F(MessageLog, WithoutAHomeMessagesAreDropped)
+{
+    qputenv("HOME", home.filePath(QStringLiteral("missing")).toLocal8Bit());
+    write(QtCriticalMsg, "nobody reads this");
+    EXPECT_FALSE(QFile::exists(message_log::path()));
+}
+
+using MessageLogDeathTest = MessageLog;
+
+TEST_F(MessageLogDeathTest, AFatalMessageIsWrittenAndEndsTheProcess)
+{
+    EXPECT_EXIT(write(QtFatalMsg, "the end"), testing::KilledBySignal(SIGABRT), "");
+    EXPECT_TRUE(logged().endsWith(" Fatal: the end\n")) << logged().toStdString();
+}
+
+TEST_F(MessageLogDeathTest, AFatalMessageEndsTheProcessWithoutAHomeToo)
+{
+    qputenv("HOME", home.filePath(QStringLiteral("missing")).toLocal8Bit());
+    EXPECT_EXIT(write(QtFatalMsg, "the end"), testing::KilledBySignal(SIGABRT), "");
+}
+
+} // namespace

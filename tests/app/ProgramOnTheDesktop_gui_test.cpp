@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+// The program as the desktop sees it: its windows, found by their titles, and its end, by a key.
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace
+{
+
+constexpr int limit = 20000;
+
+class ProgramOnTheDesktop : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_FALSE(QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty()) << "xdotool is missing";
+    }
+
+    ~ProgramOnTheDesktop() override
+    {
+        if (m_process.state() != QProcess::NotRunning) {
+            m_process.kill();
+            m_process.waitForFinished();
+        }
+    }
+
+    /// Starts the program in a home of its own, with OpenGL or without.
+    void start(bool openGL = true)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("HOME"), m_home.path());
+        if (!openGL) {
+            environment.insert(QStringLiteral("QT_XCB_GL_INTEGRATION"), QStringLiteral("none"));
+        }
+        m_process.setProcessEnvironment(environment);
+        m_process.start(QStringLiteral(GRISAL_PROGRAM), QStringList());
+        ASSERT_TRUE(m_process.waitForStarted());
+    }
+
+    static QString xdotool(const QStringList &arguments)
+    {
+        QProcess process;
+        process.start(QStringLiteral("xdotool"), arguments);
+        process.waitForFinished(limit);
+        return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+    }
+
+    /// The visible windows of the program with that title, by the desktop's numbers.
+    QStringList windowsNamed(const QString &title) const
+    {
+        const QString pattern = QLatin1Char('^') + QRegularExpression::escape(title) + QLatin1Char('$');
+        const QString found = xdotool({QStringLiteral("search"), QStringLiteral("--all"),
+                                       QStringLiteral("--onlyvisible"), QStringLiteral("--pid"),
+                                       QString::number(m_process.processId()), QStringLiteral("--name"), pattern});
+        return found.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    }
+
+    /// Waits for the window of that title, of which there must be one.
+    QString windowNamed(const QString &title) const
+    {
+        QStringList windows;
+        QElapsedTimer timer;
+        timer.start();
+        while (windows.isEmpty() && timer.elapsed() < limit && m_process.state() == QProcess::Running) {
+            QTest::qWait(50);
+            windows = windowsNamed(title);
+        }
+        EXPECT_EQ(windows.size(), 1) << "windows named " << title.toStdString();
+        return windows.value(0);
+    }
+
+    QString mainWindow() const { return windowNamed(QStringLiteral("Lumio Grisal (Alpha)")); }
+
+    static void press(const QString &window, const QString &keys)
+    {
+        xdotool({QStringLiteral("windowfocus"), QStringLiteral("--sync"), window});
+        xdotool({QStringLiteral("key"), QStringLiteral("--window"), window, keys});
+    }
+
+    /// The exit status, once the program has ended by itself; -1 if it does not or crashes.
+    int exitStatus()
+    {
+        const bool ended = m_process.waitForFinished(limit) && m_process.exitStatus() == QProcess::NormalExit;
+        return ended ? m_process.exitCode() : -1;
+    }
+
+    QByteArray logged() const
+    {
+        QFile file(m_home.filePath(QStringLiteral("GrisalLog.txt")));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private:
+    QTemporaryDir m_home;
+    QProcess m_process;
+};
+
+TEST_F(ProgramOnTheDesktop, QuitsByKeyWithAGoodbyeInTheLog)
+{
+    start();
+    press(mainWindow(), QStringLiteral("ctrl+q"));
+    EXPECT_EQ(exitStatus(), 0);
+    EXPECT_TRUE(logged().endsWith(" Warning: Bye bye...\n\n\n\n")) << logged().toStdString();
+}
+
+TEST_F(ProgramOnTheDesktop, TellsInTheLogWhatDrawsThePictures)
+{
+    start();
+    press(mainWindow(), QStringLiteral("ctrl+q"));
+    EXPECT_EQ(exitStatus(), 0);
+    for (const char *part :
+         {" Debug: INITIALIZE GL\n", " Debug: GL vendor: ", " Debug: GL renderer: ", " Debug: GL version: "}) {
+        EXPECT_TRUE(logged().contains(part)) << part;
+    }
+}
+
+TEST_F(ProgramOnTheDesktop, WarnsOfNothingInAPlainRun)
+{
+    start();
+    press(mainWindow(), QStringLiteral("ctrl+q"));
+    EXPECT_EQ(exitStatus(), 0);
+    const QList<QByteArray> lines = logged().split('\n');
+    for (const QByteArray &line : lines) {
+        const bool plain = !line.contains(" Warning: ") && !line.contains(" Critical: ");
+        // A session without a runtime directory is none of the program's making.
+        EXPECT_TRUE(plain || line.contains("Bye bye") || line.contains("XDG_RUNTIME_DIR")) << line.toStdString();
+    }
+}
+
+TEST_F(ProgramOnTheDesktop, WithoutOpenGLOneBoxAndOneLineSaySo)
+{
+    start(false);
+    const QString box = windowNamed(QStringLiteral("No OpenGL"));
+    EXPECT_EQ(logged().count(" Critical: "), 1) << logged().toStdString();
+    EXPECT_TRUE(logged().contains(" Critical: There is no OpenGL on this display.\n"));
+    press(box, QStringLiteral("Return"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return windowsNamed(QStringLiteral("No OpenGL")).isEmpty(); }, limit));
+}
+
+} // namespace

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+// The program itself, from outside: what it shows and logs.
+#include "tests/graphics/image/PictureFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QProcess>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace
+{
+
+using namespace grisal::test;
+
+class Program : public testing::Test
+{
+protected:
+    Program()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("HOME"), home.path());
+        process.setProcessEnvironment(environment);
+    }
+
+    void setEnvironment(const QString &name, const QString &value)
+    {
+        QProcessEnvironment environment = process.processEnvironment();
+        environment.insert(name, value);
+        process.setProcessEnvironment(environment);
+    }
+
+    void start(const QStringList &arguments = {}) { process.start(QStringLiteral(GRISAL_PROGRAM), arguments); }
+
+    void end()
+    {
+        process.kill();
+        process.waitForFinished();
+    }
+
+    QByteArray logged() const { return contentsOf(home.filePath(QStringLiteral("GrisalLog.txt"))); }
+
+    bool waitForLog(const char *part, int times = 1)
+    {
+        return QTest::qWaitFor([&] { return logged().count(part) >= times; }, 10000);
+    }
+
+    /// Number of pixels on the screen in the grey of the placeholder.
+    static int greyPixels()
+    {
+        const QImage screen = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+        int count = 0;
+        for (int y = 0; y < screen.height(); ++y) {
+            for (int x = 0; x < screen.width(); ++x) {
+                count += screen.pixelColor(x, y) == QColor(128, 128, 128) ? 1 : 0;
+            }
+        }
+        return count;
+    }
+
+    const QTemporaryDir home;
+    QProcess process;
+};
+
+TEST_F(Program, ShowsAGreyPictureAtItsStart)
+{
+    start();
+    // The preview is 300 wide at least, and the picture of 300 x 200 fitted into it with a margin of 1 percent.
+    EXPECT_TRUE(QTest::qWaitFor([] { return greyPixels() > 297 * 197; }, 10000)) << greyPixels();
+    EXPECT_TRUE(logged().contains("Preview Width:  300"));
+    EXPECT_TRUE(logged().contains("Preview Height:  200"));
+    end();
+}
+
+TEST_F(Program, OpensNoFileOfItsCommandLine)
+{
+    const QString path = home.filePath(QStringLiteral("a.png"));
+    painted(8, 4, 8, [](int, int) { return Samples{}; }).write(path.toStdString());
+    start({path});
+    ASSERT_TRUE(waitForLog("Max Texture Size"));
+    QTest::qWait(300);
+    EXPECT_FALSE(logged().contains("LumioImage"));
+    end();
+}
+
+TEST_F(Program, AppendsToTheLogOfEarlierRuns)
+{
+    start();
+    ASSERT_TRUE(waitForLog("Max Texture Size"));
+    end();
+    const QByteArray first = logged();
+    start();
+    ASSERT_TRUE(waitForLog("Max Texture Size", 2));
+    end();
+    EXPECT_TRUE(logged().startsWith(first));
+}
+
+// The toolkit crashes when it paints a window with an OpenGL widget and no OpenGL: the window must be gone by then.
+TEST_F(Program, TellsThatThereIsNoOpenGLAndDoesNotCrash)
+{
+    setEnvironment(QStringLiteral("QT_XCB_GL_INTEGRATION"), QStringLiteral("none"));
+    start();
+    ASSERT_TRUE(waitForLog("Critical: There is no OpenGL on this display."));
+    QTest::qWait(1000);
+    EXPECT_EQ(process.state(), QProcess::Running) << "it should wait for an answer to its message box";
+    end();
+}
+
+} // namespace

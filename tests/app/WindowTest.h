@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/MainWindow.h"
+#include "tests/support/GuiTest.h"
+
+#include <QStackedLayout>
+#include <QStatusBar>
+#include <QTest>
+
+#include <cstdint>
+#include <stdexcept>
+#include <vector>
+
+namespace grisal::test
+{
+
+/// A test of the program's window.
+class WindowTest : public GuiTest
+{
+protected:
+    /// Shows the window with a placeholder of 300 x 200 mid-grey pixels, as the program does at its start. The test ends
+    /// where there are no graphics.
+    void start()
+    {
+        window.show();
+        window.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window)) {
+            throw std::runtime_error("the window does not come to the front");
+        }
+        if (!window.graphicsProblem().isEmpty()) {
+            throw std::runtime_error(window.graphicsProblem().toStdString());
+        }
+        const std::vector<std::uint8_t> grey(std::size_t{300} * 200 * 3, 128);
+        window.loadBuffer(grey.data(), 300, 200, false);
+    }
+
+    ui::GLWidget &preview() { return child<ui::GLWidget>(window, "glWidgetPreview"); }
+
+    QStackedLayout &panels()
+    {
+        const QWidget &container = child<QWidget>(window, "container");
+        return *container.findChild<QStackedLayout *>();
+    }
+
+    /// Class name of the panel that is shown.
+    std::string shownPanel() { return panels().currentWidget()->metaObject()->className(); }
+
+    std::string status() { return child<QStatusBar>(window, "statusbar").currentMessage().toStdString(); }
+
+    QAction &action(const char *name) { return child<QAction>(window, name); }
+
+    ui::MainWindow window;
+};
+
+} // namespace grisal::test

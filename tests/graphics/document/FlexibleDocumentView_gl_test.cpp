@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/document/FlexibleDocumentView.h"
+
+#include "graphics/document/Document.h"
+#include "tests/support/FilterRun.h"
+#include "tests/support/GlTest.h"
+
+#include <array>
+#include <memory>
+#include <utility>
+
+namespace grisal::test
+{
+
+namespace
+{
+
+using graphics::FlexibleDocumentView;
+using graphics::RenderTarget;
+
+using Matrix = std::array<float, 16>;
+
+class FlexibleDocumentViewTest : public GlTest
+{
+};
+
+/// A view of a picture of 30 x 20 in a viewport of 200 x 100.
+FlexibleDocumentView smallView()
+{
+    return {200, 100, 30, 20, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE};
+}
+
+Matrix matrix(GLenum name)
+{
+    Matrix values{};
+    glGetFloatv(name, values.data());
+    return values;
+}
+
+std::array<GLint, 4> viewport()
+{
+    std::array<GLint, 4> values{};
+    glGetIntegerv(GL_VIEWPORT, values.data());
+    return values;
+}
+
+/// Where a picture point lands in the viewport, in pixels.
+std::pair<double, double> landing(double x, double y)
+{
+    std::array<double, 16> modelView{};
+    std::array<double, 16> projection{};
+    glGetDoublev(GL_MODELVIEW_MATRIX, modelView.data());
+    glGetDoublev(GL_PROJECTION_MATRIX, projection.data());
+    double windowX = 0;
+    double windowY = 0;
+    double windowZ = 0;
+    gluProject(x, y, 0, modelView.data(), projection.data(), viewport().data(), &windowX, &windowY, &windowZ);
+    return {windowX, windowY};
+}
+
+} // namespace
+
+TEST_F(FlexibleDocumentViewTest, StartsInTheMiddleAtOneToOne)
+{
+    const FlexibleDocumentView view = smallView();
+
+    EXPECT_EQ(view.scale(), 1.0F);
+    EXPECT_EQ(view.offsetX(), 100.0F);
+    EXPECT_EQ(view.offsetY(), 50.0F);
+    EXPECT_EQ(view.viewportWidth(), 200.0F);
+    EXPECT_EQ(view.viewportHeight(), 100.0F);
+}
+
+TEST_F(FlexibleDocumentViewTest, ItsTargetHasTheTruncatedSizeAndTheFormatOfThePicture)
+{
+    const FlexibleDocumentView view(200, 100, 30.9F, 20.9F, GL_RGB16, GL_RGB, GL_UNSIGNED_SHORT);
+
+    std::array<GLint, 3> found{};
+    glBindTexture(GL_TEXTURE_2D, view.target().texture);
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &found[0]);
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_HEIGHT, &found[1]);
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_INTERNAL_FORMAT, &found[2]);
+    glBindTexture(GL_TEXTURE_2D, 0);
+    EXPECT_EQ(found, (std::array<GLint, 3>{30, 20, GL_RGB16}));
+}
+
+TEST_F(FlexibleDocumentViewTest, ItsTargetGoesWithIt)
+{
+    auto view = std::make_unique<FlexibleDocumentView>(200.0F, 100.0F, 30.0F, 20.0F, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE);
+    const graphics::FramebufferObject target = view->target();
+    ASSERT_TRUE(glIsFramebuffer(target.framebuffer));
+
+    view.reset();
+
+    EXPECT_FALSE(glIsTexture(target.texture));
+    EXPECT_FALSE(glIsRenderbuffer(target.renderbuffer));
+    EXPECT_FALSE(glIsFramebuffer(target.framebuffer));
+}
+
+TEST_F(FlexibleDocumentViewTest, SetupCoversTheViewport)
+{
+    FlexibleDocumentView view = smallView();
+
+    view.setup();
+
+    EXPECT_EQ(viewport(), (std::array<GLint, 4>{0, 0, 200, 100}));
+    EXPECT_EQ(matrix(GL_PROJECTION_MATRIX), (Matrix{0.01F, 0, 0, 0, 0, 0.02F, 0, 0, 0, 0, -1, 0, -1, -1, 0, 1}));
+}
+
+TEST_F(FlexibleDocumentViewTest, ABrokenViewportIsTruncatedForTheWindowOnly)
+{
+    FlexibleDocumentView view = smallView();
+    view.setViewportSize(160.75F, 80.5F);
+
+    view.setup();
+
+    EXPECT_EQ(viewport(), (std::array<GLint, 4>{0, 0, 160, 80}));
+    EXPECT_FLOAT_EQ(matrix(GL_PROJECTION_MATRIX)[0], 2 / 160.75F);
+    EXPECT_FLOAT_EQ(matrix(GL_PROJECTION_MATRIX)[5], 2 / 80.5F);
+}
+
+// A picture has no depth to scale: the z factor is 0.
+TEST_F(FlexibleDocumentViewTest, SetupMovesAndScalesThePictureFlat)
+{
+    FlexibleDocumentView view = smallView();
+    view.setOffset(70, 40);
+    view.setScale(2.5F);
+
+    view.setup();
+
+    // 70 - 2.5 * 15 and 40 - 2.5 * 10
+    EXPECT_EQ(matrix(GL_MODELVIEW_MATRIX), (Matrix{2.5F, 0, 0, 0, 0, 2.5F, 0, 0, 0, 0, 0, 0, 32.5F, 15, 0, 1}));
+}
+
+TEST_F(FlexibleDocumentViewTest, SetupStartsAfreshEveryTime)
+{
+    FlexibleDocumentView view = smallView();
+    view.setup();
+    const Matrix first = matrix(GL_MODELVIEW_MATRIX);
+
+    view.setup();
+
+    EXPECT_EQ(matrix(GL_MODELVIEW_MATRIX), first);
+}
+
+TEST_F(FlexibleDocumentViewTest, APointLandsAtTheOffsetPlusItsScaledDistanceFromTheMiddle)
+{
+    FlexibleDocumentView view = smallView();
+    view.setOffset(70, 40);
+    view.setScale(2);
+    view.setup();
+
+    const auto [middleX, middleY] = landing(15, 10);
+    EXPECT_NEAR(middleX, 70, 1e-4);
+    EXPECT_NEAR(middleY, 40, 1e-4);
+    const auto [firstX, firstY] = landing(0, 0);
+    EXPECT_NEAR(firstX, 70 - 2 * 15, 1e-4);
+    EXPECT_NEAR(firstY, 40 - 2 * 10, 1e-4);
+    const auto [someX, someY] = landing(22, 4);
+    EXPECT_NEAR(someX, 70 + 2 * (22 - 15), 1e-4);
+    EXPECT_NEAR(someY, 40 + 2 * (4 - 10), 1e-4);
+}
+
+TEST_F(FlexibleDocumentViewTest, TheDrawnPictureCoversThosePixels)
+{
+    const RenderTarget screen(200, 100, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+    FlexibleDocumentView view = smallView();
+    view.setup();
+    glBindFramebuffer(GL_FRAMEBUFFER, screen.record().framebuffer);
+    glClear(GL_COLOR_BUFFER_BIT);
+    glColor3f(1, 1, 1);
+
+    glRecti(0, 0, 30, 20);
+
+    // 100 - 15 to 100 + 15 and 50 - 10 to 50 + 10
+    const BytePixels pixels = readBytes(screen.record(), 200, 100);
+    EXPECT_EQ(pixels.at(85, 40, 0), 255);
+    EXPECT_EQ(pixels.at(114, 59, 0), 255);
+    EXPECT_EQ(pixels.at(84, 40, 0), 0);
+    EXPECT_EQ(pixels.at(85, 39, 0), 0);
+    EXPECT_EQ(pixels.at(115, 59, 0), 0);
+    EXPECT_EQ(pixels.at(114, 60, 0), 0);
+}
+
+TEST_F(FlexibleDocumentViewTest, CentringTakesHalfTheViewport)
+{
+    FlexibleDocumentView view = smallView();
+    view.setOffset(3, 4);
+    view.setViewportSize(640, 481);
+
+    view.centre();
+
+    EXPECT_EQ(view.offsetX(), 320.0F);
+    EXPECT_EQ(view.offsetY(), 240.5F);
+}
+
+TEST_F(FlexibleDocumentViewTest, AnotherViewportAloneMovesNothing)
+{
+    FlexibleDocumentView view = smallView();
+
+    view.setViewportSize(640, 480);
+
+    EXPECT_EQ(view.offsetX(), 100.0F);
+    EXPECT_EQ(view.offsetY(), 50.0F);
+}
+
+TEST_F(FlexibleDocumentViewTest, ADocumentHandsOutTheViewItWasGiven)
+{
+    FlexibleDocumentView view = smallView();
+    graphics::DocumentFilterQueue queue;
+    graphics::Document document(0, &queue);
+
+    document.setView(&view);
+
+    EXPECT_EQ(document.view(), &view);
+}
+
+} // namespace grisal::test

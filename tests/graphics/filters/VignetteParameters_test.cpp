@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/filters/VignetteParameters.h"
+
+#include <gtest/gtest.h>
+
+namespace grisal::graphics
+{
+
+namespace
+{
+
+VignetteParameters centred(float strength, float radius)
+{
+    return {{50, 50, 0}, strength, radius};
+}
+
+} // namespace
+
+TEST(VignetteParametersTest, StartsAtTheFirstPixelWithoutStrength)
+{
+    const VignetteParameters parameters;
+
+    EXPECT_EQ(parameters.center.x, 0);
+    EXPECT_EQ(parameters.center.y, 0);
+    EXPECT_EQ(parameters.center.z, 0);
+    EXPECT_EQ(parameters.strength, 0);
+    EXPECT_EQ(parameters.radius, 0);
+}
+
+TEST(VignetteParametersTest, GrowsWithTheDistanceFromTheCentre)
+{
+    EXPECT_FLOAT_EQ(vignetteValue(centred(50, 100), 1000, 1000, 500, 500), 0);
+    EXPECT_FLOAT_EQ(vignetteValue(centred(50, 100), 1000, 1000, 500, 1000), 0.25F);
+    EXPECT_FLOAT_EQ(vignetteValue(centred(50, 100), 1000, 1000, -500, 500), 0.5F);
+}
+
+// A quarter of the mean of 300 and 100 pixels is 50; 3-4-5: (30, 40) lies 50 from the centre.
+TEST(VignetteParametersTest, ReachesItsStrengthAtItsRadius)
+{
+    EXPECT_FLOAT_EQ(vignetteValue(centred(80, 25), 300, 100, 150 + 30, 50 + 40), 0.8F);
+}
+
+TEST(VignetteParametersTest, GoesOnBeyondItsRadius)
+{
+    EXPECT_FLOAT_EQ(vignetteValue(centred(80, 25), 300, 100, 150 + 100, 50), 1.6F);
+}
+
+TEST(VignetteParametersTest, IsNothingWithoutStrength)
+{
+    EXPECT_EQ(vignetteValue(centred(0, 50), 100, 100, 0, 0), 0);
+    EXPECT_EQ(vignetteValue(centred(-10, 50), 100, 100, 0, 0), 0);
+}
+
+// A radius of 0 would divide by nothing if the strength did not come first.
+TEST(VignetteParametersTest, IsNothingWithoutStrengthOrRadius)
+{
+    EXPECT_EQ(vignetteValue(centred(0, 0), 100, 100, 50, 50), 0);
+}
+
+} // namespace grisal::graphics

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/gl/Framebuffers.h"
+
+#include <gtest/gtest.h>
+
+namespace grisal::graphics
+{
+
+TEST(FramebufferStatusTextTest, ThreeStatesHaveATextEach)
+{
+    EXPECT_STREQ(framebufferStatusText(GL_FRAMEBUFFER_INCOMPLETE_ATTACHMENT),
+                 "Failed to create Framebuffer: Broken attachment");
+    EXPECT_STREQ(framebufferStatusText(GL_FRAMEBUFFER_INCOMPLETE_MISSING_ATTACHMENT),
+                 "Failed to create Framebuffer: Incomplete attachment");
+    EXPECT_STREQ(framebufferStatusText(GL_FRAMEBUFFER_UNSUPPORTED),
+                 "Failed to create Framebuffer: GL_FRAMEBUFFER_ARB not supported");
+}
+
+TEST(FramebufferStatusTextTest, NothingIsSaidAboutACompleteFramebuffer)
+{
+    EXPECT_EQ(framebufferStatusText(GL_FRAMEBUFFER_COMPLETE), nullptr);
+}
+
+// Only the three states above are worth a line: the log stays free of what drivers report for passing reasons.
+TEST(FramebufferStatusTextTest, NothingIsSaidAboutAnyOtherState)
+{
+    EXPECT_EQ(framebufferStatusText(GL_FRAMEBUFFER_INCOMPLETE_DIMENSIONS_EXT), nullptr);
+    EXPECT_EQ(framebufferStatusText(GL_FRAMEBUFFER_INCOMPLETE_DRAW_BUFFER), nullptr);
+    EXPECT_EQ(framebufferStatusText(GL_FRAMEBUFFER_INCOMPLETE_MULTISAMPLE), nullptr);
+    EXPECT_EQ(framebufferStatusText(0), nullptr);
+}
+
+TEST(DepthFormatTest, SixteenBitsGoWithSixteenBitColour)
+{
+    EXPECT_EQ(depthFormatFor(GL_RGB16), static_cast<GLenum>(GL_DEPTH_COMPONENT16));
+}
+
+TEST(DepthFormatTest, AnyOtherColourLeavesTheDepthToTheDriver)
+{
+    for (const GLenum colour : {GL_RGB8, GL_RGBA8, GL_RGBA16, GL_RGB16F, GL_R32F}) {
+        EXPECT_EQ(depthFormatFor(colour), static_cast<GLenum>(GL_DEPTH_COMPONENT)) << colour;
+    }
+}
+
+// Owners and readers of records count on this order.
+TEST(FramebufferObjectTest, IsThreeNamesInAFixedOrder)
+{
+    const FramebufferObject record{1, 2, 3};
+
+    EXPECT_EQ(record.texture, 1U);
+    EXPECT_EQ(record.renderbuffer, 2U);
+    EXPECT_EQ(record.framebuffer, 3U);
+    EXPECT_EQ(sizeof(record), 3 * sizeof(std::uint32_t));
+}
+
+} // namespace grisal::graphics

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/render/FinalRender.h"
+
+#include "graphics/document/DocumentFilterQueue.h"
+#include "graphics/document/FlexibleDocumentView.h"
+#include "graphics/filters/FilterSet.h"
+#include "tests/support/GlTest.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/PictureCompare.h"
+
+#include <memory>
+
+namespace
+{
+
+using namespace grisal::graphics;
+using namespace grisal::test;
+
+class FinalRenderTest : public GlTest
+{
+protected:
+    void SetUp() override
+    {
+        GlTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        view = std::make_unique<FlexibleDocumentView>(8, 8, 8, 8, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE);
+        filters = std::make_unique<FilterSet>();
+        filters->mixer.enabled = true;
+    }
+
+    void TearDown() override
+    {
+        view.reset();
+        filters.reset();
+        GlTest::TearDown();
+    }
+
+    std::unique_ptr<FlexibleDocumentView> view;
+    std::unique_ptr<FilterSet> filters;
+    FilterParameters parameters;
+};
+
+// Split toning before the grain: the preview has them the other way round, and files have always been made like this.
+TEST_F(FinalRenderTest, QueueHasSplitToningBeforeTheGrain)
+{
+    DocumentFilterQueue queue;
+    addFinalFilters(queue, *filters);
+    std::vector<std::string> names;
+    for (const IFilter *filter : queue.filters()) {
+        names.push_back(filter->getName());
+    }
+    EXPECT_EQ(names, (std::vector<std::string>{"MixerFilter", "CurveFilter", "HalfToneFilter", "GrainFilter",
+                                               "VignetteFilter"}));
+}
+
+TEST_F(FinalRenderTest, RendersInPlaceWithTheParameters)
+{
+    BytePixels picture(2, 1, 3, {200, 0, 0, 0, 100, 0});
+    parameters.mixerWeights = {0.5F, 1, 0};
+    EXPECT_TRUE(renderFinalPicture({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view));
+    EXPECT_EQ(picture.values, (std::vector<std::uint8_t>{100, 100, 100, 100, 100, 100}));
+}
+
+TEST_F(FinalRenderTest, KeepsTheFourthComponent)
+{
+    WordPixels picture(1, 2, 4, {65535, 0, 0, 7, 0, 65535, 0, 60000});
+    parameters.mixerWeights = {1, 0, 0};
+    EXPECT_TRUE(renderFinalPicture({picture.values.data(), 1, 2, true, true}, parameters, *filters, *view));
+    EXPECT_EQ(picture.values, (std::vector<std::uint16_t>{65535, 65535, 65535, 7, 0, 0, 0, 60000}));
+}
+
+TEST_F(FinalRenderTest, GivesTheFiltersTheirSizesBack)
+{
+    filters->setSize(12, 8);
+    filters->setPictureSize(12, 8);
+    BytePixels picture = rampPicture<std::uint8_t>(2049, 5);
+    EXPECT_TRUE(renderFinalPicture({picture.values.data(), 2049, 5, false, false}, parameters, *filters, *view));
+    EXPECT_EQ(filters->mixer.width, 12);
+    EXPECT_EQ(filters->grain.height, 8);
+    EXPECT_EQ(filters->vignette.maxWidth, 12);
+    EXPECT_EQ(filters->vignette.maxHeight, 8);
+}
+
+TEST_F(FinalRenderTest, LogsSizesPlanAndValueRange)
+{
+    const LogCapture log;
+    BytePixels picture(2, 1, 3, {200, 200, 200, 40, 40, 40});
+    parameters.mixerWeights = {1, 0, 0};
+    renderFinalPicture({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view);
+    const QStringList lines = log.debugs();
+    EXPECT_EQ(lines.mid(0, 7).join('\n').toStdString(), "X:  2\n"
+                                                        "Y:  1\n"
+                                                        "(INFO) Calculated Width:  4\n"
+                                                        "(INFO) Calculated Height:  4\n"
+                                                        "(INFO) Tile Width:  4\n"
+                                                        "(INFO) Tile Height:  4\n"
+                                                        "HalfTone Weight:  1");
+    EXPECT_EQ(lines.mid(lines.size() - 2).join('\n').toStdString(), "Final vmin:  40\nFinal vmax:  200");
+}
+
+TEST_F(FinalRenderTest, BlursTheNoiseWithTheRadiusOfThePanel)
+{
+    BytePixels picture(1, 1, 3, {1, 2, 3});
+    parameters.grainRadius = 2.5F;
+    renderFinalPicture({picture.values.data(), 1, 1, false, false}, parameters, *filters, *view);
+    EXPECT_EQ(filters->grain.sigma(), 2.5F);
+}
+
+} // namespace

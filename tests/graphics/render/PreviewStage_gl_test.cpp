@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/render/PreviewStage.h"
+
+#include "graphics/filters/FilterSet.h"
+#include "graphics/image/PreviewPixels.h"
+#include "tests/support/FilterRun.h"
+#include "tests/support/GlTest.h"
+#include "tests/support/PictureCompare.h"
+
+#include <memory>
+
+namespace
+{
+
+using namespace grisal::graphics;
+using namespace grisal::test;
+
+class PreviewStageTest : public GlTest
+{
+protected:
+    void SetUp() override
+    {
+        GlTest::SetUp();
+        if (!IsSkipped() && !HasFatalFailure()) {
+            stage = std::make_unique<PreviewStage>();
+        }
+    }
+
+    void TearDown() override
+    {
+        stage.reset();
+        GlTest::TearDown();
+    }
+
+    void load(const BytePixels &picture)
+    {
+        const PreviewPixels pixels{picture.width, picture.height, picture.values, {}};
+        stage->load(pixels, pixelFormatsFor(false, false), 100, 100);
+    }
+
+    BytePixels shown(int width, int height)
+    {
+        stage->preview()->render();
+        return readTexture(stage->preview()->output(), width, height);
+    }
+
+    std::unique_ptr<PreviewStage> stage;
+};
+
+TEST_F(PreviewStageTest, HasNothingBeforeTheFirstLoad)
+{
+    EXPECT_EQ(stage->preview(), nullptr);
+    EXPECT_EQ(stage->filters(), nullptr);
+    std::uint8_t pixel[3] = {1, 2, 3};
+    EXPECT_FALSE(stage->renderFinal({pixel, 1, 1, false, false}));
+    EXPECT_EQ(pixel[0], 1);
+}
+
+TEST_F(PreviewStageTest, RefusesAFinalPictureWithoutPixels)
+{
+    load(rampPicture<std::uint8_t>(4, 4));
+    EXPECT_FALSE(stage->renderFinal({nullptr, 4, 4, false, false}));
+    std::uint8_t pixel[3] = {};
+    EXPECT_FALSE(stage->renderFinal({pixel, 0, 4, false, false}));
+}
+
+TEST_F(PreviewStageTest, ALoadSwitchesTheMixerOnAndTheOthersOff)
+{
+    load(rampPicture<std::uint8_t>(4, 4));
+    const FilterSet &filters = *stage->filters();
+    stage->filters()->curve.enabled = true;
+    stage->filters()->mixer.enabled = false;
+    load(rampPicture<std::uint8_t>(8, 4));
+    EXPECT_TRUE(filters.mixer.enabled);
+    EXPECT_FALSE(filters.curve.enabled);
+    EXPECT_FALSE(filters.splitTone.enabled);
+    EXPECT_FALSE(filters.grain.enabled);
+    EXPECT_FALSE(filters.vignette.enabled);
+    EXPECT_EQ(filters.curve.width, 8);
+    EXPECT_EQ(filters.vignette.maxWidth, 8);
+}
+
+TEST_F(PreviewStageTest, ParametersSetBeforeTheFirstLoadReachTheFilters)
+{
+    stage->setMixer({0.1F, 0.2F, 0.3F});
+    stage->setVignette(10, 20, 30, 40, true);
+    stage->setSplitTone(0.8F, {1, 0, 0}, {0, 1, 0});
+    load(rampPicture<std::uint8_t>(4, 4));
+    const FilterSet &filters = *stage->filters();
+    EXPECT_EQ(filters.mixer.weights, (ColorRGB<float>{0.1F, 0.2F, 0.3F}));
+    EXPECT_EQ(filters.vignette.parameters.center.y, 20);
+    EXPECT_EQ(filters.vignette.parameters.radius, 30);
+    EXPECT_EQ(filters.vignette.parameters.strength, 40);
+    EXPECT_EQ(filters.splitTone.weight, 0.8F);
+    EXPECT_EQ(filters.splitTone.secondColor, (ColorRGB<float>{0, 1, 0}));
+}
+
+TEST_F(PreviewStageTest, NoiseIsBlurredAtThreeAtALoadAndAtThePanelsRadiusAfterwards)
+{
+    load(rampPicture<std::uint8_t>(4, 4));
+    EXPECT_EQ(stage->filters()->grain.sigma(), 3.0F);
+    stage->setGrain(QVector<float>(256, 1.0F), 0.5F);
+    EXPECT_EQ(stage->filters()->grain.sigma(), 0.5F);
+}
+
+// The mixer brings the source in and, being enabled, runs over its own result once more: with weights that sum to 1
+// nobody sees it, with others the preview is brighter or darker than the file. Users know the preview like this.
+TEST_F(PreviewStageTest, TheMixerRunsTwiceInThePreviewAndOnceInTheFile)
+{
+    BytePixels white(4, 4, 3, std::vector<std::uint8_t>(48, 255));
+    load(white);
+    stage->setMixer({0.5F, 0, 0});
+    EXPECT_EQ(shown(4, 4).at(0, 0, 0), 64);
+    EXPECT_TRUE(stage->renderFinal({white.values.data(), 4, 4, false, false}));
+    EXPECT_EQ(white.at(0, 0, 0), 128);
+}
+
+TEST_F(PreviewStageTest, APreview2250PixelsWideComesOutPixelForPixel)
+{
+    const auto picture = rampPicture<std::uint8_t>(2250, 3);
+    load(picture);
+    stage->setMixer({1, 0, 0});
+    BytePixels expected = picture;
+    for (int y = 0; y < 3; ++y) {
+        for (int x = 0; x < 2250; ++x) {
+            expected.at(x, y, 1) = expected.at(x, y, 2) = picture.at(x, y, 0);
+        }
+    }
+    EXPECT_TRUE(picturesNear("2250 wide", shown(2250, 3), expected));
+}
+
+TEST_F(PreviewStageTest, SixteenBitPreviewsTakeWords)
+{
+    const PreviewPixels pixels{2, 1, {}, {65535, 0, 0, 32896, 0, 0}};
+    stage->load(pixels, pixelFormatsFor(true, false), 10, 10);
+    stage->setMixer({1, 0, 0});
+    EXPECT_EQ(shown(2, 1).values, (std::vector<std::uint8_t>{255, 255, 255, 128, 128, 128}));
+}
+
+/// How many textures there are. Names count upwards, so that the newest tells how far to look.
+int liveTextures()
+{
+    const Texture newest(createTexture(1, 1, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE, nullptr));
+    int count = 0;
+    for (GLuint name = 1; name < newest.name(); ++name) {
+        count += glIsTexture(name) == GL_TRUE ? 1 : 0;
+    }
+    return count;
+}
+
+TEST_F(PreviewStageTest, AThousandSliderMovesLeaveNoTexturesBehind)
+{
+    load(rampPicture<std::uint8_t>(4, 4));
+    stage->setGrain(QVector<float>(256, 0.5F), 0.1F);
+    const int before = liveTextures();
+    const QVector<float> values(256, 0.5F);
+    for (int i = 0; i < 1000; ++i) {
+        stage->setCurve(values);
+        stage->filters()->grain.setWeights(values);
+    }
+    EXPECT_EQ(liveTextures(), before);
+}
+
+TEST_F(PreviewStageTest, FiftyPicturesLeaveNoTexturesBehind)
+{
+    const auto picture = rampPicture<std::uint8_t>(64, 64);
+    load(picture);
+    const int before = liveTextures();
+    for (int i = 0; i < 50; ++i) {
+        load(picture);
+    }
+    EXPECT_EQ(liveTextures(), before);
+}
+
+} // namespace

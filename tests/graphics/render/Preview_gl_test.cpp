@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/render/Preview.h"
+
+#include "graphics/filters/FilterSet.h"
+#include "graphics/image/PreviewPixels.h"
+#include "tests/support/FilterRun.h"
+#include "tests/support/GlTest.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/PictureCompare.h"
+#include "tests/support/ReferencePictures.h"
+
+#include <string>
+
+namespace grisal::test
+{
+
+namespace
+{
+
+using graphics::FilterSet;
+using graphics::PixelFormats;
+using graphics::pixelFormatsFor;
+using graphics::Preview;
+using graphics::PreviewPixels;
+
+class PreviewTest : public GlTest
+{
+};
+
+PreviewPixels previewPixels(const BytePixels &picture)
+{
+    PreviewPixels pixels;
+    pixels.width = picture.width;
+    pixels.height = picture.height;
+    pixels.bytes = picture.values;
+    return pixels;
+}
+
+std::vector<std::string> namesIn(const graphics::DocumentFilterQueue &queue)
+{
+    std::vector<std::string> names;
+    for (const graphics::IFilter *filter : queue.filters()) {
+        names.push_back(filter->getName());
+    }
+    return names;
+}
+
+GLint sizeParameter(GLuint texture, GLenum name)
+{
+    GLint value = 0;
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, name, &value);
+    glBindTexture(GL_TEXTURE_2D, 0);
+    return value;
+}
+
+} // namespace
+
+TEST(PixelFormatsTest, FollowDepthAndAlpha)
+{
+    struct Row {
+        bool sixteenBit;
+        bool alpha;
+        GLenum type;
+        GLenum internalFormat;
+        GLenum format;
+    };
+    for (const Row &row :
+         {Row{false, false, GL_UNSIGNED_BYTE, GL_RGB8, GL_RGB}, Row{false, true, GL_UNSIGNED_BYTE, GL_RGBA8, GL_RGBA},
+          Row{true, false, GL_UNSIGNED_SHORT, GL_RGB16, GL_RGB},
+          Row{true, true, GL_UNSIGNED_SHORT, GL_RGBA16, GL_RGBA}}) {
+        const PixelFormats formats = pixelFormatsFor(row.sixteenBit, row.alpha);
+
+        EXPECT_EQ(formats.pixelType, row.type) << row.sixteenBit << row.alpha;
+        EXPECT_EQ(formats.internalFormat, row.internalFormat) << row.sixteenBit << row.alpha;
+        EXPECT_EQ(formats.pixelFormat, row.format) << row.sixteenBit << row.alpha;
+    }
+}
+
+// Unlike in the saved picture, grain comes before split toning.
+TEST_F(PreviewTest, ItsFiltersComeInTheOrderOfThePreview)
+{
+    FilterSet filters;
+    graphics::DocumentFilterQueue queue;
+
+    addPreviewFilters(queue, filters);
+
+    EXPECT_EQ(namesIn(queue), (std::vector<std::string>{"MixerFilter", "CurveFilter", "GrainFilter", "HalfToneFilter",
+                                                        "VignetteFilter"}));
+}
+
+TEST_F(PreviewTest, AnEmptyQueueShowsThePicture)
+{
+    const BytePixels picture = rampPicture<std::uint8_t>(12, 8);
+    Preview preview(previewPixels(picture), pixelFormatsFor(false, false), 80, 60);
+
+    preview.render();
+
+    EXPECT_EQ(preview.output(), preview.document().source());
+    EXPECT_TRUE(picturesNear("preview-source", readTexture(preview.output(), 12, 8), picture));
+}
+
+TEST_F(PreviewTest, FormatsWithAlphaStillTakeThreeComponents)
+{
+    const BytePixels picture = rampPicture<std::uint8_t>(12, 8);
+    const LogCapture log;
+
+    Preview preview(previewPixels(picture), pixelFormatsFor(false, true), 80, 60);
+
+    preview.render();
+    EXPECT_TRUE(picturesNear("preview-alpha", readTexture(preview.output(), 12, 8), picture));
+    EXPECT_EQ(log.warnings(), QStringList());
+}
+
+TEST_F(PreviewTest, SixteenBitsKeepTheirDepth)
+{
+    PreviewPixels pixels;
+    pixels.width = 4;
+    pixels.height = 4;
+    pixels.words = rampPicture<std::uint16_t>(4, 4).values;
+
+    Preview preview(pixels, pixelFormatsFor(true, false), 80, 60);
+
+    EXPECT_EQ(sizeParameter(preview.document().source(), GL_TEXTURE_INTERNAL_FORMAT), GL_RGB16);
+    EXPECT_EQ(sizeParameter(preview.view().target().texture, GL_TEXTURE_INTERNAL_FORMAT), GL_RGB16);
+}
+
+TEST_F(PreviewTest, TheViewHasThePicturesSizeAndSitsInTheMiddle)
+{
+    Preview preview(previewPixels(rampPicture<std::uint8_t>(12, 8)), pixelFormatsFor(false, false), 80, 60);
+
+    EXPECT_EQ(sizeParameter(preview.view().target().texture, GL_TEXTURE_WIDTH), 12);
+    EXPECT_EQ(sizeParameter(preview.view().target().texture, GL_TEXTURE_HEIGHT), 8);
+    EXPECT_EQ(preview.view().offsetX(), 40.0F);
+    EXPECT_EQ(preview.view().offsetY(), 30.0F);
+    EXPECT_EQ(preview.document().view(), &preview.view());
+}
+
+TEST_F(PreviewTest, TheQueueRunsOverThePicture)
+{
+    const BytePixels picture = rampPicture<std::uint8_t>(12, 8);
+    Preview preview(previewPixels(picture), pixelFormatsFor(false, false), 80, 60);
+    FilterSet filters;
+    filters.setSize(12, 8);
+    filters.mixer.weights = {0, 1, 0};
+    filters.mixer.enabled = true;
+    addPreviewFilters(preview.queue(), filters);
+
+    preview.render();
+
+    BytePixels green = picture;
+    for (std::size_t i = 0; i < green.values.size(); i += 3) {
+        green.values[i] = green.values[i + 2] = green.values[i + 1];
+    }
+    EXPECT_TRUE(picturesNear("preview-green", readTexture(preview.output(), 12, 8), green));
+}
+
+TEST_F(PreviewTest, EverythingGoesWithIt)
+{
+    GLuint source = 0;
+    GLuint target = 0;
+    {
+        Preview preview(previewPixels(rampPicture<std::uint8_t>(12, 8)), pixelFormatsFor(false, false), 80, 60);
+        source = preview.document().source();
+        target = preview.view().target().texture;
+        ASSERT_TRUE(glIsTexture(source));
+        ASSERT_TRUE(glIsTexture(target));
+    }
+    EXPECT_FALSE(glIsTexture(source));
+    EXPECT_FALSE(glIsTexture(target));
+}
+
+} // namespace grisal::test

@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: MIT
+//
+// Both queues from end to end against a second computation of the same formulas without a GPU.
+#include "graphics/filters/FilterSet.h"
+#include "graphics/image/PreviewPixels.h"
+#include "graphics/render/PreviewStage.h"
+#include "resources/sample-picture/Scene.h"
+#include "tests/support/FilterRun.h"
+#include "tests/support/GlTest.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/PictureCompare.h"
+#include "tests/support/ReferenceRenderer.h"
+
+#include <QFile>
+
+#include <cmath>
+#include <memory>
+
+namespace
+{
+
+using namespace grisal::graphics;
+using namespace grisal::test;
+using reference::Look;
+
+constexpr double oneInTenThousand = 0.0001;
+
+struct Case {
+    const char *name;
+    Look look;
+};
+
+QVector<float> sCurve()
+{
+    QVector<float> curve(256);
+    for (int i = 0; i < 256; ++i) {
+        const float x = static_cast<float>(i) / 256;
+        curve[i] = x * x * (3 - 2 * x);
+    }
+    return curve;
+}
+
+QVector<float> strongestInTheMiddle()
+{
+    QVector<float> weights(256);
+    for (int i = 0; i < 256; ++i) {
+        weights[i] = 0.7F - std::abs(static_cast<float>(i) / 256 - 0.5F);
+    }
+    return weights;
+}
+
+FilterParameters strongParameters()
+{
+    FilterParameters parameters;
+    // The weights of a look: in 255ths no sum of bytes lies exactly between two levels.
+    parameters.mixerWeights = {64 / 255.0F, 89 / 255.0F, 102 / 255.0F};
+    parameters.curve = sCurve();
+    parameters.grainWeights = strongestInTheMiddle();
+    parameters.grainRadius = 1.5F;
+    parameters.vignetteX = 35;
+    parameters.vignetteY = 60;
+    parameters.vignetteRadius = 80;
+    parameters.vignetteStrength = 55;
+    parameters.splitWeight = 0.9F;
+    return parameters;
+}
+
+Case named(const char *name, bool curve, bool splitTone, bool grain, bool vignette)
+{
+    return {name, {strongParameters(), true, curve, splitTone, grain, vignette}};
+}
+
+std::vector<Case> everyFilterAloneAndAllTogether()
+{
+    return {named("mixer", false, false, false, false),     named("curve", true, false, false, false),
+            named("split tone", false, true, false, false), named("grain", false, false, true, false),
+            named("vignette", false, false, false, true),   named("all", true, true, true, true)};
+}
+
+BytePixels noiseMap()
+{
+    QFile file(QStringLiteral(":/Icons/Icons/noiseMap_512x512x3.raw"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    return {512, 512, 3, {bytes.begin(), bytes.end()}};
+}
+
+struct Size {
+    int width;
+    int height;
+};
+
+class WholeChain : public GlTest, public testing::WithParamInterface<Size>
+{
+protected:
+    void SetUp() override
+    {
+        GlTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        noise = reference::blurredNoise(noiseMap(), strongParameters().grainRadius);
+        stage = std::make_unique<PreviewStage>();
+    }
+
+    void TearDown() override
+    {
+        stage.reset();
+        GlTest::TearDown();
+    }
+
+    int width() const { return GetParam().width; }
+    int height() const { return GetParam().height; }
+
+    WordPixels sample() const { return {width(), height(), 3, grisal::sample::paintScene(width(), height())}; }
+
+    BytePixels sampleBytes() const
+    {
+        return {width(), height(), 3, grisal::sample::asBytes(grisal::sample::paintScene(width(), height()))};
+    }
+
+    void apply(const Look &look)
+    {
+        const FilterParameters &p = look.parameters;
+        stage->setMixer(p.mixerWeights);
+        stage->setCurve(p.curve);
+        stage->setSplitTone(p.splitWeight, p.highlightTint, p.shadowTint);
+        stage->setGrain(p.grainWeights, p.grainRadius);
+        stage->setVignette(p.vignetteX, p.vignetteY, p.vignetteRadius, p.vignetteStrength, false);
+        FilterSet &filters = *stage->filters();
+        filters.mixer.enabled = look.mixer;
+        filters.curve.enabled = look.curve;
+        filters.splitTone.enabled = look.splitTone;
+        filters.grain.enabled = look.grain;
+        filters.vignette.enabled = look.vignette;
+    }
+
+    void load(const BytePixels &picture)
+    {
+        stage->load({picture.width, picture.height, picture.values, {}}, pixelFormatsFor(false, false), 100, 100);
+    }
+
+    BytePixels preview(const BytePixels &picture, const Look &look)
+    {
+        load(picture);
+        apply(look);
+        stage->preview()->render();
+        return readTexture(stage->preview()->output(), picture.width, picture.height);
+    }
+
+    template <typename T>
+    Pixels<T> file(Pixels<T> picture, const Look &look)
+    {
+        const LogCapture quiet;
+        load(BytePixels(4, 4));
+        apply(look);
+        EXPECT_TRUE(stage->renderFinal({picture.values.data(), picture.width, picture.height, sizeof(T) == 2, false}));
+        return picture;
+    }
+
+    /// Two levels at the worst, and hardly any component apart at all.
+    void expectAlike(const std::string &name, BytePixels actual, const BytePixels &expected, bool tiled)
+    {
+        reference::leaveOutNoiseBoundaries(actual, expected, tiled);
+        EXPECT_TRUE(picturesNear(name, actual, expected, {2, 0}));
+        const auto unequal = static_cast<double>(difference(actual, expected).unequal);
+        EXPECT_LE(unequal, oneInTenThousand * static_cast<double>(actual.values.size())) << name;
+    }
+
+    void expectPreviewAlike(const std::string &picture, const BytePixels &pixels)
+    {
+        for (const auto &[name, look] : everyFilterAloneAndAllTogether()) {
+            expectAlike(picture + ", preview, " + name, preview(pixels, look),
+                        reference::previewOf(pixels, look, noise), false);
+        }
+    }
+
+    template <typename T>
+    void expectFileAlike(const std::string &picture, const Pixels<T> &pixels)
+    {
+        for (const auto &[name, look] : everyFilterAloneAndAllTogether()) {
+            const Pixels<T> expected = reference::fileOf(pixels, look, noise);
+            Pixels<T> actual = file(pixels, look);
+            const std::string title = picture + ", file, " + name;
+            if constexpr (sizeof(T) == 1) {
+                expectAlike(title, actual, expected, true);
+            } else {
+                reference::leaveOutNoiseBoundaries(actual, expected, true);
+                const bool exact = !look.grain && !look.vignette && isLlvmpipe();
+                EXPECT_TRUE(picturesNear(title, actual, expected, {exact ? 0.0 : 100.0, 0}));
+            }
+        }
+    }
+
+    std::unique_ptr<PreviewStage> stage;
+    BytePixels noise;
+};
+
+INSTANTIATE_TEST_SUITE_P(Pictures, WholeChain,
+                         testing::Values(Size{3, 2}, Size{300, 200}, Size{1001, 997}, Size{2049, 1500},
+                                         Size{2055, 2049}),
+                         [](const auto &test) {
+                             return std::to_string(test.param.width) + "x" + std::to_string(test.param.height);
+                         });
+
+TEST_P(WholeChain, PreviewOfARamp)
+{
+    expectPreviewAlike("ramp", rampPicture<std::uint8_t>(width(), height()));
+}
+
+TEST_P(WholeChain, PreviewOfTheSample)
+{
+    expectPreviewAlike("sample", sampleBytes());
+}
+
+TEST_P(WholeChain, EightBitFileOfARamp)
+{
+    expectFileAlike("ramp", rampPicture<std::uint8_t>(width(), height()));
+}
+
+TEST_P(WholeChain, EightBitFileOfTheSample)
+{
+    expectFileAlike("sample", sampleBytes());
+}
+
+TEST_P(WholeChain, SixteenBitFileOfARamp)
+{
+    expectFileAlike("ramp", rampPicture<std::uint16_t>(width(), height()));
+}
+
+TEST_P(WholeChain, SixteenBitFileOfTheSample)
+{
+    expectFileAlike("sample", sample());
+}
+
+} // namespace

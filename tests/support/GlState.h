@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/gl/GL.h"
+
+#include <gtest/gtest.h>
+
+namespace grisal::test
+{
+
+inline GLint glInteger(GLenum name)
+{
+    GLint value = -1;
+    glGetIntegerv(name, &value);
+    return value;
+}
+
+/// The active texture unit, counted from 0.
+inline GLint activeUnit()
+{
+    return glInteger(GL_ACTIVE_TEXTURE) - GL_TEXTURE0;
+}
+
+/// What glGetIntegerv() says about one texture unit; the active unit stays what it is.
+inline GLint glIntegerOfUnit(std::uint32_t unit, GLenum name)
+{
+    const GLint before = glInteger(GL_ACTIVE_TEXTURE);
+    glActiveTexture(GL_TEXTURE0 + unit);
+    const GLint value = glInteger(name);
+    glActiveTexture(static_cast<GLenum>(before));
+    return value;
+}
+
+inline GLint bound2D(std::uint32_t unit)
+{
+    return glIntegerOfUnit(unit, GL_TEXTURE_BINDING_2D);
+}
+
+inline GLint bound1D(std::uint32_t unit)
+{
+    return glIntegerOfUnit(unit, GL_TEXTURE_BINDING_1D);
+}
+
+/// What every pass leaves behind: no program, framebuffer 0, no 2D texture on the source's unit.
+inline void expectPassIsOver()
+{
+    EXPECT_EQ(glInteger(GL_CURRENT_PROGRAM), 0);
+    EXPECT_EQ(glInteger(GL_FRAMEBUFFER_BINDING), 0);
+    EXPECT_EQ(bound2D(graphics::unit::source), 0);
+}
+
+} // namespace grisal::test

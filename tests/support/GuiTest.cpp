@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/GuiTest.h"
+
+#include <QCoreApplication>
+#include <QSettings>
+
+#include <algorithm>
+
+namespace grisal::test
+{
+
+namespace
+{
+
+bool contains(const QStringList &texts, const QString &part)
+{
+    return std::any_of(texts.begin(), texts.end(), [&](const QString &text) { return text.contains(part); });
+}
+
+} // namespace
+
+// Caches stay those of the whole program: the driver that compiles the shaders has noted where they are.
+GuiTest::GuiTest() : m_homeBefore(qgetenv("HOME"))
+{
+    qputenv("HOME", m_home.path().toLocal8Bit());
+    // The toolkit has asked once for the place of the settings; the environment alone does not move them any more.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, inHome(QStringLiteral(".config")));
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
+
+GuiTest::~GuiTest()
+{
+    qputenv("HOME", m_homeBefore);
+}
+
+void GuiTest::TearDown()
+{
+    const QStringList warnings = log.warnings();
+    for (const QString &warning : warnings) {
+        const bool expected = std::any_of(m_expectedWarnings.begin(), m_expectedWarnings.end(),
+                                          [&](const QString &part) { return warning.contains(part); });
+        EXPECT_TRUE(expected) << "unexpected warning: " << warning.toStdString();
+    }
+    for (const QString &part : m_expectedWarnings) {
+        EXPECT_TRUE(contains(warnings, part)) << "missing warning: " << part.toStdString();
+    }
+}
+
+void trigger(const QObject &window, const char *name)
+{
+    auto &action = child<QAction>(window, name);
+    if (!action.isEnabled() || !action.isVisible()) {
+        throw std::runtime_error(std::string("the user cannot reach the action ") + name);
+    }
+    action.trigger();
+}
+
+} // namespace grisal::test

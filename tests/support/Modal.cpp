@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/Modal.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+namespace grisal::test
+{
+
+namespace
+{
+
+constexpr int lookInterval = 10;
+constexpr int limit = 5000;
+
+} // namespace
+
+ModalAnswer::ModalAnswer()
+{
+    QObject::connect(&m_look, &QTimer::timeout, &m_look, [this] { look(); });
+    QObject::connect(&m_limit, &QTimer::timeout, &m_limit, [this] { giveUp(); });
+    m_look.start(lookInterval);
+    m_limit.start(limit);
+}
+
+ModalAnswer::~ModalAnswer()
+{
+    EXPECT_TRUE(m_answered) << "the dialog did not come";
+}
+
+void ModalAnswer::look()
+{
+    QWidget *dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr || !dialog->isVisible()) {
+        return;
+    }
+    // Answering may open the next dialog, with an event loop of its own.
+    m_look.stop();
+    m_answered = answer(*dialog);
+    if (!m_answered) {
+        m_look.start(lookInterval);
+    }
+}
+
+void ModalAnswer::giveUp()
+{
+    if (QWidget *dialog = QApplication::activeModalWidget()) {
+        ADD_FAILURE() << "a dialog stands and waits: " << dialog->windowTitle().toStdString();
+        dialog->close();
+    }
+}
+
+bool MessageBoxAnswer::answer(QWidget &dialog)
+{
+    auto *box = qobject_cast<QMessageBox *>(&dialog);
+    if (box == nullptr) {
+        return false;
+    }
+    title = box->windowTitle();
+    text = box->text();
+    buttons = box->standardButtons();
+    defaultButton = box->standardButton(box->defaultButton());
+    QAbstractButton *button = box->button(m_button);
+    if (button == nullptr) {
+        ADD_FAILURE() << "the box has no such button";
+        box->close();
+        return true;
+    }
+    button->click();
+    return true;
+}
+
+bool FileDialogAnswer::answer(QWidget &dialog)
+{
+    auto *files = qobject_cast<QFileDialog *>(&dialog);
+    if (files == nullptr) {
+        return false;
+    }
+    title = files->windowTitle();
+    directory = files->directory().absolutePath();
+    nameFilters = files->nameFilters();
+    hasParent = files->parentWidget() != nullptr;
+    auto *name = files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    if (m_path.isEmpty() || name == nullptr) {
+        EXPECT_NE(name, nullptr) << "no field to type a path into";
+        files->reject();
+        return true;
+    }
+    name->setText(m_path);
+    QTest::keyClick(name, Qt::Key_Return);
+    return true;
+}
+
+} // namespace grisal::test

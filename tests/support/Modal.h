@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMessageBox>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+
+class QFileDialog;
+
+namespace grisal::test
+{
+
+/// Answers the next modal dialog of one kind, from its making on: make it, then do what opens the dialog. Fails the
+/// test if no such dialog came while it lived, and closes a dialog that still stands after five seconds.
+class ModalAnswer
+{
+public:
+    ModalAnswer();
+    ModalAnswer(const ModalAnswer &) = delete;
+    ModalAnswer &operator=(const ModalAnswer &) = delete;
+    virtual ~ModalAnswer();
+
+protected:
+    /// Reads and closes the dialog; returns false if it is not of the kind.
+    virtual bool answer(QWidget &dialog) = 0;
+
+private:
+    void look();
+    void giveUp();
+
+    QTimer m_look;
+    QTimer m_limit;
+    bool m_answered = false;
+};
+
+/// Presses a button of a message box.
+class MessageBoxAnswer : public ModalAnswer
+{
+public:
+    explicit MessageBoxAnswer(QMessageBox::StandardButton button) : m_button(button) {}
+
+    QString title;
+    QString text;
+    QMessageBox::StandardButtons buttons;
+    QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
+
+protected:
+    bool answer(QWidget &dialog) override;
+
+private:
+    QMessageBox::StandardButton m_button;
+};
+
+/// Types a path into a file dialog and accepts it; cancels for an empty path.
+class FileDialogAnswer : public ModalAnswer
+{
+public:
+    explicit FileDialogAnswer(QString path) : m_path(std::move(path)) {}
+
+    QString title;
+    QString directory;
+    QStringList nameFilters;
+    bool hasParent = false;
+
+protected:
+    bool answer(QWidget &dialog) override;
+
+private:
+    QString m_path;
+};
+
+} // namespace grisal::test

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/ReferenceRenderer.h"
+
+#include "tests/support/HalfFloats.h"
+#include "tests/support/ReferencePictures.h"
+
+namespace grisal::test::reference
+{
+
+namespace
+{
+
+Rgb rgb(const graphics::ColorRGB<float> &colour)
+{
+    return {colour.r, colour.g, colour.b};
+}
+
+std::span<const float> samples(const QVector<float> &values)
+{
+    return {values.data(), static_cast<std::size_t>(values.size())};
+}
+
+Vignette vignetteOf(const graphics::FilterParameters &p)
+{
+    return {p.vignetteX, p.vignetteY, p.vignetteStrength, p.vignetteRadius};
+}
+
+Rgb splitToned(Rgb c, const graphics::FilterParameters &p)
+{
+    return splitTone(c, p.splitWeight, rgb(p.highlightTint), rgb(p.shadowTint));
+}
+
+float storedByte(float value)
+{
+    return fromByte(toByte(value));
+}
+
+template <float (*store)(float)>
+Rgb stored(Rgb c)
+{
+    return {store(c.r), store(c.g), store(c.b)};
+}
+
+/// One side of a picture: what it is padded to, and how long a tile is.
+struct Side {
+    int padded;
+    int tile;
+};
+
+Side sideOf(int size)
+{
+    int padded = size;
+    while (padded % 4 != 0) {
+        padded += padded % 4;
+    }
+    return {padded, size > 2048 ? padded / 4 : padded};
+}
+
+/// The passes of a file over one pixel, the picture's colour as it was uploaded; `store` is what a target makes of it.
+template <float (*store)(float)>
+class FilePasses
+{
+public:
+    FilePasses(int width, int height, const Look &look, const BytePixels &noise)
+        : m_horizontal(sideOf(width)), m_vertical(sideOf(height)), m_look(look), m_noise(noise)
+    {
+    }
+
+    Rgb operator()(int x, int y, Rgb colour) const
+    {
+        const graphics::FilterParameters &p = m_look.parameters;
+        Rgb c = stored<store>(mixer(colour, rgb(p.mixerWeights)));
+        if (m_look.curve) {
+            c = stored<store>(curve(c, samples(p.curve)));
+        }
+        if (m_look.splitTone) {
+            c = stored<store>(splitToned(c, p));
+        }
+        if (m_look.grain) {
+            const float noise = noiseAt(m_noise, x % m_horizontal.tile, y % m_vertical.tile);
+            c = stored<store>(grain(c, noise, samples(p.grainWeights)));
+        }
+        if (m_look.vignette) {
+            const float mask = vignetteAt(vignetteOf(p), static_cast<float>(m_horizontal.padded),
+                                          static_cast<float>(m_vertical.padded), x, y);
+            c = stored<store>(darkened(c, mask));
+        }
+        return c;
+    }
+
+private:
+    Side m_horizontal;
+    Side m_vertical;
+    const Look &m_look;
+    const BytePixels &m_noise;
+};
+
+std::uint16_t toWord(float value)
+{
+    return static_cast<std::uint16_t>(std::lround(std::clamp(value, 0.0F, 1.0F) * 65535.0F));
+}
+
+float fromWord(std::uint16_t word)
+{
+    return nearestHalfFloat(static_cast<float>(word) / 65535.0F);
+}
+
+} // namespace
+
+BytePixels blurredNoise(const BytePixels &noise, float radius)
+{
+    const std::vector<float> weights = radius > 0 ? blurWeights(radius) : std::vector<float>();
+    const BytePixels alongX = asBytes(blurredAlong(asFloats(noise), weights, true));
+    return asBytes(blurredAlong(asFloats(alongX), weights, false));
+}
+
+BytePixels previewOf(const BytePixels &picture, const Look &look, const BytePixels &noise)
+{
+    const graphics::FilterParameters &p = look.parameters;
+    return asBytes(eachPixel(picture, [&](int x, int y, Rgb colour) {
+        Rgb c = stored<storedByte>(mixer(colour, rgb(p.mixerWeights)));
+        if (look.mixer) {
+            c = stored<storedByte>(mixer(c, rgb(p.mixerWeights)));
+        }
+        if (look.curve) {
+            c = stored<storedByte>(curve(c, samples(p.curve)));
+        }
+        if (look.grain) {
+            c = stored<storedByte>(grain(c, noiseAt(noise, x, y), samples(p.grainWeights)));
+        }
+        if (look.splitTone) {
+            c = stored<storedByte>(splitToned(c, p));
+        }
+        if (look.vignette) {
+            c = stored<storedByte>(vignetted(c, vignetteOf(p), static_cast<float>(picture.width),
+                                             static_cast<float>(picture.height), x, y));
+        }
+        return c;
+    }));
+}
+
+BytePixels fileOf(const BytePixels &picture, const Look &look, const BytePixels &noise)
+{
+    return asBytes(eachPixel(picture, FilePasses<storedByte>(picture.width, picture.height, look, noise)));
+}
+
+WordPixels fileOf(const WordPixels &picture, const Look &look, const BytePixels &noise)
+{
+    const FilePasses<cutToHalfFloat> passes(picture.width, picture.height, look, noise);
+    WordPixels result(picture.width, picture.height);
+    for (int y = 0; y < picture.height; ++y) {
+        for (int x = 0; x < picture.width; ++x) {
+            const Rgb colour = passes(
+                x, y, {fromWord(picture.at(x, y, 0)), fromWord(picture.at(x, y, 1)), fromWord(picture.at(x, y, 2))});
+            result.at(x, y, 0) = toWord(colour.r);
+            result.at(x, y, 1) = toWord(colour.g);
+            result.at(x, y, 2) = toWord(colour.b);
+        }
+    }
+    return result;
+}
+
+template <typename T>
+void leaveOutNoiseBoundaries(Pixels<T> &actual, const Pixels<T> &expected, bool tiled)
+{
+    const int tileWidth = tiled ? sideOf(actual.width).tile : actual.width;
+    const int tileHeight = tiled ? sideOf(actual.height).tile : actual.height;
+    for (int y = 0; y < actual.height; ++y) {
+        const bool wholeRow = isBetweenNoiseTexels(y % tileHeight);
+        for (int x = 0; x < actual.width; ++x) {
+            if (wholeRow || isBetweenNoiseTexels(x % tileWidth)) {
+                for (int c = 0; c < actual.components; ++c) {
+                    actual.at(x, y, c) = expected.at(x, y, c);
+                }
+            }
+        }
+    }
+}
+
+template void leaveOutNoiseBoundaries(BytePixels &, const BytePixels &, bool);
+template void leaveOutNoiseBoundaries(WordPixels &, const WordPixels &, bool);
+
+} // namespace grisal::test::reference

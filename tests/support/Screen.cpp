@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/Screen.h"
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QScreen>
+#include <QTest>
+#include <QWidget>
+
+namespace grisal::test
+{
+
+BytePixels onScreen(const QWidget &widget)
+{
+    const QImage screen = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+    const double ratio = widget.devicePixelRatioF();
+    const QPoint corner = (QPointF(widget.mapToGlobal(QPoint(0, 0))) * ratio).toPoint();
+    const QSize size = (QSizeF(widget.size()) * ratio).toSize();
+    BytePixels pixels(size.width(), size.height());
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const QRgb pixel = screen.pixel(corner.x() + x, corner.y() + y);
+            pixels.at(x, y, 0) = static_cast<std::uint8_t>(qRed(pixel));
+            pixels.at(x, y, 1) = static_cast<std::uint8_t>(qGreen(pixel));
+            pixels.at(x, y, 2) = static_cast<std::uint8_t>(qBlue(pixel));
+        }
+    }
+    return pixels;
+}
+
+BytePixels onScreenOnceLike(const QWidget &widget, const BytePixels &expected)
+{
+    QElapsedTimer timer;
+    timer.start();
+    BytePixels shown = onScreen(widget);
+    while (shown.values != expected.values && timer.elapsed() < 5000) {
+        QTest::qWait(20);
+        shown = onScreen(widget);
+    }
+    return shown;
+}
+
+} // namespace grisal::test

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/gl/SurfaceFormat.h"
+#include "tests/support/TestHome.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+int main(int argc, char **argv)
+{
+    const grisal::test::TestHome home;
+    grisal::graphics::setDefaultSurfaceFormat();
+    QApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

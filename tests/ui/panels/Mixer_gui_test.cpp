@@ -1,0 +1,352 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/GuiTest.h"
+#include "ui/panels/Mixer.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTest>
+
+#include <array>
+
+namespace
+{
+
+using namespace grisal::test;
+
+using Triple = std::array<int, 3>;
+
+struct Look {
+    const char *name;
+    Triple weights;
+    std::array<double, 3> emitted;
+};
+
+constexpr std::array<Look, 17> looks{{
+    {"Average", {85, 85, 85}, {0.333333, 0.333333, 0.333333}},
+    {"Luma", {77, 150, 28}, {0.301961, 0.588235, 0.109804}},
+    {"Berlin 200X", {46, 105, 105}, {0.180392, 0.411765, 0.411765}},
+    {"Berlinpan 25", {64, 99, 92}, {0.250980, 0.388235, 0.360784}},
+    {"Berlinpan 100", {54, 102, 99}, {0.211765, 0.400000, 0.388235}},
+    {"Berlinpan 400", {51, 105, 99}, {0.200000, 0.411765, 0.388235}},
+    {"Redbridge Delta 100", {54, 107, 94}, {0.211765, 0.419608, 0.368627}},
+    {"Redbridge Delta 400", {56, 107, 92}, {0.219608, 0.419608, 0.360784}},
+    {"Redbridge Delta 400 Pro", {79, 92, 84}, {0.309804, 0.360784, 0.329412}},
+    {"Redbridge FP4", {71, 105, 79}, {0.278431, 0.411765, 0.309804}},
+    {"Redbridge HP5", {59, 94, 102}, {0.231373, 0.368627, 0.400000}},
+    {"Redbridge Pan F", {84, 92, 79}, {0.329412, 0.360784, 0.309804}},
+    {"Redbridge SFX", {92, 79, 84}, {0.360784, 0.309804, 0.329412}},
+    {"Redbridge XP2 Super", {54, 107, 94}, {0.211765, 0.419608, 0.368627}},
+    {"Rochester Tmax 100", {61, 94, 99}, {0.239216, 0.368627, 0.388235}},
+    {"Rochester Tmax 400", {69, 92, 94}, {0.270588, 0.360784, 0.368627}},
+    {"Rochester Tri-X", {64, 89, 102}, {0.250980, 0.349020, 0.400000}},
+}};
+
+class MixerTest : public GuiTest
+{
+protected:
+    QSlider &slider(const char *name) { return child<QSlider>(panel, name); }
+    QSpinBox &spinBox(const char *name) { return child<QSpinBox>(panel, name); }
+
+    Triple sliders() { return {slider("sliderR").value(), slider("sliderG").value(), slider("sliderB").value()}; }
+    Triple spinBoxes()
+    {
+        return {spinBox("spinBoxR").value(), spinBox("spinBoxG").value(), spinBox("spinBoxB").value()};
+    }
+
+    void choose(const char *look) { presets.setCurrentText(QString::fromLatin1(look)); }
+
+    void setChannels(const Triple &weights)
+    {
+        slider("sliderR").setValue(weights[0]);
+        slider("sliderG").setValue(weights[1]);
+        slider("sliderB").setValue(weights[2]);
+    }
+
+    /// Expects one emission since the last call, of these weights on the scale 0..255.
+    void expectEmitted(float r, float g, float b)
+    {
+        ASSERT_EQ(emitted.count(), 1);
+        const QVariantList weights = emitted.takeFirst();
+        EXPECT_FLOAT_EQ(weights[0].toFloat(), r / 255.0F);
+        EXPECT_FLOAT_EQ(weights[1].toFloat(), g / 255.0F);
+        EXPECT_FLOAT_EQ(weights[2].toFloat(), b / 255.0F);
+    }
+
+    Mixer panel;
+    QComboBox &presets = child<QComboBox>(panel, "comboPresets");
+    QSignalSpy emitted{&panel, &Mixer::signalMixer};
+};
+
+TEST_F(MixerTest, TheFormHasItsRangesAndInitialValues)
+{
+    for (const char *name : {"sliderR", "sliderG", "sliderB"}) {
+        EXPECT_EQ(slider(name).minimum(), -512) << name;
+        EXPECT_EQ(slider(name).maximum(), 511) << name;
+        EXPECT_EQ(slider(name).value(), 85) << name;
+    }
+    for (const char *name : {"spinBoxR", "spinBoxG", "spinBoxB"}) {
+        EXPECT_EQ(spinBox(name).minimum(), -512) << name;
+        EXPECT_EQ(spinBox(name).maximum(), 511) << name;
+        EXPECT_EQ(spinBox(name).value(), 85) << name;
+    }
+    EXPECT_EQ(slider("sliderLuma").minimum(), 0);
+    EXPECT_EQ(slider("sliderLuma").maximum(), 511);
+    EXPECT_EQ(slider("sliderLuma").value(), 255);
+    EXPECT_EQ(spinBox("spinBoxLuma").minimum(), 0);
+    EXPECT_EQ(spinBox("spinBoxLuma").maximum(), 511);
+    EXPECT_EQ(spinBox("spinBoxLuma").value(), 255);
+}
+
+TEST_F(MixerTest, SlidersLieFlatWithTicksAbove)
+{
+    for (const char *name : {"sliderLuma", "sliderR", "sliderG", "sliderB"}) {
+        EXPECT_EQ(slider(name).orientation(), Qt::Horizontal) << name;
+        EXPECT_EQ(slider(name).tickPosition(), QSlider::TicksAbove) << name;
+    }
+}
+
+TEST_F(MixerTest, TheFormHasItsColours)
+{
+    EXPECT_EQ(slider("sliderLuma").styleSheet(),
+              QStringLiteral("background-color:qlineargradient(spread:pad, x1:1, y1:1, x2:0, y2:1, stop:0 rgba(0, 0, "
+                             "0, 255), stop:1 rgba(255, 255, 255, 255));"));
+    EXPECT_EQ(spinBox("spinBoxLuma").styleSheet(), QStringLiteral("background:black;\ncolor:white;"));
+    EXPECT_EQ(spinBox("spinBoxR").styleSheet(), QStringLiteral("background:red;\ncolor:white;"));
+    EXPECT_EQ(spinBox("spinBoxG").styleSheet(), QStringLiteral("background:green;\ncolor:white;"));
+    EXPECT_EQ(spinBox("spinBoxB").styleSheet(), QStringLiteral("background:blue;\ncolor:white;"));
+}
+
+TEST_F(MixerTest, TheFormHasItsTexts)
+{
+    EXPECT_EQ(panel.windowTitle(), QStringLiteral("Form"));
+    EXPECT_EQ(child<QLabel>(panel, "label").text(), QStringLiteral("Presets:"));
+    EXPECT_EQ(child<QLabel>(panel, "label_2").text(), QStringLiteral("Luma"));
+    EXPECT_EQ(child<QLabel>(panel, "label_3").text(), QStringLiteral("<div style=\" color:#ff0000;\">Red</div>"));
+    EXPECT_EQ(child<QLabel>(panel, "label_4").text(), QStringLiteral("<div style=\" color:green;\">Green</div>"));
+    EXPECT_EQ(child<QLabel>(panel, "label_5").text(), QStringLiteral("<div style=\" color:#0000ff;\">Blue</div>"));
+    const auto &reset = child<QPushButton>(panel, "buttonReset");
+    EXPECT_EQ(reset.text(), QStringLiteral("\t↻"));
+    EXPECT_FALSE(reset.toolTip().isEmpty());
+}
+
+TEST_F(MixerTest, TheTabKeyGoesFromTheLooksDownwards)
+{
+    panel.show();
+    panel.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    presets.setFocus();
+    QStringList names;
+    for (int i = 0; i < 10; ++i) {
+        names << panel.focusWidget()->objectName();
+        EXPECT_FALSE(panel.focusWidget()->accessibleName().isEmpty()) << names.last().toStdString();
+        QTest::keyClick(panel.focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(names.join(' ').toStdString(), "comboPresets buttonReset sliderLuma spinBoxLuma sliderR spinBoxR sliderG "
+                                             "spinBoxG sliderB spinBoxB");
+}
+
+TEST_F(MixerTest, TheLooksStandInTheirOrder)
+{
+    ASSERT_EQ(presets.count(), static_cast<int>(looks.size()));
+    for (int i = 0; i < presets.count(); ++i) {
+        const Look &look = looks[static_cast<std::size_t>(i)];
+        EXPECT_EQ(presets.itemText(i), QString::fromLatin1(look.name));
+        EXPECT_EQ(presets.itemData(i).toList(), (QVariantList{look.weights[0], look.weights[1], look.weights[2]}))
+            << look.name;
+        EXPECT_TRUE(presets.itemIcon(i).isNull()) << look.name;
+    }
+}
+
+TEST_F(MixerTest, EveryLookEmitsItsWeights)
+{
+    for (int i = 0; i < presets.count(); ++i) {
+        const Look &look = looks[static_cast<std::size_t>(i)];
+        presets.setCurrentIndex((i + 1) % presets.count());
+        emitted.clear();
+        presets.setCurrentIndex(i);
+        ASSERT_EQ(emitted.count(), 1) << look.name;
+        for (int c = 0; c < 3; ++c) {
+            EXPECT_NEAR(emitted[0][c].toDouble(), look.emitted[static_cast<std::size_t>(c)], 1e-6) << look.name;
+        }
+        EXPECT_EQ(sliders(), look.weights) << look.name;
+        EXPECT_EQ(spinBoxes(), look.weights) << look.name;
+        EXPECT_EQ(slider("sliderLuma").value(), look.weights[0] + look.weights[1] + look.weights[2]) << look.name;
+    }
+}
+
+TEST_F(MixerTest, TheAverageIsAppliedFromTheStart)
+{
+    EXPECT_EQ(presets.currentIndex(), 0);
+    EXPECT_EQ(panel.presetWeights(), (grisal::graphics::ColorRGB<float>{85, 85, 85}));
+}
+
+TEST_F(MixerTest, TheChosenLookIsKept)
+{
+    choose("Luma");
+    slider("sliderR").setValue(3);
+    EXPECT_EQ(panel.presetWeights(), (grisal::graphics::ColorRGB<float>{77, 150, 28}));
+}
+
+TEST_F(MixerTest, ChoosingTheCurrentLookAgainEmitsNothing)
+{
+    choose("Luma");
+    emitted.clear();
+    choose("Luma");
+    EXPECT_TRUE(emitted.isEmpty());
+}
+
+TEST_F(MixerTest, LookingThroughTheLooksEmitsNothing)
+{
+    emit presets.highlighted(5);
+    EXPECT_TRUE(emitted.isEmpty());
+    EXPECT_EQ(sliders(), (Triple{85, 85, 85}));
+}
+
+// Weights are tried out with the channel sliders first and take effect together: the picture must not jump with each.
+TEST_F(MixerTest, AChannelSliderAloneIsSilent)
+{
+    slider("sliderR").setValue(100);
+    EXPECT_EQ(spinBox("spinBoxR").value(), 100);
+    EXPECT_EQ(slider("sliderLuma").value(), 270);
+    EXPECT_TRUE(emitted.isEmpty());
+    slider("sliderG").setValue(-20);
+    slider("sliderB").setValue(7);
+    EXPECT_EQ(spinBoxes(), (Triple{100, -20, 7}));
+    EXPECT_EQ(slider("sliderLuma").value(), 87);
+    EXPECT_TRUE(emitted.isEmpty());
+}
+
+TEST_F(MixerTest, AChannelSpinBoxAloneIsSilent)
+{
+    spinBox("spinBoxR").setValue(90);
+    spinBox("spinBoxG").setValue(-20);
+    spinBox("spinBoxB").setValue(7);
+    EXPECT_EQ(sliders(), (Triple{90, -20, 7}));
+    EXPECT_EQ(slider("sliderLuma").value(), 77);
+    EXPECT_TRUE(emitted.isEmpty());
+}
+
+// The sum's spin box tells the sum that is in effect, its slider the sum of what the channel sliders try out.
+TEST_F(MixerTest, AChannelSliderLeavesTheSpinBoxOfTheSum)
+{
+    slider("sliderR").setValue(100);
+    EXPECT_EQ(spinBox("spinBoxLuma").value(), 255);
+}
+
+TEST_F(MixerTest, ANegativeSumShowsAsNone)
+{
+    setChannels({-100, -100, -100});
+    EXPECT_EQ(slider("sliderLuma").value(), 0);
+}
+
+TEST_F(MixerTest, TheSumMovesAllChannelsAlike)
+{
+    choose("Luma");
+    emitted.clear();
+    slider("sliderLuma").setValue(300);
+    expectEmitted(92, 165, 43);
+    EXPECT_EQ(sliders(), (Triple{92, 165, 43}));
+    EXPECT_EQ(spinBoxes(), (Triple{92, 165, 43}));
+    EXPECT_EQ(spinBox("spinBoxLuma").value(), 300);
+}
+
+TEST_F(MixerTest, TheSpinBoxOfTheSumDoesTheSame)
+{
+    choose("Luma");
+    emitted.clear();
+    spinBox("spinBoxLuma").setValue(300);
+    expectEmitted(92, 165, 43);
+    EXPECT_EQ(slider("sliderLuma").value(), 300);
+}
+
+// A third of 256 is no whole weight: the controls show 85 each, and their sum, while the picture gets the fraction.
+TEST_F(MixerTest, ASumOfFractionsShowsTheSumOfItsWholeWeights)
+{
+    slider("sliderLuma").setValue(256);
+    expectEmitted(256 / 3.0F, 256 / 3.0F, 256 / 3.0F);
+    EXPECT_EQ(sliders(), (Triple{85, 85, 85}));
+    EXPECT_EQ(slider("sliderLuma").value(), 255);
+    EXPECT_EQ(spinBox("spinBoxLuma").value(), 255);
+}
+
+TEST_F(MixerTest, TheSumCommitsWhatTheChannelSlidersTry)
+{
+    setChannels({100, 85, 70});
+    slider("sliderLuma").setValue(285);
+    expectEmitted(110, 95, 80);
+}
+
+TEST_F(MixerTest, WeightsFromOutsideAreShownAndEmittedAsTheyAre)
+{
+    panel.slotSetRGB(10.9F, -20.9F, 30.5F);
+    expectEmitted(10.9F, -20.9F, 30.5F);
+    EXPECT_EQ(sliders(), (Triple{10, -20, 30}));
+    EXPECT_EQ(spinBoxes(), (Triple{10, -20, 30}));
+    EXPECT_EQ(slider("sliderLuma").value(), 20);
+    EXPECT_EQ(spinBox("spinBoxLuma").value(), 20);
+}
+
+TEST_F(MixerTest, WeightsBeyondTheSlidersAreEmittedAllTheSame)
+{
+    panel.slotSetRGB(512, -512, 600);
+    expectEmitted(512, -512, 600);
+    EXPECT_EQ(sliders(), (Triple{511, -512, 511}));
+    EXPECT_EQ(slider("sliderLuma").value(), 511);
+}
+
+TEST_F(MixerTest, ResetEmitsOneThirdEachOnce)
+{
+    choose("Luma");
+    setChannels({400, -300, 2});
+    emitted.clear();
+    QTest::mouseClick(&child<QPushButton>(panel, "buttonReset"), Qt::LeftButton);
+    expectEmitted(85, 85, 85);
+    EXPECT_EQ(sliders(), (Triple{85, 85, 85}));
+    EXPECT_EQ(spinBoxes(), (Triple{85, 85, 85}));
+    EXPECT_EQ(slider("sliderLuma").value(), 255);
+    EXPECT_EQ(spinBox("spinBoxLuma").value(), 255);
+    EXPECT_EQ(presets.currentText(), QStringLiteral("Luma"));
+}
+
+TEST_F(MixerTest, ResetEmitsWhereNothingHasChangedToo)
+{
+    panel.on_buttonReset_clicked();
+    ASSERT_EQ(emitted.count(), 1);
+    EXPECT_EQ(emitted[0][0].toFloat(), 0.33333334F);
+    EXPECT_EQ(emitted[0][1].toFloat(), 0.33333334F);
+    EXPECT_EQ(emitted[0][2].toFloat(), 0.33333334F);
+}
+
+TEST_F(MixerTest, ALookWithTooFewWeightsIsRefused)
+{
+    presets.setItemData(4, QVariantList{1, 2});
+    expectWarning(QStringLiteral("mixer: color list too small"));
+    presets.setCurrentIndex(4);
+    EXPECT_TRUE(emitted.isEmpty());
+    EXPECT_EQ(sliders(), (Triple{85, 85, 85}));
+    EXPECT_EQ(panel.presetWeights(), (grisal::graphics::ColorRGB<float>{85, 85, 85}));
+}
+
+TEST_F(MixerTest, ALookWhoseLastWeightIsNoNumberIsRefused)
+{
+    presets.setItemData(4, QVariantList{1, 2, QStringLiteral("blue")});
+    expectWarning(QStringLiteral("mixer: could not get all rgb values"));
+    presets.setCurrentIndex(4);
+    EXPECT_TRUE(emitted.isEmpty());
+    EXPECT_EQ(sliders(), (Triple{85, 85, 85}));
+    EXPECT_EQ(panel.presetWeights(), (grisal::graphics::ColorRGB<float>{1, 2, 0}));
+}
+
+// Looks are made here and nowhere else: one check, of the last weight, is all there is.
+TEST_F(MixerTest, OnlyTheLastWeightIsChecked)
+{
+    presets.setItemData(4, QVariantList{QStringLiteral("red"), 2, 3});
+    presets.setCurrentIndex(4);
+    expectEmitted(0, 2, 3);
+}
+
+} // namespace
