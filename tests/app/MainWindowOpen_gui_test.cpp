@@ -162,7 +162,7 @@ TEST_F(MainWindowOpen, AFileThatIsNoPictureIsToldAndChangesNothing)
     choose("Luma");
     trigger(window, "actionVignette");
     const QString path = makeRubbish(QStringLiteral("rubbish.png"));
-    expectWarning(QString());
+    expectWarning(QStringLiteral("rubbish.png"));
     MessageBoxAnswer box(QMessageBox::Ok);
     window.openImage(path);
     EXPECT_EQ(box.text, QStringLiteral("Cannot load %1.").arg(path));
@@ -177,7 +177,7 @@ TEST_F(MainWindowOpen, APictureIsStillSavedAfterAFileThatIsNone)
 {
     start();
     window.openImage(makePicture(QStringLiteral("a.png"), 40, 20));
-    expectWarning(QString());
+    expectWarning(QStringLiteral("rubbish.png"));
     {
         const MessageBoxAnswer box(QMessageBox::Ok);
         window.openImage(makeRubbish(QStringLiteral("rubbish.png")));
@@ -215,7 +215,7 @@ TEST_F(MainWindowOpen, AJpegCutShortOpensAndIsToldInTheStatusBar)
     const QString path = makePicture(QStringLiteral("a.jpg"), 64, 64);
     const QByteArray whole = contentsOf(path);
     writeFile(path, whole.left(whole.size() / 2));
-    expectWarning(QString());
+    expectWarning(QStringLiteral("Premature end of JPEG file"));
     window.openImage(path);
     EXPECT_EQ(title(), "Lumio Grisal (Alpha) - a.jpg 64x64");
     ASSERT_EQ(log.warnings().size(), 1);

@@ -1,19 +1,16 @@
 // SPDX-License-Identifier: MIT
-// What the user sees of the window: icons, and the picture on the screen.
+// What the user sees: the picture on the screen.
 #include "tests/app/FilesTest.h"
 
 #include "tests/support/PictureCompare.h"
 #include "tests/support/Screen.h"
 #include "ui/panels/Curves.h"
-#include "ui/panels/Mixer.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QFrame>
 #include <QSignalSpy>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace
@@ -21,27 +18,8 @@ namespace
 
 using namespace grisal::test;
 
-constexpr std::array<std::pair<const char *, const char *>, 14> iconTable{{
-    {"actionMixer", ":/Icons/Icons/mixer.png"},
-    {"actionCurves", ":/Icons/Icons/curves.png"},
-    {"actionSharpen", ":/Icons/Icons/sharpen.png"},
-    {"actionVignette", ":/Icons/Icons/vignette.png"},
-    {"actionGrain", ":/Icons/Icons/grain.png"},
-    {"actionSplitTone", ":/Icons/Icons/split.png"},
-    {"actionOpen", ":/Actions/Icons/Actions/load.png"},
-    {"actionSave", ":/Actions/Icons/Actions/save.png"},
-    {"actionSave_As", ":/Actions/Icons/Actions/save_as.png"},
-    {"actionQuit", ":/Actions/Icons/Actions/exit.png"},
-    {"actionPreferences", ":/Actions/Icons/Actions/prefs.png"},
-    {"actionAbout", ":/Actions/Icons/Actions/info.png"},
-    {"actionWebsite", ":/Actions/Icons/Actions/web.png"},
-    {"actionHelp", ":/Actions/Icons/Actions/help.png"},
-}};
-
-QImage drawn(const QIcon &icon)
-{
-    return icon.pixmap(32, 32).toImage();
-}
+constexpr int rampWidth = 120;
+constexpr int rampHeight = 80;
 
 class MainWindowScreen : public FilesTest
 {
@@ -52,15 +30,24 @@ protected:
         return {value, value, value};
     }
 
+    /// Shows the window with a preview that has a middle: of an even number of pixels each way.
+    void startEven()
+    {
+        start();
+        window.resize(window.width() + preview().width() % 2, window.height() + preview().height() % 2);
+        // The fit that follows a resize would come in between.
+        QTest::qWait(200);
+    }
+
     /// The preview's area with a grey picture in its middle, one picture pixel per pixel, all else black.
-    BytePixels centredRamp(int width, int height)
+    BytePixels centredRamp()
     {
         const QSize size = (QSizeF(preview().size()) * preview().devicePixelRatioF()).toSize();
         BytePixels area(size.width(), size.height());
-        for (int y = 0; y < height; ++y) {
-            for (int x = 0; x < width; ++x) {
+        for (int y = 0; y < rampHeight; ++y) {
+            for (int x = 0; x < rampWidth; ++x) {
                 for (int c = 0; c < 3; ++c) {
-                    area.at((size.width() - width) / 2 + x, (size.height() - height) / 2 + y, c) =
+                    area.at((size.width() - rampWidth) / 2 + x, (size.height() - rampHeight) / 2 + y, c) =
                         static_cast<std::uint8_t>(ramp(x, y)[0] / 257);
                 }
             }
@@ -69,36 +56,15 @@ protected:
     }
 
     /// Opens a ramp of grey and shows it one to one; returns the screen, once the ramp is on it.
-    BytePixels showRamp(int width = 120, int height = 80)
+    BytePixels showRamp()
     {
-        window.openImage(makePicture(QStringLiteral("ramp.png"), width, height, 8, ramp));
+        window.openImage(makePicture(QStringLiteral("ramp.png"), rampWidth, rampHeight, 8, ramp));
         trigger(window, "actionActualPixels");
-        return screenOnceLike(centredRamp(width, height));
+        return screenOnceLike(centredRamp());
     }
 
     BytePixels screenOnceLike(const BytePixels &expected) { return onScreenOnceLike(preview(), expected); }
-
-    void choose(const char *look)
-    {
-        child<QComboBox>(*window.findChild<Mixer *>(), "comboPresets").setCurrentText(QString::fromLatin1(look));
-    }
 };
-
-TEST_F(MainWindowScreen, ActionsHaveTheirIcons)
-{
-    for (const auto &[name, path] : iconTable) {
-        const QIcon expected(QString::fromLatin1(path));
-        ASSERT_FALSE(expected.pixmap(32, 32).isNull()) << path;
-        EXPECT_EQ(drawn(action(name).icon()), drawn(expected)) << name;
-    }
-}
-
-TEST_F(MainWindowScreen, TheWindowHasTheProgramsIcon)
-{
-    const QIcon expected(QStringLiteral(":/Icons/Icons/grisal.png"));
-    ASSERT_FALSE(expected.pixmap(32, 32).isNull());
-    EXPECT_EQ(drawn(window.windowIcon()), drawn(expected));
-}
 
 TEST_F(MainWindowScreen, ThePanelsReachTheEdgeOfTheirFrame)
 {
@@ -120,31 +86,31 @@ TEST_F(MainWindowScreen, PreferencesAndHelpDoNothingYet)
 
 TEST_F(MainWindowScreen, AnOpenedPictureIsOnTheScreen)
 {
-    start();
-    EXPECT_TRUE(picturesNear("screen", showRamp(), centredRamp(120, 80)));
+    startEven();
+    EXPECT_TRUE(picturesNear("screen", showRamp(), centredRamp()));
 }
 
 TEST_F(MainWindowScreen, PicturesOfOneToThreePixelsAreOnTheScreen)
 {
     start();
-    // The preview is cut to a multiple of four where a side has at least four pixels.
     for (const auto &[width, height] : {std::pair{1, 1}, std::pair{3, 2}, std::pair{2, 3}}) {
-        EXPECT_TRUE(picturesNear("screen", showRamp(width, height), centredRamp(width, height)));
+        const auto level = static_cast<std::uint8_t>(width * 40 + height);
+        const auto flat = [level](int, int) {
+            const auto value = static_cast<std::uint16_t>(level * 257);
+            return Samples{value, value, value};
+        };
+        window.openImage(makePicture(QStringLiteral("small.png"), width, height, 8, flat));
+        const auto middle = [this] {
+            const BytePixels now = onScreen(preview());
+            return now.at(now.width / 2, now.height / 2, 0);
+        };
+        EXPECT_TRUE(QTest::qWaitFor([&] { return middle() == level; })) << width << " x " << height;
     }
-}
-
-TEST_F(MainWindowScreen, ALookIsOnTheScreenAtOnce)
-{
-    start();
-    const BytePixels before = showRamp();
-    choose("Rochester Tri-X");
-    BytePixels now = onScreen(preview());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return (now = onScreen(preview())).values != before.values; }));
 }
 
 TEST_F(MainWindowScreen, AFileThatIsNoPictureLeavesTheScreenAsItIs)
 {
-    start();
+    startEven();
     const BytePixels before = showRamp();
     const QString path = inHome(QStringLiteral("rubbish.jpg"));
     writeFile(path, "no picture at all");
@@ -159,7 +125,7 @@ TEST_F(MainWindowScreen, AFileThatIsNoPictureLeavesTheScreenAsItIs)
 // A missing file opens the present picture once more, and a picture that is opened is fitted.
 TEST_F(MainWindowScreen, AMissingFileFitsThePictureAgain)
 {
-    start();
+    startEven();
     showRamp();
     expectWarning(QStringLiteral("missing.png"));
     window.openImage(inHome(QStringLiteral("missing.png")));
@@ -168,7 +134,7 @@ TEST_F(MainWindowScreen, AMissingFileFitsThePictureAgain)
 
 TEST_F(MainWindowScreen, SavingLeavesTheScreenAsItIs)
 {
-    start();
+    startEven();
     const BytePixels before = showRamp();
     window.saveImage(inHome(QStringLiteral("saved.png")));
     QTest::qWait(50);

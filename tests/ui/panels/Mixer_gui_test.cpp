@@ -312,6 +312,15 @@ TEST_F(MixerTest, ResetEmitsOneThirdEachOnce)
     EXPECT_EQ(presets.currentText(), QStringLiteral("Luma"));
 }
 
+// "Luma" adds up to the neutral sum, so that the slider of the sum does not move and brings nothing along.
+TEST_F(MixerTest, ResetReachesAllControlsWhereTheSumStays)
+{
+    choose("Luma");
+    panel.on_buttonReset_clicked();
+    EXPECT_EQ(sliders(), (Triple{85, 85, 85}));
+    EXPECT_EQ(spinBoxes(), (Triple{85, 85, 85}));
+}
+
 TEST_F(MixerTest, ResetEmitsWhereNothingHasChangedToo)
 {
     panel.on_buttonReset_clicked();
