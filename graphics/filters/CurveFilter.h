@@ -19,8 +19,8 @@ public:
 
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
-    /// Takes the outputs 0..1 for evenly spaced greys, 256 of them from the curves panel. The identity is i / 256,
-    /// which an 8-bit target stores as the grey it came from. The context must be current.
+    /// Takes the outputs 0..1 for evenly spaced greys, 256 of them from the curves panel. The straight curve is
+    /// i / 256: an 8-bit target stores the greys above 128 one level darker. The context must be current.
     void setCurve(const QVector<float> &values);
 
     const QVector<float> &curve() const { return m_curve; }

@@ -6,6 +6,7 @@
 #include <QDataStream>
 #include <QFile>
 
+#include <algorithm>
 #include <vector>
 
 namespace grisal::graphics

@@ -2,8 +2,12 @@
 #pragma once
 
 #include "app/MainWindow.h"
+#include "tests/support/GlPresence.h"
 #include "tests/support/GuiTest.h"
 
+#include <QCursor>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QStackedLayout>
 #include <QStatusBar>
 #include <QTest>
@@ -19,8 +23,15 @@ namespace grisal::test
 class WindowTest : public GuiTest
 {
 protected:
-    /// Shows the window with a placeholder of 300 x 200 mid-grey pixels, as the program does at its start. The test ends
-    /// where there are no graphics.
+    void SetUp() override
+    {
+        GRISAL_SKIP_WITHOUT_GL();
+        // The tool bar shows status tips under the mouse, wherever the last test left it.
+        QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
+    }
+
+    /// Shows the window with a placeholder of 300 x 200 mid-grey pixels, as the program does at its start. The test
+    /// ends where there are no graphics.
     void start()
     {
         window.show();

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/GlTest.h"
 
-#include "tests/support/OffscreenContext.h"
-
-#include <QtGlobal>
+#include "tests/support/GlPresence.h"
 
 #include <memory>
 #include <string_view>
@@ -14,26 +12,21 @@ namespace grisal::test
 namespace
 {
 
-std::unique_ptr<OffscreenContext> context;
+std::unique_ptr<graphics::OffscreenContext> context;
 
 } // namespace
 
 void GlTest::SetUp()
 {
-    context = std::make_unique<OffscreenContext>();
-    const bool ready = context->isCurrent() && graphics::initialiseGlEntryPoints() == graphics::GlStart::Ready;
-    if (!ready && qEnvironmentVariableIsSet("GRISAL_REQUIRE_GL")) {
-        FAIL() << "no OpenGL 2.1 context on this machine, and GRISAL_REQUIRE_GL asks for one";
-    }
-    if (!ready) {
-        GTEST_SKIP() << "no OpenGL 2.1 context on this machine";
-    }
+    GRISAL_SKIP_WITHOUT_GL();
+    context = std::make_unique<graphics::OffscreenContext>();
+    ASSERT_EQ(graphics::initialiseGlEntryPoints(), graphics::GlStart::Ready);
     clearGlErrors();
 }
 
 void GlTest::TearDown()
 {
-    if (context->isCurrent() && !IsSkipped()) {
+    if (context != nullptr) {
         EXPECT_EQ(glGetError(), static_cast<GLenum>(GL_NO_ERROR));
     }
     context.reset();

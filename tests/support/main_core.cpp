@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/support/ExitStatus.h"
 #include "tests/support/TestHome.h"
 
 #include <gtest/gtest.h>
@@ -10,5 +11,5 @@ int main(int argc, char **argv)
     const grisal::test::TestHome home;
     QCoreApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
+    return grisal::test::runAllTests();
 }

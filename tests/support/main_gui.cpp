@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/gl/SurfaceFormat.h"
+#include "tests/support/ExitStatus.h"
 #include "tests/support/TestHome.h"
 
 #include <gtest/gtest.h>
@@ -12,5 +13,5 @@ int main(int argc, char **argv)
     grisal::graphics::setDefaultSurfaceFormat();
     QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
+    return grisal::test::runAllTests();
 }

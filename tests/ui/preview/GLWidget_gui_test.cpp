@@ -2,6 +2,7 @@
 #include "ui/preview/GLWidget.h"
 
 #include "graphics/filters/IFilter.h"
+#include "tests/support/GlPresence.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/Screen.h"
@@ -38,6 +39,8 @@ protected:
         widget.setWindowFlag(Qt::FramelessWindowHint);
         widget.slotChangeMixer(1, 0, 0);
     }
+
+    void SetUp() override { GRISAL_SKIP_WITHOUT_GL(); }
 
     void show(int width = 200, int height = 160)
     {
