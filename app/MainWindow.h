@@ -87,7 +87,9 @@ private:
     void tellProblems(const graphics::LumioImage &image);
     void tellCannotLoad(const QString &filename);
     void tell(const QString &message);
+    void openFile(const QString &filename);
     bool renderOutput();
+    bool renderIntoOutput();
     bool tellRenderFailed(const QString &reason);
 
     Mixer *m_mixer;

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 
 #include <cstdint>
+#include <exception>
 #include <vector>
 
 namespace grisal::ui
@@ -57,13 +58,24 @@ void MainWindow::on_actionOpen_triggered()
     activateWindow();
 }
 
-// A file that is there and cannot be read leaves everything as it is. A file that is not there any more leaves the
-// picture that is open, which is then opened again: its panels start afresh under the name that was asked for.
 void MainWindow::openImage(QString filename)
 {
     if (filename.isEmpty()) {
         return;
     }
+    try {
+        openFile(filename);
+    } catch (const std::exception &problem) {
+        // A picture that the memory does not hold.
+        qWarning("%s", problem.what());
+        tellCannotLoad(filename);
+    }
+}
+
+// A file that is there and cannot be read leaves everything as it is. A file that is not there any more leaves the
+// picture that is open, which is then opened again: its panels start afresh under the name that was asked for.
+void MainWindow::openFile(const QString &filename)
+{
     graphics::LumioImage image = m_source;
     const bool read = image.read(filename);
     tellProblems(image);
@@ -77,14 +89,16 @@ void MainWindow::openImage(QString filename)
         return;
     }
     const std::vector<std::uint8_t> pixels = bytesOf(image);
-    if (pixels.empty()) {
+    const graphics::LumioImage output(image.width(), image.height(), image.is16Bit());
+    if (pixels.empty() || output.isNull()) {
         tellProblems(image);
+        tellProblems(output);
         tellCannotLoad(filename);
         return;
     }
-    m_source = image;
-    m_output = graphics::LumioImage(image.width(), image.height(), image.is16Bit());
     loadBuffer(pixels.data(), image.width(), image.height(), false);
+    m_source = image;
+    m_output = output;
     m_fileDealer.addToRecent();
     setWindowTitle(titleFor(filename, image));
     slotResetActions();
@@ -130,7 +144,9 @@ void MainWindow::saveImage(const QString &path)
     if (!m_output.save(path, saveQuality)) {
         qWarning("Cannot save %s: %s", qPrintable(path), qPrintable(m_output.problem()));
         tell(tr("Cannot save %1. Choose another place or name.").arg(path));
+        return;
     }
+    tellProblems(m_output);
 }
 
 void MainWindow::slotFinalRendering()
@@ -139,6 +155,16 @@ void MainWindow::slotFinalRendering()
 }
 
 bool MainWindow::renderOutput()
+{
+    try {
+        return renderIntoOutput();
+    } catch (const std::exception &problem) {
+        // A render that the memory does not hold.
+        return tellRenderFailed(QString::fromLocal8Bit(problem.what()));
+    }
+}
+
+bool MainWindow::renderIntoOutput()
 {
     update();
     const bool sixteenBit = m_source.is16Bit();

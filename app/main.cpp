@@ -2,10 +2,13 @@
 #include "app/MainWindow.h"
 #include "app/MessageLog.h"
 #include "graphics/gl/SurfaceFormat.h"
+#include "graphics/image/LumioImage.h"
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QString>
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <memory>

@@ -19,6 +19,10 @@ public:
 
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
+    /// The programs of the two passes; alongX() is the first.
+    const ShaderProgram &alongX() const { return m_alongX; }
+    const ShaderProgram &alongY() const { return m_alongY; }
+
     float sigma;      ///< sent to the programs, which go by the radius alone
     float scale;      ///< kept, used by nothing
     float radius = 0; ///< pixels

@@ -116,6 +116,14 @@ RenderTarget::RenderTarget(std::int32_t width, std::int32_t height, GLenum forma
 {
 }
 
+bool RenderTarget::isComplete() const
+{
+    glBindFramebuffer(GL_FRAMEBUFFER, m_record.framebuffer);
+    const bool complete = glCheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
+    glBindFramebuffer(GL_FRAMEBUFFER, 0);
+    return complete;
+}
+
 RenderTarget::~RenderTarget()
 {
     deleteFramebuffer(m_record);

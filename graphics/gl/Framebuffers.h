@@ -53,6 +53,9 @@ public:
 
     const FramebufferObject &record() const { return m_record; }
 
+    /// Whether the driver can draw into it; what is read out of a target that is not complete is garbage.
+    bool isComplete() const;
+
 private:
     FramebufferObject m_record;
 };

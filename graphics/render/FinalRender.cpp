@@ -82,6 +82,7 @@ bool renderInPlace(const FinalPicture &picture, FilterSet &filters, DocumentView
 
     glEnable(GL_TEXTURE_2D);
     renderer.render(document);
+    glActiveTexture(GL_TEXTURE0);
     glDisable(GL_TEXTURE_2D);
     if (renderer.output() == nullptr) {
         return false;
@@ -105,6 +106,8 @@ void addFinalFilters(DocumentFilterQueue &queue, FilterSet &filters)
 bool renderFinalPicture(const FinalPicture &picture, const FilterParameters &parameters, FilterSet &filters,
                         DocumentView &view)
 {
+    // The grain leaves another unit active, on which it would be enabled for nothing.
+    glActiveTexture(GL_TEXTURE0);
     glEnable(GL_TEXTURE_2D);
     filters.grain.setSigma(parameters.grainRadius);
     qDebug() << "X: " << picture.width;

@@ -85,7 +85,10 @@ void TiledDocumentRenderer::replaceVignette(Chain &chain) const
     if (enabled == filters.end()) {
         return;
     }
-    const auto *vignette = static_cast<const VignetteFilter *>(*enabled);
+    const auto *vignette = dynamic_cast<const VignetteFilter *>(*enabled);
+    if (vignette == nullptr) {
+        return;
+    }
     chain.mask = makeVignetteMask(vignette->parameters, m_horizontal.padded, m_vertical.padded, largestTextureSide());
     chain.overlay = std::make_unique<OverlayFilter>();
     chain.overlay->enabled = true;
@@ -105,8 +108,8 @@ void TiledDocumentRenderer::renderPicture(Document &document, const Chain &chain
         qDebug() << "(INFO) Tiles requested";
     }
     qDebug() << "(INFO) Finished tile generation";
-    if (countEnabled(chain.filters) > 0) {
-        renderTiles(document, chain, pixels);
+    if (countEnabled(chain.filters) > 0 && !renderTiles(document, chain, pixels)) {
+        return;
     }
 
     qDebug() << "(INFO) Copy to final image";
@@ -116,7 +119,7 @@ void TiledDocumentRenderer::renderPicture(Document &document, const Chain &chain
 }
 
 template <typename T>
-void TiledDocumentRenderer::renderTiles(Document &document, const Chain &chain, std::vector<T> &pixels) const
+bool TiledDocumentRenderer::renderTiles(Document &document, const Chain &chain, std::vector<T> &pixels) const
 {
     const TileFormats &f = m_formats;
     const auto tileWidth = static_cast<std::int32_t>(m_horizontal.tile);
@@ -124,6 +127,10 @@ void TiledDocumentRenderer::renderTiles(Document &document, const Chain &chain, 
     qDebug() << "(INFO) Buffers requested";
     const RenderTarget first(tileWidth, tileHeight, f.pixelFormat, f.internalFormat, f.pixelType);
     const RenderTarget second(tileWidth, tileHeight, f.pixelFormat, f.internalFormat, f.pixelType);
+    if (!first.isComplete() || !second.isComplete()) {
+        qWarning("The driver cannot render tiles of %d x %d pixels", tileWidth, tileHeight);
+        return false;
+    }
     qDebug() << "(INFO) Buffers initialized";
     // A string object, unlike its neighbours: it stands in quotes in the log.
     qDebug() << QStringLiteral("(INFO) Finished all preprocesses");
@@ -151,6 +158,7 @@ void TiledDocumentRenderer::renderTiles(Document &document, const Chain &chain, 
             placeTile(tile, area, pixels.data(), m_source.width, m_source.height, components);
         }
     }
+    return true;
 }
 
 template <typename T>

@@ -23,7 +23,7 @@ struct TileFormats {
     GLenum internalFormat; ///< GL_RGB8 with bytes, GL_RGB16F with words
 };
 
-/// Renders a picture of any size at full resolution, tile by tile.
+/// Renders a picture at full resolution, tile by tile.
 ///
 /// What depends on the place in the whole picture cannot be computed in a tile: an enabled vignette is drawn once, as
 /// a mask of the padded size, and inside the tiles an OverlayFilter with its piece of the mask stands in its place.
@@ -41,8 +41,9 @@ public:
     /// Renders the document's queue over the source and returns true. The queue itself is left as it is.
     bool render(Document &document) override;
 
-    /// The result, with size and components of the source and, with alpha, its fourth component; null before a
-    /// render and after one with an unknown pixel type. The renderer owns it.
+    /// The result, with size and components of the source and, with alpha, its fourth component. Null before a render,
+    /// after one with an unknown pixel type, and where the driver has no targets of the tiles' size. The renderer owns
+    /// it.
     const ImageBuffer *output() const { return m_output.get(); }
 
 private:
@@ -53,7 +54,7 @@ private:
     template <typename T>
     void renderPicture(Document &document, const Chain &chain, std::vector<T> &pixels);
     template <typename T>
-    void renderTiles(Document &document, const Chain &chain, std::vector<T> &pixels) const;
+    bool renderTiles(Document &document, const Chain &chain, std::vector<T> &pixels) const;
     template <typename T>
     void renderTile(Document &document, const Chain &chain, const TileArea &area, std::vector<T> &tile,
                     const RenderTarget &first, const RenderTarget &second) const;

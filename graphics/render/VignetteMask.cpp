@@ -11,18 +11,22 @@ namespace grisal::graphics
 namespace
 {
 
-void drawMask(const VignetteParameters &parameters, std::int32_t width, std::int32_t height, std::vector<float> &mask)
+/// False, with the mask as it was, where the driver has no target of this size.
+bool drawMask(const VignetteParameters &parameters, std::int32_t width, std::int32_t height, std::vector<float> &mask)
 {
+    const RenderTarget target(width, height, GL_RED, GL_R32F, GL_FLOAT);
+    if (!target.isComplete()) {
+        return false;
+    }
     FinalVignetteFilter filter;
     filter.parameters = parameters;
     filter.width = width;
     filter.height = height;
     filter.maxWidth = static_cast<float>(width);
     filter.maxHeight = static_cast<float>(height);
-
-    const RenderTarget target(width, height, GL_RED, GL_R32F, GL_FLOAT);
     filter.apply(0, target.record());
     readPixels(target.record(), width, height, GL_RED, GL_FLOAT, mask.data());
+    return true;
 }
 
 void computeMask(const VignetteParameters &parameters, std::uint32_t width, std::uint32_t height,
@@ -45,9 +49,8 @@ std::vector<float> makeVignetteMask(const VignetteParameters &parameters, std::u
                                     std::uint32_t largestSide)
 {
     std::vector<float> mask(static_cast<std::size_t>(width) * height);
-    if (width <= largestSide && height <= largestSide) {
-        drawMask(parameters, static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), mask);
-    } else {
+    const bool fits = width <= largestSide && height <= largestSide;
+    if (!fits || !drawMask(parameters, static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), mask)) {
         qDebug() << "(INFO) Vignette mask computed without the GPU, its largest texture side is" << largestSide;
         computeMask(parameters, width, height, mask);
     }

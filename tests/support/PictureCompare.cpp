@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/PictureCompare.h"
 
+#include <QDir>
 #include <QImage>
 #include <QString>
 
@@ -43,7 +44,8 @@ std::string savedPicture(const std::string &name, const Pixels<T> &picture)
                                 toByte(picture.at(x, y, std::min(2, last)))));
         }
     }
-    const std::string file = name + ".png";
+    const std::string file = std::string(GRISAL_TEST_PICTURES) + "/" + name + ".png";
+    QDir().mkpath(QStringLiteral(GRISAL_TEST_PICTURES));
     return image.save(QString::fromStdString(file)) ? "actual picture: " + file : "the actual picture was not saved";
 }
 

@@ -34,8 +34,8 @@ template <typename T>
 Difference difference(const Pixels<T> &actual, const Pixels<T> &expected);
 
 /// Succeeds where no component differs by more than limits.worst and all together by no more than limits.mean on
-/// average, and prints the largest difference. Otherwise tells where and how much and saves the actual picture beside
-/// the test program as NAME.png. Pictures of different or no shape are never near.
+/// average, and prints the largest difference. Otherwise tells where and how much and saves the actual picture as
+/// NAME.png in the build's folder test-pictures. Pictures of different or no shape are never near.
 template <typename T>
 testing::AssertionResult picturesNear(const std::string &name, const Pixels<T> &actual, const Pixels<T> &expected,
                                       const Limits &limits = {});

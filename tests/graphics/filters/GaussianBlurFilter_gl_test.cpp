@@ -144,6 +144,14 @@ TEST_F(GaussianBlurFilterTest, TheLastEdgesMirror)
     EXPECT_NEAR(result.at(8, 5, 0), (w0 + w1) * (w1 + w2), exponential);
 }
 
+// Crossed against the directions: the programs have been known by these names for as long as there were lists of them.
+TEST_F(GaussianBlurFilterTest, TheLabelsAreCrossed)
+{
+    const GaussianBlurFilter filter(1, 1, 4, 4, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE);
+    EXPECT_EQ(filter.alongX().name, "VerticalBlurFilter");
+    EXPECT_EQ(filter.alongY().name, "HorizontalBlurFilter");
+}
+
 TEST_F(GaussianBlurFilterTest, KeepsTheMean)
 {
     const FloatPixels ramp = reference::asFloats(rampPicture<std::uint8_t>(37, 23));

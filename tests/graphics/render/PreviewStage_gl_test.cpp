@@ -7,6 +7,7 @@
 #include "tests/support/GlTest.h"
 #include "tests/support/PictureCompare.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace
@@ -137,39 +138,64 @@ TEST_F(PreviewStageTest, SixteenBitPreviewsTakeWords)
     EXPECT_EQ(shown(2, 1).values, (std::vector<std::uint8_t>{255, 255, 255, 128, 128, 128}));
 }
 
-/// How many textures there are. Names count upwards, so that the newest tells how far to look.
-int liveTextures()
+/// How many textures, framebuffers, renderbuffers and programs there are. Names count upwards, so that the newest tells
+/// how far to look.
+int liveObjects()
 {
-    const Texture newest(createTexture(1, 1, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE, nullptr));
+    const RenderTarget newest(1, 1, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+    const GLuint program = glCreateProgram();
+    const FramebufferObject &names = newest.record();
     int count = 0;
-    for (GLuint name = 1; name < newest.name(); ++name) {
-        count += glIsTexture(name) == GL_TRUE ? 1 : 0;
+    for (GLuint name = 1; name <= std::max({names.texture, names.framebuffer, names.renderbuffer, program}); ++name) {
+        count += glIsTexture(name) + glIsFramebuffer(name) + glIsRenderbuffer(name) + glIsProgram(name);
     }
-    return count;
+    glDeleteProgram(program);
+    constexpr int madeToCount = 4;
+    return count - madeToCount;
 }
 
-TEST_F(PreviewStageTest, AThousandSliderMovesLeaveNoTexturesBehind)
+TEST_F(PreviewStageTest, AThousandSliderMovesLeaveNothingBehind)
 {
     load(rampPicture<std::uint8_t>(4, 4));
     stage->setGrain(QVector<float>(256, 0.5F), 0.1F);
-    const int before = liveTextures();
+    const int before = liveObjects();
     const QVector<float> values(256, 0.5F);
     for (int i = 0; i < 1000; ++i) {
         stage->setCurve(values);
         stage->filters()->grain.setWeights(values);
     }
-    EXPECT_EQ(liveTextures(), before);
+    EXPECT_EQ(liveObjects(), before);
 }
 
-TEST_F(PreviewStageTest, FiftyPicturesLeaveNoTexturesBehind)
+TEST_F(PreviewStageTest, FiftyPicturesLeaveNothingBehind)
 {
     const auto picture = rampPicture<std::uint8_t>(64, 64);
     load(picture);
-    const int before = liveTextures();
+    const int before = liveObjects();
     for (int i = 0; i < 50; ++i) {
         load(picture);
     }
-    EXPECT_EQ(liveTextures(), before);
+    EXPECT_EQ(liveObjects(), before);
+}
+
+TEST_F(PreviewStageTest, SavingLeavesNothingBehind)
+{
+    load(rampPicture<std::uint8_t>(8, 8));
+    stage->filters()->vignette.enabled = true;
+    auto picture = rampPicture<std::uint8_t>(9, 7);
+    const int before = liveObjects();
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_TRUE(stage->renderFinal({picture.values.data(), 9, 7, false, false}));
+    }
+    EXPECT_EQ(liveObjects(), before);
+}
+
+TEST_F(PreviewStageTest, ReleasingLeavesNothingBehind)
+{
+    const int before = liveObjects();
+    load(rampPicture<std::uint8_t>(8, 8));
+    stage->release();
+    EXPECT_EQ(liveObjects(), before);
 }
 
 } // namespace

@@ -11,6 +11,8 @@
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
 
+#include <QRegularExpression>
+
 #include <cmath>
 
 namespace
@@ -114,8 +116,8 @@ class TiledSizes : public TiledDocumentRendererTest, public testing::WithParamIn
 // One tile, four side by side, four on top of each other, sixteen; sides that are padded and sides that are not.
 INSTANTIATE_TEST_SUITE_P(Pictures, TiledSizes,
                          testing::Values(Size{1, 1}, Size{3, 2}, Size{2, 3}, Size{5, 1}, Size{1, 5}, Size{1001, 3},
-                                         Size{3, 1003}, Size{2047, 2}, Size{2048, 3}, Size{2049, 5}, Size{3, 2049},
-                                         Size{2054, 1}, Size{7, 2055}, Size{2055, 2049}),
+                                         Size{3, 1003}, Size{1003, 2}, Size{2047, 2}, Size{2048, 3}, Size{2049, 5},
+                                         Size{3, 2049}, Size{2054, 1}, Size{7, 2055}, Size{2055, 2049}),
                          [](const auto &test) {
                              return std::to_string(test.param.width) + "x" + std::to_string(test.param.height);
                          });
@@ -139,7 +141,7 @@ TEST_P(TiledSizes, SixteenBitPicturesComeOutAsTheirHalfFloats)
     for (std::uint16_t &value : expected.values) {
         value = throughHalfFloat(value);
     }
-    // llvmpipe rounds to the nearest half float; another driver may be one half float away.
+    // At the upload llvmpipe rounds to the nearest half float; another driver may be one half float away.
     const double limit = isLlvmpipe() ? 0 : halfFloatStep;
     EXPECT_TRUE(picturesNear("16 bits", render(source, {&mixer}, wordFormats), expected, {limit, 0}));
 }
@@ -276,6 +278,52 @@ TEST_F(TiledDocumentRendererTest, ADisabledVignetteStaysInTheChain)
     EXPECT_TRUE(picturesNear("disabled", render(source, {&mixer, &vignette}, byteFormats), redAsGrey(source)));
     EXPECT_TRUE(log.contains("(INFO) Active Filters:  1"));
     EXPECT_TRUE(log.contains("(INFO) Total Filters:   2"));
+}
+
+// It is the first vignette of the chain that makes room for the overlay, enabled or not; there is one in the program.
+TEST_F(TiledDocumentRendererTest, TheFirstVignetteMakesRoomForTheOverlay)
+{
+    const LogCapture log;
+    MixerFilter mixer;
+    mixer.enabled = true;
+    VignetteFilter first;
+    VignetteFilter second;
+    second.enabled = true;
+    render(rampPicture<std::uint8_t>(4, 4), {&mixer, &first, &second}, byteFormats);
+    EXPECT_TRUE(log.contains("(INFO) Active Filters:  3")) << "mixer, overlay and the second vignette";
+}
+
+TEST_F(TiledDocumentRendererTest, TilesAreRenderedColumnByColumn)
+{
+    const LogCapture log;
+    MixerFilter mixer;
+    mixer.enabled = true;
+    render(rampPicture<std::uint8_t>(2049, 2049), {&mixer}, byteFormats);
+    QStringList expected;
+    for (int h = 0; h < 4; ++h) {
+        for (int v = 0; v < 4; ++v) {
+            expected << QStringLiteral("(INFO) iX:  %1").arg(v) << QStringLiteral("(INFO) iY:  %1").arg(h);
+        }
+    }
+    EXPECT_EQ(log.debugs().filter(QRegularExpression(QStringLiteral("i[XY]: "))), expected);
+}
+
+TEST_F(TiledDocumentRendererTest, TilesThatTheDriverCannotRenderGiveNoResult)
+{
+    const LogCapture log;
+    MixerFilter mixer;
+    mixer.enabled = true;
+    DocumentFilterQueue queue;
+    queue.add(&mixer);
+    Document document(0, &queue);
+    document.setView(view.get());
+    auto source = rampPicture<std::uint8_t>(4, 4);
+    constexpr std::uint32_t tooLong = 1U << 20U;
+    TiledDocumentRenderer renderer(false, {tooLong, tooLong}, {4, 4}, byteFormats, {source.values.data(), 4, 4, 1, 1});
+    renderer.render(document);
+    EXPECT_EQ(renderer.output(), nullptr);
+    EXPECT_FALSE(log.warnings().isEmpty());
+    clearGlErrors();
 }
 
 TEST_F(TiledDocumentRendererTest, LogsOneByteTileStepByStep)

@@ -263,6 +263,20 @@ TEST_F(MixerTest, TheSpinBoxOfTheSumDoesTheSame)
     EXPECT_EQ(slider("sliderLuma").value(), 300);
 }
 
+// A number counts when it is complete: the sum is shared out anew and written back at every change, which would get in
+// the way of the next digit.
+TEST_F(MixerTest, ATypedSumCountsOnceItIsEntered)
+{
+    choose("Luma");
+    emitted.clear();
+    QSpinBox &sum = spinBox("spinBoxLuma");
+    sum.selectAll();
+    QTest::keyClicks(&sum, QStringLiteral("300"));
+    EXPECT_EQ(emitted.count(), 0);
+    QTest::keyClick(&sum, Qt::Key_Return);
+    expectEmitted(92, 165, 43);
+}
+
 // A third of 256 is no whole weight: the controls show 85 each, and their sum, while the picture gets the fraction.
 TEST_F(MixerTest, ASumOfFractionsShowsTheSumOfItsWholeWeights)
 {

@@ -1,109 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "ui/preview/GLWidget.h"
+#include "tests/ui/preview/GLWidgetTest.h"
 
 #include "graphics/filters/IFilter.h"
-#include "tests/support/GlPresence.h"
 #include "tests/support/LogCapture.h"
-#include "tests/support/PictureCompare.h"
-#include "tests/support/Screen.h"
-
-#include <gtest/gtest.h>
 
 #include <cmath>
-
-#include <QTest>
-#include <QWheelEvent>
 
 namespace
 {
 
 using namespace grisal::test;
-using grisal::ui::GLWidget;
-
-constexpr int pictureWidth = 120;
-constexpr int pictureHeight = 80;
-
-BytePixels redAsGrey(BytePixels picture)
-{
-    for (std::size_t i = 0; i < picture.values.size(); i += 3) {
-        picture.values[i + 1] = picture.values[i + 2] = picture.values[i];
-    }
-    return picture;
-}
-
-class GLWidgetTest : public testing::Test
-{
-protected:
-    GLWidgetTest() : picture(rampPicture<std::uint8_t>(pictureWidth, pictureHeight))
-    {
-        widget.setWindowFlag(Qt::FramelessWindowHint);
-        widget.slotChangeMixer(1, 0, 0);
-    }
-
-    void SetUp() override { GRISAL_SKIP_WITHOUT_GL(); }
-
-    void show(int width = 200, int height = 160)
-    {
-        widget.setGeometry(0, 0, width, height);
-        widget.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
-        ASSERT_TRUE(widget.isValid()) << "no OpenGL on this display";
-        // The fit that follows a resize would come in between.
-        QTest::qWait(150);
-    }
-
-    void load(const BytePixels &pixels)
-    {
-        widget.loadImage(pixels.values.data(), pixels.width, pixels.height, false, pixels.components == 4);
-    }
-
-    void showPictureAtOneToOne()
-    {
-        show();
-        load(picture);
-        widget.slotActualPixels();
-    }
-
-    /// Device pixels per unit of the toolkit.
-    double ratio() const { return widget.devicePixelRatioF(); }
-
-    QSize pixelSize() const { return (QSizeF(widget.size()) * ratio()).toSize(); }
-
-    /// The widget's area with a picture in it at the given place, all else black.
-    BytePixels placed(const BytePixels &pixels, int left, int top) const
-    {
-        BytePixels area(pixelSize().width(), pixelSize().height());
-        for (int y = 0; y < pixels.height; ++y) {
-            for (int x = 0; x < pixels.width; ++x) {
-                for (int c = 0; c < 3; ++c) {
-                    area.at(left + x, top + y, c) = pixels.at(x, y, c);
-                }
-            }
-        }
-        return area;
-    }
-
-    BytePixels centred(const BytePixels &pixels) const
-    {
-        return placed(pixels, (pixelSize().width() - pixels.width) / 2, (pixelSize().height() - pixels.height) / 2);
-    }
-
-    testing::AssertionResult screenShows(const BytePixels &expected) const
-    {
-        return picturesNear("screen", onScreenOnceLike(widget, expected), expected);
-    }
-
-    void wheel(int delta)
-    {
-        const QPointF middle(widget.width() / 2.0, widget.height() / 2.0);
-        QWheelEvent event(middle, widget.mapToGlobal(middle), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&widget, &event);
-    }
-
-    GLWidget widget;
-    BytePixels picture;
-};
 
 TEST_F(GLWidgetTest, TheScreenShowsWhatTheRendererComputed)
 {
@@ -127,135 +33,41 @@ TEST_F(GLWidgetTest, ChangedParametersAreSeenAtOnce)
     EXPECT_TRUE(screenShows(centred(BytePixels(pictureWidth, pictureHeight))));
 }
 
-TEST_F(GLWidgetTest, HoldingTheButtonComparesWithTheSource)
+TEST_F(GLWidgetTest, AResizedWidgetShowsThePicture)
 {
     showPictureAtOneToOne();
-    QTest::mousePress(&widget, Qt::LeftButton, {}, {20, 20});
-    EXPECT_TRUE(screenShows(centred(picture)));
-    QTest::mouseRelease(&widget, Qt::LeftButton, {}, {20, 20});
+    widget.setGeometry(0, 0, 300, 260);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return qFuzzyCompare(widget.offset().x(), pixelSize().width() / 2.0); }));
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
-// A drag moves the window over the picture: the picture goes against the mouse, and a drag does not compare.
-TEST_F(GLWidgetTest, DraggingPansAgainstTheMouse)
+// The grain's pass leaves another texture unit active.
+
+TEST_F(GLWidgetTest, ThePreviewIsSeenAfterTheGrain)
 {
     showPictureAtOneToOne();
-    QTest::mousePress(&widget, Qt::LeftButton, {}, {100, 80});
-    QTest::mouseMove(&widget, {112, 74});
-    QTest::qWait(300);
-    const int dx = static_cast<int>(12 * ratio());
-    const int dy = static_cast<int>(-6 * ratio());
-    const BytePixels expected = placed(redAsGrey(picture), (pixelSize().width() - pictureWidth) / 2 - dx,
-                                       (pixelSize().height() - pictureHeight) / 2 - dy);
-    EXPECT_TRUE(screenShows(expected));
-    QTest::mouseRelease(&widget, Qt::LeftButton, {}, {112, 74});
-    EXPECT_TRUE(screenShows(expected));
+    widget.grainFilter()->enabled = true;
+    widget.renderImage();
+    EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
+    BytePixels full = rampPicture<std::uint8_t>(9, 7);
+    EXPECT_TRUE(widget.renderFinal(full.values.data(), 9, 7, false, false));
+    widget.update();
+    QTest::qWait(50);
+    EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
-TEST_F(GLWidgetTest, MovingWithoutAButtonDoesNothing)
-{
-    showPictureAtOneToOne();
-    const QPointF before = widget.offset();
-    QTest::mouseMove(&widget, {10, 10});
-    QTest::mouseMove(&widget, {60, 60});
-    EXPECT_EQ(widget.offset(), before);
-}
-
-TEST_F(GLWidgetTest, ThePictureIsPutBackWhereItWasAtTwiceTheSize)
-{
-    show(400, 320);
-    load(picture);
-    widget.slotActualPixels();
-    for (int i = 0; i < 25; ++i) {
-        widget.slotZoomIn();
-    }
-    EXPECT_NEAR(widget.scale(), 2, 1e-5);
-    BytePixels doubled(2 * pictureWidth, 2 * pictureHeight);
-    for (int y = 0; y < doubled.height; ++y) {
-        for (int x = 0; x < doubled.width; ++x) {
-            for (int c = 0; c < 3; ++c) {
-                doubled.at(x, y, c) = picture.at(x / 2, y / 2, 0);
-            }
-        }
-    }
-    EXPECT_TRUE(screenShows(centred(doubled)));
-}
-
-TEST_F(GLWidgetTest, TheWheelZoomsInWholeNotches)
+TEST_F(GLWidgetTest, SixteenBitPicturesLogOtherFormats)
 {
     show();
-    load(picture);
-    const float fitted = widget.scale();
-    wheel(120);
-    EXPECT_NEAR(widget.scale(), fitted + 0.04F, 1e-5);
-    wheel(-240);
-    EXPECT_NEAR(widget.scale(), fitted - 0.04F, 1e-5);
-    wheel(60);
-    EXPECT_NEAR(widget.scale(), fitted - 0.04F, 1e-5);
-}
-
-TEST_F(GLWidgetTest, ZoomingDoesNotCentreThePicture)
-{
-    showPictureAtOneToOne();
-    QTest::mousePress(&widget, Qt::LeftButton, {}, {100, 80});
-    QTest::mouseMove(&widget, {110, 80});
-    QTest::mouseRelease(&widget, Qt::LeftButton, {}, {110, 80});
-    const QPointF before = widget.offset();
-    widget.slotZoomIn();
-    EXPECT_EQ(widget.offset(), before);
-}
-
-TEST_F(GLWidgetTest, LandscapesStartWholeAndPortraitsFillTheWidget)
-{
-    show();
-    load(picture);
-    EXPECT_EQ(widget.fitMode(), GLWidget::FitSmaller);
-    EXPECT_FLOAT_EQ(widget.scale(), 0.99F * static_cast<float>(pixelSize().width()) / pictureWidth);
-    load(rampPicture<std::uint8_t>(80, 80));
-    EXPECT_EQ(widget.fitMode(), GLWidget::FitLarger);
-    EXPECT_FLOAT_EQ(widget.scale(), 0.99F * static_cast<float>(pixelSize().width()) / 80);
-}
-
-TEST_F(GLWidgetTest, DoubleClicksFit)
-{
-    showPictureAtOneToOne();
-    QTest::mouseDClick(&widget, Qt::LeftButton, {}, {50, 50});
-    EXPECT_EQ(widget.fitMode(), GLWidget::FitSmaller);
-    QTest::mouseDClick(&widget, Qt::RightButton, {}, {50, 50});
-    EXPECT_EQ(widget.fitMode(), GLWidget::FitLarger);
-}
-
-TEST_F(GLWidgetTest, FitOnWidthAndHeightFollowTheLargerSide)
-{
-    show(200, 100);
-    load(rampPicture<std::uint8_t>(80, 80));
-    EXPECT_EQ(widget.fitOnWidth(), GLWidget::FitLarger);
-    EXPECT_EQ(widget.fitOnHeight(), GLWidget::FitSmaller);
-    load(rampPicture<std::uint8_t>(400, 80));
-    EXPECT_EQ(widget.fitOnWidth(), GLWidget::FitSmaller);
-    EXPECT_EQ(widget.fitOnHeight(), GLWidget::FitLarger);
-}
-
-TEST_F(GLWidgetTest, AnUnknownFitIsToldAndShowsOneToOne)
-{
-    showPictureAtOneToOne();
     const LogCapture log;
-    widget.slotFitTo(static_cast<GLWidget::enumFitTo>(7));
-    EXPECT_EQ(log.warnings(), QStringList(QStringLiteral("Wrong zoom mode selected")));
-    EXPECT_FLOAT_EQ(widget.scale(), 1);
+    const WordPixels words(8, 4, 4);
+    widget.loadImage(words.values.data(), 8, 4, true, true);
+    EXPECT_EQ(log.debugs().mid(5, 3).join('\n').toStdString(), "Format Type(GL_RGB8):  false\n"
+                                                               "Image Format(GL_RGB):  false\n"
+                                                               "Element Type(GLUB):    false");
 }
 
-TEST_F(GLWidgetTest, AResizeFitsAgainAfterAMoment)
-{
-    show();
-    load(picture);
-    widget.slotZoomIn();
-    widget.setGeometry(0, 0, 300, 160);
-    EXPECT_TRUE(QTest::qWaitFor([this] {
-        return qFuzzyCompare(widget.scale(), 0.99F * static_cast<float>(pixelSize().height()) / pictureHeight);
-    }));
-    EXPECT_EQ(widget.offset(), QPointF(pixelSize().width() / 2.0, pixelSize().height() / 2.0));
-}
+// A drag moves the window over the picture: the picture goes against the mouse, and a drag does not compare.
 
 TEST_F(GLWidgetTest, PreviewSidesAreRoundedDownAndLargePicturesHalved)
 {

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "tests/ui/preview/GLWidgetTest.h"
+
+#include "tests/support/LogCapture.h"
+
+#include <QSignalSpy>
+
+namespace
+{
+
+using namespace grisal::test;
+
+TEST_F(GLWidgetTest, HoldingTheButtonComparesWithTheSource)
+{
+    showPictureAtOneToOne();
+    QTest::mousePress(&widget, Qt::LeftButton, {}, {20, 20});
+    EXPECT_TRUE(screenShows(centred(picture)));
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, {20, 20});
+    EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
+}
+
+TEST_F(GLWidgetTest, HoldingTheButtonTakesEffectOnce)
+{
+    showPictureAtOneToOne();
+    QTest::mousePress(&widget, Qt::LeftButton, {}, {20, 20});
+    EXPECT_TRUE(screenShows(centred(picture)));
+    const QSignalSpy frames(&widget, &QOpenGLWidget::frameSwapped);
+    QTest::qWait(600);
+    EXPECT_EQ(frames.count(), 0);
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, {20, 20});
+}
+
+TEST_F(GLWidgetTest, TakesTheKeyboard)
+{
+    EXPECT_EQ(widget.focusPolicy(), Qt::StrongFocus);
+}
+
+TEST_F(GLWidgetTest, DraggingPansAgainstTheMouse)
+{
+    showPictureAtOneToOne();
+    QTest::mousePress(&widget, Qt::LeftButton, {}, {100, 80});
+    QTest::mouseMove(&widget, {112, 74});
+    QTest::qWait(300);
+    const int dx = static_cast<int>(12 * ratio());
+    const int dy = static_cast<int>(-6 * ratio());
+    const BytePixels expected = placed(redAsGrey(picture), (pixelSize().width() - pictureWidth) / 2 - dx,
+                                       (pixelSize().height() - pictureHeight) / 2 - dy);
+    EXPECT_TRUE(screenShows(expected));
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, {112, 74});
+    EXPECT_TRUE(screenShows(expected));
+}
+
+TEST_F(GLWidgetTest, MovingWithoutAButtonDoesNothing)
+{
+    showPictureAtOneToOne();
+    const QPointF before = widget.offset();
+    QTest::mouseMove(&widget, {10, 10});
+    QTest::mouseMove(&widget, {60, 60});
+    EXPECT_EQ(widget.offset(), before);
+}
+
+TEST_F(GLWidgetTest, ThePictureIsPutBackWhereItWasAtTwiceTheSize)
+{
+    show(400, 320);
+    load(picture);
+    widget.slotActualPixels();
+    for (int i = 0; i < 25; ++i) {
+        widget.slotZoomIn();
+    }
+    EXPECT_NEAR(widget.scale(), 2, 1e-5);
+    BytePixels doubled(2 * pictureWidth, 2 * pictureHeight);
+    for (int y = 0; y < doubled.height; ++y) {
+        for (int x = 0; x < doubled.width; ++x) {
+            for (int c = 0; c < 3; ++c) {
+                doubled.at(x, y, c) = picture.at(x / 2, y / 2, 0);
+            }
+        }
+    }
+    EXPECT_TRUE(screenShows(centred(doubled)));
+}
+
+TEST_F(GLWidgetTest, TheWheelZoomsInWholeNotches)
+{
+    show();
+    load(picture);
+    const float fitted = widget.scale();
+    wheel(120);
+    EXPECT_NEAR(widget.scale(), fitted + 0.04F, 1e-5);
+    wheel(-240);
+    EXPECT_NEAR(widget.scale(), fitted - 0.04F, 1e-5);
+    wheel(60);
+    EXPECT_NEAR(widget.scale(), fitted - 0.04F, 1e-5);
+}
+
+TEST_F(GLWidgetTest, ZoomingDoesNotCentreThePicture)
+{
+    showPictureAtOneToOne();
+    QTest::mousePress(&widget, Qt::LeftButton, {}, {100, 80});
+    QTest::mouseMove(&widget, {110, 80});
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, {110, 80});
+    const QPointF before = widget.offset();
+    widget.slotZoomIn();
+    EXPECT_EQ(widget.offset(), before);
+}
+
+TEST_F(GLWidgetTest, LandscapesStartWholeAndPortraitsFillTheWidget)
+{
+    show();
+    load(picture);
+    EXPECT_EQ(widget.fitMode(), GLWidget::FitSmaller);
+    EXPECT_FLOAT_EQ(widget.scale(), 0.99F * static_cast<float>(pixelSize().width()) / pictureWidth);
+    load(rampPicture<std::uint8_t>(80, 80));
+    EXPECT_EQ(widget.fitMode(), GLWidget::FitLarger);
+    EXPECT_FLOAT_EQ(widget.scale(), 0.99F * static_cast<float>(pixelSize().width()) / 80);
+}
+
+TEST_F(GLWidgetTest, DoubleClicksFit)
+{
+    showPictureAtOneToOne();
+    QTest::mouseDClick(&widget, Qt::LeftButton, {}, {50, 50});
+    EXPECT_EQ(widget.fitMode(), GLWidget::FitSmaller);
+    QTest::mouseDClick(&widget, Qt::RightButton, {}, {50, 50});
+    EXPECT_EQ(widget.fitMode(), GLWidget::FitLarger);
+}
+
+TEST_F(GLWidgetTest, FitOnWidthAndHeightFollowTheLargerSide)
+{
+    show(200, 100);
+    load(rampPicture<std::uint8_t>(80, 80));
+    EXPECT_EQ(widget.fitOnWidth(), GLWidget::FitLarger);
+    EXPECT_EQ(widget.fitOnHeight(), GLWidget::FitSmaller);
+    load(rampPicture<std::uint8_t>(400, 80));
+    EXPECT_EQ(widget.fitOnWidth(), GLWidget::FitSmaller);
+    EXPECT_EQ(widget.fitOnHeight(), GLWidget::FitLarger);
+}
+
+TEST_F(GLWidgetTest, AnUnknownFitIsToldAndShowsOneToOne)
+{
+    showPictureAtOneToOne();
+    const LogCapture log;
+    widget.slotFitTo(static_cast<GLWidget::enumFitTo>(7));
+    EXPECT_EQ(log.warnings(), QStringList(QStringLiteral("Wrong zoom mode selected")));
+    EXPECT_FLOAT_EQ(widget.scale(), 1);
+}
+
+TEST_F(GLWidgetTest, AResizeFitsAgainAfterAMoment)
+{
+    show();
+    load(picture);
+    widget.slotZoomIn();
+    widget.setGeometry(0, 0, 300, 160);
+    EXPECT_TRUE(QTest::qWaitFor([this] {
+        return qFuzzyCompare(widget.scale(), 0.99F * static_cast<float>(pixelSize().height()) / pictureHeight);
+    }));
+    EXPECT_EQ(widget.offset(), QPointF(pixelSize().width() / 2.0, pixelSize().height() / 2.0));
+}
+
+} // namespace

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/preview/GLWidget.h"
+
+#include "tests/support/GlPresence.h"
+#include "tests/support/PictureCompare.h"
+#include "tests/support/Screen.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QWheelEvent>
+
+namespace grisal::test
+{
+
+using ui::GLWidget;
+
+constexpr int pictureWidth = 120;
+constexpr int pictureHeight = 80;
+
+/// What a mixer that takes only red makes of a picture.
+inline BytePixels redAsGrey(BytePixels picture)
+{
+    for (std::size_t i = 0; i < picture.values.size(); i += 3) {
+        picture.values[i + 1] = picture.values[i + 2] = picture.values[i];
+    }
+    return picture;
+}
+
+/// A test of the preview widget: frameless at the corner of the screen, its mixer set to red alone.
+class GLWidgetTest : public testing::Test
+{
+protected:
+    GLWidgetTest() : picture(rampPicture<std::uint8_t>(pictureWidth, pictureHeight))
+    {
+        widget.setWindowFlag(Qt::FramelessWindowHint);
+        widget.slotChangeMixer(1, 0, 0);
+    }
+
+    void SetUp() override { GRISAL_SKIP_WITHOUT_GL(); }
+
+    void show(int width = 200, int height = 160)
+    {
+        widget.setGeometry(0, 0, width, height);
+        widget.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
+        ASSERT_TRUE(widget.isValid()) << "no OpenGL on this display";
+        // The fit that follows a resize would come in between.
+        QTest::qWait(150);
+    }
+
+    void load(const BytePixels &pixels)
+    {
+        widget.loadImage(pixels.values.data(), pixels.width, pixels.height, false, pixels.components == 4);
+    }
+
+    void showPictureAtOneToOne()
+    {
+        show();
+        load(picture);
+        widget.slotActualPixels();
+    }
+
+    /// Device pixels per unit of the toolkit.
+    double ratio() const { return widget.devicePixelRatioF(); }
+
+    QSize pixelSize() const { return (QSizeF(widget.size()) * ratio()).toSize(); }
+
+    /// The widget's area with a picture in it at the given place, all else black.
+    BytePixels placed(const BytePixels &pixels, int left, int top) const
+    {
+        BytePixels area(pixelSize().width(), pixelSize().height());
+        for (int y = 0; y < pixels.height; ++y) {
+            for (int x = 0; x < pixels.width; ++x) {
+                for (int c = 0; c < 3; ++c) {
+                    area.at(left + x, top + y, c) = pixels.at(x, y, c);
+                }
+            }
+        }
+        return area;
+    }
+
+    BytePixels centred(const BytePixels &pixels) const
+    {
+        return placed(pixels, (pixelSize().width() - pixels.width) / 2, (pixelSize().height() - pixels.height) / 2);
+    }
+
+    testing::AssertionResult screenShows(const BytePixels &expected) const
+    {
+        return picturesNear("screen", onScreenOnceLike(widget, expected), expected);
+    }
+
+    void wheel(int delta)
+    {
+        const QPointF middle(widget.width() / 2.0, widget.height() / 2.0);
+        QWheelEvent event(middle, widget.mapToGlobal(middle), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&widget, &event);
+    }
+
+    GLWidget widget;
+    BytePixels picture;
+};
+
+} // namespace grisal::test
