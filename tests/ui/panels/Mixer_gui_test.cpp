@@ -269,6 +269,8 @@ TEST_F(MixerTest, ATypedSumCountsOnceItIsEntered)
 {
     choose("Luma");
     emitted.clear();
+    panel.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
     QSpinBox &sum = spinBox("spinBoxLuma");
     sum.selectAll();
     QTest::keyClicks(&sum, QStringLiteral("300"));
