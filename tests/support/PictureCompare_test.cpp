@@ -163,7 +163,7 @@ TEST_F(PictureCompareTest, AFailureSavesTheActualPicture)
 {
     ASSERT_FALSE(picturesNear("kept", BytePixels(1, 1, 3, {1, 2, 3}), BytePixels(1, 1)));
 
-    EXPECT_TRUE(QFile::exists(QStringLiteral("kept.png")));
+    EXPECT_TRUE(QFile::exists(QStringLiteral(GRISAL_TEST_PICTURES "/kept.png")));
 }
 
 TEST_F(PictureCompareTest, ASuccessPrintsTheLargestDifference)
