@@ -10,7 +10,7 @@ namespace Ui
 class About;
 }
 
-/// What the program is and when it was built.
+/// What the program is and when it was built, and the licences of the libraries that it contains.
 class About : public QDialog
 {
     Q_OBJECT
@@ -20,8 +20,13 @@ public:
     ~About() override;
 
 public slots:
+    void on_boxLicense_currentIndexChanged(int index);
     void on_buttonWebsite_clicked();
 
 private:
+    void showVersion();
+    void showLogo();
+    void fillLicenses();
+
     std::unique_ptr<Ui::About> m_form;
 };

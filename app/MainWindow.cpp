@@ -25,6 +25,7 @@ namespace
 {
 
 constexpr int toolBarGap = 20;
+constexpr int toolBarIconSide = 32;
 
 QWidget *newGap()
 {
@@ -62,6 +63,7 @@ void MainWindow::setUpToolBar()
     m_toolBar->setFloatable(false);
     m_toolBar->setMovable(false);
     m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    m_toolBar->setIconSize(QSize(toolBarIconSide, toolBarIconSide));
     m_toolBar->setAllowedAreas(Qt::LeftToolBarArea);
     m_toolBar->addWidget(newGap());
     m_toolBar->addAction(m_form->actionMixer);

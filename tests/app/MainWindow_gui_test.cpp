@@ -12,6 +12,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -24,28 +25,29 @@ struct ActionRow {
     const char *statusTip;
     const char *shortcut;
     bool checkable;
+    const char *icon;
 };
 
 constexpr std::array<ActionRow, 19> actionTable{{
-    {"actionMixer", "1. Mixer", "Channel Mixer", "Ctrl+1", false},
-    {"actionCurves", "2. Curves", "Edit mapping function", "Ctrl+2", true},
-    {"actionSharpen", "3. Sharpen", "Accentuate Details", "Ctrl+3", true},
-    {"actionVignette", "4. Vignette", "Darken Borders", "Ctrl+4", true},
-    {"actionGrain", "5. Film Grain", "Simulate High ISO Film Grain", "Ctrl+5", true},
-    {"actionSplitTone", "6. Split Tone", "Apply Color Tones", "Ctrl+6", true},
-    {"actionOpen", "Open", "", "Ctrl+O", false},
-    {"actionSave", "Save", "", "Ctrl+S", false},
-    {"actionSave_As", "Save As", "", "Ctrl+Shift+S", false},
-    {"actionQuit", "Quit", "", "Ctrl+Q", false},
-    {"actionPreferences", "Preferences", "", "", false},
-    {"actionAbout", "About", "", "", false},
-    {"actionWebsite", "Website", "", "", false},
-    {"actionHelp", "Help", "", "", false},
-    {"actionZoomIn", "Zoom In", "", "Ctrl++", false},
-    {"actionZoomOut", "Zoom Out", "", "Ctrl+-", false},
-    {"actionFitOnWidth", "Fit on Width", "", "Ctrl+0", false},
-    {"actionFitOnHeight", "Fit on Height", "", "Ctrl+Shift+0", false},
-    {"actionActualPixels", "Actual Pixels", "Zoom to 1:1", "Ctrl+Alt+0", false},
+    {"actionMixer", "1. Mixer", "Channel Mixer", "Ctrl+1", false, ":/Icons/Icons/mixer.png"},
+    {"actionCurves", "2. Curves", "Edit mapping function", "Ctrl+2", true, ":/Icons/Icons/curves.png"},
+    {"actionSharpen", "3. Sharpen", "Accentuate Details", "Ctrl+3", true, ":/Icons/Icons/sharpen.png"},
+    {"actionVignette", "4. Vignette", "Darken Borders", "Ctrl+4", true, ":/Icons/Icons/vignette.png"},
+    {"actionGrain", "5. Film Grain", "Simulate High ISO Film Grain", "Ctrl+5", true, ":/Icons/Icons/grain.png"},
+    {"actionSplitTone", "6. Split Tone", "Apply Color Tones", "Ctrl+6", true, ":/Icons/Icons/split.png"},
+    {"actionOpen", "Open", "", "Ctrl+O", false, ":/Actions/Icons/Actions/load.png"},
+    {"actionSave", "Save", "", "Ctrl+S", false, ":/Actions/Icons/Actions/save.png"},
+    {"actionSave_As", "Save As", "", "Ctrl+Shift+S", false, ":/Actions/Icons/Actions/save_as.png"},
+    {"actionQuit", "Quit", "", "Ctrl+Q", false, ":/Actions/Icons/Actions/exit.png"},
+    {"actionPreferences", "Preferences", "", "", false, ":/Actions/Icons/Actions/prefs.png"},
+    {"actionAbout", "About", "", "", false, ":/Actions/Icons/Actions/info.png"},
+    {"actionWebsite", "Website", "", "", false, ":/Actions/Icons/Actions/web.png"},
+    {"actionHelp", "Help", "", "", false, ":/Actions/Icons/Actions/help.png"},
+    {"actionZoomIn", "Zoom In", "", "Ctrl++", false, ""},
+    {"actionZoomOut", "Zoom Out", "", "Ctrl+-", false, ""},
+    {"actionFitOnWidth", "Fit on Width", "", "Ctrl+0", false, ""},
+    {"actionFitOnHeight", "Fit on Height", "", "Ctrl+Shift+0", false, ""},
+    {"actionActualPixels", "Actual Pixels", "Zoom to 1:1", "Ctrl+Alt+0", false, ""},
 }};
 
 class MainWindowTest : public WindowTest
@@ -75,6 +77,40 @@ TEST_F(MainWindowTest, ActionsHaveTheirTextsTipsAndShortcuts)
         EXPECT_EQ(found.isCheckable(), row.checkable) << row.name;
         EXPECT_FALSE(found.isChecked()) << row.name;
     }
+}
+
+// Each icon is the picture of its name, there is another for dense screens, and no two actions look alike.
+TEST_F(MainWindowTest, ActionsHaveTheirIcons)
+{
+    constexpr int side = 32;
+    std::vector<QImage> seen;
+    for (const ActionRow &row : actionTable) {
+        const QIcon icon = action(row.name).icon();
+        const QString path = QString::fromLatin1(row.icon);
+        EXPECT_EQ(icon.isNull(), path.isEmpty()) << row.name;
+        if (path.isEmpty()) {
+            continue;
+        }
+        EXPECT_EQ(QImage(path).size(), QSize(side, side)) << row.name;
+        const QImage plain = icon.pixmap(QSize(side, side), 1).toImage();
+        EXPECT_EQ(plain, QImage(path).convertToFormat(plain.format())) << row.name;
+        QString dense = path;
+        EXPECT_EQ(QImage(dense.replace(QStringLiteral(".png"), QStringLiteral("@2x.png"))).size(),
+                  QSize(2 * side, 2 * side))
+            << row.name;
+        for (const QImage &other : seen) {
+            EXPECT_NE(plain, other) << row.name;
+        }
+        seen.push_back(plain);
+    }
+}
+
+TEST_F(MainWindowTest, TheWindowHasTheProgramsIcon)
+{
+    const QImage icon(QStringLiteral(":/Icons/Icons/grisal.png"));
+    EXPECT_EQ(icon.size(), QSize(256, 256));
+    const QImage shown = window.windowIcon().pixmap(QSize(256, 256), 1).toImage();
+    EXPECT_EQ(shown, icon.convertToFormat(shown.format()));
 }
 
 TEST_F(MainWindowTest, TheFormHasItsTitleAndSize)
