@@ -9,8 +9,10 @@ namespace grisal::math
 namespace
 {
 
-constexpr double third = 0.333333333333;
-constexpr double greenThird = 0.333333333334;
+float greenOf(double mean, float r, float b)
+{
+    return clampedWeight(static_cast<float>((mean - third * r - third * b) / greenThird));
+}
 
 } // namespace
 
@@ -24,15 +26,28 @@ float meanOf(const ChannelWeights &weights)
     return static_cast<float>(third * weights.r + greenThird * weights.g + third * weights.b);
 }
 
+ChannelWeights weightsAt(float luma, float chromaU, float chromaV)
+{
+    ChannelWeights weights;
+    weights.r = clampedWeight(luma + chromaV);
+    weights.b = clampedWeight(luma + chromaU);
+    weights.g = greenOf(luma, weights.r, weights.b);
+    return weights;
+}
+
+ChannelWeights shiftedToMean(const ChannelWeights &weights, double mean)
+{
+    const double before = third * weights.r + greenThird * weights.g + third * weights.b;
+    ChannelWeights shifted;
+    shifted.r = clampedWeight(static_cast<float>(weights.r - before + mean));
+    shifted.b = clampedWeight(static_cast<float>(weights.b - before + mean));
+    shifted.g = greenOf(mean, shifted.r, shifted.b);
+    return shifted;
+}
+
 ChannelWeights shiftedToSum(const ChannelWeights &weights, float sum)
 {
-    const double mean = third * weights.r + greenThird * weights.g + third * weights.b;
-    const double target = static_cast<double>(sum) / 3.0;
-    ChannelWeights shifted;
-    shifted.r = clampedWeight(static_cast<float>(weights.r - mean + target));
-    shifted.b = clampedWeight(static_cast<float>(weights.b - mean + target));
-    shifted.g = clampedWeight(static_cast<float>((target - third * shifted.r - third * shifted.b) / greenThird));
-    return shifted;
+    return shiftedToMean(weights, static_cast<double>(sum) / 3.0);
 }
 
 } // namespace grisal::math

@@ -38,6 +38,30 @@ TEST(OpponentColour, AShiftToTheSameSumChangesNothing)
     EXPECT_NEAR(shifted.b, 28, 1e-4);
 }
 
+TEST(OpponentColour, ThereIsAWayBackFromLevelAndChroma)
+{
+    const ChannelWeights weights = weightsAt(60, 30, -30);
+    EXPECT_FLOAT_EQ(weights.r, 30);
+    EXPECT_NEAR(weights.g, 60, 1e-4);
+    EXPECT_FLOAT_EQ(weights.b, 90);
+}
+
+TEST(OpponentColour, TheWayBackEndsAtTheLimits)
+{
+    const ChannelWeights weights = weightsAt(85, 682, 515);
+    EXPECT_EQ(weights.r, 512);
+    EXPECT_EQ(weights.b, 512);
+    EXPECT_EQ(weights.g, -512);
+}
+
+TEST(OpponentColour, AGreyShiftedToAMeanIsThatGrey)
+{
+    const ChannelWeights shifted = shiftedToMean({100, 100, 100}, 200);
+    EXPECT_EQ(static_cast<int>(shifted.r), 200);
+    EXPECT_EQ(static_cast<int>(shifted.g), 200);
+    EXPECT_EQ(static_cast<int>(shifted.b), 200);
+}
+
 TEST(OpponentColour, GreenTakesUpWhatTheClampingLeaves)
 {
     const ChannelWeights shifted = shiftedToSum({511, -300, -200}, 511);

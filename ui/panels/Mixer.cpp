@@ -7,6 +7,8 @@
 
 #include <QSignalBlocker>
 
+using grisal::graphics::ColorRGB;
+
 namespace
 {
 
@@ -19,6 +21,7 @@ constexpr int neutralSum = 255;
 Mixer::Mixer(QWidget *parent) : QWidget(parent), m_form(std::make_unique<Ui::Mixer>())
 {
     m_form->setupUi(this);
+    connect(m_form->frameYUV, &YUVFrame::signalWeights, this, &Mixer::slotSetRGB);
     fillPresets();
 }
 
@@ -56,7 +59,7 @@ void Mixer::slotSetRGB(float r, float g, float b)
     emit signalMixer(r / fullWeight, g / fullWeight, b / fullWeight);
 }
 
-grisal::graphics::ColorRGB<float> Mixer::channels() const
+ColorRGB<float> Mixer::channels() const
 {
     return {static_cast<float>(m_form->sliderR->value()), static_cast<float>(m_form->sliderG->value()),
             static_cast<float>(m_form->sliderB->value())};
@@ -64,9 +67,18 @@ grisal::graphics::ColorRGB<float> Mixer::channels() const
 
 void Mixer::refreshFromSliders()
 {
-    const auto [r, g, b] = channels();
-    const QSignalBlocker blockLuma(m_form->sliderLuma);
-    m_form->sliderLuma->setValue(static_cast<int>(g + r + b));
+    const ColorRGB<float> weights = channels();
+    {
+        const QSignalBlocker blockLuma(m_form->sliderLuma);
+        m_form->sliderLuma->setValue(static_cast<int>(weights.g + weights.r + weights.b));
+    }
+    showOnWheel(weights);
+}
+
+void Mixer::showOnWheel(const ColorRGB<float> &weights)
+{
+    const QSignalBlocker blockWheel(m_form->frameYUV);
+    m_form->frameYUV->slotSetRGB(weights);
 }
 
 void Mixer::on_sliderLuma_valueChanged(int value)
@@ -74,6 +86,7 @@ void Mixer::on_sliderLuma_valueChanged(int value)
     m_form->spinBoxLuma->setValue(value);
     const auto [r, g, b] = channels();
     const grisal::math::ChannelWeights shifted = grisal::math::shiftedToSum({r, g, b}, static_cast<float>(value));
+    showOnWheel({shifted.r, shifted.g, shifted.b});
     slotSetRGB(shifted.r, shifted.g, shifted.b);
 }
 
@@ -133,6 +146,8 @@ void Mixer::on_buttonReset_clicked()
             m_form->spinBoxG->setValue(neutralWeight);
             m_form->spinBoxB->setValue(neutralWeight);
         }
+        constexpr float neutral = neutralWeight;
+        showOnWheel({neutral, neutral, neutral});
         m_form->sliderLuma->setValue(neutralSum);
     }
     constexpr float third = 1.0F / 3;

@@ -12,11 +12,11 @@ namespace Ui
 class Mixer;
 }
 
-/// The channel mixer: the weights with which red, green and blue add up to grey, as sliders, as their sum and as looks
-/// named after film stocks.
+/// The channel mixer: the weights with which red, green and blue add up to grey, as a colour wheel, as sliders, as
+/// their sum and as looks named after film stocks.
 ///
 /// Weights count 0..255 here and are emitted divided by 255; 85 each is the plain average. The channel sliders hold
-/// them. Moving one of these alone emits nothing: a change is committed by the sum, a preset or the reset.
+/// them. Moving one of these alone emits nothing: a change is committed by the wheel, the sum, a preset or the reset.
 class Mixer : public QWidget
 {
     Q_OBJECT
@@ -52,6 +52,7 @@ private:
     void fillPresets();
     void applyPreset(int index);
     void refreshFromSliders();
+    void showOnWheel(const grisal::graphics::ColorRGB<float> &weights);
     grisal::graphics::ColorRGB<float> channels() const;
 
     std::unique_ptr<Ui::Mixer> m_form;

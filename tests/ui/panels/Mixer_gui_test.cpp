@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/GuiTest.h"
+#include "ui/frames/YUVFrame.h"
 #include "ui/panels/Mixer.h"
 
 #include <QComboBox>
@@ -76,7 +77,16 @@ protected:
         EXPECT_FLOAT_EQ(weights[2].toFloat(), b / 255.0F);
     }
 
+    void expectOnWheel(float r, float g, float b)
+    {
+        const float mean = (r + g + b) / 3;
+        EXPECT_NEAR(wheel.luma(), mean, 1e-3);
+        EXPECT_NEAR(wheel.markerX(), (b - mean + 341) / 682, 1e-5);
+        EXPECT_NEAR(wheel.markerY(), (mean - r + 341) / 682, 1e-5);
+    }
+
     Mixer panel;
+    YUVFrame &wheel = child<YUVFrame>(panel, "frameYUV");
     QComboBox &presets = child<QComboBox>(panel, "comboPresets");
     QSignalSpy emitted{&panel, &Mixer::signalMixer};
 };
@@ -140,13 +150,14 @@ TEST_F(MixerTest, TheTabKeyGoesFromTheLooksDownwards)
     ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
     presets.setFocus();
     QStringList names;
-    for (int i = 0; i < 10; ++i) {
+    for (int i = 0; i < 11; ++i) {
         names << panel.focusWidget()->objectName();
         EXPECT_FALSE(panel.focusWidget()->accessibleName().isEmpty()) << names.last().toStdString();
         QTest::keyClick(panel.focusWidget(), Qt::Key_Tab);
     }
-    EXPECT_EQ(names.join(' ').toStdString(), "comboPresets buttonReset sliderLuma spinBoxLuma sliderR spinBoxR sliderG "
-                                             "spinBoxG sliderB spinBoxB");
+    EXPECT_EQ(names.join(' ').toStdString(),
+              "comboPresets buttonReset frameYUV sliderLuma spinBoxLuma sliderR spinBoxR "
+              "sliderG spinBoxG sliderB spinBoxB");
 }
 
 TEST_F(MixerTest, TheLooksStandInTheirOrder)
@@ -312,6 +323,48 @@ TEST_F(MixerTest, WeightsBeyondTheSlidersAreEmittedAllTheSame)
     expectEmitted(512, -512, 600);
     EXPECT_EQ(sliders(), (Triple{511, -512, 511}));
     EXPECT_EQ(slider("sliderLuma").value(), 511);
+}
+
+TEST_F(MixerTest, TheWheelShowsTheWeightsFromTheStart)
+{
+    EXPECT_EQ(wheel.colorSpace(), 1);
+    EXPECT_EQ(wheel.minimumSize(), QSize(0, 200));
+    expectOnWheel(85, 85, 85);
+}
+
+TEST_F(MixerTest, APickOnTheWheelIsEmittedAndShown)
+{
+    emit wheel.signalWeights(10.9F, 20.5F, 200.25F);
+    expectEmitted(10.9F, 20.5F, 200.25F);
+    EXPECT_EQ(sliders(), (Triple{10, 20, 200}));
+    EXPECT_EQ(spinBoxes(), (Triple{10, 20, 200}));
+    EXPECT_EQ(slider("sliderLuma").value(), 230);
+    EXPECT_EQ(spinBox("spinBoxLuma").value(), 230);
+}
+
+// What the wheel holds is finer than the sliders' whole weights: it must not be set back to these.
+TEST_F(MixerTest, APickLeavesTheMarkerUnderTheMouse)
+{
+    panel.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
+    QTest::mouseClick(&wheel, Qt::LeftButton, {}, QPoint(wheel.width() / 3, wheel.height() / 3));
+    EXPECT_EQ(emitted.count(), 1);
+    EXPECT_DOUBLE_EQ(wheel.markerX(), double(wheel.width() / 3) / wheel.width());
+    EXPECT_DOUBLE_EQ(wheel.markerY(), double(wheel.height() / 3) / wheel.height());
+}
+
+TEST_F(MixerTest, TheWheelFollowsChannelsSumLooksAndReset)
+{
+    const QSignalSpy picked(&wheel, &YUVFrame::signalWeights);
+    setChannels({100, 60, 20});
+    expectOnWheel(100, 60, 20);
+    choose("Luma");
+    expectOnWheel(77, 150, 28);
+    slider("sliderLuma").setValue(300);
+    expectOnWheel(92, 165, 43);
+    panel.on_buttonReset_clicked();
+    expectOnWheel(85, 85, 85);
+    EXPECT_TRUE(picked.isEmpty());
 }
 
 TEST_F(MixerTest, ResetEmitsOneThirdEachOnce)

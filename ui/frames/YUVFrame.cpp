@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frames/YUVFrame.h"
+
+#include "math/OpponentColour.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <array>
+
+YUVFrame::YUVFrame(QWidget *parent) : QFrame(parent)
+{
+    setFocusPolicy(Qt::WheelFocus);
+    QSizePolicy square(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    square.setHeightForWidth(true);
+    setSizePolicy(square);
+    setColorSpace(1);
+    rebuildWheelImage();
+    emitWeights();
+}
+
+void YUVFrame::setColorSpace(int mode)
+{
+    m_colorSpace = mode;
+    const std::optional<ChromaPlane> plane = chromaPlaneOf(mode);
+    if (!plane) {
+        qWarning("Could not identify color space");
+        return;
+    }
+    m_plane = *plane;
+}
+
+void YUVFrame::slotSetRGB(grisal::graphics::ColorRGB<float> weights)
+{
+    const float luma = grisal::math::meanOf({weights.r, weights.g, weights.b});
+    const Chroma chroma{weights.b - luma, weights.r - luma};
+    if (nearlyEqualWeights(luma, m_luma) && nearlyEqualWeights(chroma.u, m_chroma.u) &&
+        nearlyEqualWeights(chroma.v, m_chroma.v)) {
+        return;
+    }
+    m_luma = luma;
+    m_chroma = chroma;
+    m_marker = markerAt(m_plane, m_chroma);
+    rebuildWheelImage();
+    update();
+}
+
+void YUVFrame::slotSetLuma(float luma)
+{
+    m_luma = grisal::math::clampedWeight(luma);
+    rebuildWheelImage();
+    update();
+}
+
+void YUVFrame::mousePressEvent(QMouseEvent *event)
+{
+    if (event != nullptr && event->button() != Qt::LeftButton) {
+        return;
+    }
+    m_mousePressed = true;
+    pick(event);
+}
+
+void YUVFrame::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_mousePressed) {
+        pick(event);
+    }
+}
+
+void YUVFrame::mouseReleaseEvent(QMouseEvent *)
+{
+    m_mousePressed = false;
+}
+
+void YUVFrame::pick(const QMouseEvent *event)
+{
+    if (event == nullptr) {
+        qWarning("Invalid mouse event");
+        return;
+    }
+    m_marker = {event->position().x() / rect().width(), event->position().y() / rect().height()};
+    emitWeights();
+}
+
+void YUVFrame::wheelEvent(QWheelEvent *event)
+{
+    m_luma = lumaAfterWheel(m_luma, event->angleDelta().y());
+    rebuildWheelImage();
+    update();
+    emitWeights();
+}
+
+void YUVFrame::resizeEvent(QResizeEvent *)
+{
+    update();
+}
+
+void YUVFrame::emitWeights()
+{
+    m_chroma = chromaAt(m_plane, m_marker);
+    const grisal::math::ChannelWeights weights = grisal::math::weightsAt(m_luma, m_chroma.u, m_chroma.v);
+    emit signalWeights(weights.r, weights.g, weights.b);
+    update();
+}
+
+void YUVFrame::rebuildWheelImage()
+{
+    m_wheelImage = wheelImageOf(m_plane, m_luma);
+}
+
+void YUVFrame::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(contentsRect(), Qt::ReplaceClip);
+    drawWheel(&painter);
+}
+
+void YUVFrame::drawWheel(QPainter *painter)
+{
+    if (m_wheelImage.isNull()) {
+        return;
+    }
+    if (painter == nullptr) {
+        qDebug("ERROR: Invalid painter");
+        return;
+    }
+    const QSize size = contentsRect().size();
+    m_scaleX = static_cast<double>(size.width()) / m_plane.width();
+    m_scaleY = static_cast<double>(size.height()) / m_plane.height();
+
+    const qreal pixelRatio = painter->device()->devicePixelRatioF();
+    QImage shown = m_wheelImage.scaled(size * pixelRatio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    shown.setDevicePixelRatio(pixelRatio);
+    painter->drawImage(0, 0, shown);
+
+    constexpr float darkestForBlack = 84;
+    const QColor colour = m_luma <= darkestForBlack ? Qt::white : Qt::black;
+    painter->setPen(QPen(colour, 1.0));
+    drawHexagon(*painter, 1);
+    drawHexagon(*painter, 2);
+    painter->setPen(QPen(colour, 0.5));
+    drawAxes(*painter);
+    painter->setPen(QPen(colour, 2.0));
+    drawMarker(*painter);
+}
+
+// The corners are red, yellow, green, cyan, blue and magenta at their full 255.
+void YUVFrame::drawHexagon(QPainter &painter, int saturation) const
+{
+    constexpr std::array<QPoint, 6> corners{{{-85, 170}, {-170, 85}, {-85, -85}, {85, -170}, {170, -85}, {85, 85}}};
+    QPolygonF hexagon;
+    for (const QPoint &corner : corners) {
+        hexagon << QPointF((saturation * corner.x() - m_plane.uMin) * m_scaleX,
+                           (m_plane.vMax - saturation * corner.y()) * m_scaleY);
+    }
+    painter.drawPolygon(hexagon);
+}
+
+void YUVFrame::drawAxes(QPainter &painter) const
+{
+    const QSize size = contentsRect().size();
+    painter.drawLine(size.width() / 2, 0, size.width() / 2, size.height());
+    painter.drawLine(0, size.height() / 2, size.width(), size.height() / 2);
+}
+
+void YUVFrame::drawMarker(QPainter &painter) const
+{
+    constexpr int arm = 5;
+    const QSize size = contentsRect().size();
+    const auto x = static_cast<int>(size.width() * m_marker.x());
+    const auto y = static_cast<int>(size.height() * m_marker.y());
+    painter.drawLine(x, y - arm, x, y + arm);
+    painter.drawLine(x - arm, y, x + arm, y);
+}

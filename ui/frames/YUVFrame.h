@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/filters/ColorRGB.h"
+#include "ui/frames/ChromaPlane.h"
+
+#include <QFrame>
+
+/// The colour wheel: a square of colours of one level (luma), with a marker at the chosen one. A press or a drag
+/// chooses, also beyond the square's edge; the mouse wheel raises and lowers the level.
+///
+/// Colours are weights on the scale 0..255, of which they may leave both ends up to -512 and 512.
+class YUVFrame : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit YUVFrame(QWidget *parent = nullptr);
+
+    /// Sets the range of the plane: see chromaPlaneOf(). The picture shows it when it is made the next time. An unknown
+    /// mode is told in the log, kept as the mode, and leaves the range.
+    void setColorSpace(int mode);
+
+    int colorSpace() const { return m_colorSpace; }
+    const ChromaPlane &plane() const { return m_plane; }
+    float luma() const { return m_luma; }
+    float chromaU() const { return m_chroma.u; }
+    float chromaV() const { return m_chroma.v; }
+
+    /// Where the marker is, as fractions of the frame's width and height, from the top left corner.
+    double markerX() const { return m_marker.x(); }
+    double markerY() const { return m_marker.y(); }
+
+    const QImage &wheelImage() const { return m_wheelImage; }
+
+    /// As high as wide, where there is room.
+    int heightForWidth(int width) const override { return width; }
+
+signals:
+    /// The chosen weights.
+    void signalWeights(float r, float g, float b);
+
+public slots:
+    /// Shows the weights: level, marker, picture. Emits nothing.
+    void slotSetRGB(grisal::graphics::ColorRGB<float> weights);
+
+    /// Shows another level, kept within -512..512; the marker stays. Emits nothing.
+    void slotSetLuma(float luma);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+    /// Draws the plane, the outlines of the colours 0..255 and of twice their saturation, axes and marker.
+    void drawWheel(QPainter *painter);
+
+private:
+    void pick(const QMouseEvent *event);
+    void emitWeights();
+    void rebuildWheelImage();
+    void drawHexagon(QPainter &painter, int saturation) const;
+    void drawAxes(QPainter &painter) const;
+    void drawMarker(QPainter &painter) const;
+
+    double m_scaleX = -1.0; // widget pixels for each step of U
+    double m_scaleY = -1.0;
+    bool m_mousePressed = false;
+    QPointF m_marker;
+    QImage m_wheelImage;
+    int m_colorSpace = 1;
+    float m_luma = 255.0F;
+    Chroma m_chroma;
+    ChromaPlane m_plane;
+};
