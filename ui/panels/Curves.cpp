@@ -1,24 +1,66 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/Curves.h"
 
-#include "graphics/filters/FilterParameters.h"
+#include "ui/frames/CurveFrameEventFilter.h"
 #include "ui_Curves.h"
+
+#include <QButtonGroup>
+#include <QCoreApplication>
+
+namespace
+{
+
+constexpr int sampleCount = 256;
+constexpr int histogramSize = 256;
+
+} // namespace
 
 Curves::Curves(QWidget *parent) : QWidget(parent), m_form(std::make_unique<Ui::Curves>())
 {
     m_form->setupUi(this);
+    auto *types = new QButtonGroup(this);
+    types->addButton(m_form->radioLinear);
+    types->addButton(m_form->radioBSpline);
+    connect(m_form->frameCurve, &CurveFrame::signalMoved, this, &Curves::emitAll);
+    m_deleteKey = std::make_unique<CurveFrameEventFilter>(m_form->frameCurve);
+    QCoreApplication::instance()->installEventFilter(m_deleteKey.get());
 }
 
-Curves::~Curves() = default;
-
-void Curves::slotSetHistogram(QVector<float> histogram)
+Curves::~Curves()
 {
-    m_histogram = std::move(histogram);
+    QCoreApplication::instance()->removeEventFilter(m_deleteKey.get());
+}
+
+void Curves::slotSetHistogram(QVector<float> histo)
+{
+    if (histo.size() != histogramSize) {
+        qWarning("Histogramm has the wrong size");
+    }
+    m_form->frameCurve->setHistogram(histo);
+}
+
+void Curves::emitAll()
+{
+    const QVector<float> samples = m_form->frameCurve->sample(sampleCount);
+    const QVector<float> histogram = m_form->frameCurve->outputHistogram();
+    emit signalCurves(samples);
+    emit signalOutHistogram(histogram);
 }
 
 void Curves::on_buttonReset_clicked()
 {
-    emit signalCurves(grisal::graphics::FilterParameters().curve);
-    // A straight curve leaves the tones where they are.
-    emit signalOutHistogram(m_histogram);
+    m_form->frameCurve->setPoints({0.0F, 0.5F, 1.0F}, {1.0F, 0.5F, 0.0F});
+    emitAll();
+}
+
+void Curves::on_radioBSpline_clicked()
+{
+    m_form->frameCurve->slotSetInterpolation(CurveFrame::BSpline);
+    emitAll();
+}
+
+void Curves::on_radioLinear_clicked()
+{
+    m_form->frameCurve->slotSetInterpolation(CurveFrame::Linear);
+    emitAll();
 }

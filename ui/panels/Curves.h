@@ -6,12 +6,14 @@
 
 #include <memory>
 
+class CurveFrameEventFilter;
+
 namespace Ui
 {
 class Curves;
 }
 
-/// The tone curve. Says only the straight one so far.
+/// The tone curve, drawn over the picture's tone histogram.
 class Curves : public QWidget
 {
     Q_OBJECT
@@ -27,11 +29,14 @@ signals:
     void signalOutHistogram(QVector<float> histogram);
 
 public slots:
-    /// Takes the 256 bins of the picture's tone histogram.
-    void slotSetHistogram(QVector<float> histogram);
+    /// Takes the 256 bins of the picture's tone histogram. Another number is told in the log and refused.
+    void slotSetHistogram(QVector<float> histo);
+    void emitAll();
     void on_buttonReset_clicked();
+    void on_radioBSpline_clicked();
+    void on_radioLinear_clicked();
 
 private:
     std::unique_ptr<Ui::Curves> m_form;
-    QVector<float> m_histogram;
+    std::unique_ptr<CurveFrameEventFilter> m_deleteKey;
 };

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The panels that have only their reset button so far.
 #include "tests/support/GuiTest.h"
-#include "ui/panels/Curves.h"
 #include "ui/panels/Grain.h"
 #include "ui/panels/Sharpen.h"
 #include "ui/panels/SplitTone.h"
@@ -61,31 +60,6 @@ TEST_F(FirstPanels, ResetOfTheGrainIsNoGrain)
     ASSERT_EQ(emitted.count(), 1);
     EXPECT_EQ(emitted[0][0].value<QVector<float>>(), QVector<float>(256, 0.0F));
     EXPECT_FLOAT_EQ(emitted[0][1].toFloat(), 1.5F);
-}
-
-TEST_F(FirstPanels, ResetOfTheCurveIsStraight)
-{
-    const Curves panel;
-    const QSignalSpy emitted(&panel, &Curves::signalCurves);
-    reset(panel);
-    ASSERT_EQ(emitted.count(), 1);
-    const auto curve = emitted[0][0].value<QVector<float>>();
-    ASSERT_EQ(curve.size(), 256);
-    for (int i = 0; i < curve.size(); ++i) {
-        EXPECT_FLOAT_EQ(curve[i], static_cast<float>(i) / 256.0F);
-    }
-}
-
-TEST_F(FirstPanels, AStraightCurveLeavesTheTonesWhereTheyAre)
-{
-    Curves panel;
-    const QSignalSpy emitted(&panel, &Curves::signalOutHistogram);
-    QVector<float> histogram(256, 0.25F);
-    histogram[7] = 3;
-    panel.slotSetHistogram(histogram);
-    reset(panel);
-    ASSERT_EQ(emitted.count(), 1);
-    EXPECT_EQ(emitted[0][0].value<QVector<float>>(), histogram);
 }
 
 TEST_F(FirstPanels, SharpenSaysThatItDoesNotExistYet)

@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frames/CurveFrame.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr int bins = 256;
+constexpr float initialBin = 0.3F;
+constexpr int gridLines = 4;
+
+const QColor gridColour(0, 0, 0, 40);
+const QColor histogramColour(90, 90, 90, 150);
+const QColor curveColour(20, 20, 20);
+const QColor pointColour(255, 255, 255);
+const QColor selectedColour(214, 110, 0);
+
+} // namespace
+
+CurveFrame::CurveFrame(QWidget *parent) : QFrame(parent), m_histogram(bins, initialBin), m_samples(bins, initialBin)
+{
+    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setFocusPolicy(Qt::ClickFocus);
+    QSizePolicy square(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    square.setHeightForWidth(true);
+    setSizePolicy(square);
+}
+
+// It is x alone that is kept within the frame. A curve that is given may leave it above and below; its values are cut
+// where they are sampled.
+void CurveFrame::setPoints(QVector<float> xs, const QVector<float> &ys)
+{
+    for (float &x : xs) {
+        x = std::clamp(x, 0.0F, 1.0F);
+    }
+    m_points = {xs, ys};
+    if (xs.size() != ys.size()) {
+        qWarning("xs.size() != ys.size()");
+        m_points.ys.resize(xs.size());
+    }
+    m_selected = -1;
+    update();
+}
+
+QVector<float> CurveFrame::curve(int count) const
+{
+    return m_interpolation == Linear ? linearCurve(m_points, count) : smoothCurve(m_points, count);
+}
+
+QVector<float> CurveFrame::sample(int count)
+{
+    m_samples = curve(count);
+    return m_samples;
+}
+
+QVector<float> CurveFrame::outputHistogram() const
+{
+    return histogramBehind(m_samples, m_histogram);
+}
+
+void CurveFrame::setHistogram(const QVector<float> &histogram)
+{
+    if (histogram.size() != bins) {
+        qWarning("curves: wrong histogram size");
+        return;
+    }
+    m_histogram = histogram;
+    update();
+}
+
+void CurveFrame::slotSetInterpolation(CurveFrame::interpolationType interpolation)
+{
+    m_interpolation = interpolation;
+    update();
+}
+
+void CurveFrame::slotSetActiveTo(float x, float y)
+{
+    if (m_selected < 0) {
+        return;
+    }
+    movePoint(m_points, m_selected, x, y);
+    emitMoved();
+    update();
+}
+
+void CurveFrame::slotSetInactive()
+{
+    m_selected = -1;
+    update();
+}
+
+void CurveFrame::deleteSelected()
+{
+    if (!removePoint(m_points, m_selected)) {
+        return;
+    }
+    --m_selected;
+    emitMoved();
+    update();
+}
+
+void CurveFrame::emitMoved()
+{
+    if (m_selected >= 0) {
+        emit signalMoved(m_points.xs[m_selected], m_points.ys[m_selected]);
+    }
+}
+
+QPointF CurveFrame::placeOf(const QMouseEvent &event) const
+{
+    const QSize size = contentsRect().size();
+    return {event.position().x() / size.width(), event.position().y() / size.height()};
+}
+
+void CurveFrame::mousePressEvent(QMouseEvent *event)
+{
+    if (event == nullptr) {
+        qWarning("ERROR: Invalid event");
+        return;
+    }
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    m_pressed = true;
+    const QPointF place = placeOf(*event);
+    const auto x = static_cast<float>(place.x());
+    int taken = pointAt(m_points, x);
+    if (taken < 0) {
+        taken = insertPoint(m_points, x, static_cast<float>(place.y()));
+    }
+    if (taken < 0) {
+        return;
+    }
+    m_selected = taken;
+    emit signalPressed();
+    update();
+}
+
+void CurveFrame::mouseMoveEvent(QMouseEvent *event)
+{
+    if (event == nullptr) {
+        qWarning("ERROR: Invalid event");
+        return;
+    }
+    if (!m_pressed || m_selected < 0) {
+        return;
+    }
+    const QPointF place = placeOf(*event);
+    movePoint(m_points, m_selected, static_cast<float>(place.x()), static_cast<float>(std::clamp(place.y(), 0.0, 1.0)));
+    update();
+}
+
+void CurveFrame::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event == nullptr) {
+        qWarning("ERROR: Invalid event");
+        return;
+    }
+    if (m_pressed && event->button() == Qt::LeftButton) {
+        m_pressed = false;
+        emitMoved();
+    }
+}
+
+QPointF CurveFrame::onFrame(double x, double y) const
+{
+    const QSize size = contentsRect().size();
+    return {x * size.width(), y * size.height()};
+}
+
+void CurveFrame::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawFrame(&painter);
+    painter.setClipRect(contentsRect());
+    drawBackground(painter);
+    drawHistogram(painter, m_histogram);
+    drawCurve(painter);
+    drawPoints(painter);
+}
+
+void CurveFrame::drawBackground(QPainter &painter) const
+{
+    const QSize size = contentsRect().size();
+    QRadialGradient light(QPointF(size.width(), 0), std::max(size.width(), size.height()));
+    light.setColorAt(0, QColor(230, 230, 230));
+    light.setColorAt(1, QColor(160, 160, 160));
+    painter.fillRect(contentsRect(), light);
+    painter.setPen(QPen(gridColour, 1));
+    for (int i = 1; i < gridLines; ++i) {
+        const double place = static_cast<double>(i) / gridLines;
+        painter.drawLine(onFrame(place, 0), onFrame(place, 1));
+        painter.drawLine(onFrame(0, place), onFrame(1, place));
+    }
+}
+
+void CurveFrame::drawHistogram(QPainter &painter, const QVector<float> &histogram) const
+{
+    if (histogram.isEmpty()) {
+        qDebug("No histogram set");
+        return;
+    }
+    QPainterPath tones(onFrame(0, 1));
+    for (int i = 0; i < histogram.size(); ++i) {
+        const double top = 1.0 - std::min(histogram[i], 1.0F);
+        tones.lineTo(onFrame(static_cast<double>(i) / bins, top));
+        tones.lineTo(onFrame(static_cast<double>(i + 1) / bins, top));
+    }
+    tones.lineTo(onFrame(1, 1));
+    painter.fillPath(tones, histogramColour);
+}
+
+// Sampled anew: the line follows a point while it is dragged, what was sampled for the picture stays.
+void CurveFrame::drawCurve(QPainter &painter) const
+{
+    const QVector<float> values = curve(bins);
+    QPolygonF line;
+    for (int i = 0; i < bins; ++i) {
+        line << onFrame(static_cast<double>(i) / bins, 1.0 - values[i]);
+    }
+    line << onFrame(1, 1.0 - values.last());
+    painter.setPen(QPen(curveColour, 2));
+    painter.drawPolyline(line);
+}
+
+void CurveFrame::drawPoints(QPainter &painter) const
+{
+    for (int i = 0; i < m_points.count(); ++i) {
+        const QPointF place = onFrame(m_points.xs[i], m_points.ys[i]);
+        painter.setPen(QPen(curveColour, 10, Qt::SolidLine, Qt::RoundCap));
+        painter.drawPoint(place);
+        painter.setPen(QPen(i == m_selected ? selectedColour : pointColour, 8, Qt::SolidLine, Qt::RoundCap));
+        painter.drawPoint(place);
+    }
+}

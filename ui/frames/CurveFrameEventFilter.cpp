@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frames/CurveFrameEventFilter.h"
+
+#include <QKeyEvent>
+
+CurveFrameEventFilter::CurveFrameEventFilter(CurveFrame *frame, QObject *parent) : QObject(parent), m_frame(frame) {}
+
+bool CurveFrameEventFilter::eventFilter(QObject *object, QEvent *event)
+{
+    const bool listening = m_frame != nullptr && m_frame->selected() >= 0 && m_frame->isVisible();
+    if (!listening || event->type() != QEvent::KeyPress) {
+        return QObject::eventFilter(object, event);
+    }
+    if (static_cast<QKeyEvent *>(event)->key() != Qt::Key_Delete) {
+        return false;
+    }
+    m_frame->deleteSelected();
+    return true;
+}
