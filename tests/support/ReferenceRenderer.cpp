@@ -4,6 +4,10 @@
 #include "tests/support/HalfFloats.h"
 #include "tests/support/ReferencePictures.h"
 
+#include <QFile>
+
+#include <stdexcept>
+
 namespace grisal::test::reference
 {
 
@@ -106,6 +110,17 @@ float fromWord(std::uint16_t word)
 }
 
 } // namespace
+
+BytePixels noiseMap()
+{
+    constexpr int side = 512;
+    QFile file(QStringLiteral(":/Icons/Icons/noiseMap_512x512x3.raw"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw std::runtime_error("the noise map is missing");
+    }
+    const QByteArray bytes = file.readAll();
+    return {side, side, 3, {bytes.begin(), bytes.end()}};
+}
 
 BytePixels blurredNoise(const BytePixels &noise, float radius)
 {

@@ -17,6 +17,9 @@ struct Look {
     bool vignette = false;
 };
 
+/// The noise that the program carries.
+BytePixels noiseMap();
+
 /// The noise of a raw file of noiseSide x noiseSide x 3 bytes, blurred as for a grain of the given radius, in two
 /// passes that round to bytes.
 BytePixels blurredNoise(const BytePixels &noise, float radius);

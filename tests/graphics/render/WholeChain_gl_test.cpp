@@ -11,8 +11,6 @@
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferenceRenderer.h"
 
-#include <QFile>
-
 #include <cmath>
 #include <memory>
 
@@ -78,17 +76,9 @@ std::vector<Case> everyFilterAloneAndAllTogether()
             named("vignette", false, false, false, true),   named("all", true, true, true, true)};
 }
 
-BytePixels noiseMap()
-{
-    QFile file(QStringLiteral(":/Icons/Icons/noiseMap_512x512x3.raw"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray bytes = file.readAll();
-    return {512, 512, 3, {bytes.begin(), bytes.end()}};
-}
-
 const BytePixels &blurredNoiseMap()
 {
-    static const BytePixels blurred = reference::blurredNoise(noiseMap(), strongParameters().grainRadius);
+    static const BytePixels blurred = reference::blurredNoise(reference::noiseMap(), strongParameters().grainRadius);
     return blurred;
 }
 

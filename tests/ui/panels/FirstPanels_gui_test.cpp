@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The panels that have only their reset button so far.
 #include "tests/support/GuiTest.h"
-#include "ui/panels/Grain.h"
 #include "ui/panels/Sharpen.h"
 #include "ui/panels/SplitTone.h"
 #include "ui/panels/Vignette.h"
@@ -50,16 +49,6 @@ TEST_F(FirstPanels, ResetOfTheSplitToneIsWarmLightsAndCoolShadows)
     const QSignalSpy emitted(&panel, &SplitTone::signalSplit);
     reset(panel);
     expectOnce(emitted, {1, 190 / 255.0F, 156 / 255.0F, 54 / 255.0F, 110 / 255.0F, 148 / 255.0F, 198 / 255.0F});
-}
-
-TEST_F(FirstPanels, ResetOfTheGrainIsNoGrain)
-{
-    const Grain panel;
-    const QSignalSpy emitted(&panel, &Grain::signalGrain);
-    reset(panel);
-    ASSERT_EQ(emitted.count(), 1);
-    EXPECT_EQ(emitted[0][0].value<QVector<float>>(), QVector<float>(256, 0.0F));
-    EXPECT_FLOAT_EQ(emitted[0][1].toFloat(), 1.5F);
 }
 
 TEST_F(FirstPanels, SharpenSaysThatItDoesNotExistYet)

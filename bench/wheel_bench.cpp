@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+//
+// The picture of the colour wheel, which is made anew at every turn of the mouse wheel and at every step of a dragged
+// level.
+#include "ui/frames/ChromaPlane.h"
+
+#include <benchmark/benchmark.h>
+
+namespace
+{
+
+void wheelImage(benchmark::State &state)
+{
+    const ChromaPlane plane = *chromaPlaneOf(static_cast<int>(state.range(0)));
+    float luma = 85;
+    for ([[maybe_unused]] auto _ : state) {
+        luma = luma > 170 ? 85 : luma + 0.7F;
+        benchmark::DoNotOptimize(wheelImageOf(plane, luma).constBits());
+    }
+}
+
+BENCHMARK(wheelImage)->ArgName("mode")->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+BENCHMARK_MAIN();
