@@ -2,7 +2,7 @@
 #include "app/MainWindow.h"
 #include "app/MessageLog.h"
 #include "graphics/gl/SurfaceFormat.h"
-#include "graphics/image/LumioImage.h"
+#include "graphics/image/ImageLibrary.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/image/LumioImage.h"
+
+#include "graphics/image/ImageLibrary.h"
 #include "graphics/image/ImageNames.h"
+#include "graphics/image/PictureFile.h"
+#include "graphics/image/ReplacementFile.h"
 
 #include <QFile>
 
 #include <cstddef>
 #include <cstdint>
 #include <exception>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -18,28 +21,24 @@ namespace grisal::graphics
 namespace
 {
 
-std::string encoded(const QString &path)
+bool opensForReading(const QString &path)
 {
-    return QFile::encodeName(path).toStdString();
-}
-
-bool opensForReading(const std::string &path)
-{
-    return std::ifstream(path).is_open();
-}
-
-// Opening a pipe that nobody writes to would wait for ever.
-bool isSomethingElseThanAFile(const std::string &path)
-{
-    std::error_code error;
-    const std::filesystem::file_status status = std::filesystem::status(path, error);
-    return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
+    return std::ifstream(QFile::encodeName(path).toStdString()).is_open();
 }
 
 Magick::Image emptyImage()
 {
     initializeImageLibrary(nullptr);
     return {};
+}
+
+/// To be read into: the first picture of a file that holds several, without a look at the others.
+Magick::Image firstPicture()
+{
+    Magick::Image image;
+    image.subImage(0);
+    image.subRange(1);
+    return image;
 }
 
 Magick::ImageType typeOf(const Magick::Image &image)
@@ -136,20 +135,6 @@ void spreadBytes(Magick::PixelPacket *pixel, std::size_t count)
 
 } // namespace
 
-void initializeImageLibrary(const char *programPath)
-{
-    static bool initialized = false;
-    if (initialized) {
-        return;
-    }
-    MagickLib::ExceptionInfo exception;
-    MagickLib::GetExceptionInfo(&exception);
-    MagickLib::InitializeMagickEx(programPath, MAGICK_OPT_NO_SIGNAL_HANDER, &exception);
-    MagickLib::DestroyExceptionInfo(&exception);
-    Magick::InitializeMagick(programPath);
-    initialized = true;
-}
-
 LumioImage::LumioImage() : m_image(emptyImage()) {}
 
 LumioImage::LumioImage(int width, int height, bool sixteenBit) : LumioImage()
@@ -201,22 +186,43 @@ bool LumioImage::withTrueColorPixels(Step step)
 
 bool LumioImage::read(const QString &path)
 {
-    const std::string file = encoded(path);
-    if (isSomethingElseThanAFile(file) || !opensForReading(file)) {
-        m_warning.clear();
-        m_problem = QStringLiteral("Cannot open %1").arg(path);
-        return false;
-    }
-    return attempt([&] {
-        Magick::Image fresh;
-        m_warning = warningOf([&] { fresh.read(file); });
-        if (fresh.isValid()) {
-            raiseDepth(fresh);
-            m_image = fresh;
-        } else {
-            m_problem = m_warning.isEmpty() ? QStringLiteral("No picture in %1").arg(path) : m_warning;
+    const PictureFile file(path);
+    const bool good = attempt([&] {
+        m_problem = file.problem();
+        if (m_problem.isEmpty()) {
+            readFrom(file, path);
         }
     });
+    nameInMessages(file.descriptor(), path);
+    return good;
+}
+
+// The library knows an open file by another name than the user does.
+void LumioImage::nameInMessages(int descriptor, const QString &path)
+{
+    const QString name = QString::fromStdString(nameOfOpenFile(descriptor));
+    m_problem.replace(name, path);
+    m_warning.replace(name, path);
+}
+
+void LumioImage::readFrom(const PictureFile &file, const QString &path)
+{
+    Magick::Image head = firstPicture();
+    warningOf([&] { head.ping(file.name()); });
+    if (!file.canHold(std::uint64_t{head.columns()} * head.rows())) {
+        m_problem = QStringLiteral("%1 is too small a file for its %2 x %3 pixels")
+                        .arg(path, QString::number(head.columns()), QString::number(head.rows()));
+        return;
+    }
+    Magick::Image fresh = firstPicture();
+    m_warning = warningOf([&] { fresh.read(file.name()); });
+    if (!fresh.isValid()) {
+        m_problem = m_warning.isEmpty() ? QStringLiteral("No picture in %1").arg(path) : m_warning;
+        return;
+    }
+    fresh.fileName(QFile::encodeName(path).toStdString());
+    raiseDepth(fresh);
+    m_image = fresh;
 }
 
 bool LumioImage::save(const QString &path, int quality)
@@ -227,15 +233,35 @@ bool LumioImage::save(const QString &path, int quality)
     if (!prepareForWriting()) {
         return false;
     }
-    const std::string file = encoded(path);
-    return attempt([&] {
-        m_image.matte(false);
-        m_image.quality(static_cast<unsigned>(quality));
-        m_warning = warningOf([&] { m_image.write(file); });
-        if (!opensForReading(file)) {
-            m_problem = QStringLiteral("Cannot open %1 after writing it").arg(path);
-        }
-    });
+    ReplacementFile target(path);
+    const bool good = attempt([&] { writeTo(target, path, quality); });
+    nameInMessages(target.file().descriptor(), path);
+    return good;
+}
+
+void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quality)
+{
+    const std::optional<PictureFormat> format = formatOfName(path);
+    if (!format) {
+        m_problem = QStringLiteral("The name ends in none of .jpg, .jpeg, .png, .tif and .tiff");
+        return;
+    }
+    m_problem = target.problem();
+    if (!m_problem.isEmpty()) {
+        return;
+    }
+    m_image.matte(false);
+    m_image.quality(static_cast<unsigned>(quality));
+    const std::string name = libraryName(*format, nameOfOpenFile(target.file().descriptor()));
+    m_warning = warningOf([&] { m_image.write(name); });
+    m_image.fileName(QFile::encodeName(path).toStdString());
+    if (!endsAsItShould(target.file(), *format)) {
+        m_problem = QStringLiteral("Not all of the picture could be written");
+    } else if (!target.commit()) {
+        m_problem = target.problem();
+    } else if (!opensForReading(path)) {
+        m_problem = QStringLiteral("Cannot open %1 after writing it").arg(path);
+    }
 }
 
 // Only true colour pictures are written with the depth asked for: the library gives grey and palette pictures as few

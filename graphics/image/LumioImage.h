@@ -10,9 +10,8 @@
 namespace grisal::graphics
 {
 
-/// Starts the image library, without its signal handlers, so that abort() and debuggers work as everywhere.
-/// `programPath` is argv[0] or null. Does its work once per process; every LumioImage makes sure that it was done.
-void initializeImageLibrary(const char *programPath);
+class PictureFile;
+class ReplacementFile;
 
 /// A picture in memory, read from and written to an image file. The only place that touches image files.
 ///
@@ -33,14 +32,15 @@ public:
     /// A blank picture of the given size and depth: 16 bits a channel, or 8. isNull() where that cannot be had.
     LumioImage(int width, int height, bool sixteenBit);
 
-    /// Reads a file, the first picture in it. The picture is replaced only when the new one is good. A file that the
-    /// library could read only in part, with a warning, counts as good; warning() then tells what it said.
-    /// What cannot be opened, or is no plain file, is not given to the library at all.
+    /// Reads a JPEG, PNG or TIFF file, whatever its name, and of several pictures in it the first. The picture is
+    /// replaced only when the new one is good. A file that the library could read only in part, with a warning, counts
+    /// as good; warning() then tells what it said. What PictureFile turns away is not given to the library at all.
     bool read(const QString &path);
 
     /// Writes the picture, without alpha, as true colour of its own depth, 8 or 16 bits a channel (JPEG always 8);
-    /// the format follows from the extension of `path`. `quality` is 0..100. An existing file is replaced.
-    /// True only if the file can be opened for reading afterwards. A null picture is reported on standard output.
+    /// the format follows from the extension of `path`, .jpg, .jpeg, .png, .tif or .tiff. `quality` is 0..100. An
+    /// existing file is replaced as ReplacementFile does it: at once, and only by a whole one. True only if the file
+    /// can be opened for reading afterwards. A null picture is reported on standard output.
     bool save(const QString &path, int quality);
 
     bool isNull() const;
@@ -70,7 +70,10 @@ private:
     bool attempt(Step step);
     template <typename Step>
     bool withTrueColorPixels(Step step);
+    void readFrom(const PictureFile &file, const QString &path);
     bool prepareForWriting();
+    void writeTo(ReplacementFile &target, const QString &path, int quality);
+    void nameInMessages(int descriptor, const QString &path);
 
     Magick::Image m_image;
     QString m_problem;

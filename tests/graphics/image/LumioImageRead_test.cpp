@@ -137,6 +137,36 @@ TEST_F(LumioImageReadTest, OpensAJpegCutShortWithAWarning)
     EXPECT_TRUE(image.problem().isEmpty());
 }
 
+TEST_F(LumioImageReadTest, SpeaksOfFilesByTheirNames)
+{
+    const QString jpeg = cutJpeg();
+    ASSERT_TRUE(image.read(jpeg));
+    EXPECT_TRUE(image.warning().contains(jpeg)) << image.warning().toStdString();
+    EXPECT_EQ(image.info().find("/proc"), std::string::npos);
+    EXPECT_NE(image.info().find("  filename:   " + jpeg.toStdString() + "\n"), std::string::npos);
+    const QByteArray png = contentsOf(written(painted(64, 48, 8, noise), "whole.png"));
+    writeFile(path("cut.png"), png.left(png.size() / 2));
+    EXPECT_FALSE(image.read(path("cut.png")));
+    EXPECT_TRUE(image.problem().contains(path("cut.png"))) << image.problem().toStdString();
+    EXPECT_FALSE(image.problem().contains("/proc"));
+}
+
+// It would fill the memory with what it promises and does not hold.
+TEST_F(LumioImageReadTest, RefusesAFileThatIsTooSmallForItsPixels)
+{
+    hold();
+    QByteArray jpeg = contentsOf(written(painted(64, 48, 8, fewColours), "a.jpg"));
+    const auto size = jpeg.indexOf(QByteArray("\xff\xc0", 2)) + 5;
+    ASSERT_GT(size, 5);
+    for (const int place : {0, 2}) {
+        jpeg[size + place] = 0x60; // 24,576 pixels and some
+    }
+    writeFile(path("b.jpg"), jpeg);
+    EXPECT_FALSE(image.read(path("b.jpg")));
+    EXPECT_TRUE(image.problem().contains("too small a file")) << image.problem().toStdString();
+    EXPECT_TRUE(isHeld());
+}
+
 TEST_F(LumioImageReadTest, ForgetsAWarningAtTheNextOperation)
 {
     ASSERT_TRUE(image.read(cutJpeg()));

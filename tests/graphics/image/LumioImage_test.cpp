@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "graphics/image/ImageLibrary.h"
 #include "graphics/image/LumioImage.h"
 #include "tests/graphics/image/PictureFiles.h"
 
@@ -21,11 +22,30 @@ TEST(ImageLibraryTest, LeavesTheSignalsAlone)
 {
     initializeImageLibrary("/usr/bin/grisal");
     initializeImageLibrary(nullptr);
-    for (const int signal : {SIGABRT, SIGINT, SIGTERM, SIGXCPU, SIGXFSZ}) {
+    for (const int signal : {SIGABRT, SIGINT, SIGTERM, SIGXCPU}) {
         struct sigaction action = {};
         sigaction(signal, nullptr, &action);
         EXPECT_EQ(action.sa_handler, SIG_DFL) << "signal " << signal;
     }
+}
+
+// A save that grows beyond a limit must fail and tell so; by default the signal would end the program.
+TEST(ImageLibraryTest, LetsWritesBeyondALimitFail)
+{
+    initializeImageLibrary(nullptr);
+    struct sigaction action = {};
+    sigaction(SIGXFSZ, nullptr, &action);
+    EXPECT_EQ(action.sa_handler, SIG_IGN);
+}
+
+TEST(ImageLibraryTest, HasItsLimits)
+{
+    initializeImageLibrary(nullptr);
+    EXPECT_EQ(MagickLib::GetMagickResourceLimit(MagickLib::WidthResource), 65500);
+    EXPECT_EQ(MagickLib::GetMagickResourceLimit(MagickLib::HeightResource), 65500);
+    EXPECT_EQ(MagickLib::GetMagickResourceLimit(MagickLib::PixelsResource), 1000000000);
+    EXPECT_EQ(MagickLib::GetMagickResourceLimit(MagickLib::DiskResource), 0);
+    EXPECT_GT(MagickLib::GetMagickResourceLimit(MagickLib::MemoryResource), 0);
 }
 
 TEST(LumioImageTest, IsNullAtFirst)

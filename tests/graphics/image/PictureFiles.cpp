@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/graphics/image/PictureFiles.h"
 
+#include "graphics/image/ImageLibrary.h"
+
 #include <QFile>
 #include <QtEndian>
 

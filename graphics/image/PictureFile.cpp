@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/image/PictureFile.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QtEndian>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+
+namespace grisal::graphics
+{
+
+namespace
+{
+
+constexpr std::uint64_t largestTrustedPicture = 50'000'000;
+constexpr std::uint64_t mostPixelsPerByte = 100;
+constexpr std::uint32_t longestText = 1 << 20;
+
+QByteArray bytesAt(const OpenFile &file, std::uint64_t place, int count)
+{
+    QByteArray bytes(count, '\0');
+    const ssize_t got =
+        pread(file.descriptor(), bytes.data(), static_cast<std::size_t>(count), static_cast<off_t>(place));
+    bytes.truncate(got > 0 ? static_cast<int>(got) : 0);
+    return bytes;
+}
+
+/// Whether a TIFF file of that size may have its directory there: behind its first bytes.
+bool isWithin(std::uint32_t directory, std::uint64_t size)
+{
+    return directory >= signatureLength && directory < size;
+}
+
+bool holdsText(QByteArrayView chunk)
+{
+    constexpr std::array<const char *, 4> kinds{"tEXt", "zTXt", "iTXt", "iCCP"};
+    return std::any_of(kinds.begin(), kinds.end(), [chunk](const char *kind) { return chunk == kind; });
+}
+
+} // namespace
+
+PictureFile::PictureFile(const QString &path)
+{
+    open(path);
+    if (m_problem.isEmpty()) {
+        look();
+    }
+    if (m_problem.isEmpty() && m_format == PictureFormat::Png && hasAbsurdTexts()) {
+        m_problem = QStringLiteral("%1 holds texts of absurd length").arg(path);
+    }
+}
+
+// What is there is looked at before it is opened, since opening a device may do something; and once more afterwards,
+// since it may have become something else.
+void PictureFile::open(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status {
+    };
+    const bool isThere = stat(name.constData(), &status) == 0;
+    if (isThere && S_ISREG(status.st_mode)) {
+        m_file = OpenFile(::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    }
+    if (!m_file.isOpen() || fstat(m_file.descriptor(), &status) != 0 || !S_ISREG(status.st_mode)) {
+        m_problem = QStringLiteral("Cannot open %1").arg(path);
+        return;
+    }
+    m_size = static_cast<std::uint64_t>(status.st_size);
+}
+
+void PictureFile::look()
+{
+    const std::optional<PictureFormat> format = formatOfContents(bytesAt(m_file, 0, signatureLength));
+    if (!format) {
+        m_problem = QStringLiteral("No JPEG, PNG or TIFF picture");
+        return;
+    }
+    m_format = *format;
+}
+
+// A PNG file is a row of chunks: the length of the contents, four letters, the contents, a checksum.
+bool PictureFile::hasAbsurdTexts() const
+{
+    constexpr int headLength = 8;
+    constexpr int checksumLength = 4;
+    std::uint64_t place = signatureLength;
+    while (place < m_size) {
+        const QByteArray head = bytesAt(m_file, place, headLength);
+        if (head.size() < headLength) {
+            return false;
+        }
+        const auto length = qFromBigEndian<std::uint32_t>(head.constData());
+        if (holdsText(QByteArrayView(head).sliced(4)) && length > longestText) {
+            return true;
+        }
+        place += headLength + std::uint64_t{length} + checksumLength;
+    }
+    return false;
+}
+
+bool PictureFile::canHold(std::uint64_t pixels) const
+{
+    return pixels <= largestTrustedPicture || pixels / mostPixelsPerByte <= m_size;
+}
+
+bool endsAsItShould(const OpenFile &file, PictureFormat format)
+{
+    struct stat status {
+    };
+    if (fstat(file.descriptor(), &status) != 0 || status.st_size < signatureLength) {
+        return false;
+    }
+    const auto size = static_cast<std::uint64_t>(status.st_size);
+    switch (format) {
+    case PictureFormat::Jpeg:
+        return bytesAt(file, size - 2, 2) == "\xff\xd9";
+    case PictureFormat::Png:
+        return bytesAt(file, size - 8, 4) == "IEND";
+    case PictureFormat::Tiff:
+        return isWithin(qFromLittleEndian<std::uint32_t>(bytesAt(file, 4, 4).constData()), size);
+    }
+    return false;
+}
+
+} // namespace grisal::graphics

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/image/OpenFile.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <string>
+
+namespace grisal::graphics
+{
+
+/// A new file that takes the place of another one, or of none, at once and only when it is whole: at every moment the
+/// path leads to all of the old file or to all of the new one, also after a crash or a power cut.
+///
+/// It is written without a name in the same folder, or under a temporary one where the file system does not know files
+/// without names; if it is not committed, nothing stays of it. A link is followed and stays a link. The new file gets
+/// the old one's permissions and, where that is allowed, its owner. Files that are not to be written are not replaced.
+class ReplacementFile
+{
+public:
+    explicit ReplacementFile(const QString &path);
+    ReplacementFile(const ReplacementFile &) = delete;
+    ReplacementFile &operator=(const ReplacementFile &) = delete;
+    ~ReplacementFile();
+
+    /// Why there is no file to write to, or why it did not take its place; empty while all is well.
+    QString problem() const { return m_problem; }
+
+    /// The file to write; only without a problem.
+    const OpenFile &file() const { return m_file; }
+
+    /// Brings the file to the disk and puts it in its place. False, with the old file still there, if that fails.
+    bool commit();
+
+private:
+    void findTarget(const QString &path);
+    void openTemporary();
+    bool takePermissions();
+    bool takePlace();
+    bool giveName();
+    bool fail(const char *what);
+
+    QByteArray m_target;    ///< the path at the end of all links
+    QByteArray m_folder;    ///< where it lies
+    QByteArray m_temporary; ///< name of the new file while it has one
+    OpenFile m_file;
+    QString m_problem;
+};
+
+} // namespace grisal::graphics
