@@ -38,6 +38,12 @@ public:
     Settings() : QSettings(QString::fromLatin1(product::organisation), QString::fromLatin1(product::settingsName)) {}
 };
 
+/// In a menu, an ampersand marks a letter; two of them are one.
+QString menuText(QString name)
+{
+    return name.replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
 QString startDirectory()
 {
     const QString last = Settings().value(lastDirectoryKey()).toString();
@@ -100,7 +106,7 @@ void FileDealer::refreshRecentMenu()
             continue;
         }
         QAction *action = m_recentActions[i];
-        action->setText(QFileInfo(recent[i]).fileName());
+        action->setText(menuText(QFileInfo(recent[i]).fileName()));
         action->setData(recent[i]);
         action->setVisible(true);
         action->setShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(digit++)));

@@ -47,8 +47,10 @@ bool isThere(const QString &path)
 
 QString titleFor(const QString &path, const graphics::LumioImage &image)
 {
+    // These three characters stand for the mark of unsaved changes; twice, they are themselves.
+    const QString name = QFileInfo(path).fileName().replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
     return QStringLiteral("%1 - %2 %3x%4")
-        .arg(QString::fromLatin1(product::title), QFileInfo(path).fileName(), QString::number(image.width()),
+        .arg(QString::fromLatin1(product::title), name, QString::number(image.width()),
              QString::number(image.height()));
 }
 
@@ -128,7 +130,11 @@ void MainWindow::tellProblems(const graphics::LumioImage &image)
 
 void MainWindow::tellCannotLoad(const QString &filename)
 {
-    QMessageBox::information(this, tr("Open Image"), tr("Cannot load %1.").arg(filename));
+    QMessageBox box(QMessageBox::Information, tr("Open Image"), tr("Cannot load %1.").arg(filename), QMessageBox::Ok,
+                    this);
+    // A file name is no HTML, whatever its characters.
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
 }
 
 void MainWindow::tell(const QString &message)
@@ -204,8 +210,10 @@ void MainWindow::on_actionSave_triggered()
     const QFileInfo file(m_fileDealer.currentPath());
     if (file.exists()) {
         const QString question = tr("File %1 already exists.\n Do you want to replace it?").arg(file.baseName());
-        if (QMessageBox::question(nullptr, tr("Overwrite?"), question, QMessageBox::Ok | QMessageBox::Cancel,
-                                  QMessageBox::Ok) == QMessageBox::Ok) {
+        QMessageBox box(QMessageBox::Question, tr("Overwrite?"), question, QMessageBox::Ok | QMessageBox::Cancel);
+        box.setTextFormat(Qt::PlainText);
+        box.setDefaultButton(QMessageBox::Ok);
+        if (box.exec() == QMessageBox::Ok) {
             saveImage(m_fileDealer.currentPath());
         }
     }

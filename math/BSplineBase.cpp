@@ -117,16 +117,12 @@ int BSplineBase<T>::searchedIntervals() const
 {
     constexpr double fewest = 2;
     constexpr double enough = 4;
-    constexpr double most = 15;
     if (m_wavelength > span()) {
         return 0;
     }
     int found = 0;
     for (int intervals = 10; intervals + 1 <= static_cast<int>(m_x.size()); ++intervals) {
         const double nodesPerWave = m_wavelength * intervals / span();
-        if (nodesPerWave > most) {
-            break;
-        }
         if (nodesPerWave >= fewest) {
             found = intervals;
         }

@@ -49,7 +49,7 @@ PictureFile::PictureFile(const QString &path)
 {
     open(path);
     if (m_problem.isEmpty()) {
-        look();
+        look(path);
     }
     if (m_problem.isEmpty() && m_format == PictureFormat::Png && hasAbsurdTexts()) {
         m_problem = QStringLiteral("%1 holds texts of absurd length").arg(path);
@@ -74,11 +74,11 @@ void PictureFile::open(const QString &path)
     m_size = static_cast<std::uint64_t>(status.st_size);
 }
 
-void PictureFile::look()
+void PictureFile::look(const QString &path)
 {
     const std::optional<PictureFormat> format = formatOfContents(bytesAt(m_file, 0, signatureLength));
     if (!format) {
-        m_problem = QStringLiteral("No JPEG, PNG or TIFF picture");
+        m_problem = QStringLiteral("No JPEG, PNG or TIFF picture in %1").arg(path);
         return;
     }
     m_format = *format;

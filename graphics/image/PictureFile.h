@@ -35,7 +35,7 @@ public:
 
 private:
     void open(const QString &path);
-    void look();
+    void look(const QString &path);
     bool hasAbsurdTexts() const;
 
     OpenFile m_file;

@@ -91,6 +91,47 @@ TEST_F(FileDealerTest, TheMenuShowsWhatAnEarlierRunOpened)
     EXPECT_EQ(menu.actions()[0]->data().toString(), path);
 }
 
+TEST_F(FileDealerTest, AnAmpersandIsShownAsOne)
+{
+    const QString path = makeFile(QStringLiteral("Black & White.jpg"));
+    storeRecent({path});
+    dealer.setUpRecentMenu(&menu);
+    EXPECT_EQ(menu.actions()[0]->text(), QStringLiteral("Black && White.jpg"));
+    EXPECT_EQ(menu.actions()[0]->data().toString(), path);
+}
+
+TEST_F(FileDealerTest, ACancelledSaveDialogGivesNoPath)
+{
+    const FileDialogAnswer cancel({});
+    EXPECT_TRUE(dealer.saveDialog().isEmpty());
+}
+
+TEST_F(FileDealerTest, SettingsThatHoldOtherThingsAreNoHindrance)
+{
+    settings().setValue(QStringLiteral("recentImages"), QByteArray("\0\xff\xfe rubbish", 10));
+    settings().setValue(QStringLiteral("lastDirectory"), QStringList{QStringLiteral("a"), QStringLiteral("b")});
+    dealer.setUpRecentMenu(&menu);
+    EXPECT_TRUE(shown().isEmpty());
+    const QString a = makeFile(QStringLiteral("a.png"));
+    open(a);
+    EXPECT_EQ(shown(), QStringList(QStringLiteral("a.png Alt+1")));
+    EXPECT_EQ(storedDirectory(), inHome(QStringLiteral("pictures")));
+}
+
+TEST_F(FileDealerTest, AListOfThousandsIsCutWithTheNextPicture)
+{
+    QStringList paths;
+    for (int i = 0; i < 10000; ++i) {
+        paths << inHome(QStringLiteral("missing-%1.png").arg(i));
+    }
+    storeRecent(paths);
+    dealer.setUpRecentMenu(&menu);
+    EXPECT_TRUE(shown().isEmpty());
+    open(makeFile(QStringLiteral("a.png")));
+    EXPECT_EQ(storedRecent().size(), 5);
+    EXPECT_EQ(shown(), QStringList(QStringLiteral("a.png Alt+1")));
+}
+
 TEST_F(FileDealerTest, TheLastFiveOfSixAreShownNewestFirst)
 {
     dealer.setUpRecentMenu(&menu);

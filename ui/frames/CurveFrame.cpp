@@ -101,6 +101,8 @@ void CurveFrame::deleteSelected()
         return;
     }
     --m_selected;
+    // A drag of the point ends with it.
+    m_pressed = false;
     emitMoved();
     update();
 }

@@ -7,7 +7,7 @@
 #include <QVector>
 
 /// An editor of a curve in the unit square, over a tone histogram. A press takes the point in whose column it falls, or
-/// adds one; a drag moves it. Nothing is emitted before the button is released: the picture follows once.
+/// adds one; a drag moves it. The curve has changed, signalMoved(), once the button is released.
 class CurveFrame : public QFrame
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/frames/CurveFrameEventFilter.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
 CurveFrameEventFilter::CurveFrameEventFilter(CurveFrame *frame, QObject *parent) : QObject(parent), m_frame(frame) {}
@@ -8,7 +9,8 @@ CurveFrameEventFilter::CurveFrameEventFilter(CurveFrame *frame, QObject *parent)
 bool CurveFrameEventFilter::eventFilter(QObject *object, QEvent *event)
 {
     const bool listening = m_frame != nullptr && m_frame->selected() >= 0 && m_frame->isVisible();
-    if (!listening || event->type() != QEvent::KeyPress) {
+    const bool elsewhere = QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr;
+    if (!listening || elsewhere || event->type() != QEvent::KeyPress) {
         return QObject::eventFilter(object, event);
     }
     if (static_cast<QKeyEvent *>(event)->key() != Qt::Key_Delete) {

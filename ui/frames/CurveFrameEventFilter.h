@@ -7,7 +7,8 @@
 #include <QPointer>
 
 /// Gives a curve editor the Delete key wherever the focus is: installed on the application, it removes the selected
-/// point while the editor is visible and has one. The editor may be gone before it.
+/// point while the editor is visible and has one, and no dialog or menu stands before it. The editor may be gone before
+/// it.
 class CurveFrameEventFilter : public QObject
 {
     Q_OBJECT

@@ -112,7 +112,7 @@ QVector<float> smoothCurve(const CurvePoints &points, int count)
     return values;
 }
 
-// For i = 0 the place is not a number, and the bin is left out: what is black is no tone to look at.
+// For i = 0 the place is not a number, and the bin is left out.
 QVector<float> histogramBehind(const QVector<float> &curve, const QVector<float> &histogram)
 {
     if (curve.size() != bins) {

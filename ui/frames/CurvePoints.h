@@ -27,8 +27,8 @@ void movePoint(CurvePoints &points, int index, float x, float y);
 /// Removes a point and returns true, but leaves the ones at both ends.
 bool removePoint(CurvePoints &points, int index);
 
-/// `count` values 0..1 of the straight lines between the points, value i taken at i / count. To the right of the last
-/// point they stay at its height, as they do everywhere if there is but one.
+/// `count` values 0..1 of the straight lines between the points, value i taken at i / count. The first line goes on to
+/// the left; to the right of the last point they stay at its height, as they do everywhere if there is but one.
 QVector<float> linearCurve(const CurvePoints &points, int count);
 
 /// The same of the smooth curve through the points; of the straight lines where there are too few points for one.
@@ -36,5 +36,6 @@ QVector<float> smoothCurve(const CurvePoints &points, int count);
 
 /// The tone histogram behind a curve: what `histogram` counts in bin i goes to bin i * (curve[i] / (i / 256)), cut to a
 /// whole number. Bin 0 is left out, and tones that the curve makes white fall out of it, but for those that rounding
-/// leaves in the last bin. Both have 256 elements; with another number of curve values the histogram comes back as it is.
+/// leaves in the last bin. Both have 256 elements; with another number of curve values the histogram comes back as it
+/// is.
 QVector<float> histogramBehind(const QVector<float> &curve, const QVector<float> &histogram);

@@ -1,21 +1,64 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/Grain.h"
 
-#include "graphics/filters/FilterParameters.h"
+#include "ui/frames/CurveFrameEventFilter.h"
 #include "ui_Grain.h"
+
+#include <QCoreApplication>
+
+namespace
+{
+
+constexpr int sampleCount = 256;
+constexpr double tenthsOfAPixel = 10.0;
+constexpr double initialBlur = 1.5;
+
+} // namespace
 
 Grain::Grain(QWidget *parent) : QWidget(parent), m_form(std::make_unique<Ui::Grain>())
 {
     m_form->setupUi(this);
+    m_form->frameCurve->slotSetInterpolation(CurveFrame::Linear);
+    connect(m_form->frameCurve, &CurveFrame::signalMoved, this, &Grain::emitAll);
+    m_deleteKey = std::make_unique<CurveFrameEventFilter>(m_form->frameCurve);
+    QCoreApplication::instance()->installEventFilter(m_deleteKey.get());
+    m_form->frameCurve->installEventFilter(m_deleteKey.get());
+    emitAll();
 }
 
-Grain::~Grain() = default;
+Grain::~Grain()
+{
+    QCoreApplication::instance()->removeEventFilter(m_deleteKey.get());
+}
 
-// Nothing shows the histogram yet.
-void Grain::slotSetHistogram(QVector<float>) {}
+void Grain::slotSetHistogram(QVector<float> histogram)
+{
+    m_form->frameCurve->setHistogram(histogram);
+}
+
+void Grain::on_sliderBlur_valueChanged(int tenths)
+{
+    m_form->doubleSpinBoxBlur->setValue(tenths / tenthsOfAPixel);
+}
+
+void Grain::on_doubleSpinBoxBlur_valueChanged(double blur)
+{
+    m_form->sliderBlur->setValue(static_cast<int>(blur * tenthsOfAPixel));
+    emitAll();
+}
+
+void Grain::emitAll()
+{
+    const QVector<float> weights = m_form->frameCurve->sample(sampleCount);
+    const auto blur = static_cast<float>(m_form->doubleSpinBoxBlur->value());
+    emit signalGrain(weights, blur);
+    m_form->framePreview->slotAdjustWeights(weights);
+    m_form->framePreview->slotSetRadius(blur);
+}
 
 void Grain::on_buttonReset_clicked()
 {
-    const grisal::graphics::FilterParameters initial;
-    emit signalGrain(initial.grainWeights, initial.grainRadius);
+    m_form->frameCurve->setPoints({0.0F, 0.5F, 1.0F}, {1.0F, 0.5F, 1.0F});
+    m_form->doubleSpinBoxBlur->setValue(initialBlur);
+    emitAll();
 }

@@ -6,12 +6,15 @@
 
 #include <memory>
 
+class CurveFrameEventFilter;
+
 namespace Ui
 {
 class Grain;
 }
 
-/// Film grain: how strong it is at each grey, and how coarse. Says only its initial settings, no grain, so far.
+/// Film grain: how strong it is at each grey, as a curve over the tones behind the tone curve, and how coarse. A strip
+/// shows both on a ramp from black to white.
 class Grain : public QWidget
 {
     Q_OBJECT
@@ -21,14 +24,18 @@ public:
     ~Grain() override;
 
 signals:
-    /// 256 strengths 0..1 for the greys 0..1, and the blur of the noise in pixels.
+    /// 256 strengths 0..1 for the greys 0..1, and the blur of the noise in pixels, 0..3.
     void signalGrain(QVector<float> weights, float radius);
 
 public slots:
     /// Takes the 256 bins of the tone histogram behind the curve of the strengths.
     void slotSetHistogram(QVector<float> histogram);
+    void on_doubleSpinBoxBlur_valueChanged(double blur);
+    void on_sliderBlur_valueChanged(int tenths);
+    void emitAll();
     void on_buttonReset_clicked();
 
 private:
     std::unique_ptr<Ui::Grain> m_form;
+    std::unique_ptr<CurveFrameEventFilter> m_deleteKey;
 };

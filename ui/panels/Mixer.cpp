@@ -149,6 +149,7 @@ void Mixer::on_buttonReset_clicked()
         constexpr float neutral = neutralWeight;
         showOnWheel({neutral, neutral, neutral});
         m_form->sliderLuma->setValue(neutralSum);
+        m_form->spinBoxLuma->setValue(neutralSum);
     }
     constexpr float third = 1.0F / 3;
     emit signalMixer(third, third, third);

@@ -16,7 +16,8 @@ class Mixer;
 /// their sum and as looks named after film stocks.
 ///
 /// Weights count 0..255 here and are emitted divided by 255; 85 each is the plain average. The channel sliders hold
-/// them. Moving one of these alone emits nothing: a change is committed by the wheel, the sum, a preset or the reset.
+/// them. Moving one of these alone emits nothing: what they try out counts with the next change of the sum, or of the
+/// level by the mouse wheel. A pick on the wheel, a preset and the reset put other weights in their place.
 class Mixer : public QWidget
 {
     Q_OBJECT

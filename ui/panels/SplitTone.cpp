@@ -1,20 +1,197 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/SplitTone.h"
 
-#include "graphics/filters/FilterParameters.h"
+#include "math/OpponentColour.h"
 #include "ui_SplitTone.h"
+
+#include <QSignalBlocker>
+
+using grisal::math::ChannelWeights;
+
+namespace
+{
+
+constexpr int evenWeight = 50;
+
+/// The controls of one tone.
+struct Tone {
+    YUVFrame *wheel;
+    QSlider *luma;
+    QSpinBox *r;
+    QSpinBox *g;
+    QSpinBox *b;
+};
+
+Tone highlightsOf(const Ui::SplitTone &form)
+{
+    return {form.frameHighlights, form.sliderHLuma, form.spinBoxHR, form.spinBoxHG, form.spinBoxHB};
+}
+
+Tone shadowsOf(const Ui::SplitTone &form)
+{
+    return {form.frameShadows, form.sliderSLuma, form.spinBoxSR, form.spinBoxSG, form.spinBoxSB};
+}
+
+ChannelWeights tintOf(const Tone &tone)
+{
+    return {static_cast<float>(tone.r->value()), static_cast<float>(tone.g->value()),
+            static_cast<float>(tone.b->value())};
+}
+
+void setTint(const Tone &tone, int r, int g, int b)
+{
+    const QSignalBlocker blockR(tone.r);
+    const QSignalBlocker blockG(tone.g);
+    const QSignalBlocker blockB(tone.b);
+    tone.r->setValue(r);
+    tone.g->setValue(g);
+    tone.b->setValue(b);
+}
+
+// The mean stays in double precision until it is cut: 110, 148 and 198, whose mean the unequal thirds put just below
+// 152, show as 151.
+void showLuma(const Tone &tone, const ChannelWeights &tint)
+{
+    using namespace grisal::math;
+    const QSignalBlocker blockLuma(tone.luma);
+    tone.luma->setValue(static_cast<int>(tint.r * third + tint.g * greenThird + tint.b * third));
+}
+
+void showOnWheel(const Tone &tone)
+{
+    const ChannelWeights tint = tintOf(tone);
+    const QSignalBlocker blockWheel(tone.wheel);
+    tone.wheel->slotSetRGB({tint.r, tint.g, tint.b});
+}
+
+void refreshFromTint(const Tone &tone)
+{
+    showLuma(tone, tintOf(tone));
+    showOnWheel(tone);
+}
+
+void takeTint(const Tone &tone, float r, float g, float b)
+{
+    const int wholeR = static_cast<int>(r);
+    const int wholeG = static_cast<int>(g);
+    const int wholeB = static_cast<int>(b);
+    showLuma(tone, {static_cast<float>(wholeR), static_cast<float>(wholeG), static_cast<float>(wholeB)});
+    setTint(tone, wholeR, wholeG, wholeB);
+}
+
+/// Shows the level on the wheel, whose marker stays, and returns the tint at that level.
+ChannelWeights shiftToLuma(const Tone &tone, int luma)
+{
+    const ChannelWeights shifted = grisal::math::shiftedToMean(tintOf(tone), luma);
+    const QSignalBlocker blockWheel(tone.wheel);
+    tone.wheel->slotSetLuma(static_cast<float>(luma));
+    return shifted;
+}
+
+float shareOf(const QSpinBox *channel)
+{
+    return static_cast<float>(channel->value() / 255.0);
+}
+
+} // namespace
 
 SplitTone::SplitTone(QWidget *parent) : QWidget(parent), m_form(std::make_unique<Ui::SplitTone>())
 {
     m_form->setupUi(this);
+    m_form->frameShadows->setColorSpace(0);
+    m_form->frameHighlights->setColorSpace(0);
+    connect(m_form->frameHighlights, &YUVFrame::signalWeights, this, &SplitTone::slotSetHighlights);
+    connect(m_form->frameShadows, &YUVFrame::signalWeights, this, &SplitTone::slotSetShadows);
+    // They would show the plane of another mode until the first reset, and no marker.
+    showOnWheel(shadowsOf(*m_form));
+    showOnWheel(highlightsOf(*m_form));
 }
 
 SplitTone::~SplitTone() = default;
 
+void SplitTone::on_spinBoxHR_valueChanged(int)
+{
+    refreshFromTint(highlightsOf(*m_form));
+}
+
+void SplitTone::on_spinBoxHG_valueChanged(int)
+{
+    refreshFromTint(highlightsOf(*m_form));
+}
+
+void SplitTone::on_spinBoxHB_valueChanged(int)
+{
+    refreshFromTint(highlightsOf(*m_form));
+}
+
+void SplitTone::on_spinBoxSR_valueChanged(int)
+{
+    refreshFromTint(shadowsOf(*m_form));
+}
+
+void SplitTone::on_spinBoxSG_valueChanged(int)
+{
+    refreshFromTint(shadowsOf(*m_form));
+}
+
+void SplitTone::on_spinBoxSB_valueChanged(int)
+{
+    refreshFromTint(shadowsOf(*m_form));
+}
+
+void SplitTone::on_spinBoxWeight_valueChanged(int value)
+{
+    m_form->sliderWeight->setValue(value);
+    emitAll();
+}
+
+// The spin box emits, and only where the slider brings it a new value: one emission, whichever of the two is moved.
+void SplitTone::on_sliderWeight_valueChanged(int value)
+{
+    m_form->spinBoxWeight->setValue(value);
+}
+
+void SplitTone::on_sliderHLuma_valueChanged(int value)
+{
+    const ChannelWeights tint = shiftToLuma(highlightsOf(*m_form), value);
+    slotSetHighlights(tint.r, tint.g, tint.b);
+}
+
+void SplitTone::on_sliderSLuma_valueChanged(int value)
+{
+    const ChannelWeights tint = shiftToLuma(shadowsOf(*m_form), value);
+    slotSetShadows(tint.r, tint.g, tint.b);
+}
+
+void SplitTone::slotSetHighlights(float r, float g, float b)
+{
+    takeTint(highlightsOf(*m_form), r, g, b);
+    emitAll();
+}
+
+void SplitTone::slotSetShadows(float r, float g, float b)
+{
+    takeTint(shadowsOf(*m_form), r, g, b);
+    emitAll();
+}
+
+void SplitTone::emitAll()
+{
+    const auto weight = static_cast<float>((m_form->sliderWeight->value() * 0.5 + 75.0) / 100.0);
+    const Tone highlights = highlightsOf(*m_form);
+    const Tone shadows = shadowsOf(*m_form);
+    emit signalSplit(weight, shareOf(highlights.r), shareOf(highlights.g), shareOf(highlights.b), shareOf(shadows.r),
+                     shareOf(shadows.g), shareOf(shadows.b));
+}
+
 void SplitTone::on_buttonReset_clicked()
 {
-    const grisal::graphics::FilterParameters initial;
-    const auto &[r1, g1, b1] = initial.highlightTint;
-    const auto &[r2, g2, b2] = initial.shadowTint;
-    emit signalSplit(initial.splitWeight, r1, g1, b1, r2, g2, b2);
+    m_form->sliderWeight->setValue(evenWeight);
+    const Tone shadows = shadowsOf(*m_form);
+    const Tone highlights = highlightsOf(*m_form);
+    setTint(shadows, 110, 148, 198);
+    setTint(highlights, 190, 156, 54);
+    refreshFromTint(shadows);
+    refreshFromTint(highlights);
+    emitAll();
 }

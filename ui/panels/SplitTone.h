@@ -10,7 +10,11 @@ namespace Ui
 class SplitTone;
 }
 
-/// Split toning: one tint for the highlights and one for the shadows. Says only its initial settings so far.
+/// Split toning: a tint for the highlights, one for the shadows, and the weight between them. Each tint shows as a
+/// colour wheel, as the level of the wheel (its luma, the mean of red, green and blue) and as three numbers, 0..255.
+///
+/// The numbers hold the tints. Typing one emits nothing: it counts with the next change of the weight, a wheel or a
+/// luma, or with the reset.
 class SplitTone : public QWidget
 {
     Q_OBJECT
@@ -20,10 +24,30 @@ public:
     ~SplitTone() override;
 
 signals:
-    /// The share of the highlights, 1 being even, then the tints of highlights and shadows, 0..1.
+    /// The weight, 0.75..1.25 with 1 in the middle, then the tints of highlights and shadows, 0..1.
     void signalSplit(float weight, float r1, float g1, float b1, float r2, float g2, float b2);
 
 public slots:
+    void on_spinBoxHR_valueChanged(int value);
+    void on_spinBoxWeight_valueChanged(int value);
+    void on_spinBoxHG_valueChanged(int value);
+    void on_spinBoxHB_valueChanged(int value);
+    void on_spinBoxSR_valueChanged(int value);
+    void on_spinBoxSG_valueChanged(int value);
+    void on_spinBoxSB_valueChanged(int value);
+    void on_sliderWeight_valueChanged(int value);
+    void on_sliderHLuma_valueChanged(int value);
+
+    /// Takes a tint of the scale 0..255, cut to whole numbers within it, and emits. The wheel stays: it is where the
+    /// tint comes from.
+    void slotSetShadows(float r, float g, float b);
+    void slotSetHighlights(float r, float g, float b);
+
+    void on_sliderSLuma_valueChanged(int value);
+
+    /// Emits what the controls show.
+    void emitAll();
+
     void on_buttonReset_clicked();
 
 private:

@@ -69,6 +69,7 @@ TEST_F(CurveFrameTest, StartsFlatAndSmooth)
     EXPECT_EQ(fresh.points().xs, (QVector<float>{0, 1}));
     EXPECT_EQ(fresh.points().ys, (QVector<float>{0.5F, 0.5F}));
     EXPECT_EQ(fresh.histogram(), QVector<float>(256, 0.3F));
+    EXPECT_EQ(fresh.outputHistogram(), histogramBehind(QVector<float>(256, 0.3F), QVector<float>(256, 0.3F)));
     EXPECT_EQ(fresh.selected(), -1);
     EXPECT_EQ(fresh.interpolation(), 1);
     EXPECT_EQ(fresh.frameStyle(), QFrame::Box | QFrame::Plain);
@@ -192,6 +193,17 @@ TEST_F(CurveFrameTest, DeleteTakesTheSelectedPointAndSelectsTheOneBefore)
     EXPECT_EQ(frame.points().xs, (QVector<float>{0, 1}));
     EXPECT_EQ(frame.selected(), 0);
     expectMoved(0, 1);
+}
+
+TEST_F(CurveFrameTest, DeleteEndsTheDragOfItsPoint)
+{
+    press(0.5, 0.5);
+    frame.deleteSelected();
+    moved.clear();
+    drag(0.1, 0.1);
+    release();
+    EXPECT_EQ(frame.points().ys, (QVector<float>{1, 0}));
+    EXPECT_TRUE(moved.isEmpty());
 }
 
 TEST_F(CurveFrameTest, DeleteLeavesTheEnds)

@@ -5,15 +5,17 @@
 
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMetaMethod>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QTest>
 
-#include <array>
+#include <memory>
 
 namespace
 {
@@ -176,6 +178,36 @@ TEST_F(CurvesTest, DeleteWorksWhereverTheFocusIs)
     QTest::keyClick(panel.windowHandle(), Qt::Key_Delete);
     EXPECT_EQ(frame.points().count(), 2);
     EXPECT_EQ(curves.count(), 1);
+}
+
+TEST_F(CurvesTest, DeleteBelongsToADialogWhileOneIsOpen)
+{
+    panel.on_buttonReset_clicked();
+    show();
+    QTest::mouseClick(&frame, Qt::LeftButton, {}, frame.rect().center());
+    QDialog dialog(&panel);
+    QLineEdit name(QStringLiteral("abc"), &dialog);
+    dialog.setModal(true);
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+    name.setCursorPosition(0);
+    QTest::keyClick(&name, Qt::Key_Delete);
+    EXPECT_EQ(name.text(), QStringLiteral("bc"));
+    EXPECT_EQ(frame.points().count(), 3);
+}
+
+TEST_F(CurvesTest, DeleteIsFreeOnceThePanelIsGone)
+{
+    auto other = std::make_unique<Curves>();
+    other->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(other.get()));
+    auto &itsFrame = child<CurveFrame>(*other, "frameCurve");
+    QTest::mouseClick(&itsFrame, Qt::LeftButton, {}, itsFrame.rect().center());
+    other.reset();
+    QLineEdit name(QStringLiteral("abc"));
+    name.setCursorPosition(0);
+    QTest::keyClick(&name, Qt::Key_Delete);
+    EXPECT_EQ(name.text(), QStringLiteral("bc"));
 }
 
 TEST_F(CurvesTest, TheStripsLineUpWithTheFrame)

@@ -4,7 +4,6 @@
 #include "ui/panels/Mixer.h"
 
 #include <QComboBox>
-#include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
@@ -90,75 +89,6 @@ protected:
     QComboBox &presets = child<QComboBox>(panel, "comboPresets");
     QSignalSpy emitted{&panel, &Mixer::signalMixer};
 };
-
-TEST_F(MixerTest, TheFormHasItsRangesAndInitialValues)
-{
-    for (const char *name : {"sliderR", "sliderG", "sliderB"}) {
-        EXPECT_EQ(slider(name).minimum(), -512) << name;
-        EXPECT_EQ(slider(name).maximum(), 511) << name;
-        EXPECT_EQ(slider(name).value(), 85) << name;
-    }
-    for (const char *name : {"spinBoxR", "spinBoxG", "spinBoxB"}) {
-        EXPECT_EQ(spinBox(name).minimum(), -512) << name;
-        EXPECT_EQ(spinBox(name).maximum(), 511) << name;
-        EXPECT_EQ(spinBox(name).value(), 85) << name;
-    }
-    EXPECT_EQ(slider("sliderLuma").minimum(), 0);
-    EXPECT_EQ(slider("sliderLuma").maximum(), 511);
-    EXPECT_EQ(slider("sliderLuma").value(), 255);
-    EXPECT_EQ(spinBox("spinBoxLuma").minimum(), 0);
-    EXPECT_EQ(spinBox("spinBoxLuma").maximum(), 511);
-    EXPECT_EQ(spinBox("spinBoxLuma").value(), 255);
-}
-
-TEST_F(MixerTest, SlidersLieFlatWithTicksAbove)
-{
-    for (const char *name : {"sliderLuma", "sliderR", "sliderG", "sliderB"}) {
-        EXPECT_EQ(slider(name).orientation(), Qt::Horizontal) << name;
-        EXPECT_EQ(slider(name).tickPosition(), QSlider::TicksAbove) << name;
-    }
-}
-
-TEST_F(MixerTest, TheFormHasItsColours)
-{
-    EXPECT_EQ(slider("sliderLuma").styleSheet(),
-              QStringLiteral("background-color:qlineargradient(spread:pad, x1:1, y1:1, x2:0, y2:1, stop:0 rgba(0, 0, "
-                             "0, 255), stop:1 rgba(255, 255, 255, 255));"));
-    EXPECT_EQ(spinBox("spinBoxLuma").styleSheet(), QStringLiteral("background:black;\ncolor:white;"));
-    EXPECT_EQ(spinBox("spinBoxR").styleSheet(), QStringLiteral("background:red;\ncolor:white;"));
-    EXPECT_EQ(spinBox("spinBoxG").styleSheet(), QStringLiteral("background:green;\ncolor:white;"));
-    EXPECT_EQ(spinBox("spinBoxB").styleSheet(), QStringLiteral("background:blue;\ncolor:white;"));
-}
-
-TEST_F(MixerTest, TheFormHasItsTexts)
-{
-    EXPECT_EQ(panel.windowTitle(), QStringLiteral("Form"));
-    EXPECT_EQ(child<QLabel>(panel, "label").text(), QStringLiteral("Presets:"));
-    EXPECT_EQ(child<QLabel>(panel, "label_2").text(), QStringLiteral("Luma"));
-    EXPECT_EQ(child<QLabel>(panel, "label_3").text(), QStringLiteral("<div style=\" color:#ff0000;\">Red</div>"));
-    EXPECT_EQ(child<QLabel>(panel, "label_4").text(), QStringLiteral("<div style=\" color:green;\">Green</div>"));
-    EXPECT_EQ(child<QLabel>(panel, "label_5").text(), QStringLiteral("<div style=\" color:#0000ff;\">Blue</div>"));
-    const auto &reset = child<QPushButton>(panel, "buttonReset");
-    EXPECT_EQ(reset.text(), QStringLiteral("\t↻"));
-    EXPECT_FALSE(reset.toolTip().isEmpty());
-}
-
-TEST_F(MixerTest, TheTabKeyGoesFromTheLooksDownwards)
-{
-    panel.show();
-    panel.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
-    presets.setFocus();
-    QStringList names;
-    for (int i = 0; i < 11; ++i) {
-        names << panel.focusWidget()->objectName();
-        EXPECT_FALSE(panel.focusWidget()->accessibleName().isEmpty()) << names.last().toStdString();
-        QTest::keyClick(panel.focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(names.join(' ').toStdString(),
-              "comboPresets buttonReset frameYUV sliderLuma spinBoxLuma sliderR spinBoxR "
-              "sliderG spinBoxG sliderB spinBoxB");
-}
 
 TEST_F(MixerTest, TheLooksStandInTheirOrder)
 {
@@ -379,6 +309,17 @@ TEST_F(MixerTest, ResetEmitsOneThirdEachOnce)
     EXPECT_EQ(slider("sliderLuma").value(), 255);
     EXPECT_EQ(spinBox("spinBoxLuma").value(), 255);
     EXPECT_EQ(presets.currentText(), QStringLiteral("Luma"));
+}
+
+// The slider of the sum stands at 255 by what the channels try out, its spin box at what was in effect.
+TEST_F(MixerTest, ResetPutsTheSpinBoxOfTheSumBack)
+{
+    slider("sliderLuma").setValue(300);
+    slider("sliderR").setValue(55);
+    ASSERT_EQ(slider("sliderLuma").value(), 255);
+    panel.on_buttonReset_clicked();
+    EXPECT_EQ(spinBox("spinBoxLuma").value(), 255);
+    EXPECT_EQ(sliders(), (Triple{85, 85, 85}));
 }
 
 // "Luma" adds up to the neutral sum, so that the slider of the sum does not move and brings nothing along.

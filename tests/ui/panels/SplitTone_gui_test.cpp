@@ -1,0 +1,399 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/GuiTest.h"
+#include "ui/frames/YUVFrame.h"
+#include "ui/panels/SplitTone.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMetaMethod>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTest>
+
+#include <algorithm>
+#include <array>
+
+namespace
+{
+
+using namespace grisal::test;
+
+using Triple = std::array<int, 3>;
+
+constexpr std::array<const char *, 6> channels{"spinBoxHR", "spinBoxHG", "spinBoxHB",
+                                               "spinBoxSR", "spinBoxSG", "spinBoxSB"};
+constexpr Triple warm{190, 156, 54};
+constexpr Triple cool{110, 148, 198};
+
+class SplitToneTest : public GuiTest
+{
+protected:
+    QSlider &slider(const char *name) { return child<QSlider>(panel, name); }
+    QSpinBox &spinBox(const char *name) { return child<QSpinBox>(panel, name); }
+
+    Triple highlights()
+    {
+        return {spinBox("spinBoxHR").value(), spinBox("spinBoxHG").value(), spinBox("spinBoxHB").value()};
+    }
+    Triple shadows()
+    {
+        return {spinBox("spinBoxSR").value(), spinBox("spinBoxSG").value(), spinBox("spinBoxSB").value()};
+    }
+
+    void reset()
+    {
+        QTest::mouseClick(&child<QPushButton>(panel, "buttonReset"), Qt::LeftButton);
+        emitted.clear();
+    }
+
+    /// Expects one emission since the last call, of tints on the scale 0..255.
+    void expectEmitted(float weight, const Triple &first, const Triple &second)
+    {
+        ASSERT_EQ(emitted.count(), 1);
+        const QVariantList sent = emitted.takeFirst();
+        EXPECT_FLOAT_EQ(sent[0].toFloat(), weight);
+        for (int c = 0; c < 3; ++c) {
+            const auto channel = static_cast<std::size_t>(c);
+            EXPECT_FLOAT_EQ(sent[1 + c].toFloat(), static_cast<float>(first[channel]) / 255) << c;
+            EXPECT_FLOAT_EQ(sent[4 + c].toFloat(), static_cast<float>(second[channel]) / 255) << c;
+        }
+    }
+
+    static void expectOnWheel(const YUVFrame &wheel, const Triple &tint)
+    {
+        const double mean = (tint[0] + tint[1] + tint[2]) / 3.0;
+        EXPECT_NEAR(wheel.luma(), mean, 1e-3);
+        EXPECT_NEAR(wheel.markerX(), (tint[2] - mean + 170) / 340, 1e-5);
+        EXPECT_NEAR(wheel.markerY(), (mean - tint[0] + 170) / 340, 1e-5);
+    }
+
+    SplitTone panel;
+    YUVFrame &frameHighlights = child<YUVFrame>(panel, "frameHighlights");
+    YUVFrame &frameShadows = child<YUVFrame>(panel, "frameShadows");
+    QSignalSpy emitted{&panel, &SplitTone::signalSplit};
+};
+
+TEST_F(SplitToneTest, TheFormHasItsRangesAndInitialValues)
+{
+    for (const char *name : channels) {
+        EXPECT_EQ(spinBox(name).minimum(), 0) << name;
+        EXPECT_EQ(spinBox(name).maximum(), 255) << name;
+    }
+    for (const char *name : {"sliderHLuma", "sliderSLuma"}) {
+        EXPECT_EQ(slider(name).orientation(), Qt::Vertical) << name;
+        EXPECT_EQ(slider(name).minimum(), 0) << name;
+        EXPECT_EQ(slider(name).maximum(), 255) << name;
+        EXPECT_EQ(slider(name).value(), 128) << name;
+    }
+    EXPECT_EQ(slider("sliderWeight").orientation(), Qt::Horizontal);
+    EXPECT_EQ(slider("sliderWeight").minimum(), 0);
+    EXPECT_EQ(slider("sliderWeight").maximum(), 100);
+    EXPECT_EQ(slider("sliderWeight").value(), 50);
+    EXPECT_EQ(spinBox("spinBoxWeight").minimum(), 0);
+    EXPECT_EQ(spinBox("spinBoxWeight").maximum(), 100);
+    EXPECT_EQ(spinBox("spinBoxWeight").value(), 50);
+    EXPECT_EQ(frameHighlights.minimumSize(), QSize(0, 100));
+    EXPECT_EQ(frameShadows.minimumSize(), QSize(0, 100));
+    EXPECT_EQ(frameHighlights.colorSpace(), 0);
+    EXPECT_EQ(frameShadows.colorSpace(), 0);
+}
+
+// The blue of the shadows differs between the form and the reset, and both are meant.
+TEST_F(SplitToneTest, TheFormHasItsInitialTints)
+{
+    EXPECT_EQ(highlights(), warm);
+    EXPECT_EQ(shadows(), (Triple{110, 148, 253}));
+    reset();
+    EXPECT_EQ(highlights(), warm);
+    EXPECT_EQ(shadows(), cool);
+}
+
+TEST_F(SplitToneTest, TheFormHasItsTexts)
+{
+    EXPECT_EQ(panel.windowTitle(), QStringLiteral("Form"));
+    EXPECT_EQ(child<QLabel>(panel, "labelPresets").text(), QStringLiteral("Presets:"));
+    EXPECT_EQ(child<QGroupBox>(panel, "groupBoxHighlights").title(), QStringLiteral("Highlights"));
+    EXPECT_EQ(child<QGroupBox>(panel, "groupBoxShadows").title(), QStringLiteral("Shadows"));
+    EXPECT_EQ(child<QLabel>(panel, "labelWeight").text(), QStringLiteral("Weight"));
+    EXPECT_EQ(child<QPushButton>(panel, "buttonReset").text(), QStringLiteral("\t↻"));
+    for (const QString &tone : {QStringLiteral("H"), QStringLiteral("S")}) {
+        const auto text = [&](const char *channel) {
+            return child<QLabel>(panel, qPrintable(QStringLiteral("label") + tone + QLatin1String(channel))).text();
+        };
+        EXPECT_EQ(text("R"), QStringLiteral("<div style=\" color:#ff0000;\">Red</div>"));
+        EXPECT_EQ(text("G"), QStringLiteral("<div style=\" color:green;\">Green</div>"));
+        EXPECT_EQ(text("B"), QStringLiteral("<div style=\" color:#0000ff;\">Blue</div>"));
+    }
+}
+
+TEST_F(SplitToneTest, TheFormHasItsColours)
+{
+    for (const char *name : {"sliderHLuma", "sliderSLuma"}) {
+        EXPECT_EQ(slider(name).styleSheet(),
+                  QStringLiteral("background-color:qlineargradient(spread:pad, x1:1, y1:1, x2:1, y2:0, stop:0 rgba(0, "
+                                 "0, 0, 255), stop:1 rgba(255, 255, 255, 255));"));
+    }
+    const QStringList colours{QStringLiteral("red"), QStringLiteral("green"), QStringLiteral("blue")};
+    for (std::size_t i = 0; i < channels.size(); ++i) {
+        EXPECT_EQ(spinBox(channels[i]).styleSheet(),
+                  QStringLiteral("background:%1;\ncolor:white;").arg(colours[static_cast<int>(i % 3)]));
+    }
+}
+
+TEST_F(SplitToneTest, PresetsAreEmptyAndDisabled)
+{
+    EXPECT_EQ(child<QComboBox>(panel, "comboPresets").count(), 0);
+    EXPECT_FALSE(child<QComboBox>(panel, "comboPresets").isEnabled());
+    EXPECT_EQ(child<QComboBox>(panel, "comboPresets").toolTip(), QStringLiteral("There are no presets yet"));
+}
+
+TEST_F(SplitToneTest, SignalsAndSlotsHaveTheirNamesAndOrder)
+{
+    QStringList methods;
+    const QMetaObject &meta = SplitTone::staticMetaObject;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        methods << QString::fromLatin1(meta.method(i).methodSignature());
+    }
+    EXPECT_EQ(methods.join(QLatin1Char(' ')).toStdString(),
+              "signalSplit(float,float,float,float,float,float,float) on_spinBoxHR_valueChanged(int) "
+              "on_spinBoxWeight_valueChanged(int) on_spinBoxHG_valueChanged(int) on_spinBoxHB_valueChanged(int) "
+              "on_spinBoxSR_valueChanged(int) on_spinBoxSG_valueChanged(int) on_spinBoxSB_valueChanged(int) "
+              "on_sliderWeight_valueChanged(int) on_sliderHLuma_valueChanged(int) slotSetShadows(float,float,float) "
+              "slotSetHighlights(float,float,float) on_sliderSLuma_valueChanged(int) emitAll() "
+              "on_buttonReset_clicked()");
+    EXPECT_EQ(meta.method(meta.methodOffset()).parameterNames().join(','), "weight,r1,g1,b1,r2,g2,b2");
+}
+
+/// Hears the first panel that is built while it exists, from its first child on.
+class BuildListener : public QObject
+{
+public:
+    BuildListener() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *panel = qobject_cast<SplitTone *>(watched);
+        if (panel != nullptr && event->type() == QEvent::ChildAdded && !listening) {
+            listening = true;
+            connect(panel, &SplitTone::signalSplit, this, [this] { ++heard; });
+        }
+        return false;
+    }
+
+    bool listening = false;
+    int heard = 0;
+};
+
+TEST_F(SplitToneTest, BuildingThePanelEmitsNothing)
+{
+    const BuildListener listener;
+    SplitTone another;
+    EXPECT_TRUE(listener.listening);
+    EXPECT_EQ(listener.heard, 0);
+    another.emitAll();
+    EXPECT_EQ(listener.heard, 1);
+}
+
+TEST_F(SplitToneTest, TheWheelsShowTheInitialTintsInTheirPlane)
+{
+    expectOnWheel(frameHighlights, warm);
+    expectOnWheel(frameShadows, {110, 148, 253});
+    EXPECT_EQ(frameShadows.wheelImage().size(), QSize(340, 340));
+}
+
+TEST_F(SplitToneTest, ResetEmitsItsTints)
+{
+    spinBox("spinBoxHR").setValue(3);
+    spinBox("spinBoxSB").setValue(4);
+    panel.on_buttonReset_clicked();
+    expectEmitted(1, warm, cool);
+    EXPECT_EQ(slider("sliderHLuma").value(), 133);
+    EXPECT_EQ(slider("sliderSLuma").value(), 151); // three twelve-digit thirds fall short of 152, and are cut
+    expectOnWheel(frameHighlights, warm);
+    expectOnWheel(frameShadows, cool);
+}
+
+// The weight goes back first, and its change is told by itself, with the tints of before.
+TEST_F(SplitToneTest, ResetTellsAChangedWeightFirst)
+{
+    reset();
+    slider("sliderWeight").setValue(100);
+    spinBox("spinBoxHR").setValue(3);
+    emitted.clear();
+    panel.on_buttonReset_clicked();
+    ASSERT_EQ(emitted.count(), 2);
+    EXPECT_FLOAT_EQ(emitted[0][0].toFloat(), 1);
+    EXPECT_FLOAT_EQ(emitted[0][1].toFloat(), 3.0F / 255);
+    emitted.removeFirst();
+    expectEmitted(1, warm, cool);
+}
+
+TEST_F(SplitToneTest, TheWeightRunsFromThreeQuartersToFiveQuarters)
+{
+    reset();
+    slider("sliderWeight").setValue(0);
+    expectEmitted(0.75F, warm, cool);
+    EXPECT_EQ(spinBox("spinBoxWeight").value(), 0);
+    slider("sliderWeight").setValue(100);
+    expectEmitted(1.25F, warm, cool);
+    spinBox("spinBoxWeight").setValue(25);
+    expectEmitted(0.875F, warm, cool);
+    EXPECT_EQ(slider("sliderWeight").value(), 25);
+}
+
+// Three numbers make a colour: the picture waits until they are all there.
+TEST_F(SplitToneTest, TypedColoursAreSilentAndMoveWheelAndLuma)
+{
+    reset();
+    const std::array<int, 6> tints{200, 100, 30, 20, 40, 61};
+    for (std::size_t i = 0; i < channels.size(); ++i) {
+        spinBox(channels[i]).setValue(tints[i]);
+    }
+    EXPECT_TRUE(emitted.isEmpty());
+    EXPECT_EQ(slider("sliderHLuma").value(), 109); // three twelve-digit thirds fall short of 110, and are cut
+    EXPECT_EQ(slider("sliderSLuma").value(), 40);
+    expectOnWheel(frameHighlights, {200, 100, 30});
+    expectOnWheel(frameShadows, {20, 40, 61});
+    panel.emitAll();
+    expectEmitted(1, {200, 100, 30}, {20, 40, 61});
+}
+
+TEST_F(SplitToneTest, ALumaMovesAllChannelsAlike)
+{
+    reset();
+    slider("sliderHLuma").setValue(143);
+    EXPECT_EQ(slider("sliderHLuma").value(), 142); // the whole numbers add up to a little less
+    ASSERT_EQ(emitted.count(), 1);
+    EXPECT_EQ(highlights(), (Triple{199, 165, 63}));
+    EXPECT_EQ(frameHighlights.luma(), 143);
+    expectEmitted(1, {199, 165, 63}, cool);
+}
+
+TEST_F(SplitToneTest, ALumaMakesAGreyThatGrey)
+{
+    for (const char *name : channels) {
+        spinBox(name).setValue(100);
+    }
+    slider("sliderHLuma").setValue(200);
+    EXPECT_EQ(highlights(), (Triple{200, 200, 200}));
+    EXPECT_EQ(slider("sliderHLuma").value(), 200);
+    slider("sliderSLuma").setValue(7);
+    EXPECT_EQ(shadows(), (Triple{7, 7, 7}));
+    EXPECT_EQ(emitted.count(), 2);
+}
+
+TEST_F(SplitToneTest, ATintIsCutToWholeNumbersWithinTheSpinBoxes)
+{
+    reset();
+    panel.slotSetHighlights(300.9F, 100.9F, -20);
+    EXPECT_EQ(highlights(), (Triple{255, 100, 0}));
+    EXPECT_EQ(slider("sliderHLuma").value(), 126); // the mean of 300, 100 and -20
+    expectEmitted(1, {255, 100, 0}, cool);
+    panel.slotSetShadows(1.5F, 2.5F, 3.5F);
+    EXPECT_EQ(shadows(), (Triple{1, 2, 3}));
+    expectEmitted(1, {255, 100, 0}, {1, 2, 3});
+}
+
+TEST_F(SplitToneTest, ALumaLeavesTheMarkerAndTheOtherTone)
+{
+    reset();
+    const QPointF marker(frameShadows.markerX(), frameShadows.markerY());
+    const QSignalSpy picked(&frameShadows, &YUVFrame::signalWeights);
+    slider("sliderSLuma").setValue(250);
+    expectEmitted(1, warm, {208, 246, 255});
+    EXPECT_EQ(slider("sliderSLuma").value(), 249); // the mean of 208, 246 and 296, cut
+    EXPECT_EQ(frameShadows.luma(), 250);
+    EXPECT_EQ(QPointF(frameShadows.markerX(), frameShadows.markerY()), marker);
+    EXPECT_TRUE(picked.isEmpty());
+}
+
+// Cutting fractions costs up to one: a step of one upwards would end where it began.
+TEST_F(SplitToneTest, TheKeysMoveALumaUpAndDown)
+{
+    for (const Triple &tint : {Triple{100, 100, 100}, Triple{101, 100, 100}, Triple{101, 101, 100}, cool}) {
+        spinBox("spinBoxHR").setValue(tint[0]);
+        spinBox("spinBoxHG").setValue(tint[1]);
+        spinBox("spinBoxHB").setValue(tint[2]);
+        QSlider &luma = slider("sliderHLuma");
+        const int before = luma.value();
+        QTest::keyClick(&luma, Qt::Key_Up);
+        const int above = luma.value();
+        EXPECT_GT(above, before);
+        QTest::keyClick(&luma, Qt::Key_Down);
+        EXPECT_LT(luma.value(), above);
+    }
+}
+
+TEST_F(SplitToneTest, KeysInTheSpinBoxesEmitOnlyForTheWeight)
+{
+    reset();
+    for (const char *name : channels) {
+        spinBox(name).selectAll();
+        QTest::keyClicks(&spinBox(name), QStringLiteral("200"));
+    }
+    EXPECT_EQ(highlights(), (Triple{200, 200, 200}));
+    EXPECT_EQ(shadows(), (Triple{200, 200, 200}));
+    EXPECT_TRUE(emitted.isEmpty());
+    spinBox("spinBoxWeight").selectAll();
+    QTest::keyClick(&spinBox("spinBoxWeight"), '2');
+    expectEmitted(0.76F, {200, 200, 200}, {200, 200, 200});
+    QTest::keyClick(&spinBox("spinBoxWeight"), '6');
+    expectEmitted(0.88F, {200, 200, 200}, {200, 200, 200});
+}
+
+TEST_F(SplitToneTest, ADragOnAWheelEmitsItsColourAtEveryMove)
+{
+    reset();
+    panel.resize(300, 520);
+    panel.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
+    for (YUVFrame *wheel : {&frameHighlights, &frameShadows}) {
+        const QSignalSpy picked(wheel, &YUVFrame::signalWeights);
+        const auto expectPicked = [&](int count) {
+            ASSERT_EQ(picked.count(), count);
+            Triple tint{};
+            for (std::size_t i = 0; i < tint.size(); ++i) {
+                tint[i] = std::clamp(static_cast<int>(picked.last()[static_cast<int>(i)].toFloat()), 0, 255);
+            }
+            EXPECT_EQ(wheel == &frameHighlights ? highlights() : shadows(), tint);
+            expectEmitted(1, highlights(), shadows());
+        };
+        const QPoint middle = wheel->rect().center();
+        QTest::mousePress(wheel, Qt::LeftButton, {}, middle);
+        expectPicked(1);
+        QTest::mouseMove(wheel, middle + QPoint(20, -7));
+        expectPicked(2);
+        QTest::mouseMove(wheel, middle + QPoint(400, 300));
+        expectPicked(3);
+        QTest::mouseRelease(wheel, Qt::LeftButton, {}, middle);
+        EXPECT_TRUE(emitted.isEmpty());
+        EXPECT_DOUBLE_EQ(wheel->markerX(), (middle.x() + 400.0) / wheel->width());
+    }
+    EXPECT_EQ(shadows()[0], 0);
+    EXPECT_EQ(shadows()[2], 255);
+}
+
+TEST_F(SplitToneTest, ControlsHaveNamesTipsAndTheirOrder)
+{
+    panel.show();
+    panel.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    child<QPushButton>(panel, "buttonReset").setFocus();
+    QStringList names;
+    for (int i = 0; i < 13; ++i) {
+        QWidget *control = panel.focusWidget();
+        names << control->objectName();
+        EXPECT_FALSE(control->accessibleName().isEmpty()) << names.last().toStdString();
+        EXPECT_FALSE(control->toolTip().isEmpty()) << names.last().toStdString();
+        QTest::keyClick(control, Qt::Key_Tab);
+    }
+    EXPECT_EQ(names.join(' ').toStdString(),
+              "buttonReset sliderHLuma frameHighlights spinBoxHR spinBoxHG spinBoxHB sliderWeight spinBoxWeight "
+              "sliderSLuma frameShadows spinBoxSR spinBoxSG spinBoxSB");
+}
+
+} // namespace

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frames/VFrame.h"
+
+#include "ui/frames/VignetteShape.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+VFrame::VFrame(QWidget *parent) : QFrame(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    QSizePolicy proportions(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    proportions.setHeightForWidth(true);
+    setSizePolicy(proportions);
+}
+
+void VFrame::slotSetX(float x)
+{
+    m_posX = x;
+    update();
+}
+
+void VFrame::slotSetY(float y)
+{
+    m_posY = y;
+    update();
+}
+
+void VFrame::slotSetRadius(float radius)
+{
+    if (!replacesFraction(m_radius, radius)) {
+        return;
+    }
+    m_radius = radius;
+    emit signalRadius(m_radius);
+    update();
+}
+
+void VFrame::slotSetStrength(float strength)
+{
+    if (!replacesFraction(m_strength, strength)) {
+        return;
+    }
+    m_strength = strength;
+    emit signalStrength(m_strength);
+    update();
+}
+
+void VFrame::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QFrame::mousePressEvent(event);
+        return;
+    }
+    m_pressed = true;
+    pick(event);
+}
+
+void VFrame::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_pressed) {
+        pick(event);
+    }
+}
+
+void VFrame::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton) {
+        m_pressed = false;
+    }
+}
+
+void VFrame::pick(const QMouseEvent *event)
+{
+    const QSize size = contentsRect().size();
+    if (size.isEmpty()) {
+        return;
+    }
+    m_posX = event->position().x() / size.width();
+    m_posY = event->position().y() / size.height();
+    emit signalPosition({m_posX, m_posY});
+    update();
+}
+
+void VFrame::wheelEvent(QWheelEvent *event)
+{
+    const int delta = event->angleDelta().y();
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        slotSetStrength(fractionAfterWheel(m_strength, delta));
+    } else {
+        slotSetRadius(fractionAfterWheel(m_radius, delta));
+    }
+}
+
+// A centre beyond the edge is shown at the edge: that is where the picture gets it.
+grisal::graphics::VignetteParameters VFrame::shownVignette() const
+{
+    constexpr float percent = 100;
+    const auto x = static_cast<float>(std::clamp(m_posX, 0.0, 1.0));
+    const auto y = static_cast<float>(std::clamp(m_posY, 0.0, 1.0));
+    return {{x * percent, y * percent, 0}, m_strength * percent, m_radius * percent};
+}
+
+// Lines of a pixel are sharp at halves.
+QPainterPath VFrame::marks() const
+{
+    constexpr double centreMark = 4;
+    const QRectF contents = contentsRect();
+    const grisal::graphics::VignetteParameters shown = shownVignette();
+    const QSizeF reach = vignetteReach(shown.radius);
+    const QPointF centre(std::floor(contents.left() + contents.width() * shown.center.x / 100) + 0.5,
+                         std::floor(contents.top() + contents.height() * shown.center.y / 100) + 0.5);
+    QPainterPath path;
+    path.addEllipse(centre, contents.width() * reach.width(), contents.height() * reach.height());
+    path.addRect(QRectF(centre, centre).adjusted(-centreMark, -centreMark, centreMark, centreMark));
+    if (hasFocus()) {
+        path.addRect(contents.adjusted(1.5, 1.5, -1.5, -1.5));
+    }
+    return path;
+}
+
+void VFrame::paintEvent(QPaintEvent *)
+{
+    // Finer would cost more than it shows.
+    constexpr QSize finest(600, 400);
+    const QRect contents = contentsRect();
+    if (contents.isEmpty()) {
+        return;
+    }
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.setClipRect(contents, Qt::ReplaceClip);
+    const QSize pixels = (QSizeF(contents.size()) * devicePixelRatioF()).toSize().boundedTo(finest);
+    painter.drawImage(contents, vignettePicture(shownVignette(), pixels));
+
+    // Dark lines with a light rim are seen on every grey.
+    const QPainterPath path = marks();
+    QPainterPathStroker rim;
+    rim.setWidth(3);
+    painter.fillPath(rim.createStroke(path), QColor(255, 255, 255, 200));
+    painter.setPen(QPen(Qt::black, 1));
+    painter.drawPath(path);
+}

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frames/VignetteShape.h"
+
+#include <QColor>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+constexpr float pictureWidth = 3;
+constexpr float pictureHeight = 2;
+
+/// The picture's grey: light enough to leave room for the darkening, dark enough for its overlay to bite.
+constexpr int grey = 160;
+
+/// What the filter makes of the grey where its darkening has this value.
+uchar darkenedGrey(float darkening)
+{
+    constexpr float nearly255th = 0.0039F;
+    constexpr float white = 255;
+    constexpr auto level = static_cast<float>(grey);
+    const float overlay = (1 - darkening) * level + darkening * (level * level * nearly255th);
+    const float shade = overlay * nearly255th * white;
+    // Without a radius it is no number: black too.
+    return shade > 0 ? static_cast<uchar>(shade + 0.5F) : uchar{0};
+}
+
+} // namespace
+
+bool nearlyEqualFractions(float a, float b)
+{
+    return std::abs(a - b) <= 0.00001F * std::max(std::abs(a), std::abs(b));
+}
+
+bool replacesFraction(float current, float wanted)
+{
+    return wanted >= 0 && wanted <= 1 && !nearlyEqualFractions(current, wanted);
+}
+
+float fractionAfterWheel(float fraction, int delta)
+{
+    constexpr double step = 0.0001;
+    return static_cast<float>(fraction + delta * step);
+}
+
+int wholePercent(double percent, int lowest, int highest)
+{
+    if (!(percent > lowest)) {
+        return lowest;
+    }
+    return percent < highest ? static_cast<int>(percent) : highest;
+}
+
+QSizeF vignetteReach(float radius)
+{
+    const double reach = radius * 0.01 * (pictureWidth + pictureHeight) / 2;
+    return {reach / pictureWidth, reach / pictureHeight};
+}
+
+QImage vignettePicture(const grisal::graphics::VignetteParameters &parameters, QSize pixels)
+{
+    QImage picture(pixels, QImage::Format_Grayscale8);
+    if (!(parameters.strength > 0)) {
+        picture.fill(QColor(grey, grey, grey));
+        return picture;
+    }
+    const float stepX = pictureWidth / static_cast<float>(pixels.width());
+    const float stepY = pictureHeight / static_cast<float>(pixels.height());
+    for (int y = 0; y < picture.height(); ++y) {
+        uchar *row = picture.scanLine(y);
+        const float py = (static_cast<float>(y) + 0.5F) * stepY;
+        for (int x = 0; x < picture.width(); ++x) {
+            const float px = (static_cast<float>(x) + 0.5F) * stepX;
+            row[x] = darkenedGrey(grisal::graphics::vignetteValue(parameters, pictureWidth, pictureHeight, px, py));
+        }
+    }
+    return picture;
+}
