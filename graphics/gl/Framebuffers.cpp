@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/gl/Framebuffers.h"
 
+#include "graphics/gl/GlFaults.h"
 #include "graphics/gl/Textures.h"
 
 #include <QtGlobal>
@@ -47,6 +48,7 @@ FramebufferObject createFramebuffer(std::int32_t width, std::int32_t height, GLe
 
     if (const char *text = framebufferStatusText(glCheckFramebufferStatus(GL_FRAMEBUFFER))) {
         qWarning("%s", text);
+        noteIncompleteFramebuffer();
     }
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
     return target;
@@ -121,6 +123,9 @@ bool RenderTarget::isComplete() const
     glBindFramebuffer(GL_FRAMEBUFFER, m_record.framebuffer);
     const bool complete = glCheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
+    if (!complete) {
+        noteIncompleteFramebuffer();
+    }
     return complete;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/gl/Textures.h"
 
+#include "graphics/gl/GlFaults.h"
+
 #include <QtGlobal>
 
 namespace grisal::graphics
@@ -10,7 +12,7 @@ GLuint createTexture(std::int32_t width, std::int32_t height, GLenum internalFor
                      const void *data)
 {
     // An error left by someone else would be taken for the upload's.
-    glGetError();
+    noteGlError(glGetError());
 
     glEnable(GL_TEXTURE_2D);
     glActiveTexture(GL_TEXTURE0);
@@ -29,7 +31,9 @@ GLuint createTexture(std::int32_t width, std::int32_t height, GLenum internalFor
     glBindTexture(GL_TEXTURE_2D, 0);
     glDisable(GL_TEXTURE_2D);
 
-    if (const char *text = textureErrorText(glGetError())) {
+    const GLenum error = glGetError();
+    noteGlError(error);
+    if (const char *text = textureErrorText(error)) {
         qWarning("%s", text);
     }
     return name;

@@ -3,6 +3,7 @@
 
 #include "graphics/document/Document.h"
 #include "graphics/filters/FilterSet.h"
+#include "graphics/gl/GlFaults.h"
 #include "graphics/render/TiledDocumentRenderer.h"
 #include "graphics/render/TilePixels.h"
 
@@ -68,7 +69,7 @@ void logValueRange(const FinalPicture &picture)
 }
 
 bool renderInPlace(const FinalPicture &picture, FilterSet &filters, DocumentView &view, const TileSide &horizontal,
-                   const TileSide &vertical)
+                   const TileSide &vertical, const GlFaultWatch &watch)
 {
     const TileFormats formats = picture.sixteenBit ? TileFormats{GL_RGB, GL_UNSIGNED_SHORT, GL_RGB16F}
                                                    : TileFormats{GL_RGB, GL_UNSIGNED_BYTE, GL_RGB8};
@@ -84,7 +85,8 @@ bool renderInPlace(const FinalPicture &picture, FilterSet &filters, DocumentView
     renderer.render(document);
     glActiveTexture(GL_TEXTURE0);
     glDisable(GL_TEXTURE_2D);
-    if (renderer.output() == nullptr) {
+    if (renderer.output() == nullptr || !watch.isClean()) {
+        qWarning("OpenGL could not render the picture");
         return false;
     }
     const std::size_t componentSize = picture.sixteenBit ? sizeof(std::uint16_t) : sizeof(std::uint8_t);
@@ -106,6 +108,7 @@ void addFinalFilters(DocumentFilterQueue &queue, FilterSet &filters)
 bool renderFinalPicture(const FinalPicture &picture, const FilterParameters &parameters, FilterSet &filters,
                         DocumentView &view)
 {
+    const GlFaultWatch watch;
     // The grain leaves another unit active, on which it would be enabled for nothing.
     glActiveTexture(GL_TEXTURE0);
     glEnable(GL_TEXTURE_2D);
@@ -122,7 +125,7 @@ bool renderFinalPicture(const FinalPicture &picture, const FilterParameters &par
     qDebug() << "HalfTone Weight: " << filters.splitTone.weight;
     filters.setParameters(parameters);
 
-    const bool rendered = renderInPlace(picture, filters, view, horizontal, vertical);
+    const bool rendered = renderInPlace(picture, filters, view, horizontal, vertical, watch);
     logValueRange(picture);
     return rendered;
 }

@@ -2,6 +2,7 @@
 #include "graphics/render/VignetteMask.h"
 
 #include "graphics/filters/FinalVignetteFilter.h"
+#include "graphics/gl/GlFaults.h"
 
 #include <QDebug>
 
@@ -11,11 +12,13 @@ namespace grisal::graphics
 namespace
 {
 
-/// False, with the mask as it was, where the driver has no target of this size.
+/// False where the driver has no target of this size or does not get the mask drawn.
 bool drawMask(const VignetteParameters &parameters, std::int32_t width, std::int32_t height, std::vector<float> &mask)
 {
+    GlFaultWatch watch;
     const RenderTarget target(width, height, GL_RED, GL_R32F, GL_FLOAT);
     if (!target.isComplete()) {
+        watch.forgive();
         return false;
     }
     FinalVignetteFilter filter;
@@ -26,7 +29,9 @@ bool drawMask(const VignetteParameters &parameters, std::int32_t width, std::int
     filter.maxHeight = static_cast<float>(height);
     filter.apply(0, target.record());
     readPixels(target.record(), width, height, GL_RED, GL_FLOAT, mask.data());
-    return true;
+    const bool drawn = watch.isClean();
+    watch.forgive();
+    return drawn;
 }
 
 void computeMask(const VignetteParameters &parameters, std::uint32_t width, std::uint32_t height,

@@ -8,7 +8,18 @@
 #include <QTest>
 
 #include <array>
-#include <numeric>
+#include <utility>
+
+// The macros of the resources stand outside every namespace.
+static void removeTiles()
+{
+    Q_CLEANUP_RESOURCE(grain_tiles);
+}
+
+static void bringTilesBack()
+{
+    Q_INIT_RESOURCE(grain_tiles);
+}
 
 namespace
 {
@@ -111,10 +122,6 @@ protected:
     CountingPreview preview;
 };
 
-class GrainTileTest : public testing::TestWithParam<const char *>
-{
-};
-
 } // namespace
 
 TEST_F(GrainPreviewTest, StartsWithTheMiddleBlurAndNoWeights)
@@ -151,28 +158,6 @@ TEST_F(GrainPreviewTest, PropertiesReadAndWrite)
     EXPECT_EQ(preview.fulcrums(), risingWeights());
     EXPECT_EQ(preview.property("fulcrums").value<QVector<float>>(), risingWeights());
 }
-
-TEST(GrainTileFileTest, RadiiAreRoundedDownToAHalf)
-{
-    const auto file = [](const char *name) { return ":/Prerender/Icons/Blur/blur_" + std::string(name) + ".png"; };
-    constexpr std::array names{"0_0", "0_5", "1_0", "1_5", "2_0", "2_5", "3_0"};
-    for (int tenths = 0; tenths <= 30; ++tenths) {
-        const auto radius = static_cast<float>(tenths / 10.0);
-        EXPECT_EQ(grainTileFile(radius).toStdString(), file(names.at(static_cast<std::size_t>(tenths / 5)))) << radius;
-    }
-}
-
-TEST_P(GrainTileTest, IsGreyOpaqueAndFillsTheMap)
-{
-    const QImage tile = tileOf(GetParam());
-
-    EXPECT_GE(tile.width(), 400);
-    EXPECT_GE(tile.height(), 60);
-    EXPECT_FALSE(tile.hasAlphaChannel());
-    EXPECT_TRUE(tile.allGray());
-}
-
-INSTANTIATE_TEST_SUITE_P(Radii, GrainTileTest, testing::Values("0_0", "0_5", "1_0", "1_5", "2_0", "2_5", "3_0"));
 
 TEST_F(GrainPreviewTest, ARadiusShowsItsTile)
 {
@@ -218,14 +203,32 @@ TEST_F(GrainPreviewTest, ARadiusWithoutTileIsToldAndLeavesTheGrain)
     EXPECT_EQ(preview.map(), before);
 }
 
+TEST_F(GrainPreviewTest, WithoutAnyTileItIsTheRamp)
+{
+    expectWarning(QStringLiteral("Cannot find preblurred map: :/Prerender/Icons/Blur/blur_1_5.png"));
+    removeTiles();
+    GrainPreview bare;
+    bringTilesBack();
+    bare.resize(390, 60);
+    const QImage withoutWeights = bare.grab().toImage();
+    bare.slotAdjustWeights(QVector<float>(256, 1.0F));
+    const QImage withWeights = bare.grab().toImage();
+
+    preview.slotAdjustWeights(QVector<float>(256, 0.0F));
+    const QImage ramp = preview.grab().toImage();
+
+    EXPECT_EQ(withoutWeights, ramp);
+    for (int x = 0; x < ramp.width(); ++x) {
+        EXPECT_NEAR(qRed(withWeights.pixel(x, 30)), qRed(ramp.pixel(x, 30)), 1) << x;
+    }
+}
+
 TEST_F(GrainPreviewTest, WeightsAreTheAlphaOfTheColumnsOfTheirGreys)
 {
     painted();
-    const QVector<float> weights = risingWeights();
+    preview.slotAdjustWeights(risingWeights());
 
-    preview.slotAdjustWeights(weights);
-
-    EXPECT_EQ(preview.fulcrums(), weights);
+    EXPECT_EQ(preview.fulcrums(), risingWeights());
     for (int x = 0; x < 390; ++x) {
         EXPECT_EQ(alphaAt(x), x * 255 / 390) << x;
     }

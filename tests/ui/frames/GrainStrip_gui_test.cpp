@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The strip under the grain curve against the grain filter, for the look of which it stands.
+// The tiles of the strip under the grain curve, and the strip against the grain filter, for the look of which it
+// stands.
 #include "graphics/filters/GrainFilter.h"
 #include "resources/grain-tiles/GrainTiles.h"
 #include "tests/support/FilterRun.h"
@@ -10,8 +11,10 @@
 
 #include <QFile>
 
+#include <array>
 #include <cmath>
 #include <iostream>
+#include <string>
 
 namespace
 {
@@ -28,7 +31,11 @@ Bytes noiseMap()
     return {bytes.begin(), bytes.end()};
 }
 
-class GrainTilesTest : public GlTest, public testing::WithParamInterface<double>
+class GrainTilesTest : public testing::TestWithParam<double>
+{
+};
+
+class GrainNoiseTest : public GlTest, public testing::WithParamInterface<double>
 {
 };
 
@@ -89,6 +96,18 @@ void PrintTo(const Look &look, std::ostream *out)
 
 } // namespace
 
+TEST(GrainTileFileTest, RadiiAreRoundedDownToAHalf)
+{
+    const auto file = [](const char *name) { return ":/Prerender/Icons/Blur/blur_" + std::string(name) + ".png"; };
+    constexpr std::array names{"0_0", "0_5", "1_0", "1_5", "2_0", "2_5", "3_0"};
+    for (int tenths = 0; tenths <= 30; ++tenths) {
+        const auto radius = static_cast<float>(tenths / 10.0);
+        EXPECT_EQ(grainTileFile(radius).toStdString(), file(names.at(static_cast<std::size_t>(tenths / 5)))) << radius;
+    }
+    EXPECT_EQ(grainTileFile(0.49F).toStdString(), file("0_0"));
+    EXPECT_EQ(grainTileFile(2.999F).toStdString(), file("2_5"));
+}
+
 TEST_P(GrainTilesTest, AreWhatTheirProgramMakes)
 {
     const auto tenths = static_cast<int>(std::lround(GetParam() * 10));
@@ -105,7 +124,7 @@ TEST_P(GrainTilesTest, AreWhatTheirProgramMakes)
 }
 
 // A level apart where a sum lies on the border between two levels.
-TEST_P(GrainTilesTest, HaveTheNoiseOfTheFilter)
+TEST_P(GrainNoiseTest, IsThatOfTheFilter)
 {
     GrainFilter filter;
     filter.setSigma(static_cast<float>(GetParam()));
@@ -122,6 +141,7 @@ TEST_P(GrainTilesTest, HaveTheNoiseOfTheFilter)
 }
 
 INSTANTIATE_TEST_SUITE_P(Radii, GrainTilesTest, testing::ValuesIn(grisal::grain::tileRadii));
+INSTANTIATE_TEST_SUITE_P(Radii, GrainNoiseTest, testing::ValuesIn(grisal::grain::tileRadii));
 
 // A small part of the grain itself, so that a strip without grain, or with other grain, is not near.
 TEST_P(GrainStripTest, LooksLikeTheFilter)

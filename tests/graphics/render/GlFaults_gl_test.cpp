@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+//
+// What becomes of a final render when OpenGL fails somewhere in it.
+#include "graphics/document/FlexibleDocumentView.h"
+#include "graphics/filters/FilterSet.h"
+#include "graphics/gl/GlFaults.h"
+#include "graphics/render/FinalRender.h"
+#include "tests/support/GlTest.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/Pictures.h"
+
+#include <dlfcn.h>
+
+#include <memory>
+
+namespace
+{
+
+/// Which call of an entry point fails, counted from 1; none at 0.
+struct Fault {
+    int place = 0;
+    int calls = 0;
+
+    bool isNow() { return ++calls == place; }
+};
+
+Fault errorFault;
+Fault framebufferFault;
+PFNGLCHECKFRAMEBUFFERSTATUSPROC realCheck = nullptr;
+
+GLenum GLAPIENTRY checkWithFault(GLenum target)
+{
+    return framebufferFault.isNow() ? GL_FRAMEBUFFER_UNSUPPORTED : realCheck(target);
+}
+
+} // namespace
+
+/// Stands in for the driver's.
+extern "C" GLenum GLAPIENTRY glGetError()
+{
+    static const auto real = reinterpret_cast<GLenum(GLAPIENTRY *)()>(dlsym(RTLD_NEXT, "glGetError"));
+    const GLenum error = real();
+    return errorFault.isNow() ? GL_OUT_OF_MEMORY : error;
+}
+
+namespace
+{
+
+using namespace grisal::graphics;
+using namespace grisal::test;
+
+class GlFaults : public GlTest
+{
+protected:
+    static constexpr int width = 12;
+    static constexpr int height = 8;
+
+    void SetUp() override
+    {
+        GlTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        realCheck = std::exchange(__glewCheckFramebufferStatus, checkWithFault);
+        view = std::make_unique<FlexibleDocumentView>(width, height, width, height, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE);
+        filters = std::make_unique<FilterSet>();
+        filters->mixer.enabled = true;
+        filters->curve.enabled = true;
+        filters->splitTone.enabled = true;
+        filters->grain.enabled = true;
+        filters->vignette.enabled = true;
+        parameters.grainWeights = QVector<float>(256, 0.5F);
+    }
+
+    void TearDown() override
+    {
+        view.reset();
+        filters.reset();
+        if (realCheck != nullptr) {
+            __glewCheckFramebufferStatus = std::exchange(realCheck, nullptr);
+        }
+        GlTest::TearDown();
+    }
+
+    /// Renders the same picture, with these calls failing. False where that fails; the picture then is as it was.
+    bool render(int failingError, int failingCheck)
+    {
+        picture = source;
+        errorFault = {failingError, 0};
+        framebufferFault = {failingCheck, 0};
+        const bool rendered =
+            renderFinalPicture({picture.values.data(), width, height, false, false}, parameters, *filters, *view);
+        errorFault.place = framebufferFault.place = 0;
+        return rendered;
+    }
+
+    /// Expects of a failing call that the render fails and says so, or that another way led to the right result, and
+    /// that the next render is right. Returns whether the render failed.
+    bool expectNothingWrong(int failingError, int failingCheck)
+    {
+        log.clear();
+        const bool rendered = render(failingError, failingCheck);
+        EXPECT_EQ(picture.values, rendered ? right.values : source.values);
+        EXPECT_EQ(log.contains(QStringLiteral("OpenGL could not render the picture")), !rendered);
+        EXPECT_TRUE(render(0, 0));
+        EXPECT_EQ(picture.values, right.values);
+        return !rendered;
+    }
+
+    LogCapture log;
+    std::unique_ptr<FlexibleDocumentView> view;
+    std::unique_ptr<FilterSet> filters;
+    FilterParameters parameters;
+    const BytePixels source = rampPicture<std::uint8_t>(width, height);
+    BytePixels picture;
+    BytePixels right;
+};
+
+TEST_F(GlFaults, OutOfMemoryAnywhereMakesNoWrongPicture)
+{
+    ASSERT_TRUE(render(0, 0));
+    right = picture;
+    const int calls = errorFault.calls;
+    ASSERT_GT(calls, 5);
+    int failed = 0;
+    for (int call = 1; call <= calls; ++call) {
+        failed += expectNothingWrong(call, 0) ? 1 : 0;
+    }
+    EXPECT_GT(failed, calls / 3);
+}
+
+TEST_F(GlFaults, IncompleteFramebuffersMakeNoWrongPicture)
+{
+    ASSERT_TRUE(render(0, 0));
+    right = picture;
+    const int calls = framebufferFault.calls;
+    ASSERT_GT(calls, 3);
+    int failed = 0;
+    for (int call = 1; call <= calls; ++call) {
+        failed += expectNothingWrong(0, call) ? 1 : 0;
+    }
+    EXPECT_GT(failed, calls / 3);
+}
+
+TEST_F(GlFaults, AnErrorOfTheTimeBeforeIsNoFault)
+{
+    glEnable(GL_INVALID_VALUE);
+    const GlFaultWatch watch;
+    EXPECT_TRUE(watch.isClean());
+    glEnable(GL_INVALID_VALUE);
+    EXPECT_FALSE(watch.isClean());
+}
+
+TEST_F(GlFaults, AForgivenFaultIsNone)
+{
+    const GlFaultWatch outer;
+    GlFaultWatch inner;
+    noteIncompleteFramebuffer();
+    noteGlError(GL_OUT_OF_MEMORY);
+    EXPECT_FALSE(outer.isClean());
+    inner.forgive();
+    EXPECT_TRUE(outer.isClean());
+    noteGlError(GL_NO_ERROR);
+    EXPECT_TRUE(outer.isClean());
+}
+
+} // namespace
