@@ -2,6 +2,7 @@
 #include "tests/support/GuiTest.h"
 
 #include <QCoreApplication>
+#include <QMetaMethod>
 #include <QSettings>
 
 #include <algorithm>
@@ -44,6 +45,15 @@ void GuiTest::TearDown()
     for (const QString &part : m_expectedWarnings) {
         EXPECT_TRUE(contains(warnings, part)) << "missing warning: " << part.toStdString();
     }
+}
+
+std::string methodsOf(const QMetaObject &meta, char between)
+{
+    QStringList methods;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        methods << QString::fromLatin1(meta.method(i).methodSignature());
+    }
+    return methods.join(QLatin1Char(between)).toStdString();
 }
 
 void trigger(const QObject &window, const char *name)

@@ -55,6 +55,9 @@ T &child(const QObject &parent, const char *name)
     return *found;
 }
 
+/// The signatures of a class's own signals and slots, in their order, with `between` between them.
+std::string methodsOf(const QMetaObject &meta, char between = ' ');
+
 /// Triggers an action as a user does; the test ends where it is missing, disabled or hidden.
 void trigger(const QObject &window, const char *name);
 

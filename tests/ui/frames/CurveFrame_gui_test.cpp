@@ -4,7 +4,6 @@
 #include "ui/frames/CurveFrameEventFilter.h"
 
 #include <QLineEdit>
-#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalSpy>
@@ -77,12 +76,7 @@ TEST_F(CurveFrameTest, StartsFlatAndSmooth)
 
 TEST_F(CurveFrameTest, SignalsAndSlotsHaveTheirNamesAndOrder)
 {
-    QStringList methods;
-    const QMetaObject &meta = CurveFrame::staticMetaObject;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        methods << QString::fromLatin1(meta.method(i).methodSignature());
-    }
-    EXPECT_EQ(methods.join(QLatin1Char(' ')).toStdString(),
+    EXPECT_EQ(methodsOf(CurveFrame::staticMetaObject),
               "signalPressed() signalMoved(float,float) slotSetInterpolation(CurveFrame::interpolationType) "
               "slotSetActiveTo(float,float) slotSetInactive()");
 }

@@ -3,7 +3,6 @@
 #include "ui/frames/VFrame.h"
 #include "ui/frames/VignetteShape.h"
 
-#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
@@ -83,12 +82,7 @@ TEST_F(VFrameTest, WantsToBeThreeByTwo)
 
 TEST_F(VFrameTest, SignalsAndSlotsHaveTheirNamesAndOrder)
 {
-    QStringList methods;
-    const QMetaObject &meta = VFrame::staticMetaObject;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        methods << QString::fromLatin1(meta.method(i).methodSignature());
-    }
-    EXPECT_EQ(methods.join(QLatin1Char(' ')).toStdString(),
+    EXPECT_EQ(methodsOf(VFrame::staticMetaObject),
               "signalPosition(QPointF) signalRadius(float) signalStrength(float) slotSetX(float) slotSetY(float) "
               "slotSetRadius(float) slotSetStrength(float)");
 }

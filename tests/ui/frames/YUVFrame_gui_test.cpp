@@ -2,7 +2,6 @@
 #include "tests/support/GuiTest.h"
 #include "ui/frames/YUVFrame.h"
 
-#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalSpy>
@@ -78,12 +77,7 @@ TEST_F(YUVFrameTest, StartsInTheMiddleModeAtFullLevel)
 
 TEST_F(YUVFrameTest, SignalsAndSlotsHaveTheirNamesAndOrder)
 {
-    QStringList methods;
-    const QMetaObject &meta = YUVFrame::staticMetaObject;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        methods << QString::fromLatin1(meta.method(i).methodSignature());
-    }
-    EXPECT_EQ(methods.join(QLatin1Char(' ')).toStdString(),
+    EXPECT_EQ(methodsOf(YUVFrame::staticMetaObject),
               "signalWeights(float,float,float) slotSetRGB(grisal::graphics::ColorRGB<float>) slotSetLuma(float)");
 }
 

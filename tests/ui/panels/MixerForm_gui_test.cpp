@@ -5,7 +5,6 @@
 
 #include <QComboBox>
 #include <QLabel>
-#include <QMetaMethod>
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
@@ -27,24 +26,19 @@ protected:
 
 TEST_F(MixerForm, SignalsAndSlotsHaveTheirNamesAndOrder)
 {
-    QStringList methods;
-    const QMetaObject &meta = Mixer::staticMetaObject;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        methods << QString::fromLatin1(meta.method(i).methodSignature());
-    }
-    EXPECT_EQ(methods.join(QLatin1Char('\n')).toStdString(), "signalMixer(float,float,float)\n"
-                                                             "slotSetRGB(float,float,float)\n"
-                                                             "on_sliderLuma_valueChanged(int)\n"
-                                                             "on_sliderR_valueChanged(int)\n"
-                                                             "on_sliderG_valueChanged(int)\n"
-                                                             "on_sliderB_valueChanged(int)\n"
-                                                             "on_spinBoxLuma_valueChanged(int)\n"
-                                                             "on_spinBoxR_valueChanged(int)\n"
-                                                             "on_spinBoxG_valueChanged(int)\n"
-                                                             "on_spinBoxB_valueChanged(int)\n"
-                                                             "on_buttonReset_clicked()\n"
-                                                             "on_comboPresets_currentIndexChanged(int)\n"
-                                                             "on_comboPresets_highlighted(int)");
+    EXPECT_EQ(methodsOf(Mixer::staticMetaObject, '\n'), "signalMixer(float,float,float)\n"
+                                                        "slotSetRGB(float,float,float)\n"
+                                                        "on_sliderLuma_valueChanged(int)\n"
+                                                        "on_sliderR_valueChanged(int)\n"
+                                                        "on_sliderG_valueChanged(int)\n"
+                                                        "on_sliderB_valueChanged(int)\n"
+                                                        "on_spinBoxLuma_valueChanged(int)\n"
+                                                        "on_spinBoxR_valueChanged(int)\n"
+                                                        "on_spinBoxG_valueChanged(int)\n"
+                                                        "on_spinBoxB_valueChanged(int)\n"
+                                                        "on_buttonReset_clicked()\n"
+                                                        "on_comboPresets_currentIndexChanged(int)\n"
+                                                        "on_comboPresets_highlighted(int)");
 }
 
 TEST_F(MixerForm, ItHasItsRangesAndInitialValues)

@@ -153,12 +153,8 @@ TEST_F(SplitToneTest, PresetsAreEmptyAndDisabled)
 
 TEST_F(SplitToneTest, SignalsAndSlotsHaveTheirNamesAndOrder)
 {
-    QStringList methods;
     const QMetaObject &meta = SplitTone::staticMetaObject;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        methods << QString::fromLatin1(meta.method(i).methodSignature());
-    }
-    EXPECT_EQ(methods.join(QLatin1Char(' ')).toStdString(),
+    EXPECT_EQ(methodsOf(SplitTone::staticMetaObject),
               "signalSplit(float,float,float,float,float,float,float) on_spinBoxHR_valueChanged(int) "
               "on_spinBoxWeight_valueChanged(int) on_spinBoxHG_valueChanged(int) on_spinBoxHB_valueChanged(int) "
               "on_spinBoxSR_valueChanged(int) on_spinBoxSG_valueChanged(int) on_spinBoxSB_valueChanged(int) "

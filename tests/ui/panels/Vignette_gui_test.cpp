@@ -149,25 +149,21 @@ TEST_F(VignetteTest, WithoutPresetsTheirListIsDisabledAndSaysSo)
 
 TEST_F(VignetteTest, SignalsAndSlotsHaveTheirNamesAndOrder)
 {
-    QStringList methods;
     const QMetaObject &meta = Vignette::staticMetaObject;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        methods << QString::fromLatin1(meta.method(i).methodSignature());
-    }
-    EXPECT_EQ(methods.join(QLatin1Char('\n')).toStdString(), "signalVignette(float,float,float,float,bool)\n"
-                                                             "on_sliderX_valueChanged(int)\n"
-                                                             "on_sliderY_valueChanged(int)\n"
-                                                             "on_sliderRadius_valueChanged(int)\n"
-                                                             "on_sliderStrength_valueChanged(int)\n"
-                                                             "on_spinBoxX_valueChanged(int)\n"
-                                                             "on_spinBoxY_valueChanged(int)\n"
-                                                             "on_spinBoxRadius_valueChanged(int)\n"
-                                                             "on_spinBoxStrength_valueChanged(int)\n"
-                                                             "on_buttonReset_clicked()\n"
-                                                             "on_checkBoxBlur_clicked()\n"
-                                                             "slotSetPosition(QPointF)\n"
-                                                             "slotSetRadius(float)\n"
-                                                             "slotSetStrength(float)");
+    EXPECT_EQ(methodsOf(Vignette::staticMetaObject, '\n'), "signalVignette(float,float,float,float,bool)\n"
+                                                           "on_sliderX_valueChanged(int)\n"
+                                                           "on_sliderY_valueChanged(int)\n"
+                                                           "on_sliderRadius_valueChanged(int)\n"
+                                                           "on_sliderStrength_valueChanged(int)\n"
+                                                           "on_spinBoxX_valueChanged(int)\n"
+                                                           "on_spinBoxY_valueChanged(int)\n"
+                                                           "on_spinBoxRadius_valueChanged(int)\n"
+                                                           "on_spinBoxStrength_valueChanged(int)\n"
+                                                           "on_buttonReset_clicked()\n"
+                                                           "on_checkBoxBlur_clicked()\n"
+                                                           "slotSetPosition(QPointF)\n"
+                                                           "slotSetRadius(float)\n"
+                                                           "slotSetStrength(float)");
     EXPECT_EQ(meta.method(meta.methodOffset()).parameterNames().join(','), "x,y,radius,strength,extraBlur");
 }
 
