@@ -18,9 +18,15 @@ namespace grisal::graphics
 namespace
 {
 
-constexpr std::uint64_t largestTrustedPicture = 50'000'000;
-constexpr std::uint64_t mostPixelsPerByte = 100;
+constexpr std::uint64_t largestTrustedPicture = 90'000'000;
+constexpr std::uint64_t mostPixelsPerByte = 200;
+
+// A PNG file is a row of chunks: the length of the contents, four letters, the contents, a checksum.
+constexpr int chunkHeadLength = 8;
+constexpr int chunkChecksumLength = 4;
+constexpr int mostChunks = 500'000;
 constexpr std::uint32_t longestText = 1 << 20;
+constexpr int mostCompressedTexts = 16;
 
 QByteArray bytesAt(const OpenFile &file, std::uint64_t place, int count)
 {
@@ -37,10 +43,15 @@ bool isWithin(std::uint32_t directory, std::uint64_t size)
     return directory >= signatureLength && directory < size;
 }
 
-bool holdsText(QByteArrayView chunk)
+bool isOneOf(QByteArrayView kind, std::initializer_list<const char *> kinds)
 {
-    constexpr std::array<const char *, 4> kinds{"tEXt", "zTXt", "iTXt", "iCCP"};
-    return std::any_of(kinds.begin(), kinds.end(), [chunk](const char *kind) { return chunk == kind; });
+    return std::any_of(kinds.begin(), kinds.end(), [kind](const char *other) { return kind == other; });
+}
+
+bool isChunkKind(QByteArrayView kind)
+{
+    return std::all_of(kind.begin(), kind.end(),
+                       [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); });
 }
 
 } // namespace
@@ -84,24 +95,26 @@ void PictureFile::look(const QString &path)
     m_format = *format;
 }
 
-// A PNG file is a row of chunks: the length of the contents, four letters, the contents, a checksum.
+// What comes behind something that is no chunk, or behind the end, is nothing the library would look at.
 bool PictureFile::hasAbsurdTexts() const
 {
-    constexpr int headLength = 8;
-    constexpr int checksumLength = 4;
+    int compressedTexts = 0;
     std::uint64_t place = signatureLength;
-    while (place < m_size) {
-        const QByteArray head = bytesAt(m_file, place, headLength);
-        if (head.size() < headLength) {
+    for (int chunk = 0; chunk < mostChunks; ++chunk) {
+        const QByteArray head = bytesAt(m_file, place, chunkHeadLength);
+        const QByteArrayView kind = QByteArrayView(head).sliced(std::min<qsizetype>(4, head.size()));
+        if (head.size() < chunkHeadLength || !isChunkKind(kind) || kind == "IEND") {
             return false;
         }
         const auto length = qFromBigEndian<std::uint32_t>(head.constData());
-        if (holdsText(QByteArrayView(head).sliced(4)) && length > longestText) {
+        compressedTexts += isOneOf(kind, {"zTXt", "iTXt", "iCCP"}) ? 1 : 0;
+        const bool tooLong = length > longestText && isOneOf(kind, {"tEXt", "zTXt", "iTXt", "iCCP"});
+        if (tooLong || compressedTexts > mostCompressedTexts) {
             return true;
         }
-        place += headLength + std::uint64_t{length} + checksumLength;
+        place += chunkHeadLength + std::uint64_t{length} + chunkChecksumLength;
     }
-    return false;
+    return true;
 }
 
 bool PictureFile::canHold(std::uint64_t pixels) const

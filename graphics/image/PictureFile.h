@@ -13,8 +13,9 @@ namespace grisal::graphics
 {
 
 /// A file that somebody wants to open as a picture, looked at before the image library sees it. Only plain files, and
-/// links to them, whose first bytes are those of a JPEG, PNG or TIFF file pass, and no PNG with texts of absurd length.
-/// Nothing here waits: not for a pipe that nobody writes to, not for a device.
+/// links to them, whose first bytes are those of a JPEG, PNG or TIFF file pass, and no PNG with texts of absurd length
+/// or number, of which a compressed one may grow a thousandfold. Nothing here waits: not for a pipe that nobody writes
+/// to, not for a device.
 class PictureFile
 {
 public:
@@ -29,8 +30,8 @@ public:
     int descriptor() const { return m_file.descriptor(); }
 
     /// Whether a file of this size may hold a picture of that many pixels. A photograph does not come down to less than
-    /// a byte for a hundred pixels; a file that promises more is made to fill the memory. Pictures of up to 50
-    /// megapixels are taken at their word.
+    /// a byte for two hundred pixels; a file that promises more is made to fill the memory. Pictures of up to 90
+    /// megapixels, which take up to a gigabyte, are taken at their word.
     bool canHold(std::uint64_t pixels) const;
 
 private:

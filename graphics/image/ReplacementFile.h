@@ -15,8 +15,11 @@ namespace grisal::graphics
 /// path leads to all of the old file or to all of the new one, also after a crash or a power cut.
 ///
 /// It is written without a name in the same folder, or under a temporary one where the file system does not know files
-/// without names; if it is not committed, nothing stays of it. A link is followed and stays a link. The new file gets
-/// the old one's permissions and, where that is allowed, its owner. Files that are not to be written are not replaced.
+/// without names, and is gone if it is not committed. A process that is killed may leave a temporary name behind
+/// ("." first), in the moment of the replacement or on such a file system. A link is followed as the system follows it
+/// and stays a link; another hard link to the old file keeps the old file. The new file gets the old one's permissions
+/// with its access list, its attributes and its owner as far as that is allowed, and never gives more access than the
+/// old one. Files that are not to be written are not replaced.
 class ReplacementFile
 {
 public:
@@ -39,7 +42,7 @@ private:
     void openTemporary();
     bool takePermissions();
     bool takePlace();
-    bool giveName();
+    bool giveName(const QByteArray &name);
     bool fail(const char *what);
 
     QByteArray m_target;    ///< the path at the end of all links

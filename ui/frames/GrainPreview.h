@@ -29,7 +29,7 @@ public slots:
     void slotSetRadius(float radius);
 
     /// Shows the grain in the strengths 0..1 for the greys from black to white, 256 of them from the grain panel. None
-    /// means those of the last time. A strip of 400 pixels and more is told in the log, and the strengths shown stay.
+    /// means those of the last time. A strip of 400 pixels and more is told in the log, and shows them no more.
     void slotAdjustWeights(const QVector<float> &weights);
 
 protected:

@@ -102,9 +102,6 @@ SplitTone::SplitTone(QWidget *parent) : QWidget(parent), m_form(std::make_unique
     m_form->frameHighlights->setColorSpace(0);
     connect(m_form->frameHighlights, &YUVFrame::signalWeights, this, &SplitTone::slotSetHighlights);
     connect(m_form->frameShadows, &YUVFrame::signalWeights, this, &SplitTone::slotSetShadows);
-    // They would show the plane of another mode until the first reset, and no marker.
-    showOnWheel(shadowsOf(*m_form));
-    showOnWheel(highlightsOf(*m_form));
 }
 
 SplitTone::~SplitTone() = default;

@@ -114,14 +114,36 @@ TEST_F(PictureFileTest, TurnsAPngWithAbsurdTextsAway)
     EXPECT_TRUE(passes(fileOf("c.png", png + pngChunk("IDAT", 0x40000000, "pixels"))));
 }
 
+TEST_F(PictureFileTest, TurnsAPngWithManyCompressedTextsAway)
+{
+    EXPECT_TRUE(passes(fileOf("a.png", png + pngChunk("zTXt", 4, "text").repeated(16))));
+    EXPECT_FALSE(passes(fileOf("b.png", png + pngChunk("zTXt", 4, "text").repeated(17))));
+    EXPECT_TRUE(passes(fileOf("c.png", png + pngChunk("tEXt", 4, "text").repeated(1000))));
+    EXPECT_TRUE(passes(fileOf("d.png", png + pngChunk("IEND", 0, {}) + pngChunk("zTXt", 4, "text").repeated(17))));
+}
+
+// A download that was cut short may be nothing but zeros behind its start, and gigabytes long.
+TEST_F(PictureFileTest, IsNotHeldUpByZeros)
+{
+    QFile file(fileOf("a.png", png));
+    ASSERT_TRUE(file.resize(qint64{1} << 40));
+    EXPECT_TRUE(passes(path("a.png")));
+}
+
+TEST_F(PictureFileTest, TurnsAPngOfTooManyPiecesAway)
+{
+    EXPECT_TRUE(passes(fileOf("a.png", png + pngChunk("IDAT", 0, {}).repeated(10'000))));
+    EXPECT_FALSE(passes(fileOf("b.png", png + pngChunk("IDAT", 0, {}).repeated(500'001))));
+}
+
 TEST_F(PictureFileTest, MayHoldAsManyPixelsAsAPhotographOfItsSize)
 {
     const PictureFile small(fileOf("a.jpg", jpeg));
-    EXPECT_TRUE(small.canHold(50'000'000));
-    EXPECT_FALSE(small.canHold(50'000'001));
+    EXPECT_TRUE(small.canHold(90'000'000));
+    EXPECT_FALSE(small.canHold(90'000'001));
     const PictureFile large(fileOf("b.jpg", jpeg + QByteArray(1'000'000, '\0')));
-    EXPECT_TRUE(large.canHold(100'000'000));
-    EXPECT_FALSE(large.canHold(200'000'000));
+    EXPECT_TRUE(large.canHold(200'000'000));
+    EXPECT_FALSE(large.canHold(300'000'000));
 }
 
 TEST_F(PictureFileTest, EndsAsItsFormatDoesWhenItIsWhole)

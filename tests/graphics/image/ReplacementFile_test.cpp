@@ -9,6 +9,7 @@
 
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -106,6 +107,52 @@ TEST_F(ReplacementFileTest, MakesTheFileThatALinkWaitsFor)
     EXPECT_TRUE(replace(path("b.png"), "new"));
     EXPECT_EQ(contentsOf(path("a.png")), "new");
     EXPECT_TRUE(QFileInfo(path("b.png")).isSymLink());
+}
+
+// A link's way upwards starts where the link lies, not where the path that leads there says.
+TEST_F(ReplacementFileTest, FollowsLinksThroughLinkedFolders)
+{
+    QDir root(directory.path());
+    for (const char *folder : {"home", "home/2019", "data", "data/2019", "data/best"}) {
+        ASSERT_TRUE(root.mkdir(folder));
+    }
+    writeFile(path("home/2019/a.png"), "another");
+    writeFile(path("data/2019/a.png"), "old");
+    ASSERT_EQ(symlink("../data/best", QFile::encodeName(path("home/Best")).constData()), 0);
+    ASSERT_EQ(symlink("../2019/a.png", QFile::encodeName(path("data/best/a.png")).constData()), 0);
+    EXPECT_TRUE(replace(path("home/Best/a.png"), "new"));
+    EXPECT_EQ(contentsOf(path("data/2019/a.png")), "new");
+    EXPECT_EQ(contentsOf(path("home/2019/a.png")), "another");
+    EXPECT_TRUE(replace(path("home/Best/../x.png"), "new"));
+    EXPECT_EQ(contentsOf(path("data/x.png")), "new");
+    EXPECT_FALSE(QFile::exists(path("home/x.png")));
+}
+
+TEST_F(ReplacementFileTest, NeverGivesMoreAccessThanTheOldFile)
+{
+    writeFile(path("a.png"), "old");
+    ASSERT_EQ(chmod(QFile::encodeName(path("a.png")).constData(), 0600), 0);
+    const ReplacementFile file(path("a.png"));
+    struct stat status {
+    };
+    ASSERT_EQ(fstat(file.file().descriptor(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0600U);
+    ASSERT_EQ(chmod(QFile::encodeName(path("a.png")).constData(), 06755), 0);
+    EXPECT_TRUE(replace(path("a.png"), "new"));
+    EXPECT_EQ(modeOf(path("a.png")), 0755U);
+}
+
+TEST_F(ReplacementFileTest, KeepsWhatIsNotedAboutTheOldFile)
+{
+    writeFile(path("a.png"), "old");
+    const QByteArray name = QFile::encodeName(path("a.png"));
+    if (setxattr(name.constData(), "user.comment", "best", 4, 0) != 0) {
+        GTEST_SKIP() << "this file system keeps no notes";
+    }
+    EXPECT_TRUE(replace(path("a.png"), "new"));
+    char note[4] = {};
+    EXPECT_EQ(getxattr(name.constData(), "user.comment", note, sizeof note), 4);
+    EXPECT_EQ(QByteArray(note, 4), "best");
 }
 
 TEST_F(ReplacementFileTest, WorksWithTheLongestOfNames)

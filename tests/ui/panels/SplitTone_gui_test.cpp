@@ -194,13 +194,6 @@ TEST_F(SplitToneTest, BuildingThePanelEmitsNothing)
     EXPECT_EQ(listener.heard, 1);
 }
 
-TEST_F(SplitToneTest, TheWheelsShowTheInitialTintsInTheirPlane)
-{
-    expectOnWheel(frameHighlights, warm);
-    expectOnWheel(frameShadows, {110, 148, 253});
-    EXPECT_EQ(frameShadows.wheelImage().size(), QSize(340, 340));
-}
-
 TEST_F(SplitToneTest, ResetEmitsItsTints)
 {
     spinBox("spinBoxHR").setValue(3);
