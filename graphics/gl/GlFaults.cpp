@@ -36,7 +36,7 @@ void noteIncompleteFramebuffer()
     ++faults;
 }
 
-GlFaultWatch::GlFaultWatch() : m_before(0)
+GlFaultWatch::GlFaultWatch()
 {
     collectErrors();
     m_before = faults;

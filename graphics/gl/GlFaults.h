@@ -27,7 +27,7 @@ public:
     void forgive();
 
 private:
-    unsigned m_before;
+    unsigned m_before = 0;
 };
 
 } // namespace grisal::graphics
