@@ -8,9 +8,13 @@ CurveFrameEventFilter::CurveFrameEventFilter(CurveFrame *frame, QObject *parent)
 
 bool CurveFrameEventFilter::eventFilter(QObject *object, QEvent *event)
 {
+    // First of all: other events come while the editor is half gone.
+    if (event->type() != QEvent::KeyPress) {
+        return QObject::eventFilter(object, event);
+    }
     const bool listening = m_frame != nullptr && m_frame->selected() >= 0 && m_frame->isVisible();
     const bool elsewhere = QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr;
-    if (!listening || elsewhere || event->type() != QEvent::KeyPress) {
+    if (!listening || elsewhere) {
         return QObject::eventFilter(object, event);
     }
     if (static_cast<QKeyEvent *>(event)->key() != Qt::Key_Delete) {

@@ -3,11 +3,8 @@
 #include "tests/graphics/image/PictureFiles.h"
 
 #include <gtest/gtest.h>
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-
-#include <sys/resource.h>
 
 #include <cstddef>
 #include <numeric>
@@ -111,34 +108,6 @@ TEST_F(LumioImageSaveTest, KeepsFolderNamesToItself)
         ASSERT_TRUE(image.save(path(name), quality)) << name;
         EXPECT_FALSE(contentsOf(path(name)).contains(QFile::encodeName(directory.path()))) << name;
     }
-}
-
-// A limit of the file size stands for a full disk.
-TEST_F(LumioImageSaveTest, LeavesTheOldFileWhenThereIsNotEnoughSpace)
-{
-    Bytes noise(std::size_t{100} * 100 * 3);
-    std::uint32_t state = 1;
-    for (std::uint8_t &byte : noise) {
-        state = state * 1664525 + 1013904223;
-        byte = static_cast<std::uint8_t>(state >> 24);
-    }
-    LumioImage image = pictureOf(noise, 100, 100);
-    rlimit before{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-    for (const char *name : {"a.png", "a.jpg", "a.tif"}) {
-        writeFile(path(name), "old");
-        for (const rlim_t space : {0, 1, 100, 4096, 9000}) {
-            const rlimit limit{space, before.rlim_max};
-            ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
-            const bool saved = image.save(path(name), quality);
-            ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
-            EXPECT_FALSE(saved) << name << " in " << space << " bytes";
-            EXPECT_FALSE(image.problem().isEmpty());
-            EXPECT_EQ(contentsOf(path(name)), "old") << name << " in " << space << " bytes";
-        }
-        EXPECT_TRUE(image.save(path(name), quality)) << name;
-    }
-    EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files | QDir::Hidden).size(), 3);
 }
 
 TEST_F(LumioImageSaveTest, ForgetsAProblemAtTheNextSave)
