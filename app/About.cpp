@@ -16,7 +16,7 @@ namespace
 constexpr int logoWidth = 30;
 
 struct LibraryLicense {
-    const char *library;
+    const char *name;
     const char *resource;
 };
 
@@ -69,7 +69,7 @@ void About::fillLicenses()
 {
     int index = 0;
     for (const LibraryLicense &license : licenses) {
-        m_form->boxLicense->insertItem(index++, QIcon(), QString::fromLatin1(license.library),
+        m_form->boxLicense->insertItem(index++, QIcon(), QString::fromLatin1(license.name),
                                        QString::fromLatin1(license.resource));
     }
 }

@@ -21,7 +21,7 @@ namespace
 using namespace grisal::test;
 
 struct LicenseRow {
-    const char *library;
+    const char *name; ///< of the library
     const char *resource;
     const char *words; ///< that only this text has
 };
@@ -98,7 +98,7 @@ TEST_F(AboutTest, TheLicensesStandInTheirOrder)
     ASSERT_EQ(box.count(), static_cast<int>(licenseTable.size()));
     for (int i = 0; i < box.count(); ++i) {
         const LicenseRow &row = licenseTable[static_cast<std::size_t>(i)];
-        EXPECT_EQ(box.itemText(i), QLatin1String(row.library));
+        EXPECT_EQ(box.itemText(i), QLatin1String(row.name));
         EXPECT_TRUE(box.itemIcon(i).isNull());
         EXPECT_EQ(box.itemData(i).toString(),
                   QStringLiteral(":/Licenses/Licenses/%1.txt").arg(QLatin1String(row.resource)));
@@ -118,10 +118,10 @@ TEST_F(AboutTest, EveryLibraryShowsItsOwnTextAsItStands)
         const LicenseRow &row = licenseTable[static_cast<std::size_t>(i)];
         box.setCurrentIndex(i);
         const QString shown = browser.toPlainText();
-        EXPECT_FALSE(shown.isEmpty()) << row.library;
-        EXPECT_TRUE(shown.trimmed() == textOf(row).trimmed()) << row.library;
-        EXPECT_TRUE(shown.contains(QLatin1String(row.words))) << row.library;
-        EXPECT_TRUE(texts.insert(shown).second) << row.library << " shows the text of another library";
+        EXPECT_FALSE(shown.isEmpty()) << row.name;
+        EXPECT_TRUE(shown.trimmed() == textOf(row).trimmed()) << row.name;
+        EXPECT_TRUE(shown.contains(QLatin1String(row.words))) << row.name;
+        EXPECT_TRUE(texts.insert(shown).second) << row.name << " shows the text of another library";
     }
 }
 
@@ -131,8 +131,8 @@ TEST_F(AboutTest, TextsOfContainedLibrariesHaveACopyrightLine)
     for (const LicenseRow &row : licenseTable) {
         const QString text = textOf(row);
         if (!text.startsWith(QStringLiteral("This build does not contain"))) {
-            EXPECT_TRUE(text.contains(QStringLiteral("copyright"), Qt::CaseInsensitive)) << row.library;
-            EXPECT_GT(text.size(), 900) << row.library;
+            EXPECT_TRUE(text.contains(QStringLiteral("copyright"), Qt::CaseInsensitive)) << row.name;
+            EXPECT_GT(text.size(), 900) << row.name;
         }
     }
 }
