@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QProcess>
@@ -96,6 +97,17 @@ TEST_F(Program, AppendsToTheLogOfEarlierRuns)
     ASSERT_TRUE(waitForLog("Max Texture Size", 2));
     end();
     EXPECT_TRUE(logged().startsWith(first));
+}
+
+// Nothing can be logged then, which is no reason not to develop pictures.
+TEST_F(Program, WorksWhereTheLogIsAFolder)
+{
+    ASSERT_TRUE(QDir(home.path()).mkdir(QStringLiteral("GrisalLog.txt")));
+    start();
+    EXPECT_TRUE(QTest::qWaitFor([] { return greyPixels() > 297 * 197; }, 10000)) << greyPixels();
+    EXPECT_EQ(process.state(), QProcess::Running);
+    end();
+    EXPECT_TRUE(QFileInfo(home.filePath(QStringLiteral("GrisalLog.txt"))).isDir());
 }
 
 // The toolkit crashes when it paints a window with an OpenGL widget and no OpenGL: the window must be gone by then.
