@@ -4,6 +4,7 @@
 #include "graphics/image/ImageLibrary.h"
 #include "graphics/image/ImageNames.h"
 #include "graphics/image/PictureFile.h"
+#include "graphics/image/QuantumCopy.h"
 #include "graphics/image/ReplacementFile.h"
 
 #include <QFile>
@@ -30,6 +31,16 @@ Magick::Image emptyImage()
 {
     initializeImageLibrary(nullptr);
     return {};
+}
+
+/// A picture whose pixels the library has no memory for yet.
+Magick::Image imageWithoutPixels(std::size_t width, std::size_t height, unsigned depth)
+{
+    Magick::Image image = emptyImage();
+    image.image()->columns = width;
+    image.image()->rows = height;
+    image.depth(depth);
+    return image;
 }
 
 /// To be read into: the first picture of a file that holds several, without a look at the others.
@@ -70,69 +81,6 @@ void raiseDepth(Magick::Image &image)
     }
 }
 
-constexpr int byteShift = 8;
-constexpr Magick::Quantum byteSpread = 257;
-constexpr Magick::Quantum defaultByteOpacity = 255;
-constexpr Magick::Quantum defaultWordOpacity = 65535;
-
-void copyBytesOut(const Magick::PixelPacket *pixel, std::size_t count, std::uint8_t *target, bool alpha)
-{
-    for (std::size_t i = 0; i < count; ++i, ++pixel) {
-        *target++ = static_cast<std::uint8_t>(pixel->red >> byteShift);
-        *target++ = static_cast<std::uint8_t>(pixel->green >> byteShift);
-        *target++ = static_cast<std::uint8_t>(pixel->blue >> byteShift);
-        if (alpha) {
-            *target++ = static_cast<std::uint8_t>(pixel->opacity);
-        }
-    }
-}
-
-void copyWordsOut(const Magick::PixelPacket *pixel, std::size_t count, std::uint16_t *target, bool alpha)
-{
-    for (std::size_t i = 0; i < count; ++i, ++pixel) {
-        *target++ = pixel->red;
-        *target++ = pixel->green;
-        *target++ = pixel->blue;
-        if (alpha) {
-            *target++ = pixel->opacity;
-        }
-    }
-}
-
-void copyBytesIn(Magick::PixelPacket *pixel, std::size_t count, const std::uint8_t *source, bool alpha)
-{
-    for (std::size_t i = 0; i < count; ++i, ++pixel) {
-        pixel->red = static_cast<Magick::Quantum>(*source++ << byteShift);
-        pixel->green = static_cast<Magick::Quantum>(*source++ << byteShift);
-        pixel->blue = static_cast<Magick::Quantum>(*source++ << byteShift);
-        pixel->opacity = alpha ? *source++ : defaultByteOpacity;
-    }
-}
-
-void copyWordsIn(Magick::PixelPacket *pixel, std::size_t count, const std::uint16_t *source, bool alpha)
-{
-    for (std::size_t i = 0; i < count; ++i, ++pixel) {
-        pixel->red = *source++;
-        pixel->green = *source++;
-        pixel->blue = *source++;
-        pixel->opacity = alpha ? *source++ : defaultWordOpacity;
-    }
-}
-
-Magick::Quantum spread(Magick::Quantum sample)
-{
-    return static_cast<Magick::Quantum>((sample >> byteShift) * byteSpread);
-}
-
-void spreadBytes(Magick::PixelPacket *pixel, std::size_t count)
-{
-    for (std::size_t i = 0; i < count; ++i, ++pixel) {
-        pixel->red = spread(pixel->red);
-        pixel->green = spread(pixel->green);
-        pixel->blue = spread(pixel->blue);
-    }
-}
-
 } // namespace
 
 LumioImage::LumioImage() : m_image(emptyImage()) {}
@@ -144,9 +92,9 @@ LumioImage::LumioImage(int width, int height, bool sixteenBit) : LumioImage()
         return;
     }
     attempt([&] {
-        const Magick::Geometry size(static_cast<unsigned>(width), static_cast<unsigned>(height));
-        m_image = Magick::Image(size, Magick::Color());
-        m_image.depth(sixteenBit ? 16 : 8);
+        m_image = imageWithoutPixels(static_cast<std::size_t>(width), static_cast<std::size_t>(height),
+                                     sixteenBit ? 16 : 8);
+        m_samples = Samples::Blank;
     });
 }
 
@@ -165,22 +113,22 @@ bool LumioImage::attempt(Step step)
 }
 
 template <typename Step>
-bool LumioImage::withTrueColorPixels(Step step)
+bool LumioImage::attemptWithPixels(Step step)
 {
     return attempt([&] {
         if (isNull()) {
             m_problem = QStringLiteral("Image is not valid");
             return;
         }
+        if (m_samples == Samples::Blank) {
+            // The library cannot part copies that share pixels which are not there.
+            m_image = imageWithoutPixels(m_image.columns(), m_image.rows(), m_image.depth());
+        }
         m_image.modifyImage();
         m_image.type(Magick::TrueColorType);
-        Magick::PixelPacket *pixels = m_image.getPixels(0, 0, m_image.columns(), m_image.rows());
-        if (!pixels) {
+        if (!step(std::size_t{m_image.columns()} * m_image.rows())) {
             m_problem = QStringLiteral("The pixels cannot be reached");
-            return;
         }
-        step(pixels, std::size_t{m_image.columns()} * m_image.rows());
-        m_image.syncPixels();
     });
 }
 
@@ -223,6 +171,7 @@ void LumioImage::readFrom(const PictureFile &file, const QString &path)
     fresh.fileName(QFile::encodeName(path).toStdString());
     raiseDepth(fresh);
     m_image = fresh;
+    m_samples = Samples::AsRead;
 }
 
 bool LumioImage::save(const QString &path, int quality)
@@ -268,14 +217,31 @@ void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quali
 // or as many bits as it likes. And a picture that was read from a JPEG would go into a TIFF by JPEG compression.
 bool LumioImage::prepareForWriting()
 {
-    return withTrueColorPixels([&](Magick::PixelPacket *pixels, std::size_t count) {
-        if (!is16Bit()) {
-            spreadBytes(pixels, count);
-        }
+    return attemptWithPixels([&](std::size_t count) {
         m_image.compressType(Magick::UndefinedCompression);
         // Left by an earlier PNG; the library would add to it and complain on standard error.
         MagickLib::SetImageAttribute(m_image.image(), "[png:bit-depth-written]", nullptr);
+        if (is16Bit() || m_samples != Samples::AsRead) {
+            fillBlank();
+            return true;
+        }
+        Magick::PixelPacket *pixels = m_image.getPixels(0, 0, m_image.columns(), m_image.rows());
+        if (pixels != nullptr) {
+            spreadBytes(pixels, count);
+            m_image.syncPixels();
+        }
+        return pixels != nullptr;
     });
+}
+
+// The memory for a blank picture's pixels is taken when it is needed: mostly they are put in before anybody looks.
+void LumioImage::fillBlank()
+{
+    if (m_samples == Samples::Blank) {
+        m_image.backgroundColor(Magick::ColorRGB(0, 0, 0));
+        m_image.erase();
+        m_samples = Samples::FromBytes;
+    }
 }
 
 bool LumioImage::isNull() const
@@ -300,23 +266,36 @@ int LumioImage::height() const
 
 bool LumioImage::getPixels(void *buffer, bool alpha, bool sixteenBit)
 {
-    return withTrueColorPixels([&](const Magick::PixelPacket *pixels, std::size_t count) {
-        if (sixteenBit) {
-            copyWordsOut(pixels, count, static_cast<std::uint16_t *>(buffer), alpha);
-        } else {
+    return attemptWithPixels([&](std::size_t count) {
+        fillBlank();
+        const Magick::PixelPacket *pixels = m_image.getConstPixels(0, 0, m_image.columns(), m_image.rows());
+        if (pixels != nullptr && sixteenBit) {
+            auto *words = static_cast<std::uint16_t *>(buffer);
+            copyWordsOut(pixels, count, words, alpha);
+            if (m_samples == Samples::FromBytes) {
+                keepHighBytes(words, count, alpha);
+            }
+        } else if (pixels != nullptr) {
             copyBytesOut(pixels, count, static_cast<std::uint8_t *>(buffer), alpha);
         }
+        return pixels != nullptr;
     });
 }
 
 bool LumioImage::setPixels(const void *buffer, bool alpha, bool sixteenBit)
 {
-    return withTrueColorPixels([&](Magick::PixelPacket *pixels, std::size_t count) {
-        if (sixteenBit) {
-            copyWordsIn(pixels, count, static_cast<const std::uint16_t *>(buffer), alpha);
-        } else {
-            copyBytesIn(pixels, count, static_cast<const std::uint8_t *>(buffer), alpha);
+    return attemptWithPixels([&](std::size_t count) {
+        Magick::PixelPacket *pixels = m_image.setPixels(0, 0, m_image.columns(), m_image.rows());
+        if (pixels != nullptr && sixteenBit) {
+            copyWordsIn(static_cast<const std::uint16_t *>(buffer), count, pixels, alpha);
+        } else if (pixels != nullptr) {
+            copyBytesIn(static_cast<const std::uint8_t *>(buffer), count, pixels, alpha);
         }
+        if (pixels != nullptr) {
+            m_image.syncPixels();
+            m_samples = sixteenBit ? Samples::AsRead : Samples::FromBytes;
+        }
+        return pixels != nullptr;
     });
 }
 

@@ -16,9 +16,8 @@ class ReplacementFile;
 /// A picture in memory, read from and written to an image file. The only place that touches image files.
 ///
 /// Pixels travel in interleaved buffers of the caller, rows from top to bottom without padding: R, G, B and, with the
-/// alpha option, a fourth component; bytes, or 16-bit words in machine order. The library's own samples have 16 bits:
-/// a byte b stands there as b << 8 and comes back as the high byte. At writing time the samples of an 8-bit picture
-/// are spread to b * 257, so that the file holds the very bytes that were put in.
+/// alpha option, a fourth component; bytes, or 16-bit words in machine order. Taken out as words, bytes b that were put
+/// in come back as b << 8. Files of an 8-bit picture hold the very bytes that were put in.
 ///
 /// Copies share their pixels until one of them changes.
 ///
@@ -29,7 +28,8 @@ class LumioImage
 public:
     /// An empty picture: isNull().
     LumioImage();
-    /// A blank picture of the given size and depth: 16 bits a channel, or 8. isNull() where that cannot be had.
+    /// A black picture of the given size and depth: 16 bits a channel, or 8. It takes memory only when it is used;
+    /// where there is none, that operation fails. isNull() where there is no such size.
     LumioImage(int width, int height, bool sixteenBit);
 
     /// Reads a JPEG, PNG or TIFF file, whatever its name, and of several pictures in it the first. The picture is
@@ -69,13 +69,22 @@ private:
     template <typename Step>
     bool attempt(Step step);
     template <typename Step>
-    bool withTrueColorPixels(Step step);
+    bool attemptWithPixels(Step step);
     void readFrom(const PictureFile &file, const QString &path);
     bool prepareForWriting();
+    void fillBlank();
     void writeTo(ReplacementFile &target, const QString &path, int quality);
     void nameInMessages(int descriptor, const QString &path);
 
+    /// Where the library's samples come from.
+    enum class Samples {
+        AsRead,    ///< from a file, or words that were put in
+        FromBytes, ///< bytes b that were put in: they stand there as b * 257, and as words b << 8 is told
+        Blank,     ///< nobody has put any in; the library has none yet
+    };
+
     Magick::Image m_image;
+    Samples m_samples = Samples::AsRead;
     QString m_problem;
     QString m_warning;
 };

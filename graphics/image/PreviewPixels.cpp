@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/image/PreviewPixels.h"
 
+#include "graphics/image/Bands.h"
+
 #include <algorithm>
 
 namespace grisal::graphics
@@ -10,6 +12,7 @@ namespace
 {
 
 constexpr std::size_t rgb = 3;
+constexpr std::size_t smallestBand = 128; // rows
 
 std::size_t length(int side)
 {
@@ -36,26 +39,50 @@ int halfSide(int side)
     return std::max(1, side / 2);
 }
 
-template <typename Component>
-std::vector<Component> halfSize(const std::vector<Component> &pixels, int width, int height)
+/// Halves the top left width x height pixels of a picture whose rows are `fullWidth` pixels long.
+template <typename Component, std::size_t components>
+std::vector<Component> halfSize(const Component *pixels, int fullWidth, int width, int height)
 {
     const std::size_t halfWidth = length(halfSide(width));
     const std::size_t halfHeight = length(halfSide(height));
-    const std::size_t row = length(width) * rgb;
+    const std::size_t row = length(fullWidth) * components;
     // A side of 1 has no neighbour: there each pixel counts twice.
-    const std::size_t right = width > 1 ? rgb : 0;
+    const std::size_t right = width > 1 ? components : 0;
     const std::size_t below = height > 1 ? row : 0;
 
     std::vector<Component> half(halfWidth * halfHeight * rgb);
-    for (std::size_t y = 0; y < halfHeight; ++y) {
-        for (std::size_t i = 0; i < halfWidth * rgb; ++i) {
-            const std::size_t at = 2 * y * row + 2 * (i / rgb) * rgb + i % rgb;
-            const std::uint32_t sum =
-                std::uint32_t{pixels[at]} + pixels[at + right] + pixels[at + below] + pixels[at + below + right];
-            half[y * halfWidth * rgb + i] = static_cast<Component>((sum + 2) / 4);
+    inBands(halfHeight, smallestBand, [&](std::size_t first, std::size_t end) {
+        Component *target = half.data() + first * halfWidth * rgb;
+        for (std::size_t y = first; y < end; ++y) {
+            const Component *upper = pixels + 2 * y * row;
+            const Component *lower = upper + below;
+            for (std::size_t x = 0; x < halfWidth; ++x, upper += 2 * components, lower += 2 * components) {
+                for (std::size_t c = 0; c < rgb; ++c) {
+                    const std::uint32_t sum = std::uint32_t{upper[c]} + upper[c + right] + lower[c] + lower[c + right];
+                    *target++ = static_cast<Component>((sum + 2) / 4);
+                }
+            }
         }
-    }
+    });
     return half;
+}
+
+/// The top left pixels, halved at once where they are too many: a copy in full size would be thrown away.
+template <typename Component>
+std::vector<Component> firstPixels(const void *pixels, int fullWidth, const PreviewPixels &size, bool tooLarge,
+                                   bool alpha)
+{
+    const auto *source = static_cast<const Component *>(pixels);
+    if (!tooLarge) {
+        return topLeft<Component>(pixels, fullWidth, size.width, size.height, alpha ? rgb + 1 : rgb);
+    }
+    return alpha ? halfSize<Component, rgb + 1>(source, fullWidth, size.width, size.height)
+                 : halfSize<Component, rgb>(source, fullWidth, size.width, size.height);
+}
+
+bool isTooLarge(const PreviewPixels &pixels)
+{
+    return std::max(pixels.width, pixels.height) > maxPreviewSide;
 }
 
 } // namespace
@@ -81,13 +108,17 @@ PreviewPixels makePreviewPixels(const void *pixels, int width, int height, bool 
     }
     preview.width = roundedPreviewSide(width);
     preview.height = roundedPreviewSide(height);
-    const std::size_t components = alpha ? rgb + 1 : rgb;
+    const bool tooLarge = isTooLarge(preview);
     if (sixteenBit) {
-        preview.words = topLeft<std::uint16_t>(pixels, width, preview.width, preview.height, components);
+        preview.words = firstPixels<std::uint16_t>(pixels, width, preview, tooLarge, alpha);
     } else {
-        preview.bytes = topLeft<std::uint8_t>(pixels, width, preview.width, preview.height, components);
+        preview.bytes = firstPixels<std::uint8_t>(pixels, width, preview, tooLarge, alpha);
     }
-    while (std::max(preview.width, preview.height) > maxPreviewSide) {
+    if (tooLarge) {
+        preview.width = halfSide(preview.width);
+        preview.height = halfSide(preview.height);
+    }
+    while (isTooLarge(preview)) {
         preview = halved(preview);
     }
     return preview;
@@ -102,9 +133,9 @@ PreviewPixels halved(const PreviewPixels &pixels)
     half.width = halfSide(pixels.width);
     half.height = halfSide(pixels.height);
     if (pixels.words.empty()) {
-        half.bytes = halfSize(pixels.bytes, pixels.width, pixels.height);
+        half.bytes = halfSize<std::uint8_t, rgb>(pixels.bytes.data(), pixels.width, pixels.width, pixels.height);
     } else {
-        half.words = halfSize(pixels.words, pixels.width, pixels.height);
+        half.words = halfSize<std::uint16_t, rgb>(pixels.words.data(), pixels.width, pixels.width, pixels.height);
     }
     return half;
 }

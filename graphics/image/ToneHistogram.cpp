@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/image/ToneHistogram.h"
 
+#include "graphics/image/Bands.h"
+
 #include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <limits>
+#include <mutex>
 #include <vector>
 
 namespace grisal::graphics
@@ -13,23 +17,41 @@ namespace
 {
 
 constexpr std::size_t outputBins = 256;
+constexpr std::size_t smallestBand = 1'000'000;
 constexpr float fullShare = 30.0F; // a thirtieth of the pixels fills a bin's height
 
-template <typename Component>
-std::size_t toneOf(const Component *pixel)
+/// Counts the means of the three colours, rounded down. Four counters take turns: neighbours are mostly of one tone,
+/// and a counter that has just been written is slow to read.
+template <typename Component, std::size_t components>
+void addTones(const Component *pixels, std::size_t count, std::vector<std::size_t> &tones)
 {
-    constexpr float maximum = std::numeric_limits<Component>::max();
-    const float mean = (float(pixel[0]) + float(pixel[1]) + float(pixel[2])) / 3.0F;
-    return static_cast<std::size_t>(std::clamp(mean, 0.0F, maximum));
+    constexpr std::size_t turns = 4;
+    std::vector<std::uint32_t> counters(turns * tones.size());
+    for (std::size_t i = 0; i < count; ++i, pixels += components) {
+        const std::uint32_t sum = std::uint32_t{pixels[0]} + pixels[1] + pixels[2];
+        ++counters[i % turns * tones.size() + sum / 3];
+    }
+    for (std::size_t i = 0; i < counters.size(); ++i) {
+        tones[i % tones.size()] += counters[i];
+    }
 }
 
 template <typename Component>
-std::vector<std::size_t> countTones(const Component *pixels, std::size_t count, std::size_t components)
+std::vector<std::size_t> countTones(const void *pixels, std::size_t count, bool withAlpha)
 {
     std::vector<std::size_t> tones(std::size_t{std::numeric_limits<Component>::max()} + 1);
-    for (std::size_t i = 0; i < count; ++i) {
-        ++tones[toneOf(pixels + i * components)];
-    }
+    std::mutex adding;
+    inBands(count, smallestBand, [&](std::size_t first, std::size_t end) {
+        std::vector<std::size_t> own(tones.size());
+        const auto *components = static_cast<const Component *>(pixels);
+        if (withAlpha) {
+            addTones<Component, 4>(components + first * 4, end - first, own);
+        } else {
+            addTones<Component, 3>(components + first * 3, end - first, own);
+        }
+        const std::lock_guard lock(adding);
+        std::transform(tones.begin(), tones.end(), own.begin(), tones.begin(), std::plus<>());
+    });
     return tones;
 }
 
@@ -49,12 +71,11 @@ QVector<float> toneHistogram(const void *pixels, std::size_t count, bool sixteen
     if (!pixels || count == 0) {
         return QVector<float>(outputBins, 0.0F);
     }
-    const std::size_t components = withAlpha ? 4 : 3;
     if (sixteenBit) {
         constexpr std::size_t step = 255;
-        return sampled(countTones(static_cast<const std::uint16_t *>(pixels), count, components), step, count);
+        return sampled(countTones<std::uint16_t>(pixels, count, withAlpha), step, count);
     }
-    return sampled(countTones(static_cast<const std::uint8_t *>(pixels), count, components), 1, count);
+    return sampled(countTones<std::uint8_t>(pixels, count, withAlpha), 1, count);
 }
 
 } // namespace grisal::graphics

@@ -77,6 +77,32 @@ TEST(LumioImageTest, IsMadeWithItsSizeAndDepth)
     EXPECT_TRUE(LumioImage(7, 5, true).is16Bit());
 }
 
+TEST(LumioImageTest, IsBlackUntilPixelsArePutIn)
+{
+    for (const bool sixteenBit : {false, true}) {
+        LumioImage image(5, 3, sixteenBit);
+        LumioImage copy = image;
+        EXPECT_EQ(bytesOf(image), Bytes(45, 0));
+        EXPECT_EQ(wordsOf(copy), Words(45, 0));
+        const Bytes bytes(45, 9);
+        ASSERT_TRUE(copy.setPixels(bytes.data(), false, false));
+        EXPECT_EQ(bytesOf(copy), bytes);
+        EXPECT_EQ(bytesOf(image), Bytes(45, 0));
+    }
+}
+
+TEST(LumioImageTest, CanBeMadeLargerThanTheMemory)
+{
+    constexpr int longest = 1'000'000;
+    LumioImage image(longest, longest, true);
+    std::uint8_t untouched = 77;
+    EXPECT_FALSE(image.getPixels(&untouched, false, false));
+    EXPECT_FALSE(image.problem().isEmpty());
+    EXPECT_FALSE(image.setPixels(&untouched, false, false));
+    EXPECT_FALSE(image.problem().isEmpty());
+    EXPECT_EQ(untouched, 77);
+}
+
 TEST(LumioImageTest, IsNullWhenMadeWithoutPixels)
 {
     for (const auto &[width, height] : {std::pair(0, 5), std::pair(5, 0), std::pair(-3, 4)}) {
@@ -92,6 +118,9 @@ TEST(LumioImageTest, KeepsAByteInTheHighByteOfASample)
     LumioImage image = pictureOf(bytes, 1, 1);
     EXPECT_EQ(wordsOf(image), (Words{0, 256, 65280}));
     EXPECT_EQ(bytesOf(image), bytes);
+    const Words words{1, 257, 65535};
+    ASSERT_TRUE(image.setPixels(words.data(), false, true));
+    EXPECT_EQ(wordsOf(image), words);
 }
 
 TEST(LumioImageTest, GivesEveryByteBack)
