@@ -2,13 +2,12 @@
 // The ways a picture takes into the window and out of it again.
 #include "app/MainWindow.h"
 
+#include "app/Memory.h"
 #include "app/Product.h"
 #include "ui_MainWindow.h"
 
 #include <QFileInfo>
 #include <QMessageBox>
-
-#include <malloc.h>
 
 #include <cstdint>
 #include <exception>
@@ -54,13 +53,6 @@ QString titleFor(const QString &path, const graphics::LumioImage &image)
              QString::number(image.height()));
 }
 
-/// Gives what the former picture took back to the system: the allocator keeps freed blocks of a preview's size, and
-/// small ones in between keep it from using them for the next picture.
-void returnFreedMemory()
-{
-    malloc_trim(0);
-}
-
 } // namespace
 
 void MainWindow::on_actionOpen_triggered()
@@ -81,7 +73,7 @@ void MainWindow::openImage(QString filename)
         qWarning("%s", problem.what());
         tellCannotLoad(filename);
     }
-    returnFreedMemory();
+    memory::returnFreedBlocks();
 }
 
 // A file that is there and cannot be read leaves everything as it is. A file that is not there any more leaves the

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
+#include "app/Memory.h"
 #include "app/MessageLog.h"
 #include "graphics/gl/SurfaceFormat.h"
 #include "graphics/image/ImageLibrary.h"
@@ -34,6 +35,7 @@ void tellGraphicsProblem(const QString &problem)
 
 int main(int argc, char **argv)
 {
+    memory::keepFreedBlocks();
     grisal::graphics::initializeImageLibrary(argv[0]);
     message_log::install();
     grisal::graphics::setDefaultSurfaceFormat();
