@@ -29,28 +29,45 @@ void setPassMatrices(std::int32_t width, std::int32_t height)
     glLoadIdentity();
 }
 
-} // namespace
-
-FramebufferObject createFramebuffer(std::int32_t width, std::int32_t height, GLenum format, GLenum internalFormat,
-                                    GLenum type)
+FramebufferObject startFramebuffer(std::int32_t width, std::int32_t height, GLenum format, GLenum internalFormat,
+                                   GLenum type)
 {
     FramebufferObject target;
     target.texture = createTexture(width, height, internalFormat, format, type, nullptr);
-
     glGenFramebuffers(1, &target.framebuffer);
     glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
     glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, target.texture, 0);
+    return target;
+}
 
-    glGenRenderbuffers(1, &target.renderbuffer);
-    glBindRenderbuffer(GL_RENDERBUFFER, target.renderbuffer);
-    glRenderbufferStorage(GL_RENDERBUFFER, depthFormatFor(internalFormat), width, height);
-    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, GL_RENDERBUFFER, target.renderbuffer);
-
+void finishFramebuffer()
+{
     if (const char *text = framebufferStatusText(glCheckFramebufferStatus(GL_FRAMEBUFFER))) {
         qWarning("%s", text);
         noteIncompleteFramebuffer();
     }
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
+}
+
+} // namespace
+
+FramebufferObject createFramebuffer(std::int32_t width, std::int32_t height, GLenum format, GLenum internalFormat,
+                                    GLenum type)
+{
+    FramebufferObject target = startFramebuffer(width, height, format, internalFormat, type);
+    glGenRenderbuffers(1, &target.renderbuffer);
+    glBindRenderbuffer(GL_RENDERBUFFER, target.renderbuffer);
+    glRenderbufferStorage(GL_RENDERBUFFER, depthFormatFor(internalFormat), width, height);
+    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, GL_RENDERBUFFER, target.renderbuffer);
+    finishFramebuffer();
+    return target;
+}
+
+FramebufferObject createColourFramebuffer(std::int32_t width, std::int32_t height, GLenum format, GLenum internalFormat,
+                                          GLenum type)
+{
+    const FramebufferObject target = startFramebuffer(width, height, format, internalFormat, type);
+    finishFramebuffer();
     return target;
 }
 

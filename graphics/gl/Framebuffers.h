@@ -21,7 +21,11 @@ struct FramebufferObject {
 FramebufferObject createFramebuffer(std::int32_t width, std::int32_t height, GLenum format, GLenum internalFormat,
                                     GLenum type);
 
-/// Deletes the three names of a target. The context must be current.
+/// The same without a depth renderbuffer, whose name is 0, for targets so large that one would cost too much.
+FramebufferObject createColourFramebuffer(std::int32_t width, std::int32_t height, GLenum format, GLenum internalFormat,
+                                          GLenum type);
+
+/// Deletes the names of a target. The context must be current.
 void deleteFramebuffer(const FramebufferObject &target);
 
 /// The log text for a framebuffer status; null where nothing is to be said.
@@ -42,11 +46,14 @@ void renderToFramebuffer(std::int32_t width, std::int32_t height, GLuint program
 void readPixels(const FramebufferObject &target, std::int32_t width, std::int32_t height, GLenum format, GLenum type,
                 void *pixels);
 
-/// Owns one render target; makes it at construction, deletes it, with the context current, at the end of its life.
+/// Owns one render target; makes it at construction or takes it over, deletes it, with the context current, at the end
+/// of its life.
 class RenderTarget
 {
 public:
     RenderTarget(std::int32_t width, std::int32_t height, GLenum format, GLenum internalFormat, GLenum type);
+    /// Takes over the names.
+    explicit RenderTarget(const FramebufferObject &record) : m_record(record) {}
     RenderTarget(const RenderTarget &) = delete;
     RenderTarget &operator=(const RenderTarget &) = delete;
     ~RenderTarget();

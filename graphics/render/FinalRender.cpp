@@ -5,7 +5,7 @@
 #include "graphics/filters/FilterSet.h"
 #include "graphics/gl/GlFaults.h"
 #include "graphics/render/TiledDocumentRenderer.h"
-#include "graphics/render/TilePixels.h"
+#include "graphics/render/ValueRange.h"
 
 #include <QDebug>
 

@@ -3,8 +3,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
-#include <utility>
 #include <vector>
 
 namespace grisal::graphics
@@ -55,30 +53,6 @@ void placeTile(const std::vector<T> &tile, const TileArea &area, T *picture, std
             std::copy_n(from + column * tileComponents, tileComponents, to + column * components);
         }
     }
-}
-
-/// Cuts the area out of a mask whose rows are `maskWidth` values long and which contains the whole area.
-inline std::vector<float> cutMask(const std::vector<float> &mask, std::size_t maskWidth, const TileArea &area)
-{
-    std::vector<float> tile(area.width * area.height);
-    for (std::size_t row = 0; row < area.height; ++row) {
-        std::copy_n(mask.data() + (area.y + row) * maskWidth + area.x, area.width, tile.data() + row * area.width);
-    }
-    return tile;
-}
-
-/// Smallest and largest first component over `count` pixels of `components` values. Without pixels 65535 and 0.
-template <typename T>
-std::pair<unsigned, unsigned> valueRange(const T *pixels, std::size_t count, std::size_t components)
-{
-    unsigned smallest = 65535;
-    unsigned largest = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        const unsigned value = pixels[i * components];
-        smallest = std::min(smallest, value);
-        largest = std::max(largest, value);
-    }
-    return {smallest, largest};
 }
 
 } // namespace grisal::graphics

@@ -6,7 +6,6 @@
 #include "graphics/filters/OverlayFilter.h"
 #include "graphics/filters/VignetteFilter.h"
 #include "graphics/gl/Textures.h"
-#include "graphics/render/TilePixels.h"
 #include "graphics/render/VignetteMask.h"
 
 #include <QDebug>
@@ -38,7 +37,7 @@ std::uint32_t largestTextureSide()
 struct TiledDocumentRenderer::Chain {
     std::vector<IFilter *> filters;
     std::unique_ptr<OverlayFilter> overlay;
-    std::vector<float> mask;
+    std::unique_ptr<VignetteMask> mask;
 };
 
 TiledDocumentRenderer::TiledDocumentRenderer(bool hasAlpha, TileSide horizontal, TileSide vertical,
@@ -53,15 +52,15 @@ bool TiledDocumentRenderer::render(Document &document)
 {
     logSizes();
     m_output.reset();
-    Chain chain{document.queue()->filters(), nullptr, {}};
+    Chain chain{document.queue()->filters(), nullptr, nullptr};
     replaceVignette(chain);
 
     if (m_formats.pixelType == GL_UNSIGNED_BYTE) {
         qDebug() << "(INFO) GL_RGB8 output image requested";
-        renderPicture(document, chain, m_bytes);
+        renderPicture<std::uint8_t>(document, chain);
     } else if (m_formats.pixelType == GL_UNSIGNED_SHORT) {
         qDebug() << "(INFO) GL_RGB16 output image requested";
-        renderPicture(document, chain, m_words);
+        renderPicture<std::uint16_t>(document, chain);
     }
     return true;
 }
@@ -89,37 +88,42 @@ void TiledDocumentRenderer::replaceVignette(Chain &chain) const
     if (vignette == nullptr) {
         return;
     }
-    chain.mask = makeVignetteMask(vignette->parameters, m_horizontal.padded, m_vertical.padded, largestTextureSide());
+    chain.mask = std::make_unique<VignetteMask>(vignette->parameters, m_horizontal.padded, m_vertical.padded,
+                                                largestTextureSide());
     chain.overlay = std::make_unique<OverlayFilter>();
     chain.overlay->enabled = true;
     *std::find_if(filters.begin(), filters.end(), isVignette) = chain.overlay.get();
 }
 
 template <typename T>
-void TiledDocumentRenderer::renderPicture(Document &document, const Chain &chain, std::vector<T> &pixels)
+void TiledDocumentRenderer::renderPicture(Document &document, const Chain &chain)
 {
     const std::size_t size = std::size_t{m_source.width} * m_source.height * (m_hasAlpha ? 4 : 3);
-    const auto *source = static_cast<const T *>(m_source.pixels);
-    // Starts as the source: a fourth component stays, and so does everything where no filter is enabled.
-    pixels.assign(source, source + size);
+    const bool anyEnabled = countEnabled(chain.filters) > 0;
+    m_pixels = std::make_unique_for_overwrite<std::byte[]>(size * sizeof(T));
+    auto *pixels = reinterpret_cast<T *>(m_pixels.get());
+    if (m_hasAlpha || !anyEnabled) {
+        // A fourth component stays, and so does everything where no filter is enabled.
+        std::copy_n(static_cast<const T *>(m_source.pixels), size, pixels);
+    }
     qDebug() << "(INFO) Copied original image to intermediate buffer";
 
     if (tileCount(m_horizontal) * tileCount(m_vertical) > 1) {
         qDebug() << "(INFO) Tiles requested";
     }
     qDebug() << "(INFO) Finished tile generation";
-    if (countEnabled(chain.filters) > 0 && !renderTiles(document, chain, pixels)) {
+    if (anyEnabled && !renderTiles(document, chain, pixels)) {
         return;
     }
 
     qDebug() << "(INFO) Copy to final image";
     qDebug() << "Finishing";
-    m_output = std::make_unique<ImageBuffer>(ImageBuffer{pixels.data(), m_source.width, m_source.height, 1, 1});
+    m_output = std::make_unique<ImageBuffer>(ImageBuffer{pixels, m_source.width, m_source.height, 1, 1});
     qDebug() << "Finished";
 }
 
 template <typename T>
-bool TiledDocumentRenderer::renderTiles(Document &document, const Chain &chain, std::vector<T> &pixels) const
+bool TiledDocumentRenderer::renderTiles(Document &document, const Chain &chain, T *pixels) const
 {
     const TileFormats &f = m_formats;
     const auto tileWidth = static_cast<std::int32_t>(m_horizontal.tile);
@@ -142,9 +146,7 @@ bool TiledDocumentRenderer::renderTiles(Document &document, const Chain &chain, 
     qDebug() << "(INFO) H Tiles: " << columns;
     qDebug() << "(INFO) V Tiles: " << rows;
 
-    const auto *source = static_cast<const T *>(m_source.pixels);
-    const std::size_t components = m_hasAlpha ? 4 : 3;
-    std::vector<T> tile;
+    TileTransfer<T> transfer(m_source.width, m_source.height, m_hasAlpha ? 4 : 3, m_formats);
     for (std::uint32_t h = 0; h < columns; ++h) {
         for (std::uint32_t v = 0; v < rows; ++v) {
             qDebug() << "(INFO) Begin Rendering Loop";
@@ -153,9 +155,7 @@ bool TiledDocumentRenderer::renderTiles(Document &document, const Chain &chain, 
             qDebug() << "(INFO) iY: " << h;
             const TileArea area{static_cast<std::size_t>(h) * m_horizontal.tile,
                                 static_cast<std::size_t>(v) * m_vertical.tile, m_horizontal.tile, m_vertical.tile};
-            cutTile(source, m_source.width, m_source.height, components, area, tile);
-            renderTile(document, chain, area, tile, first, second);
-            placeTile(tile, area, pixels.data(), m_source.width, m_source.height, components);
+            renderTile(document, chain, area, transfer, pixels, first, second);
         }
     }
     return true;
@@ -163,16 +163,13 @@ bool TiledDocumentRenderer::renderTiles(Document &document, const Chain &chain, 
 
 template <typename T>
 void TiledDocumentRenderer::renderTile(Document &document, const Chain &chain, const TileArea &area,
-                                       std::vector<T> &tile, const RenderTarget &first,
+                                       TileTransfer<T> &transfer, T *pixels, const RenderTarget &first,
                                        const RenderTarget &second) const
 {
     constexpr bool bytes = std::is_same_v<T, std::uint8_t>;
-    const auto width = static_cast<std::int32_t>(area.width);
-    const auto height = static_cast<std::int32_t>(area.height);
-
-    qDebug() << "(INFO) Data: " << (tile.data() != nullptr);
-    const Texture texture(createTexture(width, height, m_formats.internalFormat, m_formats.pixelFormat,
-                                        m_formats.pixelType, tile.data()));
+    const auto *source = static_cast<const T *>(m_source.pixels);
+    qDebug() << "(INFO) Data: " << (source != nullptr);
+    const Texture texture = transfer.upload(source, area);
     qDebug() << "(INFO) Tile Texture initialized";
     document.view()->setup();
 
@@ -185,7 +182,7 @@ void TiledDocumentRenderer::renderTile(Document &document, const Chain &chain, c
     if (bytes) {
         qDebug() << "(INFO) Copy Tile";
     }
-    readPixels(result, width, height, bytes ? m_formats.pixelFormat : GL_RGB, m_formats.pixelType, tile.data());
+    transfer.download(result, area, pixels);
     if (bytes) {
         qDebug() << "Rendering...";
     }
@@ -222,9 +219,7 @@ void TiledDocumentRenderer::applyFilter(const Chain &chain, IFilter *filter, con
         filter->apply(texture, target);
         return;
     }
-    const std::vector<float> maskTile = cutMask(chain.mask, m_horizontal.padded, area);
-    const Texture mask(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height),
-                                     GL_R32F, GL_RED, GL_FLOAT, maskTile.data()));
+    const Texture mask = chain.mask->piece(area);
     chain.overlay->width = static_cast<int>(area.width);
     chain.overlay->height = static_cast<int>(area.height);
     chain.overlay->overlayTexture = mask.name();

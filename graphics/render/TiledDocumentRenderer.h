@@ -5,7 +5,9 @@
 #include "graphics/image/ImageBuffer.h"
 #include "graphics/render/IRenderer.h"
 #include "graphics/render/TilePlan.h"
+#include "graphics/render/TileTransfer.h"
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -14,14 +16,6 @@ namespace grisal::graphics
 
 class IFilter;
 class OverlayFilter;
-struct TileArea;
-
-/// Formats of the tiles and of the targets they are rendered into.
-struct TileFormats {
-    GLenum pixelFormat;    ///< GL_RGB: tiles have three components
-    GLenum pixelType;      ///< GL_UNSIGNED_BYTE, or GL_UNSIGNED_SHORT for 16-bit words; nothing else renders
-    GLenum internalFormat; ///< GL_RGB8 with bytes, GL_RGB16F with words
-};
 
 /// Renders a picture at full resolution, tile by tile.
 ///
@@ -52,11 +46,11 @@ private:
     void logSizes() const;
     void replaceVignette(Chain &chain) const;
     template <typename T>
-    void renderPicture(Document &document, const Chain &chain, std::vector<T> &pixels);
+    void renderPicture(Document &document, const Chain &chain);
     template <typename T>
-    bool renderTiles(Document &document, const Chain &chain, std::vector<T> &pixels) const;
+    bool renderTiles(Document &document, const Chain &chain, T *pixels) const;
     template <typename T>
-    void renderTile(Document &document, const Chain &chain, const TileArea &area, std::vector<T> &tile,
+    void renderTile(Document &document, const Chain &chain, const TileArea &area, TileTransfer<T> &transfer, T *pixels,
                     const RenderTarget &first, const RenderTarget &second) const;
     const FramebufferObject &runChain(const Chain &chain, const TileArea &area, GLuint texture,
                                       const FramebufferObject &first, const FramebufferObject &second) const;
@@ -68,8 +62,7 @@ private:
     TileSide m_vertical;
     TileFormats m_formats;
     ImageBuffer m_source;
-    std::vector<std::uint8_t> m_bytes;
-    std::vector<std::uint16_t> m_words;
+    std::unique_ptr<std::byte[]> m_pixels;
     std::unique_ptr<ImageBuffer> m_output;
 };
 

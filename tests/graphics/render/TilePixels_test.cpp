@@ -11,11 +11,9 @@ namespace grisal::test
 namespace
 {
 
-using graphics::cutMask;
 using graphics::cutTile;
 using graphics::placeTile;
 using graphics::TileArea;
-using graphics::valueRange;
 
 using Bytes = std::vector<std::uint8_t>;
 
@@ -123,32 +121,6 @@ TEST(PlaceTileTest, SixteenTilesCutAndPlacedMakeThePictureAgain)
     }
 
     EXPECT_TRUE(picturesNear("tiles-again", result, picture));
-}
-
-TEST(CutMaskTest, TakesTheAreaOutOfLongerRows)
-{
-    const std::vector<float> mask{0, 1, 2, 3, 10, 11, 12, 13, 20, 21, 22, 23};
-
-    EXPECT_EQ(cutMask(mask, 4, {1, 1, 2, 2}), (std::vector<float>{11, 12, 21, 22}));
-}
-
-TEST(ValueRangeTest, GoesByTheFirstComponentAlone)
-{
-    const Bytes pixels{40, 0, 255, 20, 1, 254, 30, 2, 253};
-
-    EXPECT_EQ(valueRange(pixels.data(), 3, 3), (std::pair<unsigned, unsigned>{20, 40}));
-}
-
-TEST(ValueRangeTest, StepsOverAFourthComponent)
-{
-    const std::vector<std::uint16_t> pixels{4000, 0, 0, 65535, 2000, 0, 0, 0};
-
-    EXPECT_EQ(valueRange(pixels.data(), 2, 4), (std::pair<unsigned, unsigned>{2000, 4000}));
-}
-
-TEST(ValueRangeTest, WithoutPixelsTheEndsAreCrossed)
-{
-    EXPECT_EQ(valueRange<std::uint8_t>(nullptr, 0, 3), (std::pair<unsigned, unsigned>{65535, 0}));
 }
 
 } // namespace grisal::test

@@ -13,7 +13,8 @@ namespace grisal::test
 namespace
 {
 
-using graphics::makeVignetteMask;
+using graphics::TileArea;
+using graphics::VignetteMask;
 using graphics::VignetteParameters;
 
 constexpr int width = 516;
@@ -26,6 +27,24 @@ const VignetteParameters offCentre{{30, 80, 0}, 90, 25};
 class VignetteMaskTest : public GlTest
 {
 };
+
+std::vector<float> pieceOf(const VignetteMask &mask, const TileArea &area)
+{
+    const graphics::Texture texture = mask.piece(area);
+    std::vector<float> values(area.width * area.height);
+    glBindTexture(GL_TEXTURE_2D, texture.name());
+    glPixelStorei(GL_PACK_ALIGNMENT, 1);
+    glGetTexImage(GL_TEXTURE_2D, 0, GL_RED, GL_FLOAT, values.data());
+    glBindTexture(GL_TEXTURE_2D, 0);
+    return values;
+}
+
+/// The whole mask.
+std::vector<float> makeVignetteMask(const VignetteParameters &parameters, std::uint32_t columns, std::uint32_t rows,
+                                    std::uint32_t largestSide)
+{
+    return pieceOf(VignetteMask(parameters, columns, rows, largestSide), {0, 0, columns, rows});
+}
 
 FloatPixels asPicture(std::vector<float> mask)
 {
@@ -119,6 +138,19 @@ TEST_F(VignetteMaskTest, OddRowsComeBackWhole)
 {
     EXPECT_LE(relativeDifference(makeVignetteMask(offCentre, 513, 3, 1024), makeVignetteMask(offCentre, 513, 3, 1)),
               1e-4);
+}
+
+// Whether it is copied or computed, a piece is what the whole mask has at its place.
+TEST_F(VignetteMaskTest, APieceIsAPartOfTheWhole)
+{
+    for (const std::uint32_t largestSide : {roomForIt, noRoomForIt}) {
+        const VignetteMask mask(offCentre, width, height, largestSide);
+        const std::vector<float> whole = pieceOf(mask, {0, 0, width, height});
+        const std::vector<float> piece = pieceOf(mask, {387, 31, 129, 31});
+        for (std::size_t i = 0; i < piece.size(); ++i) {
+            ASSERT_EQ(piece[i], whole[(31 + i / 129) * width + 387 + i % 129]) << i;
+        }
+    }
 }
 
 TEST_F(VignetteMaskTest, LeavesNothingBound)

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/render/TileTransfer.h"
+
+#include "graphics/image/Bands.h"
+#include "graphics/render/HalfWords.h"
+
+#include <algorithm>
+
+namespace grisal::graphics
+{
+
+namespace
+{
+
+constexpr std::size_t smallestBand = 128; // rows
+
+/// While it lives, the rows that the driver reads or writes lie `pixels` pixels apart.
+class RowLength
+{
+public:
+    RowLength(GLenum direction, std::size_t pixels) : m_direction(direction)
+    {
+        glPixelStorei(m_direction, static_cast<GLint>(pixels));
+    }
+    RowLength(const RowLength &) = delete;
+    RowLength &operator=(const RowLength &) = delete;
+    ~RowLength() { glPixelStorei(m_direction, 0); }
+
+private:
+    GLenum m_direction;
+};
+
+} // namespace
+
+template <typename T>
+bool TileTransfer<T>::isWithin(const TileArea &area) const
+{
+    return area.x + area.width <= m_width && area.y + area.height <= m_height;
+}
+
+template <typename T>
+Texture TileTransfer<T>::upload(const T *picture, const TileArea &area)
+{
+    const bool direct = m_components == tileComponents && isWithin(area);
+    if (!direct) {
+        cutTile(picture, m_width, m_height, m_components, area, m_tile);
+    }
+    const T *pixels = direct ? picture + (area.y * m_width + area.x) * tileComponents : m_tile.data();
+    const RowLength length(GL_UNPACK_ROW_LENGTH, direct ? m_width : area.width);
+    return Texture(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height),
+                                 m_formats.internalFormat, m_formats.pixelFormat, m_formats.pixelType, pixels));
+}
+
+template <>
+void TileTransfer<std::uint8_t>::read(const FramebufferObject &target, const TileArea &seen, std::uint8_t *pixels,
+                                      std::size_t rowLength)
+{
+    const RowLength length(GL_PACK_ROW_LENGTH, rowLength);
+    readPixels(target, static_cast<std::int32_t>(seen.width), static_cast<std::int32_t>(seen.height),
+               m_formats.pixelFormat, m_formats.pixelType, pixels);
+}
+
+template <>
+void TileTransfer<std::uint16_t>::read(const FramebufferObject &target, const TileArea &seen, std::uint16_t *pixels,
+                                       std::size_t rowLength)
+{
+    const std::size_t row = seen.width * tileComponents;
+    m_halves.resize(row * seen.height);
+    readPixels(target, static_cast<std::int32_t>(seen.width), static_cast<std::int32_t>(seen.height), GL_RGB,
+               GL_HALF_FLOAT, m_halves.data());
+    inBands(seen.height, smallestBand, [&](std::size_t first, std::size_t end) {
+        for (std::size_t y = first; y < end; ++y) {
+            wordsOfHalves(m_halves.data() + y * row, row, pixels + y * rowLength * tileComponents);
+        }
+    });
+}
+
+template <typename T>
+void TileTransfer<T>::download(const FramebufferObject &target, const TileArea &area, T *picture)
+{
+    if (area.x >= m_width || area.y >= m_height) {
+        return;
+    }
+    const TileArea seen{area.x, area.y, std::min(area.width, m_width - area.x),
+                        std::min(area.height, m_height - area.y)};
+    if (m_components == tileComponents) {
+        read(target, seen, picture + (seen.y * m_width + seen.x) * tileComponents, m_width);
+        return;
+    }
+    m_tile.resize(seen.width * seen.height * tileComponents);
+    read(target, seen, m_tile.data(), seen.width);
+    placeTile(m_tile, seen, picture, m_width, m_height, m_components);
+}
+
+template class TileTransfer<std::uint8_t>;
+template class TileTransfer<std::uint16_t>;
+
+} // namespace grisal::graphics

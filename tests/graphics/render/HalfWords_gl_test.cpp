@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/render/HalfWords.h"
+
+#include "graphics/gl/Framebuffers.h"
+#include "tests/support/GlTest.h"
+
+#include <vector>
+
+namespace grisal::test
+{
+
+using graphics::wordOfHalf;
+
+class HalfWordsTest : public GlTest
+{
+};
+
+TEST_F(HalfWordsTest, TheEndsAndTheMiddle)
+{
+    EXPECT_EQ(wordOfHalf(0x0000), 0);
+    EXPECT_EQ(wordOfHalf(0x3c00), 65535);
+    EXPECT_EQ(wordOfHalf(0x3800), 32768) << "32767.5 goes to the even one";
+    EXPECT_EQ(wordOfHalf(0x3c01), 65535) << "more than 1";
+    EXPECT_EQ(wordOfHalf(0x7c00), 65535) << "infinite";
+    EXPECT_EQ(wordOfHalf(0xb800), 0) << "less than 0";
+    EXPECT_EQ(wordOfHalf(0x7e00), 0) << "not a number";
+}
+
+// The driver's own conversion is the slow way to the same words: every half goes both ways.
+TEST_F(HalfWordsTest, AreThoseOfTheDriver)
+{
+    constexpr int side = 256;
+    std::vector<std::uint16_t> halves(std::size_t{side} * side * 3);
+    for (std::size_t i = 0; i < halves.size(); ++i) {
+        halves[i] = static_cast<std::uint16_t>(i / 3);
+    }
+    const graphics::RenderTarget target(side, side, GL_RGB, GL_RGB16F, GL_HALF_FLOAT);
+    glBindTexture(GL_TEXTURE_2D, target.record().texture);
+    glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, side, side, GL_RGB, GL_HALF_FLOAT, halves.data());
+    glBindTexture(GL_TEXTURE_2D, 0);
+    std::vector<std::uint16_t> expected(halves.size());
+    readPixels(target.record(), side, side, GL_RGB, GL_UNSIGNED_SHORT, expected.data());
+
+    std::vector<std::uint16_t> words(halves.size());
+    graphics::wordsOfHalves(halves.data(), halves.size(), words.data());
+    for (std::size_t i = 0; i < words.size(); i += 3) {
+        ASSERT_EQ(words[i], expected[i]) << std::hex << "half " << halves[i];
+    }
+}
+
+} // namespace grisal::test
