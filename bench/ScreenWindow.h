@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/MainWindow.h"
+
+#include <QAction>
+#include <QApplication>
+
+#include <cstdint>
+#include <vector>
+
+namespace grisal::bench
+{
+
+/// The program's window on the screen, with the placeholder at first. Each step ends when its picture is drawn.
+class ScreenWindow
+{
+public:
+    ScreenWindow()
+    {
+        const std::vector<std::uint8_t> grey(std::size_t{300} * 200 * 3, 128);
+        m_window.resize(1200, 800);
+        m_window.show();
+        m_window.loadBuffer(grey.data(), 300, 200, false);
+        paint();
+    }
+
+    void open(const QString &path)
+    {
+        m_window.openImage(path);
+        paint();
+    }
+
+    void enableAllFilters()
+    {
+        for (const char *name : {"actionCurves", "actionVignette", "actionGrain", "actionSplitTone"}) {
+            m_window.findChild<QAction *>(QString::fromLatin1(name))->trigger();
+        }
+        paint();
+    }
+
+    void save(const QString &path) { m_window.saveImage(path); }
+
+    void zoom(int step)
+    {
+        preview().zoom(static_cast<float>(step));
+        paint();
+    }
+
+private:
+    ui::GLWidget &preview() { return *m_window.findChild<ui::GLWidget *>(); }
+
+    void paint()
+    {
+        QApplication::processEvents();
+        preview().repaint();
+        preview().makeCurrent();
+        glFinish();
+    }
+
+    ui::MainWindow m_window;
+};
+
+} // namespace grisal::bench

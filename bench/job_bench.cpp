@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+//
+// What the GPU's part of a job costs at 24 megapixels, and the yardsticks that it is held against.
+//
+//   passes          the bare passes of a final render, of a frame of the preview
+//   transfers       upload and read-back of the same bytes
+//   firstFrame      upload of the preview and its first frame
+#include "app/Memory.h"
+#include "bench/ScreenWindow.h"
+#include "bench/Yardsticks.h"
+#include "graphics/gl/OffscreenContext.h"
+#include "graphics/gl/SurfaceFormat.h"
+#include "graphics/image/ImageLibrary.h"
+#include "graphics/image/PreviewPixels.h"
+#include "graphics/render/PreviewStage.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace
+{
+
+using namespace grisal::graphics;
+using namespace grisal::bench;
+
+constexpr unsigned width = 6000;
+constexpr unsigned height = 4000;
+
+void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+unsigned depthOf(const benchmark::State &state)
+{
+    return static_cast<unsigned>(state.range(0));
+}
+
+void passes(benchmark::State &state)
+{
+    const bool bytes = depthOf(state) == 8;
+    FinalPasses passes(width, height, bytes ? GL_RGB8 : GL_RGB16F, bytes ? GL_UNSIGNED_BYTE : GL_UNSIGNED_SHORT);
+    for ([[maybe_unused]] auto _ : state) {
+        passes.run();
+    }
+}
+
+template <typename T>
+void transfer(benchmark::State &state, GLenum internalFormat, GLenum type)
+{
+    Transfers<T> transfers(width, height, internalFormat, type);
+    for ([[maybe_unused]] auto _ : state) {
+        transfers.run();
+    }
+}
+
+void transfers(benchmark::State &state)
+{
+    if (depthOf(state) == 8) {
+        transfer<std::uint8_t>(state, GL_RGB8, GL_UNSIGNED_BYTE);
+    } else {
+        transfer<std::uint16_t>(state, GL_RGB16F, GL_UNSIGNED_SHORT);
+    }
+}
+
+void enableAll(FilterSet &filters)
+{
+    filters.mixer.enabled = filters.curve.enabled = filters.vignette.enabled = true;
+    filters.splitTone.enabled = filters.grain.enabled = true;
+}
+
+std::vector<std::uint8_t> greyBytes(int columns, int rows)
+{
+    return std::vector<std::uint8_t>(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows) * 3, 100);
+}
+
+void finalRender(benchmark::State &state)
+{
+    const bool words = depthOf(state) == 16;
+    PreviewStage stage;
+    const std::vector<std::uint8_t> grey = greyBytes(400, 300);
+    stage.load(makePreviewPixels(grey.data(), 400, 300, false, false), pixelFormatsFor(false, false), 400, 300);
+    enableAll(*stage.filters());
+    stage.setGrain(QVector<float>(256, 0.5F), 1.5F);
+    std::vector<std::uint16_t> pixels(std::size_t{width} * height * 3 / (words ? 1 : 2), 100);
+    for ([[maybe_unused]] auto _ : state) {
+        stage.renderFinal({pixels.data(), width, height, words, false});
+    }
+}
+
+constexpr int previewWidth = 4096;
+constexpr int previewHeight = 2728;
+
+/// The frame's passes alone: the mixer twice, then the others.
+void previewPasses(benchmark::State &state)
+{
+    const RenderTarget source(previewWidth, previewHeight, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+    const RenderTarget first(previewWidth, previewHeight, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+    const RenderTarget second(previewWidth, previewHeight, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+    FilterSet filters;
+    FilterParameters parameters;
+    parameters.grainWeights.fill(0.5F);
+    filters.setParameters(parameters);
+    filters.setSize(previewWidth, previewHeight);
+    filters.setPictureSize(previewWidth, previewHeight);
+    filters.grain.setSigma(1.5F);
+    for ([[maybe_unused]] auto _ : state) {
+        glEnable(GL_TEXTURE_2D);
+        filters.mixer.apply(source.record().texture, first.record());
+        filters.mixer.apply(first.record().texture, second.record());
+        filters.curve.apply(second.record().texture, first.record());
+        filters.grain.apply(first.record().texture, second.record());
+        filters.splitTone.apply(second.record().texture, first.record());
+        filters.vignette.apply(first.record().texture, second.record());
+        glFinish();
+    }
+}
+
+void previewFrame(benchmark::State &state)
+{
+    const std::vector<std::uint8_t> grey = greyBytes(previewWidth, previewHeight);
+    PreviewStage stage;
+    stage.load(makePreviewPixels(grey.data(), previewWidth, previewHeight, false, false), pixelFormatsFor(false, false),
+               1000, 700);
+    enableAll(*stage.filters());
+    stage.setGrain(QVector<float>(256, 0.5F), 1.5F);
+    for ([[maybe_unused]] auto _ : state) {
+        stage.setMixer({0.3F, 0.5F, 0.2F});
+        stage.preview()->render();
+        glFinish();
+    }
+}
+
+/// What the first frame of a picture costs the GPU at least: the upload of its preview, and the mixer twice.
+void firstFrame(benchmark::State &state)
+{
+    const int columns = width / 2;
+    const int rows = height / 2;
+    const std::vector<std::uint8_t> grey = greyBytes(columns, rows);
+    const RenderTarget source(columns, rows, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+    const RenderTarget first(columns, rows, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+    const RenderTarget second(columns, rows, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+    FilterSet filters;
+    filters.setSize(columns, rows);
+    for ([[maybe_unused]] auto _ : state) {
+        glEnable(GL_TEXTURE_2D);
+        glBindTexture(GL_TEXTURE_2D, source.record().texture);
+        glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, columns, rows, GL_RGB, GL_UNSIGNED_BYTE, grey.data());
+        filters.mixer.apply(source.record().texture, first.record());
+        filters.mixer.apply(first.record().texture, second.record());
+        glFinish();
+    }
+}
+
+void zoomStep(benchmark::State &state)
+{
+    ScreenWindow window;
+    int step = 1;
+    for ([[maybe_unused]] auto _ : state) {
+        window.zoom(step);
+        step = -step;
+    }
+}
+
+// A context of its own where no window has one.
+template <void (*Bench)(benchmark::State &)>
+void withContext(benchmark::State &state)
+{
+    const OffscreenContext context;
+    if (!context.isCurrent() || initialiseGlEntryPoints() != GlStart::Ready) {
+        state.SkipWithError("no OpenGL 2.1 on this display");
+        return;
+    }
+    state.SetLabel(reinterpret_cast<const char *>(glGetString(GL_RENDERER)));
+    Bench(state);
+}
+
+BENCHMARK(withContext<passes>)->Name("passes")->Arg(8)->Arg(16)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(withContext<transfers>)->Name("transfers")->Arg(8)->Arg(16)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(withContext<finalRender>)->Name("finalRender")->Arg(8)->Arg(16)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(withContext<previewPasses>)->Name("previewPasses")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(withContext<previewFrame>)->Name("previewFrame")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(withContext<firstFrame>)->Name("firstFrame")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(zoomStep)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qInstallMessageHandler(ignoreMessage);
+    memory::keepFreedBlocks();
+    initializeImageLibrary(argv[0]);
+    setDefaultSurfaceFormat();
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+//
+// Writes the picture that the other programs of this folder work on: make_bench_picture WIDTH HEIGHT DEPTH PATH
+#include "bench/BenchPictures.h"
+#include "graphics/image/ImageLibrary.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+int main(int argc, char **argv)
+{
+    if (argc != 5) {
+        std::fprintf(stderr, "usage: make_bench_picture WIDTH HEIGHT DEPTH PATH\n");
+        return EXIT_FAILURE;
+    }
+    grisal::graphics::initializeImageLibrary(argv[0]);
+    const auto number = [argv](int i) { return static_cast<unsigned>(std::strtoul(argv[i], nullptr, 10)); };
+    Magick::Image picture = grisal::bench::paintedPicture(number(1), number(2), number(3));
+    picture.quality(90);
+    picture.write(argv[4]);
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+//
+// A whole job in a process of its own: window_job IN OUT opens a picture in the program's window, switches all filters
+// on, saves the result, and prints how long opening (until the picture is on the screen) and saving took, and how many
+// bytes of memory the process had at the most above what it had with the placeholder.
+#include "app/MainWindow.h"
+#include "app/Memory.h"
+#include "bench/ScreenWindow.h"
+#include "graphics/gl/SurfaceFormat.h"
+#include "graphics/image/ImageLibrary.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace
+{
+
+void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+/// The number of bytes that the system tells of this process under that name: VmRSS now, VmHWM at the most so far.
+qint64 memoryOf(const char *name)
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly)) {
+        return 0;
+    }
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith(name)) {
+            return line.simplified().split(' ').value(1).toLongLong() * 1024;
+        }
+    }
+    return 0;
+}
+
+/// From here on the highest use of memory counts anew.
+void forgetHighest()
+{
+    QFile references(QStringLiteral("/proc/self/clear_refs"));
+    if (references.open(QIODevice::WriteOnly)) {
+        references.write("5");
+    }
+}
+
+double millisecondsOf(const QElapsedTimer &timer)
+{
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qInstallMessageHandler(ignoreMessage);
+    memory::keepFreedBlocks();
+    grisal::graphics::initializeImageLibrary(argv[0]);
+    grisal::graphics::setDefaultSurfaceFormat();
+    const QApplication application(argc, argv);
+    if (argc != 3) {
+        std::fprintf(stderr, "usage: window_job IN OUT\n");
+        return EXIT_FAILURE;
+    }
+    grisal::bench::ScreenWindow window;
+    const qint64 idle = memoryOf("VmRSS");
+    forgetHighest();
+
+    QElapsedTimer timer;
+    timer.start();
+    window.open(QString::fromLocal8Bit(argv[1]));
+    const double open = millisecondsOf(timer);
+    const qint64 opened = memoryOf("VmHWM");
+    window.enableAllFilters();
+    timer.restart();
+    window.save(QString::fromLocal8Bit(argv[2]));
+    const double save = millisecondsOf(timer);
+
+    std::printf("{\"open\": %.3f, \"save\": %.3f, \"idle\": %lld, \"openPeak\": %lld, \"peak\": %lld}\n", open, save,
+                idle, opened - idle, memoryOf("VmHWM") - idle);
+    return EXIT_SUCCESS;
+}
