@@ -3,6 +3,7 @@
 
 #include "app/About.h"
 #include "app/Product.h"
+#include "app/UserGuide.h"
 #include "graphics/filters/IFilter.h"
 #include "graphics/image/ToneHistogram.h"
 #include "ui/panels/Curves.h"
@@ -54,6 +55,7 @@ MainWindow::MainWindow(QWidget *parent)
     setUpToolBar();
     setUpPanels();
     connectPanels();
+    connect(m_form->actionHelp, &QAction::triggered, this, &MainWindow::showGuide);
 }
 
 MainWindow::~MainWindow() = default;
@@ -217,6 +219,14 @@ void MainWindow::on_actionAbout_triggered()
 void MainWindow::slotAbout()
 {
     About().exec();
+}
+
+void MainWindow::showGuide()
+{
+    if (m_guide == nullptr) {
+        m_guide = new UserGuide(this);
+    }
+    m_guide->present();
 }
 
 void MainWindow::on_actionWebsite_triggered()
