@@ -2,6 +2,7 @@
 #include "app/MainWindow.h"
 
 #include "app/About.h"
+#include "app/Preferences.h"
 #include "app/Product.h"
 #include "app/UserGuide.h"
 #include "graphics/filters/IFilter.h"
@@ -56,6 +57,7 @@ MainWindow::MainWindow(QWidget *parent)
     setUpPanels();
     connectPanels();
     connect(m_form->actionHelp, &QAction::triggered, this, &MainWindow::showGuide);
+    connect(m_form->actionPreferences, &QAction::triggered, this, &MainWindow::showPreferences);
 }
 
 MainWindow::~MainWindow() = default;
@@ -227,6 +229,11 @@ void MainWindow::showGuide()
         m_guide = new UserGuide(this);
     }
     m_guide->present();
+}
+
+void MainWindow::showPreferences()
+{
+    Preferences(m_fileDealer, this).exec();
 }
 
 void MainWindow::on_actionWebsite_triggered()

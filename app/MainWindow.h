@@ -84,6 +84,7 @@ private:
     void setUpToolBar();
     void connectPanels();
     void showGuide();
+    void showPreferences();
     bool togglePanel(QWidget *panel, QAction *action);
     void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem);
     void tellProblems(const graphics::LumioImage &image);
