@@ -44,15 +44,41 @@ QString menuText(QString name)
     return name.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
-QString startDirectory()
-{
-    const QString last = Settings().value(lastDirectoryKey()).toString();
-    return last.isEmpty() ? QDir::homePath() : last;
-}
-
 } // namespace
 
 FileDealer::FileDealer(QObject *parent) : QObject(parent) {}
+
+QString FileDealer::lastDirectory() const
+{
+    return Settings().value(lastDirectoryKey()).toString();
+}
+
+QStringList FileDealer::recentImages() const
+{
+    return Settings().value(recentImagesKey()).toStringList();
+}
+
+void FileDealer::forgetDirectory()
+{
+    Settings().remove(lastDirectoryKey());
+}
+
+void FileDealer::forgetRecent()
+{
+    Settings().remove(recentImagesKey());
+    refreshRecentMenu();
+}
+
+QString FileDealer::settingsFile()
+{
+    return Settings().fileName();
+}
+
+QString FileDealer::startDirectory() const
+{
+    const QString last = lastDirectory();
+    return last.isEmpty() ? QDir::homePath() : last;
+}
 
 void FileDealer::setUpRecentMenu(QMenu *menu)
 {
@@ -97,7 +123,7 @@ void FileDealer::addToRecent()
 
 void FileDealer::refreshRecentMenu()
 {
-    const QStringList recent = Settings().value(recentImagesKey()).toStringList();
+    const QStringList recent = recentImages();
     const int shown = std::min<int>(static_cast<int>(recent.size()), static_cast<int>(m_recentActions.size()));
     int digit = 1;
     for (int i = 0; i < shown; ++i) {

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 class QAction;
 class QMenu;
@@ -32,6 +33,18 @@ public:
     /// Puts the current path at the front of the recent images and remembers its directory.
     void addToRecent();
 
+    /// What is remembered: the directory of the last opened image, empty where there is none, and the recent images,
+    /// latest first, missing files and empty paths among them.
+    QString lastDirectory() const;
+    QStringList recentImages() const;
+
+    /// Removes what is remembered from the settings. The current path stays, and with it the place that Save writes to.
+    void forgetDirectory();
+    void forgetRecent();
+
+    /// Path of the file that the settings are in, whether it is there yet or not.
+    static QString settingsFile();
+
 public slots:
     /// Emits signalOpenImage() with the path of the action that sent the signal.
     void openRecent();
@@ -40,6 +53,7 @@ signals:
     void signalOpenImage(QString path);
 
 private:
+    QString startDirectory() const;
     void refreshRecentMenu();
 
     QString m_currentPath;

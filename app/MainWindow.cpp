@@ -2,7 +2,9 @@
 #include "app/MainWindow.h"
 
 #include "app/About.h"
+#include "app/Preferences.h"
 #include "app/Product.h"
+#include "app/UserGuide.h"
 #include "graphics/filters/IFilter.h"
 #include "graphics/image/ToneHistogram.h"
 #include "ui/panels/Curves.h"
@@ -54,6 +56,8 @@ MainWindow::MainWindow(QWidget *parent)
     setUpToolBar();
     setUpPanels();
     connectPanels();
+    connect(m_form->actionHelp, &QAction::triggered, this, &MainWindow::showGuide);
+    connect(m_form->actionPreferences, &QAction::triggered, this, &MainWindow::showPreferences);
 }
 
 MainWindow::~MainWindow() = default;
@@ -217,6 +221,19 @@ void MainWindow::on_actionAbout_triggered()
 void MainWindow::slotAbout()
 {
     About().exec();
+}
+
+void MainWindow::showGuide()
+{
+    if (m_guide == nullptr) {
+        m_guide = new UserGuide(this);
+    }
+    m_guide->present();
+}
+
+void MainWindow::showPreferences()
+{
+    Preferences(m_fileDealer, this).exec();
 }
 
 void MainWindow::on_actionWebsite_triggered()

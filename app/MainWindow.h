@@ -18,6 +18,7 @@ class QStackedLayout;
 class QToolBar;
 class Sharpen;
 class SplitTone;
+class UserGuide;
 class Vignette;
 
 namespace Ui
@@ -82,6 +83,8 @@ private:
     void setUpPanels();
     void setUpToolBar();
     void connectPanels();
+    void showGuide();
+    void showPreferences();
     bool togglePanel(QWidget *panel, QAction *action);
     void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem);
     void tellProblems(const graphics::LumioImage &image);
@@ -103,6 +106,7 @@ private:
     graphics::LumioImage m_source;
     graphics::LumioImage m_output;
     FileDealer m_fileDealer;
+    UserGuide *m_guide = nullptr; // from its first showing on
     std::unique_ptr<Ui::MainWindow> m_form;
 };
 

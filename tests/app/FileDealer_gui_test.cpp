@@ -334,4 +334,34 @@ TEST_F(FileDealerTest, ThePlaceOfAPictureThatIsGoneIsNotRemembered)
     EXPECT_EQ(storedRecent(), QStringList(a));
 }
 
+TEST_F(FileDealerTest, ForgettingTheDirectoryLeavesTheRecentImages)
+{
+    const QString a = makeFile(QStringLiteral("a.png"));
+    open(a);
+    EXPECT_EQ(dealer.lastDirectory(), inHome(QStringLiteral("pictures")));
+    dealer.forgetDirectory();
+    EXPECT_TRUE(dealer.lastDirectory().isEmpty());
+    EXPECT_EQ(settings().allKeys(), QStringList(QStringLiteral("recentImages")));
+    EXPECT_EQ(dealer.recentImages(), QStringList(a));
+    FileDialogAnswer save({});
+    dealer.saveDialog();
+    EXPECT_EQ(save.directory, homePath());
+}
+
+TEST_F(FileDealerTest, ForgettingTheRecentImagesEmptiesTheMenuAndLeavesTheDirectory)
+{
+    dealer.setUpRecentMenu(&menu);
+    open(makeFile(QStringLiteral("a.png")));
+    const QString b = makeFile(QStringLiteral("b.png"));
+    open(b);
+    ASSERT_EQ(shown().size(), 2);
+    dealer.forgetRecent();
+    EXPECT_TRUE(shown().isEmpty());
+    EXPECT_TRUE(dealer.recentImages().isEmpty());
+    EXPECT_EQ(settings().allKeys(), QStringList(QStringLiteral("lastDirectory")));
+    EXPECT_EQ(dealer.currentPath(), b);
+    open(b);
+    EXPECT_EQ(shown(), QStringList(QStringLiteral("b.png Alt+1")));
+}
+
 } // namespace

@@ -4,6 +4,7 @@
 
 #include "graphics/filters/IFilter.h"
 #include "tests/support/Modal.h"
+#include "tests/support/UrlTaker.h"
 #include "ui/panels/Curves.h"
 #include "ui/panels/Grain.h"
 #include "ui/panels/Mixer.h"
@@ -11,7 +12,6 @@
 #include "ui/panels/Vignette.h"
 
 #include <QComboBox>
-#include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
@@ -67,23 +67,6 @@ protected:
 
 private:
     std::function<void(QDialog &)> m_look;
-};
-
-/// Takes what would be opened in the browser.
-class Browser : public QObject
-{
-    Q_OBJECT
-
-public:
-    Browser() { QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "open"); }
-    Browser(const Browser &) = delete;
-    Browser &operator=(const Browser &) = delete;
-    ~Browser() override { QDesktopServices::unsetUrlHandler(QStringLiteral("https")); }
-
-    QList<QUrl> opened;
-
-public slots:
-    void open(const QUrl &url) { opened << url; }
 };
 
 class MainWindowActions : public WindowTest
@@ -321,9 +304,9 @@ TEST_F(MainWindowActions, QuitSaysGoodbyeAndClosesTheWindow)
 
 TEST_F(MainWindowActions, TheWebsiteOpensInTheBrowser)
 {
-    const Browser browser;
+    const UrlTaker browser(QStringLiteral("https"));
     trigger(window, "actionWebsite");
-    EXPECT_EQ(browser.opened, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
+    EXPECT_EQ(browser.taken, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
 }
 
 TEST_F(MainWindowActions, AboutTellsWhatTheProgramIsAndWhenItWasBuilt)
@@ -351,12 +334,10 @@ TEST_F(MainWindowActions, AboutTellsWhatTheProgramIsAndWhenItWasBuilt)
 TEST_F(MainWindowActions, AboutOpensTheWebsiteToo)
 {
     start();
-    const Browser browser;
+    const UrlTaker browser(QStringLiteral("https"));
     const AboutAnswer answer([](QDialog &about) { child<QPushButton>(about, "buttonWebsite").click(); });
     trigger(window, "actionAbout");
-    EXPECT_EQ(browser.opened, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
+    EXPECT_EQ(browser.taken, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
 }
 
 } // namespace
-
-#include "MainWindowActions_gui_test.moc"

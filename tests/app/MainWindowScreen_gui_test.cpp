@@ -6,11 +6,9 @@
 #include "tests/support/Screen.h"
 #include "ui/panels/Curves.h"
 
-#include <QApplication>
 #include <QFrame>
 #include <QSignalSpy>
 
-#include <algorithm>
 #include <utility>
 
 namespace
@@ -72,16 +70,6 @@ TEST_F(MainWindowScreen, ThePanelsReachTheEdgeOfTheirFrame)
     EXPECT_EQ(child<QFrame>(window, "container").contentsMargins(), QMargins());
     EXPECT_GE(child<QFrame>(window, "container").width(), 300);
     EXPECT_LE(child<QFrame>(window, "container").width(), 400);
-}
-
-TEST_F(MainWindowScreen, PreferencesAndHelpDoNothingYet)
-{
-    start();
-    trigger(window, "actionPreferences");
-    trigger(window, "actionHelp");
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    EXPECT_EQ(std::count_if(windows.begin(), windows.end(), [](const QWidget *each) { return each->isVisible(); }), 1);
-    EXPECT_EQ(status(), "");
 }
 
 TEST_F(MainWindowScreen, AnOpenedPictureIsOnTheScreen)

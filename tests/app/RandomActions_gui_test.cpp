@@ -55,8 +55,9 @@ protected:
             restart();
             break;
         case 3:
-            trigger(*player, qPrintable(oneOf({"actionZoomIn", "actionZoomOut", "actionFitOnWidth", "actionFitOnHeight",
-                                               "actionActualPixels", "actionAbout"})));
+            trigger(*player,
+                    qPrintable(oneOf({"actionZoomIn", "actionZoomOut", "actionFitOnWidth", "actionFitOnHeight",
+                                      "actionActualPixels", "actionAbout", "actionHelp", "actionPreferences"})));
             break;
         case 4:
             trigger(*player, qPrintable(oneOf({"actionMixer", "actionCurves", "actionSharpen", "actionVignette",

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "app/Preferences.h"
+
+#include "app/FileDealer.h"
+#include "app/MessageLog.h"
+#include "ui_Preferences.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QUrl>
+
+namespace
+{
+
+/// Shows a path from its beginning, however long it is.
+void showPath(QLineEdit *line, const QString &path)
+{
+    line->setText(QDir::toNativeSeparators(path));
+    line->setCursorPosition(0);
+}
+
+/// The folder that the file is in, or would be: the settings have none before the first picture. Then the nearest one
+/// above that is there.
+QString folderOf(const QString &file)
+{
+    QString folder = QFileInfo(file).absolutePath();
+    while (!QFileInfo::exists(folder)) {
+        folder = QFileInfo(folder).path();
+    }
+    return folder;
+}
+
+} // namespace
+
+Preferences::Preferences(FileDealer &dealer, QWidget *parent)
+    : QDialog(parent), m_dealer(dealer), m_form(std::make_unique<Ui::Preferences>())
+{
+    m_form->setupUi(this);
+    showRemembered();
+    showPlaces();
+}
+
+Preferences::~Preferences() = default;
+
+void Preferences::showRemembered()
+{
+    const QString directory = m_dealer.lastDirectory();
+    showPath(m_form->lineDirectory, directory);
+    m_form->buttonForgetDirectory->setEnabled(!directory.isEmpty());
+    const QStringList recent = m_dealer.recentImages();
+    m_form->listRecent->clear();
+    for (const QString &path : recent) {
+        // A picture from the Recent menu, opened before any dialog, is remembered without a path.
+        if (!path.isEmpty()) {
+            m_form->listRecent->addItem(QDir::toNativeSeparators(path));
+        }
+    }
+    m_form->buttonForgetRecent->setEnabled(!recent.isEmpty());
+}
+
+void Preferences::showPlaces()
+{
+    showPath(m_form->lineLog, message_log::path());
+    showPath(m_form->lineSettings, FileDealer::settingsFile());
+}
+
+void Preferences::on_buttonForgetDirectory_clicked()
+{
+    m_dealer.forgetDirectory();
+    showRemembered();
+}
+
+void Preferences::on_buttonForgetRecent_clicked()
+{
+    m_dealer.forgetRecent();
+    showRemembered();
+}
+
+void Preferences::on_buttonOpenLog_clicked()
+{
+    openFolderOf(message_log::path());
+}
+
+void Preferences::on_buttonOpenSettings_clicked()
+{
+    openFolderOf(FileDealer::settingsFile());
+}
+
+void Preferences::openFolderOf(const QString &file)
+{
+    const QString folder = folderOf(file);
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(folder))) {
+        return;
+    }
+    qWarning("No program opens the folder %s", qPrintable(folder));
+    QMessageBox box(QMessageBox::Information, windowTitle(),
+                    tr("No program was found that opens the folder %1.").arg(QDir::toNativeSeparators(folder)),
+                    QMessageBox::Ok, this);
+    // The name of a folder is no HTML, whatever its characters.
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}

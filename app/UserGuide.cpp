@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "app/UserGuide.h"
+
+#include "ui_UserGuide.h"
+
+#include <QEvent>
+#include <QFile>
+#include <QLocale>
+#include <QScreen>
+#include <QScrollBar>
+
+namespace
+{
+
+constexpr int pageMargin = 16;
+constexpr double screenShare = 0.9;
+
+} // namespace
+
+QUrl guideFor(const QLocale &locale)
+{
+    for (const QString &name : locale.uiLanguages()) {
+        const QString language = name.section(QLatin1Char('-'), 0, 0);
+        if (language == QLatin1String("en")) {
+            break;
+        }
+        const QString path = QStringLiteral("/Guide/Guide/guide_%1.html").arg(language);
+        if (QFile::exists(QLatin1Char(':') + path)) {
+            return QUrl(QStringLiteral("qrc:") + path);
+        }
+    }
+    return QUrl(QStringLiteral("qrc:/Guide/Guide/guide.html"));
+}
+
+UserGuide::UserGuide(QWidget *parent) : QDialog(parent, Qt::Window), m_form(std::make_unique<Ui::UserGuide>())
+{
+    m_form->setupUi(this);
+    fitOnScreen();
+    QTextBrowser *browser = m_form->browserGuide;
+    connect(m_form->buttonContents, &QPushButton::clicked, browser, &QTextBrowser::home);
+    connect(m_form->buttonBack, &QPushButton::clicked, browser, &QTextBrowser::backward);
+    connect(m_form->buttonForward, &QPushButton::clicked, browser, &QTextBrowser::forward);
+    connect(browser, &QTextBrowser::backwardAvailable, m_form->buttonBack, &QPushButton::setEnabled);
+    connect(browser, &QTextBrowser::forwardAvailable, m_form->buttonForward, &QPushButton::setEnabled);
+    browser->document()->setDocumentMargin(pageMargin);
+    browser->setSource(guideFor(QLocale()));
+    browser->setFocus();
+}
+
+UserGuide::~UserGuide() = default;
+
+void UserGuide::fitOnScreen()
+{
+    resize(size().boundedTo(screen()->availableSize() * screenShare));
+}
+
+void UserGuide::present()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void UserGuide::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        readAgain();
+    }
+}
+
+// A document keeps the colour that links had when it was read: dark on dark after a change to a dark palette.
+void UserGuide::readAgain()
+{
+    const int place = m_form->browserGuide->verticalScrollBar()->value();
+    m_form->browserGuide->reload();
+    m_form->browserGuide->verticalScrollBar()->setValue(place);
+}

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QUrl>
+
+namespace grisal::test
+{
+
+/// While it lives, takes what would be opened outside of the program: the addresses of one scheme.
+class UrlTaker : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit UrlTaker(const QString &scheme);
+    UrlTaker(const UrlTaker &) = delete;
+    UrlTaker &operator=(const UrlTaker &) = delete;
+    ~UrlTaker() override;
+
+    QList<QUrl> taken;
+
+public slots:
+    void take(const QUrl &url) { taken << url; }
+
+private:
+    QString m_scheme;
+};
+
+} // namespace grisal::test
