@@ -20,24 +20,53 @@ void GrainFilter::setWeights(const QVector<float> &values)
 
 void GrainFilter::setSigma(float sigma)
 {
+    m_sigmaChanged = m_sigmaChanged || !m_blurredNoise || sigma != m_sigma;
+    m_sigma = sigma;
+}
+
+void GrainFilter::forgetNoise()
+{
+    m_sigmaChanged = m_sigmaChanged || m_blurredNoise;
+    m_blur.reset();
+    m_blurredNoise.reset();
+}
+
+const GaussianBlurFilter *GrainFilter::blur()
+{
+    blurNoise();
+    return m_blur.get();
+}
+
+const RenderTarget *GrainFilter::blurredNoise()
+{
+    blurNoise();
+    return m_blurredNoise.get();
+}
+
+void GrainFilter::blurNoise()
+{
+    if (!m_sigmaChanged) {
+        return;
+    }
     glEnable(GL_TEXTURE_1D);
     glEnable(GL_TEXTURE_2D);
-    m_sigma = sigma;
     if (!m_blur) {
-        m_blur = std::make_unique<GaussianBlurFilter>(sigma, 64.0F, noiseMapSide, noiseMapSide, GL_RGB8, GL_RGB,
+        m_blur = std::make_unique<GaussianBlurFilter>(m_sigma, 64.0F, noiseMapSide, noiseMapSide, GL_RGB8, GL_RGB,
                                                       GL_UNSIGNED_BYTE);
     }
     if (!m_blurredNoise) {
         m_blurredNoise = std::make_unique<RenderTarget>(noiseMapSide, noiseMapSide, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     }
-    m_blur->sigma = sigma;
-    m_blur->radius = sigma;
+    m_blur->sigma = m_sigma;
+    m_blur->radius = m_sigma;
     m_blur->scale = 1.0F;
     m_blur->apply(m_noiseTexture.name(), m_blurredNoise->record());
+    m_sigmaChanged = false;
 }
 
 void GrainFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
 {
+    blurNoise();
     setUniform1f(m_program, "Width", static_cast<float>(width));
     setUniform1f(m_program, "Height", static_cast<float>(height));
     setUniform1f(m_program, "Sigma", m_sigma);

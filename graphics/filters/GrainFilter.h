@@ -29,18 +29,26 @@ public:
     /// current.
     void setWeights(const QVector<float> &values);
 
-    /// Blurs the noise with a radius of `sigma` pixels: the coarseness of the grain. Renders, so that the context must
-    /// be current.
+    /// Blurs the noise with a radius of `sigma` pixels: the coarseness of the grain. It is done when the noise is needed
+    /// for the first time; most pictures get no grain.
     void setSigma(float sigma);
+
+    /// The noise is blurred anew when it is needed: after a failure of the driver, nobody knows what it looks like.
+    void forgetNoise();
 
     float sigma() const { return m_sigma; }
     GLuint weightsTexture() const { return m_weightsTexture.name(); }
-    const GaussianBlurFilter *blur() const { return m_blur.get(); }
-    const RenderTarget *blurredNoise() const { return m_blurredNoise.get(); }
+    /// The filter that blurs the noise, and the noise, blurred; null before the first setSigma(). The context must be
+    /// current.
+    const GaussianBlurFilter *blur();
+    const RenderTarget *blurredNoise();
 
 private:
+    void blurNoise();
+
     ShaderProgram m_program;
     float m_sigma = 0;
+    bool m_sigmaChanged = false;
     Texture m_noiseTexture;
     Texture m_weightsTexture;
     std::unique_ptr<GaussianBlurFilter> m_blur;

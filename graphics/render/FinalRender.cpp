@@ -126,6 +126,9 @@ bool renderFinalPicture(const FinalPicture &picture, const FilterParameters &par
     filters.setParameters(parameters);
 
     const bool rendered = renderInPlace(picture, filters, view, horizontal, vertical, watch);
+    if (!rendered) {
+        filters.grain.forgetNoise();
+    }
     logValueRange(picture);
     return rendered;
 }

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/render/ValueRange.h"
 
+#include "graphics/image/Bands.h"
+
 #include <algorithm>
-#include <array>
 #include <cstdint>
-#include <limits>
+#include <mutex>
 
 namespace grisal::graphics
 {
@@ -12,31 +13,16 @@ namespace grisal::graphics
 namespace
 {
 
-/// Pixels that are looked at together. All their components are, since the processor compares many neighbours at once;
-/// those that do not count are left out at the end.
-constexpr std::size_t together = 16;
+using Range = std::pair<unsigned, unsigned>;
 
-template <typename T, std::size_t components>
-std::pair<unsigned, unsigned> rangeOf(const T *pixels, std::size_t count)
+constexpr std::size_t smallestBand = 500'000;
+
+template <typename T>
+Range rangeOf(const T *pixels, std::size_t count, std::size_t components)
 {
-    constexpr std::size_t lanes = together * components;
-    std::array<T, lanes> low;
-    std::array<T, lanes> high{};
-    low.fill(std::numeric_limits<T>::max());
-    const T *end = pixels + count / together * lanes;
-    for (; pixels != end; pixels += lanes) {
-        for (std::size_t i = 0; i < lanes; ++i) {
-            low[i] = std::min(low[i], pixels[i]);
-            high[i] = std::max(high[i], pixels[i]);
-        }
-    }
-    for (std::size_t i = 0; i < count % together * components; ++i) {
-        low[i] = std::min(low[i], pixels[i]);
-        high[i] = std::max(high[i], pixels[i]);
-    }
-    std::pair<unsigned, unsigned> range{low[0], high[0]};
-    for (std::size_t i = components; i < lanes; i += components) {
-        range = {std::min<unsigned>(range.first, low[i]), std::max<unsigned>(range.second, high[i])};
+    Range range{65535, 0};
+    for (std::size_t i = 0; i < count; ++i, pixels += components) {
+        range = {std::min<unsigned>(range.first, *pixels), std::max<unsigned>(range.second, *pixels)};
     }
     return range;
 }
@@ -44,15 +30,19 @@ std::pair<unsigned, unsigned> rangeOf(const T *pixels, std::size_t count)
 } // namespace
 
 template <typename T>
-std::pair<unsigned, unsigned> valueRange(const T *pixels, std::size_t count, std::size_t components)
+Range valueRange(const T *pixels, std::size_t count, std::size_t components)
 {
-    if (count == 0) {
-        return {65535, 0};
-    }
-    return components == 4 ? rangeOf<T, 4>(pixels, count) : rangeOf<T, 3>(pixels, count);
+    Range range{65535, 0};
+    std::mutex joining;
+    inBands(count, smallestBand, [&](std::size_t first, std::size_t end) {
+        const Range own = rangeOf(pixels + first * components, end - first, components);
+        const std::lock_guard lock(joining);
+        range = {std::min(range.first, own.first), std::max(range.second, own.second)};
+    });
+    return range;
 }
 
-template std::pair<unsigned, unsigned> valueRange(const std::uint8_t *, std::size_t, std::size_t);
-template std::pair<unsigned, unsigned> valueRange(const std::uint16_t *, std::size_t, std::size_t);
+template Range valueRange(const std::uint8_t *, std::size_t, std::size_t);
+template Range valueRange(const std::uint16_t *, std::size_t, std::size_t);
 
 } // namespace grisal::graphics

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+//
+// The program's start: its window with the placeholder, as app/main.cpp shows it. Ends with its first frame.
+#include "app/MainWindow.h"
+#include "app/Memory.h"
+#include "app/MessageLog.h"
+#include "graphics/gl/SurfaceFormat.h"
+#include "graphics/image/ImageLibrary.h"
+
+#include <QApplication>
+
+#include <cstdint>
+#include <cstdlib>
+#include <vector>
+
+int main(int argc, char **argv)
+{
+    memory::keepFreedBlocks();
+    grisal::graphics::initializeImageLibrary(argv[0]);
+    message_log::install();
+    grisal::graphics::setDefaultSurfaceFormat();
+    const QApplication application(argc, argv);
+    grisal::ui::MainWindow window;
+    QObject::connect(window.findChild<grisal::ui::GLWidget *>(), &QOpenGLWidget::frameSwapped, &window,
+                     [] { std::quick_exit(0); });
+    const std::vector<std::uint8_t> grey(std::size_t{300} * 200 * 3, 128);
+    window.show();
+    window.loadBuffer(grey.data(), 300, 200, false);
+    return QApplication::exec();
+}
