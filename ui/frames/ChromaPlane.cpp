@@ -63,6 +63,37 @@ Chroma chromaAt(const ChromaPlane &plane, QPointF marker)
             static_cast<float>(-(plane.height() * marker.y() + plane.vMin))};
 }
 
+double markerAfterStep(double place, double step)
+{
+    return std::clamp(place + step, std::min(place, 0.0), std::max(place, 1.0));
+}
+
+// Less than half a step of a channel is seen as grey.
+Hue hueOf(const Chroma &chroma)
+{
+    struct Corner {
+        Hue hue;
+        float u;
+        float v;
+    };
+    constexpr std::array<Corner, 6> corners{{{Hue::Red, -1, 2},
+                                             {Hue::Yellow, -2, 1},
+                                             {Hue::Green, -1, -1},
+                                             {Hue::Cyan, 1, -2},
+                                             {Hue::Blue, 2, -1},
+                                             {Hue::Magenta, 1, 1}}};
+    constexpr float visible = 0.5F;
+    if (std::max(std::abs(chroma.u), std::abs(chroma.v)) < visible) {
+        return Hue::Grey;
+    }
+    const auto along = [&chroma](const Corner &corner) {
+        return (chroma.u * corner.u + chroma.v * corner.v) / std::hypot(corner.u, corner.v);
+    };
+    return std::max_element(corners.begin(), corners.end(),
+                            [&along](const Corner &a, const Corner &b) { return along(a) < along(b); })
+        ->hue;
+}
+
 bool nearlyEqualWeights(float a, float b)
 {
     return std::abs(a - b) <= 0.00001F * std::min(std::abs(a), std::abs(b));

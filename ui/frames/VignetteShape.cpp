@@ -53,6 +53,16 @@ int wholePercent(double percent, int lowest, int highest)
     return percent < highest ? static_cast<int>(percent) : highest;
 }
 
+// 57 hundredths are a little less than 0.57.
+double placeAfterStep(double place, int percents)
+{
+    constexpr double percent = 100;
+    const double now = std::round(std::clamp(place, 0.0, 1.0) * percent);
+    const double wanted = std::clamp(now + percents, 0.0, percent);
+    const double moved = wanted / percent;
+    return moved * percent < wanted ? std::nextafter(moved, 1.0) : moved;
+}
+
 QSizeF vignetteReach(float radius)
 {
     const double reach = radius * 0.01 * (pictureWidth + pictureHeight) / 2;

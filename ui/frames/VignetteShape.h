@@ -19,6 +19,10 @@ float fractionAfterWheel(float fraction, int delta);
 /// A percentage cut to a whole number within lowest..highest; the lowest for what is no number.
 int wholePercent(double percent, int lowest, int highest);
 
+/// A place 0..1 moved by a number of percents to a whole one, but not beyond the edges. What lies beyond them counts as
+/// their own. Cut to percents as above, it gives the whole one.
+double placeAfterStep(double place, int percents);
+
 /// How far the radius of a vignette reaches in a picture of 3:2, as fractions of the picture's width and height.
 /// The radius is in percent.
 QSizeF vignetteReach(float radius);
