@@ -68,30 +68,26 @@ double markerAfterStep(double place, double step)
     return std::clamp(place + step, std::min(place, 0.0), std::max(place, 1.0));
 }
 
-// Less than half a step of a channel is seen as grey.
+// The level adds the same to all channels. Less than half a step of a channel is seen as grey.
 Hue hueOf(const Chroma &chroma)
 {
-    struct Corner {
-        Hue hue;
-        float u;
-        float v;
-    };
-    constexpr std::array<Corner, 6> corners{{{Hue::Red, -1, 2},
-                                             {Hue::Yellow, -2, 1},
-                                             {Hue::Green, -1, -1},
-                                             {Hue::Cyan, 1, -2},
-                                             {Hue::Blue, 2, -1},
-                                             {Hue::Magenta, 1, 1}}};
+    constexpr std::array<Hue, 6> circle{Hue::Red, Hue::Yellow, Hue::Green, Hue::Cyan, Hue::Blue, Hue::Magenta};
     constexpr float visible = 0.5F;
-    if (std::max(std::abs(chroma.u), std::abs(chroma.v)) < visible) {
+    const float red = chroma.v;
+    const float blue = chroma.u;
+    const float green = -red - blue;
+    if (std::max(std::abs(red), std::abs(blue)) < visible) {
         return Hue::Grey;
     }
-    const auto along = [&chroma](const Corner &corner) {
-        return (chroma.u * corner.u + chroma.v * corner.v) / std::hypot(corner.u, corner.v);
-    };
-    return std::max_element(corners.begin(), corners.end(),
-                            [&along](const Corner &a, const Corner &b) { return along(a) < along(b); })
-        ->hue;
+    const float highest = std::max({red, green, blue});
+    const float range = highest - std::min({red, green, blue});
+    float place = 4 + (red - green) / range;
+    if (highest == red) {
+        place = 6 + (green - blue) / range;
+    } else if (highest == green) {
+        place = 2 + (blue - red) / range;
+    }
+    return circle[static_cast<std::size_t>(std::lround(place)) % circle.size()];
 }
 
 bool nearlyEqualWeights(float a, float b)

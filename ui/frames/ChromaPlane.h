@@ -41,7 +41,7 @@ Chroma chromaAt(const ChromaPlane &plane, QPointF marker);
 /// From beyond, it leads back only.
 double markerAfterStep(double place, double step);
 
-/// The corner of the colours 0..255 that a chroma points at.
+/// The nearest of the six full colours by its place on the circle of hues.
 enum class Hue { Grey, Red, Yellow, Green, Cyan, Blue, Magenta };
 Hue hueOf(const Chroma &chroma);
 

@@ -107,13 +107,11 @@ void VFrame::turnWheel(int delta, bool strength)
     }
 }
 
-// A place that an arrow does not touch keeps its fraction.
 void VFrame::keyPressEvent(QKeyEvent *event)
 {
     const QPoint arrow = arrowOf(*event);
     if (!arrow.isNull()) {
-        choose(arrow.x() == 0 ? m_posX : placeAfterStep(m_posX, arrow.x()),
-               arrow.y() == 0 ? m_posY : placeAfterStep(m_posY, arrow.y()));
+        choose(fractionAfterStep(m_posX, arrow.x()), fractionAfterStep(m_posY, arrow.y()));
     } else if (const int turn = wheelTurnOf(*event); turn != 0) {
         turnWheel(turn, event->modifiers().testFlag(Qt::ControlModifier));
     } else {
@@ -131,12 +129,11 @@ void VFrame::showChange()
 
 QString VFrame::spokenValue() const
 {
-    constexpr double percent = 100;
     return tr("Centre %1 % from the left and %2 % from the top, radius %3 %, strength %4 %")
-        .arg(std::lround(m_posX * percent))
-        .arg(std::lround(m_posY * percent))
-        .arg(std::lround(m_radius * percent))
-        .arg(std::lround(m_strength * percent));
+        .arg(shownPercent(m_posX))
+        .arg(shownPercent(m_posY))
+        .arg(shownPercent(m_radius))
+        .arg(shownPercent(m_strength));
 }
 
 // A centre beyond the edge is shown at the edge: that is where the picture gets it.

@@ -11,6 +11,7 @@ namespace
 
 constexpr float pictureWidth = 3;
 constexpr float pictureHeight = 2;
+constexpr double hundred = 100;
 
 /// The picture's grey: light enough to leave room for the darkening, dark enough for its overlay to bite.
 constexpr int grey = 160;
@@ -53,14 +54,21 @@ int wholePercent(double percent, int lowest, int highest)
     return percent < highest ? static_cast<int>(percent) : highest;
 }
 
-// 57 hundredths are a little less than 0.57.
-double placeAfterStep(double place, int percents)
+int shownPercent(double fraction)
 {
-    constexpr double percent = 100;
-    const double now = std::round(std::clamp(place, 0.0, 1.0) * percent);
-    const double wanted = std::clamp(now + percents, 0.0, percent);
-    const double moved = wanted / percent;
-    return moved * percent < wanted ? std::nextafter(moved, 1.0) : moved;
+    constexpr double singlePrecision = 1e-4;
+    return wholePercent(fraction * hundred + singlePrecision, 0, static_cast<int>(hundred));
+}
+
+double fractionAfterStep(double fraction, int percents)
+{
+    const int shown = shownPercent(fraction);
+    if (percents == 0 && (fraction * hundred >= shown || fraction < 0)) {
+        return fraction;
+    }
+    const int wanted = std::clamp(shown + percents, 0, static_cast<int>(hundred));
+    const double moved = wanted / hundred;
+    return moved * hundred < wanted ? std::nextafter(moved, 1.0) : moved;
 }
 
 QSizeF vignetteReach(float radius)
