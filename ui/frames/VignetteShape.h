@@ -23,8 +23,8 @@ int wholePercent(double percent, int lowest, int highest);
 /// little too small: 0.57 are 57. A fraction beyond 0..1 counts as the nearest within.
 int shownPercent(double fraction);
 
-/// A fraction 0..1 moved by a number of whole percents, from the ones that it shows and within 0..1. None of them leaves
-/// it. Cut as above, it gives the percents that it shows.
+/// A fraction 0..1 moved by a number of whole percents, from the ones that it shows and within 0..1. None of them
+/// leaves it. Cut as above, it gives the percents that it shows.
 double fractionAfterStep(double place, int percents);
 
 /// How far the radius of a vignette reaches in a picture of 3:2, as fractions of the picture's width and height.
