@@ -16,7 +16,7 @@ public:
     QString text(QAccessible::Text kind) const override
     {
         const auto *spoken = dynamic_cast<const Spoken *>(object());
-        const QString text = QAccessibleWidget::text(kind);
+        QString text = QAccessibleWidget::text(kind);
         if (spoken == nullptr) {
             return text;
         }

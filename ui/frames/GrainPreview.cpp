@@ -73,7 +73,7 @@ void GrainPreview::slotAdjustWeights(const QVector<float> &weights)
 
 QString GrainPreview::spokenValue() const
 {
-    const QString blur = tr("Blurred by %1 pixels").arg(m_radius, 0, 'f', 1);
+    QString blur = tr("Blurred by %1 pixels").arg(m_radius, 0, 'f', 1);
     if (m_fulcrums.isEmpty()) {
         return blur;
     }
