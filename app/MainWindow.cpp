@@ -69,13 +69,18 @@ void MainWindow::setUpToolBar()
     m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     m_toolBar->setIconSize(QSize(toolBarIconSide, toolBarIconSide));
     m_toolBar->setAllowedAreas(Qt::LeftToolBarArea);
+    m_toolBar->setAccessibleName(tr("Filters"));
+    const auto addButton = [this](QAction *action) {
+        m_toolBar->addAction(action);
+        m_toolBar->widgetForAction(action)->setAccessibleDescription(action->statusTip());
+    };
     m_toolBar->addWidget(newGap());
-    m_toolBar->addAction(m_form->actionMixer);
+    addButton(m_form->actionMixer);
     m_toolBar->addWidget(newGap());
     for (QAction *action : {m_form->actionCurves, m_form->actionSharpen, m_form->actionVignette, m_form->actionGrain,
                             m_form->actionSplitTone}) {
         m_toolBar->addSeparator();
-        m_toolBar->addAction(action);
+        addButton(action);
     }
     m_toolBar->addSeparator();
     m_toolBar->addWidget(newStretch());

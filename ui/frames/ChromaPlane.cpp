@@ -63,6 +63,33 @@ Chroma chromaAt(const ChromaPlane &plane, QPointF marker)
             static_cast<float>(-(plane.height() * marker.y() + plane.vMin))};
 }
 
+double markerAfterStep(double place, double step)
+{
+    return std::clamp(place + step, std::min(place, 0.0), std::max(place, 1.0));
+}
+
+// The level adds the same to all channels. Less than half a step of a channel is seen as grey.
+Hue hueOf(const Chroma &chroma)
+{
+    constexpr std::array<Hue, 6> circle{Hue::Red, Hue::Yellow, Hue::Green, Hue::Cyan, Hue::Blue, Hue::Magenta};
+    constexpr float visible = 0.5F;
+    const float red = chroma.v;
+    const float blue = chroma.u;
+    const float green = -red - blue;
+    if (std::max(std::abs(red), std::abs(blue)) < visible) {
+        return Hue::Grey;
+    }
+    const float highest = std::max({red, green, blue});
+    const float range = highest - std::min({red, green, blue});
+    float place = 4 + (red - green) / range;
+    if (highest == red) {
+        place = 6 + (green - blue) / range;
+    } else if (highest == green) {
+        place = 2 + (blue - red) / range;
+    }
+    return circle[static_cast<std::size_t>(std::lround(place)) % circle.size()];
+}
+
 bool nearlyEqualWeights(float a, float b)
 {
     return std::abs(a - b) <= 0.00001F * std::min(std::abs(a), std::abs(b));

@@ -37,6 +37,14 @@ QPointF markerAt(const ChromaPlane &plane, const Chroma &chroma);
 /// The chroma at a fraction of the plane, which may lie outside of 0..1.
 Chroma chromaAt(const ChromaPlane &plane, QPointF marker);
 
+/// One coordinate of the marker after a step of the keyboard, which leads to an edge of the plane but not beyond it.
+/// From beyond, it leads back only.
+double markerAfterStep(double place, double step);
+
+/// The nearest of the six full colours by its place on the circle of hues.
+enum class Hue { Grey, Red, Yellow, Green, Cyan, Blue, Magenta };
+Hue hueOf(const Chroma &chroma);
+
 /// Whether two values differ by no more than 0.00001 of the smaller one's size: 0 is equal to nothing but 0.
 bool nearlyEqualWeights(float a, float b);
 

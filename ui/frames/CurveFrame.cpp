@@ -6,6 +6,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <cmath>
 
 namespace
 {
@@ -25,7 +26,7 @@ const QColor selectedColour(214, 110, 0);
 CurveFrame::CurveFrame(QWidget *parent) : QFrame(parent), m_histogram(bins, initialBin), m_samples(bins, initialBin)
 {
     setFrameStyle(QFrame::Box | QFrame::Plain);
-    setFocusPolicy(Qt::ClickFocus);
+    setFocusPolicy(Qt::StrongFocus);
     QSizePolicy square(QSizePolicy::Preferred, QSizePolicy::Preferred);
     square.setHeightForWidth(true);
     setSizePolicy(square);
@@ -44,7 +45,7 @@ void CurveFrame::setPoints(QVector<float> xs, const QVector<float> &ys)
         m_points.ys.resize(xs.size());
     }
     m_selected = -1;
-    update();
+    showChange();
 }
 
 QVector<float> CurveFrame::curve(int count) const
@@ -86,13 +87,13 @@ void CurveFrame::slotSetActiveTo(float x, float y)
     }
     movePoint(m_points, m_selected, x, y);
     emitMoved();
-    update();
+    showChange();
 }
 
 void CurveFrame::slotSetInactive()
 {
     m_selected = -1;
-    update();
+    showChange();
 }
 
 void CurveFrame::deleteSelected()
@@ -104,7 +105,7 @@ void CurveFrame::deleteSelected()
     // A drag of the point ends with it.
     m_pressed = false;
     emitMoved();
-    update();
+    showChange();
 }
 
 void CurveFrame::emitMoved()
@@ -112,6 +113,25 @@ void CurveFrame::emitMoved()
     if (m_selected >= 0) {
         emit signalMoved(m_points.xs[m_selected], m_points.ys[m_selected]);
     }
+}
+
+void CurveFrame::showChange()
+{
+    update();
+    sayValue();
+}
+
+QString CurveFrame::spokenValue() const
+{
+    if (m_selected < 0) {
+        return tr("Points: %1, none taken").arg(m_points.count());
+    }
+    constexpr float percent = 100;
+    return tr("Point %1 of %2: %3 % from the left, %4 % from the bottom")
+        .arg(m_selected + 1)
+        .arg(m_points.count())
+        .arg(std::lround(m_points.xs[m_selected] * percent))
+        .arg(std::lround((1 - m_points.ys[m_selected]) * percent));
 }
 
 QPointF CurveFrame::placeOf(const QMouseEvent &event) const
@@ -141,7 +161,7 @@ void CurveFrame::mousePressEvent(QMouseEvent *event)
     }
     m_selected = taken;
     emit signalPressed();
-    update();
+    showChange();
 }
 
 void CurveFrame::mouseMoveEvent(QMouseEvent *event)
@@ -155,7 +175,7 @@ void CurveFrame::mouseMoveEvent(QMouseEvent *event)
     }
     const QPointF place = placeOf(*event);
     movePoint(m_points, m_selected, static_cast<float>(place.x()), static_cast<float>(std::clamp(place.y(), 0.0, 1.0)));
-    update();
+    showChange();
 }
 
 void CurveFrame::mouseReleaseEvent(QMouseEvent *event)
@@ -186,6 +206,7 @@ void CurveFrame::paintEvent(QPaintEvent *)
     drawHistogram(painter, m_histogram);
     drawCurve(painter);
     drawPoints(painter);
+    m_focusMark.draw(painter, contentsRect());
 }
 
 void CurveFrame::drawBackground(QPainter &painter) const

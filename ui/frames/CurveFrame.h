@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/accessible/FocusMark.h"
+#include "ui/accessible/Spoken.h"
 #include "ui/frames/CurvePoints.h"
 
 #include <QFrame>
@@ -8,7 +10,10 @@
 
 /// An editor of a curve in the unit square, over a tone histogram. A press takes the point in whose column it falls, or
 /// adds one; a drag moves it. The curve has changed, signalMoved(), once the button is released.
-class CurveFrame : public QFrame
+///
+/// Page Up and Page Down take the point to the left and to the right, the arrow keys move it, Insert adds one between
+/// it and its right neighbour. A key is a press of the mouse and its release in one.
+class CurveFrame : public QFrame, public Spoken
 {
     Q_OBJECT
 
@@ -44,6 +49,9 @@ public:
     /// Index of the selected point, -1 for none.
     int selected() const { return m_selected; }
 
+    QAccessible::Role spokenRole() const override { return QAccessible::Canvas; }
+    QString spokenValue() const override;
+
     /// As high as wide, where there is room.
     int heightForWidth(int width) const override { return width; }
 
@@ -63,6 +71,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
     void drawHistogram(QPainter &painter, const QVector<float> &histogram) const;
@@ -72,6 +81,11 @@ private:
     QPointF placeOf(const QMouseEvent &event) const;
     QPointF onFrame(double x, double y) const;
     void emitMoved();
+    void showChange();
+    bool edit(const QKeyEvent &event);
+    void take(int index);
+    void step(QPoint arrow);
+    void addBehindSelected();
     void drawBackground(QPainter &painter) const;
     void drawCurve(QPainter &painter) const;
     void drawPoints(QPainter &painter) const;
@@ -82,4 +96,5 @@ private:
     int m_selected = -1;
     bool m_pressed = false;
     interpolationType m_interpolation = BSpline;
+    FocusMark m_focusMark{this};
 };

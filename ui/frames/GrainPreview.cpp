@@ -52,6 +52,7 @@ void GrainPreview::slotSetRadius(float radius)
     }
     slotAdjustWeights(m_fulcrums);
     update();
+    sayValue();
 }
 
 void GrainPreview::slotAdjustWeights(const QVector<float> &weights)
@@ -67,6 +68,21 @@ void GrainPreview::slotAdjustWeights(const QVector<float> &weights)
     }
     applyWeights();
     update();
+    sayValue();
+}
+
+QString GrainPreview::spokenValue() const
+{
+    QString blur = tr("Blurred by %1 pixels").arg(m_radius, 0, 'f', 1);
+    if (m_fulcrums.isEmpty()) {
+        return blur;
+    }
+    const auto percent = [this](qsizetype grey) { return std::lround(std::clamp(m_fulcrums[grey], 0.0F, 1.0F) * 100); };
+    return tr("%1, %2 % strong in the blacks, %3 % in the middle greys, %4 % in the whites")
+        .arg(blur)
+        .arg(percent(0))
+        .arg(percent(m_fulcrums.size() / 2))
+        .arg(percent(m_fulcrums.size() - 1));
 }
 
 void GrainPreview::applyWeights()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/accessible/Spoken.h"
+
 #include <QFrame>
 #include <QImage>
 #include <QVector>
@@ -8,7 +10,7 @@
 /// The strip under the grain curve: a ramp from black to white with the film grain over it, as strong at each grey as
 /// the curve says. The grain comes from tiles that were made beforehand, one for each half pixel of blur radius; they
 /// are 400 x 60 pixels, so that the strip has to be narrower than 400.
-class GrainPreview : public QFrame
+class GrainPreview : public QFrame, public Spoken
 {
     Q_OBJECT
     Q_PROPERTY(float radius READ radius WRITE slotSetRadius)
@@ -19,6 +21,9 @@ public:
 
     float radius() const { return m_radius; }
     const QVector<float> &fulcrums() const { return m_fulcrums; }
+
+    QAccessible::Role spokenRole() const override { return QAccessible::Graphic; }
+    QString spokenValue() const override;
 
     /// The grain: its colours are those of the tiles, its opacity is the strength of the grain.
     const QImage &map() const { return m_map; }

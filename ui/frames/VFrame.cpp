@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/frames/VFrame.h"
 
+#include "ui/accessible/Keys.h"
 #include "ui/frames/VignetteShape.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -21,13 +23,13 @@ VFrame::VFrame(QWidget *parent) : QFrame(parent)
 void VFrame::slotSetX(float x)
 {
     m_posX = x;
-    update();
+    showChange();
 }
 
 void VFrame::slotSetY(float y)
 {
     m_posY = y;
-    update();
+    showChange();
 }
 
 void VFrame::slotSetRadius(float radius)
@@ -37,7 +39,7 @@ void VFrame::slotSetRadius(float radius)
     }
     m_radius = radius;
     emit signalRadius(m_radius);
-    update();
+    showChange();
 }
 
 void VFrame::slotSetStrength(float strength)
@@ -47,7 +49,7 @@ void VFrame::slotSetStrength(float strength)
     }
     m_strength = strength;
     emit signalStrength(m_strength);
-    update();
+    showChange();
 }
 
 void VFrame::mousePressEvent(QMouseEvent *event)
@@ -80,20 +82,58 @@ void VFrame::pick(const QMouseEvent *event)
     if (size.isEmpty()) {
         return;
     }
-    m_posX = event->position().x() / size.width();
-    m_posY = event->position().y() / size.height();
+    choose(event->position().x() / size.width(), event->position().y() / size.height());
+}
+
+void VFrame::choose(double x, double y)
+{
+    m_posX = x;
+    m_posY = y;
     emit signalPosition({m_posX, m_posY});
-    update();
+    showChange();
 }
 
 void VFrame::wheelEvent(QWheelEvent *event)
 {
-    const int delta = event->angleDelta().y();
-    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+    turnWheel(event->angleDelta().y(), event->modifiers().testFlag(Qt::ControlModifier));
+}
+
+void VFrame::turnWheel(int delta, bool strength)
+{
+    if (strength) {
         slotSetStrength(fractionAfterWheel(m_strength, delta));
     } else {
         slotSetRadius(fractionAfterWheel(m_radius, delta));
     }
+}
+
+void VFrame::keyPressEvent(QKeyEvent *event)
+{
+    const QPoint arrow = arrowOf(*event);
+    if (!arrow.isNull()) {
+        choose(fractionAfterStep(m_posX, arrow.x()), fractionAfterStep(m_posY, arrow.y()));
+    } else if (const int turn = wheelTurnOf(*event); turn != 0) {
+        turnWheel(turn, event->modifiers().testFlag(Qt::ControlModifier));
+    } else {
+        QFrame::keyPressEvent(event);
+        return;
+    }
+    m_focusMark.useKey();
+}
+
+void VFrame::showChange()
+{
+    update();
+    sayValue();
+}
+
+QString VFrame::spokenValue() const
+{
+    return tr("Centre %1 % from the left and %2 % from the top, radius %3 %, strength %4 %")
+        .arg(shownPercent(m_posX))
+        .arg(shownPercent(m_posY))
+        .arg(shownPercent(m_radius))
+        .arg(shownPercent(m_strength));
 }
 
 // A centre beyond the edge is shown at the edge: that is where the picture gets it.
@@ -117,9 +157,6 @@ QPainterPath VFrame::marks() const
     QPainterPath path;
     path.addEllipse(centre, contents.width() * reach.width(), contents.height() * reach.height());
     path.addRect(QRectF(centre, centre).adjusted(-centreMark, -centreMark, centreMark, centreMark));
-    if (hasFocus()) {
-        path.addRect(contents.adjusted(1.5, 1.5, -1.5, -1.5));
-    }
     return path;
 }
 
@@ -144,4 +181,5 @@ void VFrame::paintEvent(QPaintEvent *)
     painter.fillPath(rim.createStroke(path), QColor(255, 255, 255, 200));
     painter.setPen(QPen(Qt::black, 1));
     painter.drawPath(path);
+    m_focusMark.draw(painter, contents);
 }

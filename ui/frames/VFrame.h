@@ -2,16 +2,18 @@
 #pragma once
 
 #include "graphics/filters/VignetteParameters.h"
+#include "ui/accessible/FocusMark.h"
+#include "ui/accessible/Spoken.h"
 
 #include <QFrame>
 
 /// The vignette at a glance: a grey picture of 3:2 under the vignette, with marks at its centre and at its radius. A
 /// press or a drag moves the centre, also beyond the frame's edge; the mouse wheel changes the radius, with the Control
-/// key the strength.
+/// key the strength. The arrow keys and Page Up and Page Down do the same.
 ///
 /// All values are fractions: the centre of the contents' width and height, from the top left corner; radius and
 /// strength of their fullest, 0..1.
-class VFrame : public QFrame
+class VFrame : public QFrame, public Spoken
 {
     Q_OBJECT
 
@@ -23,11 +25,14 @@ public:
     float radius() const { return m_radius; }
     float strength() const { return m_strength; }
 
+    QAccessible::Role spokenRole() const override { return QAccessible::Canvas; }
+    QString spokenValue() const override;
+
     /// 3:2, where there is room.
     int heightForWidth(int width) const override { return width * 2 / 3; }
 
 signals:
-    /// The centre that the mouse chose, below 0 or above 1 beyond the edge.
+    /// The centre that the user chose, below 0 or above 1 beyond the edge.
     void signalPosition(QPointF position);
     void signalRadius(float radius);
     void signalStrength(float strength);
@@ -46,10 +51,14 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
     void pick(const QMouseEvent *event);
+    void choose(double x, double y);
+    void turnWheel(int delta, bool strength);
+    void showChange();
     grisal::graphics::VignetteParameters shownVignette() const;
     QPainterPath marks() const;
 
@@ -58,4 +67,5 @@ private:
     double m_posY = 0.5;
     float m_radius = 0.5F;
     float m_strength = 0.5F;
+    FocusMark m_focusMark{this};
 };

@@ -11,6 +11,7 @@ namespace
 
 constexpr float pictureWidth = 3;
 constexpr float pictureHeight = 2;
+constexpr double hundred = 100;
 
 /// The picture's grey: light enough to leave room for the darkening, dark enough for its overlay to bite.
 constexpr int grey = 160;
@@ -51,6 +52,23 @@ int wholePercent(double percent, int lowest, int highest)
         return lowest;
     }
     return percent < highest ? static_cast<int>(percent) : highest;
+}
+
+int shownPercent(double fraction)
+{
+    constexpr double singlePrecision = 1e-4;
+    return wholePercent(fraction * hundred + singlePrecision, 0, static_cast<int>(hundred));
+}
+
+double fractionAfterStep(double fraction, int percents)
+{
+    const int shown = shownPercent(fraction);
+    if (percents == 0 && (fraction * hundred >= shown || fraction < 0)) {
+        return fraction;
+    }
+    const int wanted = std::clamp(shown + percents, 0, static_cast<int>(hundred));
+    const double moved = wanted / hundred;
+    return moved * hundred < wanted ? std::nextafter(moved, 1.0) : moved;
 }
 
 QSizeF vignetteReach(float radius)

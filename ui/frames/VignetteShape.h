@@ -19,6 +19,14 @@ float fractionAfterWheel(float fraction, int delta);
 /// A percentage cut to a whole number within lowest..highest; the lowest for what is no number.
 int wholePercent(double percent, int lowest, int highest);
 
+/// The percents of a fraction, cut to a whole number as above, but for fractions that only single precision has made a
+/// little too small: 0.57 are 57. A fraction beyond 0..1 counts as the nearest within.
+int shownPercent(double fraction);
+
+/// A fraction 0..1 moved by a number of whole percents, from the ones that it shows and within 0..1. None of them
+/// leaves it. Cut as above, it gives the percents that it shows.
+double fractionAfterStep(double place, int percents);
+
 /// How far the radius of a vignette reaches in a picture of 3:2, as fractions of the picture's width and height.
 /// The radius is in percent.
 QSizeF vignetteReach(float radius);

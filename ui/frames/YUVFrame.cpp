@@ -2,11 +2,14 @@
 #include "ui/frames/YUVFrame.h"
 
 #include "math/OpponentColour.h"
+#include "ui/accessible/Keys.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include <array>
+#include <cmath>
 
 YUVFrame::YUVFrame(QWidget *parent) : QFrame(parent)
 {
@@ -43,6 +46,7 @@ void YUVFrame::slotSetRGB(grisal::graphics::ColorRGB<float> weights)
     m_marker = markerAt(m_plane, m_chroma);
     rebuildWheelImage();
     update();
+    sayValue();
 }
 
 void YUVFrame::slotSetLuma(float luma)
@@ -50,6 +54,7 @@ void YUVFrame::slotSetLuma(float luma)
     m_luma = grisal::math::clampedWeight(luma);
     rebuildWheelImage();
     update();
+    sayValue();
 }
 
 void YUVFrame::mousePressEvent(QMouseEvent *event)
@@ -79,16 +84,75 @@ void YUVFrame::pick(const QMouseEvent *event)
         qWarning("Invalid mouse event");
         return;
     }
-    m_marker = {event->position().x() / rect().width(), event->position().y() / rect().height()};
+    choose({event->position().x() / rect().width(), event->position().y() / rect().height()});
+}
+
+void YUVFrame::choose(QPointF marker)
+{
+    m_marker = marker;
     emitWeights();
+    sayValue();
 }
 
 void YUVFrame::wheelEvent(QWheelEvent *event)
 {
-    m_luma = lumaAfterWheel(m_luma, event->angleDelta().y());
+    turnWheel(event->angleDelta().y());
+}
+
+void YUVFrame::turnWheel(int delta)
+{
+    m_luma = lumaAfterWheel(m_luma, delta);
     rebuildWheelImage();
     update();
     emitWeights();
+    sayValue();
+}
+
+void YUVFrame::keyPressEvent(QKeyEvent *event)
+{
+    constexpr double step = 0.01;
+    const QPoint arrow = arrowOf(*event);
+    const int turn = isPlain(*event) ? wheelTurnOf(*event) : 0;
+    if (!arrow.isNull()) {
+        choose({markerAfterStep(m_marker.x(), arrow.x() * step), markerAfterStep(m_marker.y(), arrow.y() * step)});
+    } else if (turn != 0) {
+        turnWheel(turn);
+    } else {
+        QFrame::keyPressEvent(event);
+        return;
+    }
+    m_focusMark.useKey();
+}
+
+QString YUVFrame::hueName() const
+{
+    switch (hueOf(m_chroma)) {
+    case Hue::Red:
+        return tr("Red");
+    case Hue::Yellow:
+        return tr("Yellow");
+    case Hue::Green:
+        return tr("Green");
+    case Hue::Cyan:
+        return tr("Cyan");
+    case Hue::Blue:
+        return tr("Blue");
+    case Hue::Magenta:
+        return tr("Magenta");
+    default:
+        return tr("Grey");
+    }
+}
+
+QString YUVFrame::spokenValue() const
+{
+    const grisal::math::ChannelWeights weights = grisal::math::weightsAt(m_luma, m_chroma.u, m_chroma.v);
+    return tr("%1, level %2: red %3, green %4, blue %5")
+        .arg(hueName())
+        .arg(std::lround(m_luma))
+        .arg(std::lround(weights.r))
+        .arg(std::lround(weights.g))
+        .arg(std::lround(weights.b));
 }
 
 void YUVFrame::resizeEvent(QResizeEvent *)
@@ -115,6 +179,7 @@ void YUVFrame::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(contentsRect(), Qt::ReplaceClip);
     drawWheel(&painter);
+    m_focusMark.draw(painter, contentsRect());
 }
 
 void YUVFrame::drawWheel(QPainter *painter)

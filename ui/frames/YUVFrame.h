@@ -2,15 +2,18 @@
 #pragma once
 
 #include "graphics/filters/ColorRGB.h"
+#include "ui/accessible/FocusMark.h"
+#include "ui/accessible/Spoken.h"
 #include "ui/frames/ChromaPlane.h"
 
 #include <QFrame>
 
 /// The colour wheel: a square of colours of one level (luma), with a marker at the chosen one. A press or a drag
-/// chooses, also beyond the square's edge; the mouse wheel raises and lowers the level.
+/// chooses, also beyond the square's edge; the mouse wheel raises and lowers the level. The arrow keys and Page Up and
+/// Page Down do the same.
 ///
 /// Colours are weights on the scale 0..255, of which they may leave both ends up to -512 and 512.
-class YUVFrame : public QFrame
+class YUVFrame : public QFrame, public Spoken
 {
     Q_OBJECT
 
@@ -33,6 +36,9 @@ public:
 
     const QImage &wheelImage() const { return m_wheelImage; }
 
+    QAccessible::Role spokenRole() const override { return QAccessible::ColorChooser; }
+    QString spokenValue() const override;
+
     /// As high as wide, where there is room.
     int heightForWidth(int width) const override { return width; }
 
@@ -52,6 +58,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
@@ -60,7 +67,10 @@ protected:
 
 private:
     void pick(const QMouseEvent *event);
+    void choose(QPointF marker);
+    void turnWheel(int delta);
     void emitWeights();
+    QString hueName() const;
     void rebuildWheelImage();
     void drawHexagon(QPainter &painter, int saturation) const;
     void drawAxes(QPainter &painter) const;
@@ -75,4 +85,5 @@ private:
     float m_luma = 255.0F;
     Chroma m_chroma;
     ChromaPlane m_plane;
+    FocusMark m_focusMark{this};
 };

@@ -159,6 +159,7 @@ void GLWidget::showPicture(const graphics::PreviewPixels &pixels)
     m_previewHeight = pixels.height;
     m_stage.load(pixels, m_formats, static_cast<float>(size.width()), static_cast<float>(size.height()));
     m_dirty = true;
+    m_bypass = false;
     slotFitTo(m_previewWidth <= m_previewHeight ? FitLarger : FitSmaller);
 }
 
@@ -201,10 +202,15 @@ void GLWidget::paintGL()
     bindScreen();
     glClearColor(0, 0, 0, 0);
     glClear(GL_COLOR_BUFFER_BIT);
-    graphics::Preview *preview = m_stage.preview();
-    if (preview == nullptr) {
-        return;
+    if (m_stage.preview() != nullptr) {
+        paintPreview();
     }
+    paintFocusMark();
+}
+
+void GLWidget::paintPreview()
+{
+    graphics::Preview *preview = m_stage.preview();
     glEnable(GL_TEXTURE_2D);
     fitViewToWidget();
     if (m_dirty) {
@@ -215,6 +221,23 @@ void GLWidget::paintGL()
     preview->view().setup();
     drawPreview(preview->output());
     glDisable(GL_TEXTURE_2D);
+}
+
+// By clearing, which needs neither the view nor a painter, whose traces would be in the next paint's way. The mark is
+// the same from above and from below.
+void GLWidget::paintFocusMark() const
+{
+    if (!m_focusMark.isSeen()) {
+        return;
+    }
+    glEnable(GL_SCISSOR_TEST);
+    for (const FocusMarkLine &line : focusMarkLines(QRect(QPoint(), pixelSize()), qRound(devicePixelRatioF()))) {
+        const float grey = line.dark ? 0 : 1;
+        glScissor(line.place.x(), line.place.y(), line.place.width(), line.place.height());
+        glClearColor(grey, grey, grey, 1);
+        glClear(GL_COLOR_BUFFER_BIT);
+    }
+    glDisable(GL_SCISSOR_TEST);
 }
 
 void GLWidget::bindScreen()

@@ -5,6 +5,8 @@
 #include "graphics/gl/GL.h"
 
 #include "graphics/render/PreviewStage.h"
+#include "ui/accessible/FocusMark.h"
+#include "ui/accessible/Spoken.h"
 #include "ui/preview/ZoomFit.h"
 
 #include <QOpenGLWidget>
@@ -24,10 +26,13 @@ namespace grisal::ui
 
 /// Shows a picture through the filters, with zoom and pan, and renders it at full size on request.
 ///
+/// The mouse pans, zooms, fits and, held still, shows the picture as it was before the filters. So does the keyboard,
+/// with the arrow keys, plus and minus, and the space bar held.
+///
 /// Owns the GL context, the filters and everything that is rendered into. All lengths are device pixels: a scale of 1
 /// is one pixel of the preview per pixel of the screen. Without a GL context (not shown yet, or a machine that gives
 /// none) nothing is drawn, a loaded picture waits for the context, and renderFinal() reports failure.
-class GLWidget : public QOpenGLWidget
+class GLWidget : public QOpenGLWidget, public Spoken
 {
     Q_OBJECT
 
@@ -76,6 +81,9 @@ public:
     QString graphicsProblem() const;
 
     const graphics::FilterParameters &parameters() const { return m_stage.parameters(); }
+    QAccessible::Role spokenRole() const override { return QAccessible::Canvas; }
+    QString spokenValue() const override;
+
     int previewWidth() const { return m_previewWidth; }
     int previewHeight() const { return m_previewHeight; }
     enumFitTo fitMode() const { return m_fitMode; }
@@ -103,6 +111,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private slots:
     void singleClick();
@@ -115,7 +126,11 @@ private:
     void showPicture(const graphics::PreviewPixels &pixels);
     void bindScreen();
     void drawPreview(GLuint texture) const;
+    void paintPreview();
+    void paintFocusMark() const;
     void setBypass(bool bypass);
+    void pan(QPointF pixels);
+    bool useKey(const QKeyEvent &event);
     void fitViewToWidget();
     void showCentred(float scale);
     FitRatios ratios() const;
@@ -130,11 +145,13 @@ private:
     bool m_dirty = false;
     bool m_started = false;
     bool m_pressed = false;
+    bool m_bypass = false;
     enumFitTo m_fitMode = FitSmaller;
     QPointF m_lastPos;
     QTimer m_clickTimer;
     QTimer m_resizeTimer;
     QString m_problem;
+    FocusMark m_focusMark{this};
 };
 
 } // namespace grisal::ui

@@ -3,10 +3,14 @@
 // How the user moves about in the preview: zoom, fit, pan, hold to compare.
 #include "ui/preview/GLWidget.h"
 
+#include "ui/accessible/Keys.h"
+
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
 
 #include <chrono>
+#include <cmath>
 #include <utility>
 
 namespace grisal::ui
@@ -74,6 +78,7 @@ void GLWidget::zoom(float step)
     if (graphics::Preview *preview = m_stage.preview()) {
         preview->view().setScale(zoomedScale(scale(), step, ratios().smaller()));
         update();
+        sayValue();
     }
 }
 
@@ -108,6 +113,7 @@ void GLWidget::showCentred(float scale)
         preview->view().setScale(scale);
         preview->view().centre();
         update();
+        sayValue();
     }
 }
 
@@ -121,7 +127,9 @@ void GLWidget::setBypass(bool bypass)
     if (graphics::Preview *preview = m_stage.preview()) {
         preview->document().setBypass(bypass);
     }
+    m_bypass = bypass;
     renderImage();
+    sayValue();
 }
 
 QPointF GLWidget::pixelPosition(const QMouseEvent *event) const
@@ -144,11 +152,16 @@ void GLWidget::mouseMoveEvent(QMouseEvent *event)
     }
     m_clickTimer.stop();
     const QPointF position = pixelPosition(event);
-    const QPointF moved = position - std::exchange(m_lastPos, position);
+    pan(position - std::exchange(m_lastPos, position));
+}
+
+void GLWidget::pan(QPointF pixels)
+{
     if (graphics::Preview *preview = m_stage.preview()) {
         // A drag moves the window over the picture, so that the picture goes the other way. Offsets count upwards.
         graphics::FlexibleDocumentView &view = preview->view();
-        view.setOffset(view.offsetX() - static_cast<float>(moved.x()), view.offsetY() + static_cast<float>(moved.y()));
+        view.setOffset(view.offsetX() - static_cast<float>(pixels.x()),
+                       view.offsetY() + static_cast<float>(pixels.y()));
     }
     update();
 }
@@ -170,6 +183,73 @@ void GLWidget::wheelEvent(QWheelEvent *event)
 {
     zoom(static_cast<float>(wheelSteps(event->angleDelta().y())));
     event->accept();
+}
+
+void GLWidget::keyPressEvent(QKeyEvent *event)
+{
+    if (!useKey(*event)) {
+        QOpenGLWidget::keyPressEvent(event);
+        return;
+    }
+    m_focusMark.useKey();
+}
+
+// An arrow shows more of the picture on its side.
+bool GLWidget::useKey(const QKeyEvent &event)
+{
+    constexpr double step = 20;
+    const QPoint arrow = arrowOf(event);
+    if (!isPlain(event)) {
+        return false;
+    }
+    if (!arrow.isNull()) {
+        pan(QPointF(arrow) * step * devicePixelRatioF());
+        return true;
+    }
+    switch (event.key()) {
+    case Qt::Key_Plus:
+        slotZoomIn();
+        return true;
+    case Qt::Key_Minus:
+        slotZoomOut();
+        return true;
+    case Qt::Key_Space:
+        if (!event.isAutoRepeat()) {
+            setBypass(true);
+        }
+        return true;
+    default:
+        return false;
+    }
+}
+
+void GLWidget::keyReleaseEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Space) {
+        QOpenGLWidget::keyReleaseEvent(event);
+    } else if (!event->isAutoRepeat()) {
+        setBypass(false);
+    }
+}
+
+// The release goes elsewhere.
+void GLWidget::focusOutEvent(QFocusEvent *event)
+{
+    if (m_bypass && !m_pressed) {
+        setBypass(false);
+    }
+    QOpenGLWidget::focusOutEvent(event);
+}
+
+QString GLWidget::spokenValue() const
+{
+    if (m_stage.preview() == nullptr) {
+        return tr("No picture");
+    }
+    constexpr float percent = 100;
+    const QString shown =
+        tr("%1 x %2 pixels at %3 %").arg(m_previewWidth).arg(m_previewHeight).arg(std::lround(scale() * percent));
+    return m_bypass ? tr("%1, without the filters").arg(shown) : shown;
 }
 
 } // namespace grisal::ui

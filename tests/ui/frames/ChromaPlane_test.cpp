@@ -131,4 +131,32 @@ TEST(WheelImage, HasGreyInTheMiddle)
     EXPECT_EQ(image.pixel(341, 340), qRgb(85, 85, 85));
 }
 
+TEST(ChromaPlane, StepsOfTheMarkerEndAtTheEdgesAndLeadBackFromBeyond)
+{
+    EXPECT_DOUBLE_EQ(markerAfterStep(0.5, 0.01), 0.51);
+    EXPECT_EQ(markerAfterStep(0.995, 0.01), 1);
+    EXPECT_EQ(markerAfterStep(0.005, -0.01), 0);
+    EXPECT_EQ(markerAfterStep(1.5, 0.01), 1.5);
+    EXPECT_DOUBLE_EQ(markerAfterStep(1.5, -0.01), 1.49);
+    EXPECT_EQ(markerAfterStep(-0.5, -0.01), -0.5);
+    EXPECT_DOUBLE_EQ(markerAfterStep(-0.5, 0.01), -0.49);
+}
+
+TEST(ChromaPlane, HuesAreTheNearestFullColours)
+{
+    EXPECT_EQ(hueOf({0, 0}), Hue::Grey);
+    EXPECT_EQ(hueOf({0.4F, -0.4F}), Hue::Grey);
+    EXPECT_EQ(hueOf({-0.5F, 1}), Hue::Red);
+    EXPECT_EQ(hueOf({-170, 85}), Hue::Yellow);
+    EXPECT_EQ(hueOf({-170, -170}), Hue::Green);
+    EXPECT_EQ(hueOf({85, -170}), Hue::Cyan);
+    EXPECT_EQ(hueOf({200, -85}), Hue::Blue);
+    EXPECT_EQ(hueOf({85, 85}), Hue::Magenta);
+    // 77, 150, 28 lies 3/5 of the way from yellow to green.
+    EXPECT_EQ(hueOf({-57, -8}), Hue::Green);
+    EXPECT_EQ(hueOf({10, 300}), Hue::Magenta);
+    EXPECT_EQ(hueOf({-20, 200}), Hue::Red);
+    EXPECT_EQ(hueOf({300, -10}), Hue::Blue);
+}
+
 } // namespace

@@ -138,4 +138,43 @@ TEST(VignettePicture, IsBlackWithoutRadius)
     EXPECT_EQ(vignettePicture({{50, 50, 0}, 50, 0}, QSize(31, 21)), black);
 }
 
+TEST(VignetteShape, PercentsShowWhatSinglePrecisionMeans)
+{
+    for (int percents = 0; percents <= 100; ++percents) {
+        EXPECT_EQ(shownPercent(static_cast<float>(percents) / 100.0F), percents);
+    }
+    EXPECT_EQ(shownPercent(0.579), 57);
+    EXPECT_EQ(shownPercent(1.5), 100);
+    EXPECT_EQ(shownPercent(-0.5), 0);
+    EXPECT_EQ(shownPercent(notANumber), 0);
+}
+
+// The panel hands every place back in single precision.
+TEST(VignetteShape, StepsByKeyAreWholePercentsInThePanelToo)
+{
+    double place = 0;
+    for (int percents = 1; percents <= 100; ++percents) {
+        place = static_cast<float>(fractionAfterStep(place, 1));
+        EXPECT_EQ(wholePercent(fractionAfterStep(place, 0) * 100, 0, 100), percents);
+    }
+    EXPECT_EQ(fractionAfterStep(place, 1), 1);
+    for (int percents = 99; percents >= 0; --percents) {
+        const double moved = fractionAfterStep(place, -1);
+        EXPECT_EQ(wholePercent(moved * 100, 0, 100), percents);
+        place = static_cast<float>(moved);
+    }
+    EXPECT_EQ(fractionAfterStep(place, -1), 0);
+}
+
+TEST(VignetteShape, StepsStartFromThePercentsThatAreShown)
+{
+    EXPECT_DOUBLE_EQ(fractionAfterStep(0.456, 1), 0.46);
+    EXPECT_DOUBLE_EQ(fractionAfterStep(0.456, -1), 0.44);
+    EXPECT_EQ(fractionAfterStep(0.456, 0), 0.456);
+    EXPECT_EQ(fractionAfterStep(1.5, 0), 1.5);
+    EXPECT_EQ(fractionAfterStep(-0.5, 0), -0.5);
+    EXPECT_DOUBLE_EQ(fractionAfterStep(1.5, -1), 0.99);
+    EXPECT_DOUBLE_EQ(fractionAfterStep(-0.5, 1), 0.01);
+}
+
 } // namespace

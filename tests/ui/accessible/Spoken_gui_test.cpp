@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "ui/accessible/Spoken.h"
+
+#include "tests/support/GuiTest.h"
+#include "tests/support/Hearing.h"
+
+#include <QTest>
+#include <QWidget>
+
+namespace
+{
+
+using namespace grisal::test;
+
+class Lamp : public QWidget, public Spoken
+{
+public:
+    QAccessible::Role spokenRole() const override { return QAccessible::Indicator; }
+    QString spokenValue() const override { return m_on ? QStringLiteral("on") : QStringLiteral("off"); }
+
+    void set(bool on)
+    {
+        m_on = on;
+        sayValue();
+    }
+
+private:
+    bool m_on = false;
+};
+
+class SpokenTest : public GuiTest
+{
+protected:
+    void SetUp() override { GRISAL_SKIP_WITHOUT_SCREEN_READER(); }
+
+    void show()
+    {
+        lamp.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&lamp));
+    }
+
+    Lamp lamp;
+};
+
+TEST_F(SpokenTest, IsAskedForRoleAndValue)
+{
+    EXPECT_EQ(roleOf(lamp), QAccessible::Indicator);
+    EXPECT_EQ(spoken(lamp, QAccessible::Value), QStringLiteral("off"));
+    lamp.set(true);
+    EXPECT_EQ(spoken(lamp, QAccessible::Value), QStringLiteral("on"));
+}
+
+TEST_F(SpokenTest, TheValueLeadsTheDescription)
+{
+    EXPECT_EQ(spoken(lamp, QAccessible::Description), QStringLiteral("off"));
+    lamp.setAccessibleDescription(QStringLiteral("Press it"));
+    EXPECT_EQ(spoken(lamp, QAccessible::Description), QStringLiteral("off. Press it"));
+}
+
+TEST_F(SpokenTest, OtherWordsAreTheWidgets)
+{
+    lamp.setAccessibleName(QStringLiteral("Lamp"));
+    EXPECT_EQ(spoken(lamp, QAccessible::Name), QStringLiteral("Lamp"));
+}
+
+TEST_F(SpokenTest, AnotherValueIsToldOnce)
+{
+    show();
+    Hearing hearing;
+    lamp.set(true);
+    lamp.set(true);
+    EXPECT_EQ(hearing.valuesOf(lamp), QStringList(QStringLiteral("on")));
+    lamp.set(false);
+    EXPECT_EQ(hearing.valuesOf(lamp), QStringList(QStringLiteral("off")));
+}
+
+TEST_F(SpokenTest, WhatIsHiddenIsSilent)
+{
+    show();
+    lamp.hide();
+    Hearing hearing;
+    lamp.set(true);
+    EXPECT_TRUE(hearing.valuesOf(lamp).isEmpty());
+    lamp.show();
+    lamp.set(false);
+    EXPECT_EQ(hearing.valuesOf(lamp), QStringList(QStringLiteral("off")));
+}
+
+TEST_F(SpokenTest, OrdinaryWidgetsStayAsTheyAre)
+{
+    QWidget plain;
+    EXPECT_EQ(roleOf(plain), QAccessible::Client);
+    EXPECT_EQ(spoken(plain, QAccessible::Value), QString());
+}
+
+} // namespace

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+// What a screen reader hears of the preview.
+#include "tests/ui/preview/GLWidgetTest.h"
+
+#include "tests/support/Hearing.h"
+
+namespace
+{
+
+using namespace grisal::test;
+
+class GLWidgetSpeech : public GLWidgetTest
+{
+protected:
+    void SetUp() override
+    {
+        GRISAL_SKIP_WITHOUT_SCREEN_READER();
+        GLWidgetTest::SetUp();
+    }
+
+    std::string value() { return spoken(widget, QAccessible::Value).toStdString(); }
+};
+
+TEST_F(GLWidgetSpeech, ItTellsSizeZoomAndComparison)
+{
+    EXPECT_EQ(roleOf(widget), QAccessible::Canvas);
+    EXPECT_EQ(value(), "No picture");
+    showPictureAtOneToOne();
+    EXPECT_EQ(value(), "120 x 80 pixels at 100 %");
+    Hearing hearing;
+    widget.slotZoomIn();
+    EXPECT_EQ(hearing.valuesOf(widget), QStringList(QStringLiteral("120 x 80 pixels at 104 %")));
+    widget.slotActualPixels();
+    EXPECT_EQ(hearing.valuesOf(widget), QStringList(QStringLiteral("120 x 80 pixels at 100 %")));
+    QTest::keyPress(&widget, Qt::Key_Space);
+    EXPECT_EQ(hearing.valuesOf(widget), QStringList(QStringLiteral("120 x 80 pixels at 100 %, without the filters")));
+    QTest::keyRelease(&widget, Qt::Key_Space);
+    EXPECT_EQ(hearing.valuesOf(widget), QStringList(QStringLiteral("120 x 80 pixels at 100 %")));
+}
+
+} // namespace

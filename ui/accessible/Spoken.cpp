@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "ui/accessible/Spoken.h"
+
+#include <QAccessibleWidget>
+#include <QWidget>
+
+namespace
+{
+
+/// The toolkit asks it in the place of the widget. It may outlive what makes the widget spoken.
+class SpokenInterface final : public QAccessibleWidget
+{
+public:
+    SpokenInterface(QWidget *widget, QAccessible::Role role) : QAccessibleWidget(widget, role) {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const auto *spoken = dynamic_cast<const Spoken *>(object());
+        QString text = QAccessibleWidget::text(kind);
+        if (spoken == nullptr) {
+            return text;
+        }
+        switch (kind) {
+        case QAccessible::Value:
+            return spoken->spokenValue();
+        case QAccessible::Description:
+            return text.isEmpty() ? spoken->spokenValue() : spoken->spokenValue() + QStringLiteral(". ") + text;
+        default:
+            return text;
+        }
+    }
+};
+
+QAccessibleInterface *newSpokenInterface(const QString &, QObject *object)
+{
+    auto *widget = qobject_cast<QWidget *>(object);
+    const auto *spoken = dynamic_cast<const Spoken *>(object);
+    return widget != nullptr && spoken != nullptr ? new SpokenInterface(widget, spoken->spokenRole()) : nullptr;
+}
+
+} // namespace
+
+// The toolkit keeps the factory once, however often it gets it.
+Spoken::Spoken()
+{
+    QAccessible::installFactory(newSpokenInterface);
+}
+
+void Spoken::sayValue()
+{
+    auto *widget = dynamic_cast<QWidget *>(this);
+    const QString value = spokenValue();
+    if (value == m_said) {
+        return;
+    }
+    m_said = value;
+    if (!widget->isVisible()) {
+        return;
+    }
+    QAccessibleValueChangeEvent valueChange(widget, value);
+    QAccessible::updateAccessibility(&valueChange);
+    QAccessibleEvent descriptionChange(widget, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&descriptionChange);
+}

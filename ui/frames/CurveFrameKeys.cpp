@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+//
+// How the keyboard edits the curve. The Delete key is CurveFrameEventFilter's.
+#include "ui/frames/CurveFrame.h"
+
+#include "ui/accessible/Keys.h"
+
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <cmath>
+
+void CurveFrame::keyPressEvent(QKeyEvent *event)
+{
+    if (m_pressed || !edit(*event)) {
+        QFrame::keyPressEvent(event);
+        return;
+    }
+    m_focusMark.useKey();
+}
+
+bool CurveFrame::edit(const QKeyEvent &event)
+{
+    const QPoint arrow = arrowOf(event);
+    if (m_points.count() == 0 || !isPlain(event)) {
+        return false;
+    }
+    if (!arrow.isNull()) {
+        step(arrow);
+        return true;
+    }
+    switch (event.key()) {
+    case Qt::Key_PageUp:
+        take(m_selected < 0 ? m_points.last() : m_selected - 1);
+        return true;
+    case Qt::Key_PageDown:
+        take(m_selected + 1);
+        return true;
+    case Qt::Key_Insert:
+        addBehindSelected();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void CurveFrame::take(int index)
+{
+    m_selected = std::clamp(index, 0, m_points.last());
+    emit signalPressed();
+    emitMoved();
+    showChange();
+}
+
+// Without a point to move, an arrow takes the first one.
+void CurveFrame::step(QPoint arrow)
+{
+    constexpr float length = 0.01F;
+    if (m_selected >= 0) {
+        const float x = m_points.xs[m_selected] + static_cast<float>(arrow.x()) * length;
+        const float y = m_points.ys[m_selected];
+        const float moved = std::clamp(y + static_cast<float>(arrow.y()) * length, 0.0F, 1.0F);
+        movePoint(m_points, m_selected, x, arrow.y() == 0 ? y : moved);
+    }
+    take(m_selected);
+}
+
+// On the curve, so that it stays as it is, and not so near to a point that the mouse would take that one.
+void CurveFrame::addBehindSelected()
+{
+    constexpr int places = 256;
+    const int left = std::clamp(m_selected, 0, std::max(m_points.last() - 1, 0));
+    const int right = std::min(left + 1, m_points.last());
+    const float x = (m_points.xs[left] + m_points.xs[right]) / 2;
+    if (left == right || pointAt(m_points, x) >= 0) {
+        return;
+    }
+    const auto place = std::min(static_cast<int>(std::lround(x * places)), places - 1);
+    const int added = insertPoint(m_points, x, 1 - curve(places)[place]);
+    if (added >= 0) {
+        take(added);
+    }
+}
