@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/image/Metadata.h"
+
 #include <Magick++.h>
 
 #include <QString>
@@ -32,7 +34,8 @@ public:
     /// A blank picture of the given size and depth: 16 bits a channel, or 8. isNull() where that cannot be had.
     LumioImage(int width, int height, bool sixteenBit);
 
-    /// Reads a JPEG, PNG or TIFF file, whatever its name, and of several pictures in it the first. The picture is
+    /// Reads a JPEG, PNG or TIFF file, whatever its name, and of several pictures in it the first, turned upright as the
+    /// file tells, and keeps what the file says about it. The picture is
     /// replaced only when the new one is good. A file that the library could read only in part, with a warning, counts
     /// as good; warning() then tells what it said. What PictureFile turns away is not given to the library at all.
     bool read(const QString &path);
@@ -42,6 +45,9 @@ public:
     /// existing file is replaced as ReplacementFile does it: at once, and only by a whole one. True only if the file
     /// can be opened for reading afterwards. A null picture is reported on standard output.
     bool save(const QString &path, int quality);
+
+    /// From now on the files that are written say about this picture what the file of `source` said about that one.
+    void takeMetadataOf(const LumioImage &source) { m_metadata = source.m_metadata; }
 
     bool isNull() const;
     /// Whether the depth is 16 bits a channel. A file of more than 8 bits counts as 16.
@@ -73,9 +79,11 @@ private:
     void readFrom(const PictureFile &file, const QString &path);
     bool prepareForWriting();
     void writeTo(ReplacementFile &target, const QString &path, int quality);
+    void writeMetadata(const OpenFile &file, PictureFormat format);
     void nameInMessages(int descriptor, const QString &path);
 
     Magick::Image m_image;
+    Metadata m_metadata;
     QString m_problem;
     QString m_warning;
 };
