@@ -34,10 +34,10 @@ public:
     /// A blank picture of the given size and depth: 16 bits a channel, or 8. isNull() where that cannot be had.
     LumioImage(int width, int height, bool sixteenBit);
 
-    /// Reads a JPEG, PNG or TIFF file, whatever its name, and of several pictures in it the first, turned upright as the
-    /// file tells, and keeps what the file says about it. The picture is
-    /// replaced only when the new one is good. A file that the library could read only in part, with a warning, counts
-    /// as good; warning() then tells what it said. What PictureFile turns away is not given to the library at all.
+    /// Reads a JPEG, PNG or TIFF file, whatever its name, and of several pictures in it the first, turned upright as
+    /// the file tells, and keeps what the file says about it. The picture is replaced only when the new one is good. A
+    /// file that the library could read only in part, with a warning, counts as good; warning() then tells what it
+    /// said. What PictureFile turns away is not given to the library at all.
     bool read(const QString &path);
 
     /// Writes the picture, without alpha, as true colour of its own depth, 8 or 16 bits a channel (JPEG always 8);

@@ -106,6 +106,22 @@ TEST_P(FromFormatToFormat, DropsTheThumbnail)
     EXPECT_FALSE(contentsOf(target()).contains("a small picture"));
 }
 
+// It counts places from the start of the file or of itself.
+TEST_P(FromFormatToFormat, CarriesTheNoteOfTheMaker)
+{
+    const QString from = written(source(), Magick::TrueColorType, depth());
+    Said note;
+    note.exif["Exif.Image.Make"] = "Canon";
+    note.exif["Exif.Canon.OwnerName"] = "Ansel of the mountains";
+    note.exif["Exif.Canon.FirmwareVersion"] = "Firmware 1.2.3";
+    setMetadata(from, note);
+    ASSERT_EQ(metadataIn(from)["Exif.Canon.OwnerName"], "Ansel of the mountains");
+    EXPECT_EQ(savedAs(from, target()), "");
+    EXPECT_EQ(metadataIn(target())["Exif.Canon.OwnerName"], "Ansel of the mountains");
+    EXPECT_EQ(savedAs(target(), path("once.more.jpg")), "");
+    EXPECT_EQ(metadataIn(path("once.more.jpg"))["Exif.Canon.FirmwareVersion"], "Firmware 1.2.3");
+}
+
 // Others look at the first, or at the last.
 TEST_P(FromFormatToFormat, SaysEachThingOnce)
 {
