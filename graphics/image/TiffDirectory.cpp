@@ -56,7 +56,7 @@ std::vector<TiffEntry> tiffDirectory(const QByteArray &bytes, TiffOrder order)
         return {};
     }
     std::vector<TiffEntry> entries;
-    for (qsizetype at = 2; at + tiffEntrySize <= std::min(bytes.size(), qsizetype{2} + count * tiffEntrySize);
+    for (qsizetype at = 2; at + tiffEntrySize <= std::min(bytes.size(), 2 + qsizetype{count} * tiffEntrySize);
          at += tiffEntrySize) {
         const char *line = bytes.constData() + at;
         TiffEntry entry{order.get<std::uint16_t>(line), order.get<std::uint16_t>(line + 2),

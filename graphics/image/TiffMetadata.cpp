@@ -13,8 +13,8 @@ namespace grisal::graphics
 namespace
 {
 
-/// The most of values that are taken along.
-constexpr std::uint64_t mostValues = 8 << 20;
+/// The most of values and directories that is taken along. A directory may name itself as its inner one.
+constexpr std::uint64_t mostMetadata = 8 << 20;
 /// A maker's note may point to any place before or behind itself, and as often as it likes.
 constexpr std::uint64_t lastPlaceOfNote = 1 << 17;
 constexpr qsizetype mostBesideNote = 1 << 19;
@@ -84,7 +84,8 @@ private:
     {
         constexpr int deepest = 2; // interoperability in Exif in the first
         std::vector<TiffEntry> entries;
-        for (TiffEntry &entry : directoryAt(from)) {
+        const bool isTooMuch = !takes(largestTiffDirectory);
+        for (TiffEntry &entry : isTooMuch ? std::vector<TiffEntry>() : directoryAt(from)) {
             if (depth == 0 && describesPixels(entry.tag)) {
                 continue;
             }
@@ -113,10 +114,7 @@ private:
             m_complete = m_complete && m_hasNote;
             return m_hasNote;
         }
-        m_taken += entry.size();
-        if (m_taken > mostValues) {
-            m_taken -= entry.size();
-            m_complete = false;
+        if (!takes(entry.size())) {
             return false;
         }
         const QByteArray values = m_file.bytesAt(place(entry.content), static_cast<qsizetype>(entry.size()));
@@ -124,6 +122,15 @@ private:
         entry.content = m_order.bytesOf(end());
         m_copy += values;
         return values.size() == static_cast<qsizetype>(entry.size());
+    }
+
+    /// Whether that many bytes more are not too many; if so, they are counted.
+    bool takes(std::uint64_t size)
+    {
+        const bool fits = m_taken + size <= mostMetadata;
+        m_taken += fits ? size : 0;
+        m_complete = m_complete && fits;
+        return fits;
     }
 
     void align() { m_copy += QByteArray(m_copy.size() % 2, '\0'); }

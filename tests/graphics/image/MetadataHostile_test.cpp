@@ -171,6 +171,32 @@ TEST_F(MetadataHostileTest, DirectoriesInACircleComeToAnEnd)
     EXPECT_TRUE(reads(tiff)) << image.problem().toStdString();
 }
 
+// Each of 200 inner directories is the outer one again.
+TEST_F(MetadataHostileTest, DirectoriesThatMultiplyStaySmall)
+{
+    const auto words = [](std::initializer_list<quint16> numbers) {
+        QByteArray bytes;
+        for (const quint16 number : numbers) {
+            bytes += static_cast<char>(number % 256);
+            bytes += static_cast<char>(number / 256);
+        }
+        return bytes;
+    };
+    QByteArray contents = QByteArray("II*\0\x08\0\0\0", 8) + words({209});
+    for (const quint16 tag : {256, 257, 258, 259, 262, 273, 277, 278, 279}) {
+        contents += words({tag, 3, 1, 0, static_cast<quint16>(tag == 258 || tag == 273 ? 8 : 1), 0});
+    }
+    for (int i = 0; i < 200; ++i) {
+        contents += words({34665, 4, 1, 0, 8, 0});
+    }
+    writeFile(path("a.tif"), contents + words({0, 0}));
+    const OpenFile file(open(path("a.tif").toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC));
+    const grisal::graphics::MetadataBlocks blocks = metadataOf(file, PictureFormat::Tiff);
+    EXPECT_FALSE(blocks.complete);
+    EXPECT_LT(blocks.file.size(), 10 << 20);
+    image.read(path("a.tif"));
+}
+
 TEST_F(MetadataHostileTest, AManyTimesPaddedJpegIsRead)
 {
     const QString jpeg = full("a.jpg");

@@ -37,6 +37,7 @@ const Kept allKept[] = {
 
 /// A letter is a square of this side: what JPEG works on at once.
 constexpr int side = 16;
+constexpr std::size_t uprightWidth = std::size_t{3} * side;
 
 Samples colourOf(char letter)
 {
@@ -116,8 +117,8 @@ void expectUpright(LumioImage &image, int tolerance)
     constexpr std::size_t margin = 4;
     const Bytes bytes = bytesOf(image);
     for (std::size_t i = 0; i < bytes.size(); ++i) {
-        const std::size_t x = i / 3 % (3 * side);
-        const std::size_t y = i / 3 / (3 * side);
+        const std::size_t x = i / 3 % uprightWidth;
+        const std::size_t y = i / 3 / uprightWidth;
         const Samples wanted = colourOf(upright[y / side][x / side]);
         // At the edges JPEG mixes colours.
         const bool inside = std::min(x % side, y % side) >= margin && std::max(x % side, y % side) < side - margin;
@@ -131,7 +132,7 @@ class Orientation : public testing::TestWithParam<Kept>
 protected:
     QString written(const char *name, Magick::Image picture) const
     {
-        const QString path = directory.filePath(QString::fromLatin1(name));
+        QString path = directory.filePath(QString::fromLatin1(name));
         picture.quality(100);
         picture.write(path.toStdString());
         return path;
