@@ -43,7 +43,8 @@ public:
     /// Writes the picture, without alpha, as true colour of its own depth, 8 or 16 bits a channel (JPEG always 8);
     /// the format follows from the extension of `path`, .jpg, .jpeg, .png, .tif or .tiff. `quality` is 0..100. An
     /// existing file is replaced as ReplacementFile does it: at once, and only by a whole one. True only if the file
-    /// can be opened for reading afterwards. A null picture is reported on standard output.
+    /// can be opened for reading afterwards. The file also says what is known about the picture; where not all of that
+    /// fits in, warning() tells and the picture is saved all the same. A null picture is reported on standard output.
     bool save(const QString &path, int quality);
 
     /// From now on the files that are written say about this picture what the file of `source` said about that one.

@@ -34,9 +34,9 @@ bool isDirectory(const TiffEntry &entry)
 class TiffCopy
 {
 public:
-    TiffCopy(const OpenFile &file, TiffOrder order, bool withNote) : m_file(file), m_order(order)
+    TiffCopy(const OpenFile &file, TiffOrder order, bool withNote)
+        : m_file(file), m_order(order), m_copy(file.bytesAt(0, 4) + QByteArray(4, '\0'))
     {
-        m_copy = file.bytesAt(0, 4) + QByteArray(4, '\0');
         const auto start = place(file.bytesAt(4, 4));
         if (withNote) {
             copyNote(start);
