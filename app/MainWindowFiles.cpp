@@ -93,7 +93,8 @@ void MainWindow::openFile(const QString &filename)
         return;
     }
     const std::vector<std::uint8_t> pixels = bytesOf(image);
-    const graphics::LumioImage output(image.width(), image.height(), image.is16Bit());
+    graphics::LumioImage output(image.width(), image.height(), image.is16Bit());
+    output.takeMetadataOf(image);
     if (pixels.empty() || output.isNull()) {
         tellProblems(image);
         tellProblems(output);

@@ -3,6 +3,7 @@
 
 #include "graphics/image/ImageLibrary.h"
 #include "graphics/image/ImageNames.h"
+#include "graphics/image/Orientation.h"
 #include "graphics/image/PictureFile.h"
 #include "graphics/image/QuantumCopy.h"
 #include "graphics/image/ReplacementFile.h"
@@ -79,6 +80,14 @@ void raiseDepth(Magick::Image &image)
     if (image.depth() > 8) {
         image.depth(16);
     }
+}
+
+// The library would write its own share of it beside ours.
+void forgetMetadata(Magick::Image &image)
+{
+    image.profile("*", Magick::Blob());
+    image.orientation(Magick::UndefinedOrientation);
+    MagickLib::DestroyImageAttributes(image.image());
 }
 
 } // namespace
@@ -162,16 +171,23 @@ void LumioImage::readFrom(const PictureFile &file, const QString &path)
                         .arg(path, QString::number(head.columns()), QString::number(head.rows()));
         return;
     }
+    const Metadata metadata(file.file(), file.format());
     Magick::Image fresh = firstPicture();
     m_warning = warningOf([&] { fresh.read(file.name()); });
     if (!fresh.isValid()) {
         m_problem = m_warning.isEmpty() ? QStringLiteral("No picture in %1").arg(path) : m_warning;
         return;
     }
+    if (m_warning.isEmpty() && !metadata.isComplete()) {
+        m_warning = QStringLiteral("Not all that %1 says about its picture could be read").arg(path);
+    }
     fresh.fileName(QFile::encodeName(path).toStdString());
     raiseDepth(fresh);
+    forgetMetadata(fresh);
+    turnUpright(fresh, metadata.orientation());
     m_image = fresh;
     m_samples = Samples::AsRead;
+    m_metadata = metadata;
 }
 
 bool LumioImage::save(const QString &path, int quality)
@@ -204,12 +220,20 @@ void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quali
     const std::string name = libraryName(*format, nameOfOpenFile(target.file().descriptor()));
     m_warning = warningOf([&] { m_image.write(name); });
     m_image.fileName(QFile::encodeName(path).toStdString());
+    writeMetadata(target.file(), *format);
     if (!endsAsItShould(target.file(), *format)) {
         m_problem = QStringLiteral("Not all of the picture could be written");
     } else if (!target.commit()) {
         m_problem = target.problem();
     } else if (!opensForReading(path)) {
         m_problem = QStringLiteral("Cannot open %1 after writing it").arg(path);
+    }
+}
+
+void LumioImage::writeMetadata(const OpenFile &file, PictureFormat format)
+{
+    if (!m_metadata.writeInto(file, format, width(), height()) && m_warning.isEmpty()) {
+        m_warning = QStringLiteral("Not all that was said about the picture could be saved with it");
     }
 }
 

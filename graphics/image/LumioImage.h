@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/image/Metadata.h"
+
 #include <Magick++.h>
 
 #include <QString>
@@ -32,16 +34,21 @@ public:
     /// where there is none, that operation fails. isNull() where there is no such size.
     LumioImage(int width, int height, bool sixteenBit);
 
-    /// Reads a JPEG, PNG or TIFF file, whatever its name, and of several pictures in it the first. The picture is
-    /// replaced only when the new one is good. A file that the library could read only in part, with a warning, counts
-    /// as good; warning() then tells what it said. What PictureFile turns away is not given to the library at all.
+    /// Reads a JPEG, PNG or TIFF file, whatever its name, and of several pictures in it the first, turned upright as
+    /// the file tells, and keeps what the file says about it. The picture is replaced only when the new one is good. A
+    /// file that the library could read only in part, with a warning, counts as good; warning() then tells what it
+    /// said. What PictureFile turns away is not given to the library at all.
     bool read(const QString &path);
 
     /// Writes the picture, without alpha, as true colour of its own depth, 8 or 16 bits a channel (JPEG always 8);
     /// the format follows from the extension of `path`, .jpg, .jpeg, .png, .tif or .tiff. `quality` is 0..100. An
     /// existing file is replaced as ReplacementFile does it: at once, and only by a whole one. True only if the file
-    /// can be opened for reading afterwards. A null picture is reported on standard output.
+    /// can be opened for reading afterwards. The file also says what is known about the picture; where not all of that
+    /// fits in, warning() tells and the picture is saved all the same. A null picture is reported on standard output.
     bool save(const QString &path, int quality);
+
+    /// From now on the files that are written say about this picture what the file of `source` said about that one.
+    void takeMetadataOf(const LumioImage &source) { m_metadata = source.m_metadata; }
 
     bool isNull() const;
     /// Whether the depth is 16 bits a channel. A file of more than 8 bits counts as 16.
@@ -74,6 +81,7 @@ private:
     bool prepareForWriting();
     void fillBlank();
     void writeTo(ReplacementFile &target, const QString &path, int quality);
+    void writeMetadata(const OpenFile &file, PictureFormat format);
     void nameInMessages(int descriptor, const QString &path);
 
     /// Where the library's samples come from.
@@ -85,6 +93,7 @@ private:
 
     Magick::Image m_image;
     Samples m_samples = Samples::AsRead;
+    Metadata m_metadata;
     QString m_problem;
     QString m_warning;
 };

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
+#include <QByteArrayView>
+
+#include <cstdint>
 #include <utility>
 
 namespace grisal::graphics
@@ -24,6 +28,19 @@ public:
 
     bool isOpen() const { return m_descriptor >= 0; }
     int descriptor() const { return m_descriptor; }
+
+    /// In bytes; 0 where it cannot be told.
+    std::uint64_t size() const;
+
+    /// `count` bytes from a place in the file, or as many as there are.
+    QByteArray bytesAt(std::uint64_t place, qsizetype count) const;
+
+    /// Puts bytes between those before a place and those from there on. Where there is no room for them, returns false
+    /// and leaves the file as it is; throws where it fails later and leaves it damaged.
+    bool insert(std::uint64_t place, QByteArrayView bytes) const;
+
+    /// Writes over what is at a place. Throws where it fails.
+    void overwrite(std::uint64_t place, QByteArrayView bytes) const;
 
 private:
     int m_descriptor;

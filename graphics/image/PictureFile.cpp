@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/image/PictureFile.h"
 
+#include "graphics/image/TiffUpright.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QtEndian>
@@ -27,15 +29,6 @@ constexpr int chunkChecksumLength = 4;
 constexpr int mostChunks = 500'000;
 constexpr std::uint32_t longestText = 1 << 20;
 constexpr int mostCompressedTexts = 16;
-
-QByteArray bytesAt(const OpenFile &file, std::uint64_t place, int count)
-{
-    QByteArray bytes(count, '\0');
-    const ssize_t got =
-        pread(file.descriptor(), bytes.data(), static_cast<std::size_t>(count), static_cast<off_t>(place));
-    bytes.truncate(got > 0 ? static_cast<int>(got) : 0);
-    return bytes;
-}
 
 /// Whether a TIFF file of that size may have its directory there: behind its first bytes.
 bool isWithin(std::uint32_t directory, std::uint64_t size)
@@ -65,6 +58,9 @@ PictureFile::PictureFile(const QString &path)
     if (m_problem.isEmpty() && m_format == PictureFormat::Png && hasAbsurdTexts()) {
         m_problem = QStringLiteral("%1 holds texts of absurd length").arg(path);
     }
+    if (m_problem.isEmpty() && m_format == PictureFormat::Tiff) {
+        standUpright();
+    }
 }
 
 // What is there is looked at before it is opened, since opening a device may do something; and once more afterwards,
@@ -87,12 +83,21 @@ void PictureFile::open(const QString &path)
 
 void PictureFile::look(const QString &path)
 {
-    const std::optional<PictureFormat> format = formatOfContents(bytesAt(m_file, 0, signatureLength));
+    const std::optional<PictureFormat> format = formatOfContents(m_file.bytesAt(0, signatureLength));
     if (!format) {
         m_problem = QStringLiteral("No JPEG, PNG or TIFF picture in %1").arg(path);
         return;
     }
     m_format = *format;
+}
+
+void PictureFile::standUpright()
+{
+    try {
+        m_upright = uprightTiff(m_file);
+    } catch (const std::exception &exception) {
+        m_problem = QString::fromLocal8Bit(exception.what());
+    }
 }
 
 // What comes behind something that is no chunk, or behind the end, is nothing the library would look at.
@@ -101,7 +106,7 @@ bool PictureFile::hasAbsurdTexts() const
     int compressedTexts = 0;
     std::uint64_t place = signatureLength;
     for (int chunk = 0; chunk < mostChunks; ++chunk) {
-        const QByteArray head = bytesAt(m_file, place, chunkHeadLength);
+        const QByteArray head = m_file.bytesAt(place, chunkHeadLength);
         const QByteArrayView kind = QByteArrayView(head).sliced(std::min<qsizetype>(4, head.size()));
         if (head.size() < chunkHeadLength || !isChunkKind(kind) || kind == "IEND") {
             return false;
@@ -132,11 +137,11 @@ bool endsAsItShould(const OpenFile &file, PictureFormat format)
     const auto size = static_cast<std::uint64_t>(status.st_size);
     switch (format) {
     case PictureFormat::Jpeg:
-        return bytesAt(file, size - 2, 2) == "\xff\xd9";
+        return file.bytesAt(size - 2, 2) == "\xff\xd9";
     case PictureFormat::Png:
-        return bytesAt(file, size - 8, 4) == "IEND";
+        return file.bytesAt(size - 8, 4) == "IEND";
     case PictureFormat::Tiff:
-        return isWithin(qFromLittleEndian<std::uint32_t>(bytesAt(file, 4, 4).constData()), size);
+        return isWithin(qFromLittleEndian<std::uint32_t>(file.bytesAt(4, 4).constData()), size);
     }
     return false;
 }

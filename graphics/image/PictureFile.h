@@ -25,9 +25,14 @@ public:
     QString problem() const { return m_problem; }
 
     /// The image library's name for the file, good while this lives. Only without a problem.
-    std::string name() const { return libraryName(m_format, nameOfOpenFile(m_file.descriptor())); }
+    std::string name() const { return libraryName(m_format, nameOfOpenFile(descriptor())); }
 
-    int descriptor() const { return m_file.descriptor(); }
+    /// That of the file that the library gets to see: its pixels stand as they are kept, whatever the file says.
+    int descriptor() const { return m_upright.isOpen() ? m_upright.descriptor() : m_file.descriptor(); }
+
+    /// The file itself, and the format of its contents. Only without a problem.
+    const OpenFile &file() const { return m_file; }
+    PictureFormat format() const { return m_format; }
 
     /// Whether a file of this size may hold a picture of that many pixels. A photograph does not come down to less than
     /// a byte for two hundred pixels; a file that promises more is made to fill the memory. Pictures of up to 90
@@ -38,8 +43,10 @@ private:
     void open(const QString &path);
     void look(const QString &path);
     bool hasAbsurdTexts() const;
+    void standUpright();
 
     OpenFile m_file;
+    OpenFile m_upright; ///< a copy for the library, if it needs one
     PictureFormat m_format = PictureFormat::Jpeg;
     std::uint64_t m_size = 0;
     QString m_problem;

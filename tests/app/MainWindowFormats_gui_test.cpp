@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Pictures of every format, depth and size go through the window and come out again with the chosen look.
 #include "tests/app/FilesTest.h"
+#include "tests/graphics/image/MetadataFiles.h"
 
 #include "ui/panels/Mixer.h"
 
@@ -108,6 +109,50 @@ INSTANTIATE_TEST_SUITE_P(SmallPictures, MainWindowFormats,
 INSTANTIATE_TEST_SUITE_P(TiledPictures, MainWindowFormats,
                          testing::Values(Case{"tif", 16, 2055, 6, halfFloats}, Case{"png", 16, 7, 2054, halfFloats},
                                          Case{"png", 8, 2049, 2055, oneLevel}));
+
+class MainWindowTurnedPictures : public FilesTest
+{
+protected:
+    /// A photograph that was taken upright, as cameras keep it: lying.
+    QString makeTurned(const QString &name)
+    {
+        const QString path = makePicture(name, 60, 40);
+        Metadata metadata;
+        metadata.exif["Exif.Image.Orientation"] = std::uint16_t{6};
+        metadata.exif["Exif.Image.Model"] = "Box 1";
+        metadata.profile = profileFor("RGB ");
+        setMetadata(path, metadata);
+        return path;
+    }
+};
+
+TEST_F(MainWindowTurnedPictures, StandUprightInTitlePreviewAndLog)
+{
+    start();
+    openWithDialog(makeTurned(QStringLiteral("a.jpg")));
+    EXPECT_EQ(title(), "Lumio Grisal (Alpha) - a.jpg 40x60");
+    EXPECT_EQ(preview().previewWidth(), 40);
+    EXPECT_EQ(preview().previewHeight(), 60);
+    EXPECT_TRUE(log.contains(QStringLiteral("  width :     40")));
+}
+
+TEST_F(MainWindowTurnedPictures, AreSavedUprightWithWhatWasSaidAboutThem)
+{
+    start();
+    openWithDialog(makeTurned(QStringLiteral("a.jpg")));
+    for (const char *name : {"b.jpg", "b.png", "b.tif"}) {
+        const QString path = inHome(QString::fromLatin1(name));
+        saveWithDialog(path);
+        const Metadata saved = metadataIn(path);
+        EXPECT_EQ(saved["Exif.Image.Model"], "Box 1") << name;
+        EXPECT_EQ(saved["Exif.Image.Orientation"], "1") << name;
+        EXPECT_EQ(saved["Exif.Photo.PixelYDimension"], "60") << name;
+        EXPECT_EQ(saved.profile, profileFor("RGB ")) << name;
+    }
+    openWithDialog(makePicture(QStringLiteral("plain.jpg"), 30, 20));
+    saveWithDialog(inHome(QStringLiteral("c.jpg")));
+    EXPECT_TRUE(metadataIn(inHome(QStringLiteral("c.jpg"))).isEmpty());
+}
 
 class MainWindowManyPictures : public FilesTest
 {
