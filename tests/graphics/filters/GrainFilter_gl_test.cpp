@@ -42,7 +42,7 @@ QVector<float> risingWeights()
     return weights;
 }
 
-BytePixels noiseOf(const GrainFilter &filter)
+BytePixels noiseOf(GrainFilter &filter)
 {
     return readBytes(filter.blurredNoise()->record(), noiseMapSide, noiseMapSide);
 }
@@ -84,7 +84,7 @@ double meanOf(const BytePixels &picture)
 
 TEST_F(GrainFilterTest, StartsWithoutWeightsBlurSizeOrDuty)
 {
-    const GrainFilter filter;
+    GrainFilter filter;
 
     EXPECT_EQ(filter.getName(), "GrainFilter");
     EXPECT_EQ(filter.weightsTexture(), 0U);
