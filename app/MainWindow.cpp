@@ -111,7 +111,7 @@ void MainWindow::connectPanels()
     connect(m_curves, &Curves::signalOutHistogram, m_grain, &Grain::slotSetHistogram, Qt::UniqueConnection);
 }
 
-QString MainWindow::graphicsProblem() const
+graphics::Message MainWindow::graphicsProblem() const
 {
     return m_form->glWidgetPreview->graphicsProblem();
 }

@@ -6,6 +6,7 @@
 
 #include "app/FileDealer.h"
 #include "graphics/image/LumioImage.h"
+#include "graphics/Message.h"
 
 #include <QMainWindow>
 
@@ -49,8 +50,8 @@ public:
     /// a picture that could not be rendered is not written.
     void saveImage(const QString &path);
 
-    /// Why the machine cannot draw pictures, in words for the user; empty while nothing is wrong.
-    QString graphicsProblem() const;
+    /// Why the machine cannot draw pictures; empty while nothing is wrong.
+    graphics::Message graphicsProblem() const;
 
 signals:
     void signalFinished();

@@ -117,7 +117,7 @@ void MainWindow::tellProblems(const graphics::LumioImage &image)
     }
     if (!image.warning().isEmpty()) {
         qWarning("%s", qPrintable(image.warning()));
-        tell(image.warning());
+        tell(image.translatedWarning());
     }
 }
 
@@ -183,7 +183,7 @@ bool MainWindow::renderIntoOutput()
     }
     GLWidget *preview = m_form->glWidgetPreview;
     if (!preview->renderFinal(pixels.data(), m_source.width(), m_source.height(), sixteenBit, false)) {
-        return tellRenderFailed(preview->graphicsProblem());
+        return tellRenderFailed(preview->graphicsProblem().english());
     }
     if (!m_output.setPixels(pixels.data(), false, sixteenBit)) {
         return tellRenderFailed(m_output.problem());

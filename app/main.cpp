@@ -22,13 +22,13 @@ constexpr int placeholderWidth = 300;
 constexpr int placeholderHeight = 200;
 constexpr std::uint8_t placeholderGrey = 128;
 
-void tellGraphicsProblem(const QString &problem)
+void tellGraphicsProblem(const grisal::graphics::Message &problem)
 {
-    qCritical("%s", qPrintable(problem));
+    qCritical("%s", qPrintable(problem.english()));
     QMessageBox::critical(nullptr, QApplication::tr("No OpenGL"),
                           QApplication::tr("%1\nGrisal needs OpenGL 2.1 to show and save pictures. Please install or "
                                            "update the graphics driver and start Grisal again.")
-                              .arg(problem));
+                              .arg(problem.translated()));
 }
 
 } // namespace
@@ -47,7 +47,7 @@ int main(int argc, char **argv)
     std::vector<std::uint8_t> placeholder(std::size_t{placeholderWidth} * placeholderHeight * 3, placeholderGrey);
     window->show();
     window->loadBuffer(placeholder.data(), placeholderWidth, placeholderHeight, false);
-    if (const QString problem = window->graphicsProblem(); !problem.isEmpty()) {
+    if (const auto problem = window->graphicsProblem(); !problem.isEmpty()) {
         // The toolkit crashes when it paints a window that holds an OpenGL widget and there is no OpenGL.
         window->hide();
         tellGraphicsProblem(problem);

@@ -64,12 +64,12 @@ Magick::ImageType typeOf(const Magick::Image &image)
 
 // A warning leaves the result of the call standing, so the text is kept and all goes on.
 template <typename Call>
-QString warningOf(Call call)
+Message warningOf(Call call)
 {
     try {
         call();
     } catch (const Magick::Warning &warning) {
-        return QString::fromLocal8Bit(warning.what());
+        return Message::quoting(QString::fromLocal8Bit(warning.what()));
     }
     return {};
 }
@@ -111,7 +111,7 @@ template <typename Step>
 bool LumioImage::attempt(Step step)
 {
     m_problem.clear();
-    m_warning.clear();
+    m_warning = {};
     try {
         step();
     } catch (const std::exception &exception) {
@@ -159,7 +159,7 @@ void LumioImage::nameInMessages(int descriptor, const QString &path)
 {
     const QString name = QString::fromStdString(nameOfOpenFile(descriptor));
     m_problem.replace(name, path);
-    m_warning.replace(name, path);
+    m_warning.replaceInDetail(name, path);
 }
 
 void LumioImage::readFrom(const PictureFile &file, const QString &path)
@@ -175,11 +175,11 @@ void LumioImage::readFrom(const PictureFile &file, const QString &path)
     Magick::Image fresh = firstPicture();
     m_warning = warningOf([&] { fresh.read(file.name()); });
     if (!fresh.isValid()) {
-        m_problem = m_warning.isEmpty() ? QStringLiteral("No picture in %1").arg(path) : m_warning;
+        m_problem = m_warning.isEmpty() ? QStringLiteral("No picture in %1").arg(path) : warning();
         return;
     }
     if (m_warning.isEmpty() && !metadata.isComplete()) {
-        m_warning = QStringLiteral("Not all that %1 says about its picture could be read").arg(path);
+        m_warning = Message(QT_TRANSLATE_NOOP("Message", "Not all that %1 says about its picture could be read"), path);
     }
     fresh.fileName(QFile::encodeName(path).toStdString());
     raiseDepth(fresh);
@@ -233,7 +233,8 @@ void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quali
 void LumioImage::writeMetadata(const OpenFile &file, PictureFormat format)
 {
     if (!m_metadata.writeInto(file, format, width(), height()) && m_warning.isEmpty()) {
-        m_warning = QStringLiteral("Not all that was said about the picture could be saved with it");
+        m_warning =
+            Message(QT_TRANSLATE_NOOP("Message", "Not all that was said about the picture could be saved with it"));
     }
 }
 

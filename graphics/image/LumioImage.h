@@ -2,6 +2,7 @@
 #pragma once
 
 #include "graphics/image/Metadata.h"
+#include "graphics/Message.h"
 
 #include <Magick++.h>
 
@@ -70,7 +71,9 @@ public:
     /// Why the last operation failed; empty if it did not.
     QString problem() const { return m_problem; }
     /// What the library complained about in the last operation although it gave a result; else empty.
-    QString warning() const { return m_warning; }
+    QString warning() const { return m_warning.english(); }
+    /// The same in the user's language, except for the library's own words.
+    QString translatedWarning() const { return m_warning.translated(); }
 
 private:
     template <typename Step>
@@ -95,7 +98,7 @@ private:
     Samples m_samples = Samples::AsRead;
     Metadata m_metadata;
     QString m_problem;
-    QString m_warning;
+    Message m_warning;
 };
 
 } // namespace grisal::graphics

@@ -40,7 +40,7 @@ protected:
             throw std::runtime_error("the window does not come to the front");
         }
         if (!window.graphicsProblem().isEmpty()) {
-            throw std::runtime_error(window.graphicsProblem().toStdString());
+            throw std::runtime_error(window.graphicsProblem().english().toStdString());
         }
         const std::vector<std::uint8_t> grey(std::size_t{300} * 200 * 3, 128);
         window.loadBuffer(grey.data(), 300, 200, false);

@@ -71,10 +71,11 @@ void GLWidget::initializeGL()
         startGraphics();
         break;
     case graphics::GlStart::TooOld:
-        m_problem = tr("The graphics driver offers only OpenGL %1.").arg(glText(GL_VERSION));
+        m_problem = graphics::Message(QT_TRANSLATE_NOOP("Message", "The graphics driver offers only OpenGL %1."),
+                                      glText(GL_VERSION));
         break;
     case graphics::GlStart::NoContext:
-        m_problem = tr("The graphics driver does not start OpenGL.");
+        m_problem = graphics::Message(QT_TRANSLATE_NOOP("Message", "The graphics driver does not start OpenGL."));
         break;
     }
 }
@@ -113,10 +114,11 @@ bool GLWidget::makeContextCurrent()
     return m_started;
 }
 
-QString GLWidget::graphicsProblem() const
+graphics::Message GLWidget::graphicsProblem() const
 {
     const bool withoutContext = isVisible() && !isValid();
-    return withoutContext ? tr("There is no OpenGL on this display.") : m_problem;
+    return withoutContext ? graphics::Message(QT_TRANSLATE_NOOP("Message", "There is no OpenGL on this display."))
+                          : m_problem;
 }
 
 void GLWidget::loadImage(const void *pixels, int width, int height, bool sixteenBit, bool alpha)

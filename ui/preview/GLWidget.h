@@ -4,6 +4,7 @@
 // GLEW comes before any header of the toolkit that brings in GL.
 #include "graphics/gl/GL.h"
 
+#include "graphics/Message.h"
 #include "graphics/render/PreviewStage.h"
 #include "ui/accessible/FocusMark.h"
 #include "ui/accessible/Spoken.h"
@@ -77,8 +78,8 @@ public:
     enumFitTo fitOnWidth() const;
     enumFitTo fitOnHeight() const;
 
-    /// Why the machine cannot draw the preview, in words for the user; empty while nothing is wrong.
-    QString graphicsProblem() const;
+    /// Why the machine cannot draw the preview; empty while nothing is wrong.
+    graphics::Message graphicsProblem() const;
 
     const graphics::FilterParameters &parameters() const { return m_stage.parameters(); }
     QAccessible::Role spokenRole() const override { return QAccessible::Canvas; }
@@ -150,7 +151,7 @@ private:
     QPointF m_lastPos;
     QTimer m_clickTimer;
     QTimer m_resizeTimer;
-    QString m_problem;
+    graphics::Message m_problem;
     FocusMark m_focusMark{this};
 };
 
