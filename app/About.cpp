@@ -53,7 +53,7 @@ About::~About() = default;
 
 void About::showVersion()
 {
-    m_form->labelVersion->setText(QStringLiteral("Version: " __DATE__ " " __TIME__));
+    m_form->labelVersion->setText(tr("Version: %1").arg(QStringLiteral(__DATE__ " " __TIME__)));
 }
 
 void About::showLogo()

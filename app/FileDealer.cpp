@@ -19,7 +19,7 @@ constexpr int recentCount = 5;
 
 QString filter()
 {
-    return QStringLiteral("Images (*.jpg *.jpeg *.JPG *.JPEG *.png *.PNG *.tif *.TIF)");
+    return FileDealer::tr("Images") + QStringLiteral(" (*.jpg *.jpeg *.JPG *.JPEG *.png *.PNG *.tif *.TIF)");
 }
 
 QString lastDirectoryKey()

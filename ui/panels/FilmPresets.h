@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QtGlobal>
+
 #include <array>
 
 /// A look: the weights of the channels that make a black-and-white film's rendering of colours.
@@ -12,10 +14,11 @@ struct FilmPreset {
 };
 
 /// All looks in the order of the preset box. "Berlin 200X" adds up to 256 and "Rochester Tmax 100" to 254, and two of
-/// the Redbridge films are alike: these are the weights people know the looks by.
+/// the Redbridge films are alike: these are the weights people know the looks by. Films keep their names in every
+/// language.
 constexpr std::array<FilmPreset, 17> filmPresets{{
-    {"Average", 85, 85, 85},
-    {"Luma", 77, 150, 28},
+    {QT_TRANSLATE_NOOP("Mixer", "Average"), 85, 85, 85},
+    {QT_TRANSLATE_NOOP("Mixer", "Luma"), 77, 150, 28},
     {"Berlin 200X", 46, 105, 105},
     {"Berlinpan 25", 64, 99, 92},
     {"Berlinpan 100", 54, 102, 99},

@@ -31,8 +31,7 @@ void Mixer::fillPresets()
 {
     int index = 0;
     for (const FilmPreset &preset : filmPresets) {
-        m_form->comboPresets->insertItem(index++, QIcon(), QString::fromLatin1(preset.name),
-                                         QVariantList{preset.r, preset.g, preset.b});
+        m_form->comboPresets->insertItem(index++, QIcon(), tr(preset.name), QVariantList{preset.r, preset.g, preset.b});
     }
 }
 
