@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/UserGuide.h"
 
+#include "app/Translation.h"
 #include "ui_UserGuide.h"
 
 #include <QEvent>
-#include <QFile>
 #include <QLocale>
 #include <QScreen>
 #include <QScrollBar>
@@ -19,17 +19,9 @@ constexpr double screenShare = 0.9;
 
 QUrl guideFor(const QLocale &locale)
 {
-    for (const QString &name : locale.uiLanguages()) {
-        const QString language = name.section(QLatin1Char('-'), 0, 0);
-        if (language == QLatin1String("en")) {
-            break;
-        }
-        const QString path = QStringLiteral("/Guide/Guide/guide_%1.html").arg(language);
-        if (QFile::exists(QLatin1Char(':') + path)) {
-            return QUrl(QStringLiteral("qrc:") + path);
-        }
-    }
-    return QUrl(QStringLiteral("qrc:/Guide/Guide/guide.html"));
+    const QString translated = fileInLanguageOf(locale, QStringLiteral(":/Guide/Guide/guide_%1.html"));
+    return QUrl(QStringLiteral("qrc") +
+                (translated.isEmpty() ? QStringLiteral(":/Guide/Guide/guide.html") : translated));
 }
 
 UserGuide::UserGuide(QWidget *parent) : QDialog(parent, Qt::Window), m_form(std::make_unique<Ui::UserGuide>())

@@ -2,10 +2,12 @@
 #include "app/MainWindow.h"
 #include "app/Memory.h"
 #include "app/MessageLog.h"
+#include "app/Translation.h"
 #include "graphics/gl/SurfaceFormat.h"
 #include "graphics/image/ImageLibrary.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QMessageBox>
 #include <QString>
 
@@ -42,6 +44,7 @@ int main(int argc, char **argv)
 
     QApplication application(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral(GRISAL_APP_ID));
+    const Translation translation(QLocale::system());
     auto window = std::make_unique<grisal::ui::MainWindow>();
 
     std::vector<std::uint8_t> placeholder(std::size_t{placeholderWidth} * placeholderHeight * 3, placeholderGrey);

@@ -33,11 +33,13 @@ protected:
         }
     }
 
-    /// Starts the program in a home of its own, with a variable of the environment set if one is named.
-    void start(const char *variable = nullptr, const char *value = nullptr)
+    /// Starts the program in a home of its own, with a variable of the environment set if one is named. It
+    /// speaks English unless asked for another language: its windows are found by their titles.
+    void start(const char *variable = nullptr, const char *value = nullptr, const char *language = "en")
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("HOME"), m_home.path());
+        environment.insert(QStringLiteral("LANGUAGE"), QString::fromLatin1(language));
         if (variable != nullptr) {
             environment.insert(QString::fromLatin1(variable), QString::fromLatin1(value));
         }
@@ -84,6 +86,25 @@ protected:
     {
         xdotool({QStringLiteral("windowfocus"), QStringLiteral("--sync"), window});
         xdotool({QStringLiteral("key"), QStringLiteral("--window"), window, keys});
+    }
+
+    /// The title of the dialog for opening pictures, in whatever language; empty if none comes. The keys are pressed
+    /// again where the window did not have the keyboard yet.
+    std::string titleOfOpen()
+    {
+        const QString window = mainWindow();
+        QElapsedTimer timer;
+        timer.start();
+        while (timer.elapsed() < limit) {
+            press(window, QStringLiteral("ctrl+o"));
+            QTest::qWait(500);
+            for (const char *title : {"Open Image", "Bild öffnen", "Ouvrir une image"}) {
+                if (!windowsNamed(QString::fromUtf8(title)).isEmpty()) {
+                    return title;
+                }
+            }
+        }
+        return {};
     }
 
     /// The exit status, once the program has ended by itself; -1 if it does not or crashes.
@@ -159,6 +180,31 @@ TEST_F(ProgramOnTheDesktop, TooOldAnOpenGLIsToldAndEndsTheProgram)
 {
     start("MESA_GL_VERSION_OVERRIDE", "1.4");
     EXPECT_EQ(exitStatusAfter(windowNamed(QStringLiteral("No OpenGL")), QStringLiteral("Return")), EXIT_FAILURE);
+    EXPECT_TRUE(logged().contains(" Critical: The graphics driver offers only OpenGL 1.4")) << logged().toStdString();
+}
+
+TEST_F(ProgramOnTheDesktop, SpeaksTheLanguageOfTheDesktop)
+{
+    start("LANGUAGE", "de_CH:en");
+    EXPECT_EQ(titleOfOpen(), "Bild öffnen");
+}
+
+TEST_F(ProgramOnTheDesktop, SpeaksTheFirstLanguageThatItKnows)
+{
+    start("LANGUAGE", "nl:fr:de");
+    EXPECT_EQ(titleOfOpen(), "Ouvrir une image");
+}
+
+TEST_F(ProgramOnTheDesktop, EnglishBeforeOtherLanguagesIsEnglish)
+{
+    start("LANGUAGE", "en_GB:de");
+    EXPECT_EQ(titleOfOpen(), "Open Image");
+}
+
+TEST_F(ProgramOnTheDesktop, TheBoxWithoutOpenGLIsTranslatedAndTheLogIsNot)
+{
+    start("MESA_GL_VERSION_OVERRIDE", "1.4", "fr");
+    EXPECT_EQ(exitStatusAfter(windowNamed(QStringLiteral("Pas d’OpenGL")), QStringLiteral("Return")), EXIT_FAILURE);
     EXPECT_TRUE(logged().contains(" Critical: The graphics driver offers only OpenGL 1.4")) << logged().toStdString();
 }
 

@@ -1,0 +1,973 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>About</name>
+    <message>
+        <source>About</source>
+        <translation>À propos de Grisal</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>Lumio Grisal is a
+black and white
+imaging toolkit
+with focus on speed
+and comfort.</source>
+        <translation>Lumio Grisal est un
+outil pour l’image
+en noir et blanc,
+fait pour la rapidité
+et le confort.</translation>
+    </message>
+    <message>
+        <source>Licenses</source>
+        <translation>Licences</translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <translation>Bibliothèque</translation>
+    </message>
+    <message>
+        <source>The library whose licence is shown</source>
+        <translation>La bibliothèque dont la licence est affichée</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Licence</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Site web</translation>
+    </message>
+    <message>
+        <source>Version: %1</source>
+        <translation>Version&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CurveFrame</name>
+    <message>
+        <source>Points: %1, none taken</source>
+        <translation>Points&#xa0;: %1, aucun saisi</translation>
+    </message>
+    <message>
+        <source>Point %1 of %2: %3 % from the left, %4 % from the bottom</source>
+        <translation>Point %1 sur %2&#xa0;: %3&#xa0;% depuis la gauche, %4&#xa0;% depuis le bas</translation>
+    </message>
+</context>
+<context>
+    <name>Curves</name>
+    <message>
+        <source>Presets:</source>
+        <translation>Préréglages&#xa0;:</translation>
+    </message>
+    <message>
+        <source>There are no presets for curves yet</source>
+        <translation>Il n’y a pas encore de préréglages pour les courbes</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+    <message>
+        <source>Back to the straight curve, which changes nothing</source>
+        <translation>Retour à la courbe droite, qui ne change rien</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>The greys after the curve</source>
+        <translation>Les gris après la courbe</translation>
+    </message>
+    <message>
+        <source>Black at the bottom</source>
+        <translation>Le noir en bas</translation>
+    </message>
+    <message>
+        <source>&lt;div style=&quot; background:white; color:black; white-space:nowrap;&quot;&gt;The greys after the curve, black at the bottom&lt;/div&gt;</source>
+        <translation>&lt;div style=&quot; background:white; color:black; white-space:nowrap;&quot;&gt;Les gris après la courbe, le noir en bas&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Click to take the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
+        <translation>Cliquez pour saisir le point au-dessus ou au-dessous, ou pour en ajouter un. Faites-le glisser pour le déplacer. Suppr retire le point orange&#xa0;; les deux extrémités restent.</translation>
+    </message>
+    <message>
+        <source>Tone curve</source>
+        <translation>Courbe des tons</translation>
+    </message>
+    <message>
+        <source>Page Up and Page Down take the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
+        <translation>Page précédente et Page suivante saisissent le point à gauche ou à droite, les flèches le déplacent. Inser ajoute un point à sa droite, Suppr le retire&#xa0;; les deux extrémités restent.</translation>
+    </message>
+    <message>
+        <source>The greys before the curve</source>
+        <translation>Les gris avant la courbe</translation>
+    </message>
+    <message>
+        <source>Black at the left</source>
+        <translation>Le noir à gauche</translation>
+    </message>
+    <message>
+        <source>&lt;div style=&quot; background:white; color:black; white-space:nowrap;&quot;&gt;The greys before the curve, black at the left&lt;/div&gt;</source>
+        <translation>&lt;div style=&quot; background:white; color:black; white-space:nowrap;&quot;&gt;Les gris avant la courbe, le noir à gauche&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Straight lines between the points</source>
+        <translation>Des droites entre les points</translation>
+    </message>
+    <message>
+        <source>Linear</source>
+        <translation>Linéaire</translation>
+    </message>
+    <message>
+        <source>A smooth curve through the points</source>
+        <translation>Une courbe douce par les points</translation>
+    </message>
+    <message>
+        <source>BSpline</source>
+        <translation>B-spline</translation>
+    </message>
+</context>
+<context>
+    <name>FileDealer</name>
+    <message>
+        <source>Images</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Ouvrir une image</translation>
+    </message>
+    <message>
+        <source>Save image</source>
+        <translation>Enregistrer l’image</translation>
+    </message>
+</context>
+<context>
+    <name>Grain</name>
+    <message>
+        <source>Presets:</source>
+        <translation>Préréglages&#xa0;:</translation>
+    </message>
+    <message>
+        <source>There are no presets for film grain yet</source>
+        <translation>Il n’y a pas encore de préréglages pour le grain</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+    <message>
+        <source>Back to grain in the middle greys, blurred by 1.5 pixels</source>
+        <translation>Retour au grain dans les gris moyens, adouci de 1,5 pixel</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>How strong the grain is, from the blacks at the left to the whites at the right. Click to take the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
+        <translation>La force du grain, du noir à gauche au blanc à droite. Cliquez pour saisir le point au-dessus ou au-dessous, ou pour en ajouter un. Faites-le glisser pour le déplacer. Suppr retire le point orange&#xa0;; les deux extrémités restent.</translation>
+    </message>
+    <message>
+        <source>Strength of the grain</source>
+        <translation>Force du grain</translation>
+    </message>
+    <message>
+        <source>How strong the grain is, from the blacks at the left to the whites at the right. Page Up and Page Down take the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
+        <translation>La force du grain, du noir à gauche au blanc à droite. Page précédente et Page suivante saisissent le point à gauche ou à droite, les flèches le déplacent. Inser ajoute un point à sa droite, Suppr le retire&#xa0;; les deux extrémités restent.</translation>
+    </message>
+    <message>
+        <source>The grain on the greys from black to white</source>
+        <translation>Le grain sur les gris, du noir au blanc</translation>
+    </message>
+    <message>
+        <source>Preview of the grain</source>
+        <translation>Aperçu du grain</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>Flou</translation>
+    </message>
+    <message>
+        <source>How coarse the grain is, in pixels</source>
+        <translation>La grosseur du grain, en pixels</translation>
+    </message>
+</context>
+<context>
+    <name>GrainPreview</name>
+    <message>
+        <source>Blurred by %1 pixels</source>
+        <translation>Adouci de %L1 pixels</translation>
+    </message>
+    <message>
+        <source>%1, %2 % strong in the blacks, %3 % in the middle greys, %4 % in the whites</source>
+        <translation>%1, force %2&#xa0;% dans les noirs, %3&#xa0;% dans les gris moyens, %4&#xa0;% dans les blancs</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Arrow keys move about in the picture, plus and minus zoom. The space bar, while it is held, shows the picture without the filters.</source>
+        <translation>Les flèches vous déplacent dans l’image, plus et moins agrandissent et réduisent. La barre d’espace, tant qu’elle est enfoncée, montre l’image sans les filtres.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Récents</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Édition</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Affichage</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtres</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>1. Mixer</source>
+        <translation>1. Mélangeur</translation>
+    </message>
+    <message>
+        <source>Channel Mixer</source>
+        <translation>Mélangeur de canaux</translation>
+    </message>
+    <message>
+        <source>2. Curves</source>
+        <translation>2. Courbes</translation>
+    </message>
+    <message>
+        <source>Edit mapping function</source>
+        <translation>Modifier la courbe des tons</translation>
+    </message>
+    <message>
+        <source>3. Sharpen</source>
+        <translation>3. Netteté</translation>
+    </message>
+    <message>
+        <source>Accentuate Details</source>
+        <translation>Accentuer les détails</translation>
+    </message>
+    <message>
+        <source>4. Vignette</source>
+        <translation>4. Vignettage</translation>
+    </message>
+    <message>
+        <source>Darken Borders</source>
+        <translation>Assombrir les bords</translation>
+    </message>
+    <message>
+        <source>5. Film Grain</source>
+        <translation>5. Grain</translation>
+    </message>
+    <message>
+        <source>Simulate High ISO Film Grain</source>
+        <translation>Simuler le grain des films à haute sensibilité</translation>
+    </message>
+    <message>
+        <source>6. Split Tone</source>
+        <translation>6. Virage partiel</translation>
+    </message>
+    <message>
+        <source>Apply Color Tones</source>
+        <translation>Teinter les hautes lumières et les ombres</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos de Grisal</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Site web</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Zoom avant</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Zoom arrière</translation>
+    </message>
+    <message>
+        <source>Fit on Width</source>
+        <translation>Ajuster à la largeur</translation>
+    </message>
+    <message>
+        <source>Fit on Height</source>
+        <translation>Ajuster à la hauteur</translation>
+    </message>
+    <message>
+        <source>Actual Pixels</source>
+        <translation>Pixels réels</translation>
+    </message>
+    <message>
+        <source>Zoom to 1:1</source>
+        <translation>Zoomer à 1:1</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>The graphics driver offers only OpenGL %1.</source>
+        <translation>Le pilote graphique n’offre qu’OpenGL %1.</translation>
+    </message>
+    <message>
+        <source>The graphics driver does not start OpenGL.</source>
+        <translation>Le pilote graphique ne démarre pas OpenGL.</translation>
+    </message>
+    <message>
+        <source>There is no OpenGL on this display.</source>
+        <translation>Il n’y a pas d’OpenGL sur cet écran.</translation>
+    </message>
+    <message>
+        <source>Not all that %1 says about its picture could be read</source>
+        <translation>Les informations de %1 sur son image n’ont pas toutes pu être lues</translation>
+    </message>
+    <message>
+        <source>Not all that was said about the picture could be saved with it</source>
+        <translation>Les informations sur l’image n’ont pas toutes pu être enregistrées avec elle</translation>
+    </message>
+</context>
+<context>
+    <name>Mixer</name>
+    <message>
+        <source>Presets:</source>
+        <translation>Préréglages&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Looks named after black-and-white film stocks</source>
+        <translation>Des rendus qui portent des noms de films en noir et blanc</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+    <message>
+        <source>Back to the plain average of the channels</source>
+        <translation>Retour à la simple moyenne des canaux</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Click or drag to choose the weights: red upwards, blue to the right, the plain average in the middle. The mouse wheel raises and lowers them all.</source>
+        <translation>Cliquez ou faites glisser pour choisir les poids&#xa0;: le rouge vers le haut, le bleu vers la droite, la simple moyenne au centre. La molette les élève et les abaisse tous.</translation>
+    </message>
+    <message>
+        <source>Colour wheel</source>
+        <translation>Roue des couleurs</translation>
+    </message>
+    <message>
+        <source>Arrow keys choose the weights: red upwards, blue to the right, the plain average in the middle. Page Up and Page Down raise and lower them all.</source>
+        <translation>Les flèches choisissent les poids&#xa0;: le rouge vers le haut, le bleu vers la droite, la simple moyenne au centre. Page précédente et Page suivante les élèvent et les abaissent tous.</translation>
+    </message>
+    <message>
+        <source>Luma</source>
+        <translation>Luma</translation>
+    </message>
+    <message>
+        <source>&lt;div style=&quot; background:white; color:black;&quot;&gt;The sum of the weights: 255 keeps the brightness of the picture&lt;/div&gt;</source>
+        <translation>&lt;div style=&quot; background:white; color:black;&quot;&gt;La somme des poids&#xa0;: 255 conserve la luminosité de l’image&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Sum of the weights</source>
+        <translation>Somme des poids</translation>
+    </message>
+    <message>
+        <source>The sum of the weights: 255 keeps the brightness of the picture</source>
+        <translation>La somme des poids&#xa0;: 255 conserve la luminosité de l’image</translation>
+    </message>
+    <message>
+        <source>&lt;div style=&quot; color:#ff0000;&quot;&gt;Red&lt;/div&gt;</source>
+        <translation>&lt;div style=&quot; color:#ff0000;&quot;&gt;Rouge&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Red&apos;s share of the grey. It counts with the next change of the luma.</source>
+        <translation>La part du rouge dans le gris. Elle compte au prochain changement de luma.</translation>
+    </message>
+    <message>
+        <source>Red weight</source>
+        <translation>Poids du rouge</translation>
+    </message>
+    <message>
+        <source>&lt;div style=&quot; color:green;&quot;&gt;Green&lt;/div&gt;</source>
+        <translation>&lt;div style=&quot; color:green;&quot;&gt;Vert&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Green&apos;s share of the grey. It counts with the next change of the luma.</source>
+        <translation>La part du vert dans le gris. Elle compte au prochain changement de luma.</translation>
+    </message>
+    <message>
+        <source>Green weight</source>
+        <translation>Poids du vert</translation>
+    </message>
+    <message>
+        <source>&lt;div style=&quot; color:#0000ff;&quot;&gt;Blue&lt;/div&gt;</source>
+        <translation>&lt;div style=&quot; color:#0000ff;&quot;&gt;Bleu&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Blue&apos;s share of the grey. It counts with the next change of the luma.</source>
+        <translation>La part du bleu dans le gris. Elle compte au prochain changement de luma.</translation>
+    </message>
+    <message>
+        <source>Blue weight</source>
+        <translation>Poids du bleu</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Moyenne</translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>Remembered from the last pictures</source>
+        <translation>Retenu des dernières images</translation>
+    </message>
+    <message>
+        <source>Last directory:</source>
+        <translation>Dernier dossier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Where the dialogs for opening and saving start</source>
+        <translation>Là où commencent les dialogues d’ouverture et d’enregistrement</translation>
+    </message>
+    <message>
+        <source>Last directory</source>
+        <translation>Dernier dossier</translation>
+    </message>
+    <message>
+        <source>None: dialogs start in your home directory</source>
+        <translation>Aucun&#xa0;: les dialogues partent du dossier personnel</translation>
+    </message>
+    <message>
+        <source>Forget the last directory: dialogs start in your home directory again</source>
+        <translation>Oublier le dernier dossier&#xa0;: les dialogues commencent de nouveau dans votre dossier personnel</translation>
+    </message>
+    <message>
+        <source>Forget the last directory</source>
+        <translation>Oublier le dernier dossier</translation>
+    </message>
+    <message>
+        <source>Dialogs start in your home directory again</source>
+        <translation>Les dialogues commencent de nouveau dans votre dossier personnel</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Oublier</translation>
+    </message>
+    <message>
+        <source>Recent images:</source>
+        <translation>Images récentes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The pictures of the menu File, Recent, and those whose files are missing at the moment</source>
+        <translation>Les images du menu «&#xa0;Fichier&#xa0;», «&#xa0;Récents&#xa0;» et celles dont les fichiers manquent en ce moment</translation>
+    </message>
+    <message>
+        <source>Recent images</source>
+        <translation>Images récentes</translation>
+    </message>
+    <message>
+        <source>Forget the recent images: the menu File, Recent becomes empty</source>
+        <translation>Oublier les images récentes&#xa0;: le menu «&#xa0;Fichier&#xa0;», «&#xa0;Récents&#xa0;» devient vide</translation>
+    </message>
+    <message>
+        <source>Forget the recent images</source>
+        <translation>Oublier les images récentes</translation>
+    </message>
+    <message>
+        <source>The menu File, Recent becomes empty</source>
+        <translation>Le menu «&#xa0;Fichier&#xa0;», «&#xa0;Récents&#xa0;» devient vide</translation>
+    </message>
+    <message>
+        <source>Files of the program</source>
+        <translation>Fichiers du programme</translation>
+    </message>
+    <message>
+        <source>Log:</source>
+        <translation>Journal&#xa0;:</translation>
+    </message>
+    <message>
+        <source>What the program did and what went wrong, a line each</source>
+        <translation>Ce que le programme a fait et ce qui a échoué, ligne par ligne</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Open the folder of the log</source>
+        <translation>Ouvrir le dossier du journal</translation>
+    </message>
+    <message>
+        <source>Shows it in the file manager</source>
+        <translation>Le montre dans le gestionnaire de fichiers</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>Réglages&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Where the last directory and the recent images are kept</source>
+        <translation>Là où sont gardés le dernier dossier et les images récentes</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Open the folder of the settings</source>
+        <translation>Ouvrir le dossier des réglages</translation>
+    </message>
+    <message>
+        <source>No program was found that opens the folder %1.</source>
+        <translation>Aucun programme capable d’ouvrir le dossier %1 n’a été trouvé.</translation>
+    </message>
+</context>
+<context>
+    <name>QApplication</name>
+    <message>
+        <source>No OpenGL</source>
+        <translation>Pas d’OpenGL</translation>
+    </message>
+    <message>
+        <source>%1
+Grisal needs OpenGL 2.1 to show and save pictures. Please install or update the graphics driver and start Grisal again.</source>
+        <translation>%1
+Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez installer ou mettre à jour le pilote graphique, puis relancer Grisal.</translation>
+    </message>
+</context>
+<context>
+    <name>Sharpen</name>
+    <message>
+        <source>There is no sharpening yet: the button does nothing</source>
+        <translation>La netteté n’existe pas encore&#xa0;: le bouton ne fait rien</translation>
+    </message>
+    <message>
+        <source>Sharpen Not Yet Available</source>
+        <translation>Netteté pas encore disponible</translation>
+    </message>
+</context>
+<context>
+    <name>SplitTone</name>
+    <message>
+        <source>Presets:</source>
+        <translation>Préréglages&#xa0;:</translation>
+    </message>
+    <message>
+        <source>There are no presets yet</source>
+        <translation>Il n’y a pas encore de préréglages</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+    <message>
+        <source>Back to warm highlights, cool shadows and an even weight</source>
+        <translation>Retour aux hautes lumières chaudes, aux ombres froides et à la balance égale</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Highlights</source>
+        <translation>Hautes lumières</translation>
+    </message>
+    <message>
+        <source>&lt;div style=&quot; background:white; color:black; white-space:nowrap;&quot;&gt;How light the tint is; it keeps its colour&lt;/div&gt;</source>
+        <translation>&lt;div style=&quot; background:white; color:black; white-space:nowrap;&quot;&gt;La clarté de la teinte&#xa0;; elle garde sa couleur&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>How light the tint is; it keeps its colour</source>
+        <translation>La clarté de la teinte&#xa0;; elle garde sa couleur</translation>
+    </message>
+    <message>
+        <source>Luma of the highlights</source>
+        <translation>Luma des hautes lumières</translation>
+    </message>
+    <message>
+        <source>Click or drag to choose the tint of the highlights: red upwards, blue to the right, grey in the middle. The mouse wheel makes it lighter or darker.</source>
+        <translation>Cliquez ou faites glisser pour choisir la teinte des hautes lumières&#xa0;: le rouge vers le haut, le bleu vers la droite, le gris au centre. La molette l’éclaircit ou l’assombrit.</translation>
+    </message>
+    <message>
+        <source>Colour wheel of the highlights</source>
+        <translation>Roue des couleurs des hautes lumières</translation>
+    </message>
+    <message>
+        <source>Arrow keys choose the tint of the highlights: red upwards, blue to the right, grey in the middle. Page Up and Page Down make it lighter or darker.</source>
+        <translation>Les flèches choisissent la teinte des hautes lumières&#xa0;: le rouge vers le haut, le bleu vers la droite, le gris au centre. Page précédente et Page suivante l’éclaircissent ou l’assombrissent.</translation>
+    </message>
+    <message>
+        <source>&lt;div style=&quot; color:#ff0000;&quot;&gt;Red&lt;/div&gt;</source>
+        <translation>&lt;div style=&quot; color:#ff0000;&quot;&gt;Rouge&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Red of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
+        <translation>Le rouge des hautes lumières. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
+    </message>
+    <message>
+        <source>Red of the highlights</source>
+        <translation>Rouge des hautes lumières</translation>
+    </message>
+    <message>
+        <source>&lt;div style=&quot; color:green;&quot;&gt;Green&lt;/div&gt;</source>
+        <translation>&lt;div style=&quot; color:green;&quot;&gt;Vert&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Green of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
+        <translation>Le vert des hautes lumières. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
+    </message>
+    <message>
+        <source>Green of the highlights</source>
+        <translation>Vert des hautes lumières</translation>
+    </message>
+    <message>
+        <source>&lt;div style=&quot; color:#0000ff;&quot;&gt;Blue&lt;/div&gt;</source>
+        <translation>&lt;div style=&quot; color:#0000ff;&quot;&gt;Bleu&lt;/div&gt;</translation>
+    </message>
+    <message>
+        <source>Blue of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
+        <translation>Le bleu des hautes lumières. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
+    </message>
+    <message>
+        <source>Blue of the highlights</source>
+        <translation>Bleu des hautes lumières</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Balance</translation>
+    </message>
+    <message>
+        <source>Which tint reaches further: more to the right the highlights&apos;, more to the left the shadows&apos;</source>
+        <translation>Quelle teinte s’étend le plus&#xa0;: vers la droite celle des hautes lumières, vers la gauche celle des ombres</translation>
+    </message>
+    <message>
+        <source>Shadows</source>
+        <translation>Ombres</translation>
+    </message>
+    <message>
+        <source>Luma of the shadows</source>
+        <translation>Luma des ombres</translation>
+    </message>
+    <message>
+        <source>Click or drag to choose the tint of the shadows: red upwards, blue to the right, grey in the middle. The mouse wheel makes it lighter or darker.</source>
+        <translation>Cliquez ou faites glisser pour choisir la teinte des ombres&#xa0;: le rouge vers le haut, le bleu vers la droite, le gris au centre. La molette l’éclaircit ou l’assombrit.</translation>
+    </message>
+    <message>
+        <source>Colour wheel of the shadows</source>
+        <translation>Roue des couleurs des ombres</translation>
+    </message>
+    <message>
+        <source>Arrow keys choose the tint of the shadows: red upwards, blue to the right, grey in the middle. Page Up and Page Down make it lighter or darker.</source>
+        <translation>Les flèches choisissent la teinte des ombres&#xa0;: le rouge vers le haut, le bleu vers la droite, le gris au centre. Page précédente et Page suivante l’éclaircissent ou l’assombrissent.</translation>
+    </message>
+    <message>
+        <source>Red of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
+        <translation>Le rouge des ombres. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
+    </message>
+    <message>
+        <source>Red of the shadows</source>
+        <translation>Rouge des ombres</translation>
+    </message>
+    <message>
+        <source>Green of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
+        <translation>Le vert des ombres. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
+    </message>
+    <message>
+        <source>Green of the shadows</source>
+        <translation>Vert des ombres</translation>
+    </message>
+    <message>
+        <source>Blue of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
+        <translation>Le bleu des ombres. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
+    </message>
+    <message>
+        <source>Blue of the shadows</source>
+        <translation>Bleu des ombres</translation>
+    </message>
+</context>
+<context>
+    <name>UserGuide</name>
+    <message>
+        <source>Grisal User Guide</source>
+        <translation>Guide de Grisal</translation>
+    </message>
+    <message>
+        <source>To the list of contents at the top</source>
+        <translation>Vers le sommaire, au début</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>To where the last link was followed</source>
+        <translation>Là où le dernier lien a été suivi</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Along the link that was followed before going back</source>
+        <translation>Suit de nouveau le lien dont vous êtes revenu</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation>Guide</translation>
+    </message>
+    <message>
+        <source>What the panels do, shortcuts, files</source>
+        <translation>Ce que font les panneaux, les raccourcis, les fichiers</translation>
+    </message>
+</context>
+<context>
+    <name>VFrame</name>
+    <message>
+        <source>Centre %1 % from the left and %2 % from the top, radius %3 %, strength %4 %</source>
+        <translation>Centre à %1&#xa0;% depuis la gauche et %2&#xa0;% depuis le haut, rayon %3&#xa0;%, force %4&#xa0;%</translation>
+    </message>
+</context>
+<context>
+    <name>Vignette</name>
+    <message>
+        <source>Presets:</source>
+        <translation>Préréglages&#xa0;:</translation>
+    </message>
+    <message>
+        <source>There are no presets yet</source>
+        <translation>Il n’y a pas encore de préréglages</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+    <message>
+        <source>Back to a vignette from the middle, of half radius and half strength</source>
+        <translation>Retour à un vignettage centré, de rayon et de force moyens</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Click or drag to choose the centre. The mouse wheel changes the radius, with the Control key held the strength.</source>
+        <translation>Cliquez ou faites glisser pour choisir le centre. La molette change le rayon, et la force si vous maintenez Ctrl.</translation>
+    </message>
+    <message>
+        <source>Vignette</source>
+        <translation>Vignettage</translation>
+    </message>
+    <message>
+        <source>Arrow keys move the centre. Page Up and Page Down change the radius, with the Control key held the strength.</source>
+        <translation>Les flèches déplacent le centre. Page précédente et Page suivante changent le rayon, et la force si vous maintenez Ctrl.</translation>
+    </message>
+    <message>
+        <source>Where the centre lies, in percent of the picture&apos;s width from the left</source>
+        <translation>La place du centre, en pour cent de la largeur de l’image depuis la gauche</translation>
+    </message>
+    <message>
+        <source>Centre from the left in percent</source>
+        <translation>Centre depuis la gauche en pour cent</translation>
+    </message>
+    <message>
+        <source>Where the centre lies, in percent of the picture&apos;s height from the top</source>
+        <translation>La place du centre, en pour cent de la hauteur de l’image depuis le haut</translation>
+    </message>
+    <message>
+        <source>Centre from the top in percent</source>
+        <translation>Centre depuis le haut en pour cent</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Rayon</translation>
+    </message>
+    <message>
+        <source>How far from the centre the strength is reached, in percent of the mean of the picture&apos;s width and height</source>
+        <translation>À quelle distance du centre la force est atteinte, en pour cent de la moyenne de la largeur et de la hauteur de l’image</translation>
+    </message>
+    <message>
+        <source>Radius in percent</source>
+        <translation>Rayon en pour cent</translation>
+    </message>
+    <message>
+        <source>Strength</source>
+        <translation>Force</translation>
+    </message>
+    <message>
+        <source>How much the picture is darkened at the radius, in percent: 0 leaves it as it is</source>
+        <translation>De combien l’image est assombrie à ce rayon, en pour cent&#xa0;: 0 la laisse telle quelle</translation>
+    </message>
+    <message>
+        <source>Strength in percent</source>
+        <translation>Force en pour cent</translation>
+    </message>
+    <message>
+        <source>Has no effect on the picture yet</source>
+        <translation>Sans effet sur l’image pour l’instant</translation>
+    </message>
+    <message>
+        <source>Extra blur</source>
+        <translation>Flou supplémentaire</translation>
+    </message>
+    <message>
+        <source>Extra Blur</source>
+        <translation>Flou supplémentaire</translation>
+    </message>
+</context>
+<context>
+    <name>YUVFrame</name>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>%1, level %2: red %3, green %4, blue %5</source>
+        <translation>%1, niveau %2&#xa0;: rouge %3, vert %4, bleu %5</translation>
+    </message>
+</context>
+<context>
+    <name>grisal::ui::GLWidget</name>
+    <message>
+        <source>No picture</source>
+        <translation>Aucune image</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels at %3 %</source>
+        <translation>%1 x %2 pixels à %3&#xa0;%</translation>
+    </message>
+    <message>
+        <source>%1, without the filters</source>
+        <translation>%1, sans les filtres</translation>
+    </message>
+</context>
+<context>
+    <name>grisal::ui::MainWindow</name>
+    <message>
+        <source>Filters</source>
+        <translation>Filtres</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>Ouvrir une image</translation>
+    </message>
+    <message>
+        <source>Cannot load %1.</source>
+        <translation>Impossible de charger %1.</translation>
+    </message>
+    <message>
+        <source>No filename</source>
+        <translation>Aucun nom de fichier</translation>
+    </message>
+    <message>
+        <source>No image</source>
+        <translation>Aucune image</translation>
+    </message>
+    <message>
+        <source>Cannot save %1. Choose another place or name.</source>
+        <translation>Impossible d’enregistrer %1. Choisissez un autre emplacement ou un autre nom.</translation>
+    </message>
+    <message>
+        <source>The picture could not be rendered. Nothing was saved; the log tells more.</source>
+        <translation>L’image n’a pas pu être calculée. Rien n’a été enregistré&#xa0;; le journal en dit plus.</translation>
+    </message>
+    <message>
+        <source>File %1 already exists.
+ Do you want to replace it?</source>
+        <translation>Le fichier %1 existe déjà.
+ Voulez-vous le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Overwrite?</source>
+        <translation>Écraser&#xa0;?</translation>
+    </message>
+</context>
+</TS>
