@@ -9,9 +9,10 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
-#include <cstdint>
+#include <cstddef>
 #include <exception>
-#include <vector>
+#include <memory>
+#include <utility>
 
 namespace grisal::ui
 {
@@ -27,14 +28,12 @@ std::size_t pixelCount(const graphics::LumioImage &image)
     return static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height());
 }
 
-/// The pixels as bytes, R, G, B; empty where they cannot be had.
-std::vector<std::uint8_t> bytesOf(graphics::LumioImage &image)
+/// The pixels as bytes, or as words, R, G, B; null where they cannot be had.
+std::unique_ptr<std::byte[]> pixelsOf(graphics::LumioImage &image, bool sixteenBit)
 {
-    std::vector<std::uint8_t> pixels(pixelCount(image) * 3);
-    if (!image.getPixels(pixels.data(), false, false)) {
-        pixels.clear();
-    }
-    return pixels;
+    const std::size_t size = pixelCount(image) * 3 * (sixteenBit ? 2 : 1);
+    auto pixels = std::make_unique_for_overwrite<std::byte[]>(size);
+    return image.getPixels(pixels.get(), false, sixteenBit) ? std::move(pixels) : nullptr;
 }
 
 /// Whether the path leads to something, if only to a link whose target is missing.
@@ -92,16 +91,16 @@ void MainWindow::openFile(const QString &filename)
         tellCannotLoad(filename);
         return;
     }
-    const std::vector<std::uint8_t> pixels = bytesOf(image);
+    const std::unique_ptr<std::byte[]> pixels = pixelsOf(image, false);
     graphics::LumioImage output(image.width(), image.height(), image.is16Bit());
     output.takeMetadataOf(image);
-    if (pixels.empty() || output.isNull()) {
+    if (!pixels || output.isNull()) {
         tellProblems(image);
         tellProblems(output);
         tellCannotLoad(filename);
         return;
     }
-    loadBuffer(pixels.data(), image.width(), image.height(), false);
+    loadBuffer(pixels.get(), image.width(), image.height(), false);
     m_source = image;
     m_output = output;
     m_fileDealer.addToRecent();
@@ -177,15 +176,15 @@ bool MainWindow::renderIntoOutput()
 {
     update();
     const bool sixteenBit = m_source.is16Bit();
-    std::vector<std::uint8_t> pixels(pixelCount(m_source) * 3 * (sixteenBit ? 2 : 1));
-    if (!m_source.getPixels(pixels.data(), false, sixteenBit)) {
+    const std::unique_ptr<std::byte[]> pixels = pixelsOf(m_source, sixteenBit);
+    if (!pixels) {
         return tellRenderFailed(m_source.problem());
     }
     GLWidget *preview = m_form->glWidgetPreview;
-    if (!preview->renderFinal(pixels.data(), m_source.width(), m_source.height(), sixteenBit, false)) {
+    if (!preview->renderFinal(pixels.get(), m_source.width(), m_source.height(), sixteenBit, false)) {
         return tellRenderFailed(preview->graphicsProblem());
     }
-    if (!m_output.setPixels(pixels.data(), false, sixteenBit)) {
+    if (!m_output.setPixels(pixels.get(), false, sixteenBit)) {
         return tellRenderFailed(m_output.problem());
     }
     return true;

@@ -211,7 +211,6 @@ void GLWidget::paintGL()
 void GLWidget::paintPreview()
 {
     graphics::Preview *preview = m_stage.preview();
-    glEnable(GL_TEXTURE_2D);
     fitViewToWidget();
     if (m_dirty) {
         preview->render();
@@ -219,6 +218,8 @@ void GLWidget::paintPreview()
         bindScreen();
     }
     preview->view().setup();
+    // Not before the render, which may make textures and leaves them switched off then.
+    glEnable(GL_TEXTURE_2D);
     drawPreview(preview->output());
     glDisable(GL_TEXTURE_2D);
 }
