@@ -2,6 +2,7 @@
 // The ways a picture takes into the window and out of it again.
 #include "app/MainWindow.h"
 
+#include "app/BusyNotice.h"
 #include "app/Memory.h"
 #include "app/Product.h"
 #include "ui_MainWindow.h"
@@ -79,15 +80,19 @@ void MainWindow::openImage(QString filename)
 // picture that is open, which is then opened again: its panels start afresh under the name that was asked for.
 void MainWindow::openFile(const QString &filename)
 {
+    BusyNotice notice(*m_form->statusbar, *m_progressBar);
+    notice.show(tr("Reading %1").arg(QFileInfo(filename).fileName()));
     graphics::LumioImage image = m_source;
     const bool read = image.read(filename);
     tellProblems(image);
     if (!read && isThere(filename)) {
+        notice.end();
         tellCannotLoad(filename);
         return;
     }
     qDebug("%s", image.info().c_str());
     if (image.isNull()) {
+        notice.end();
         tellCannotLoad(filename);
         return;
     }
@@ -97,6 +102,7 @@ void MainWindow::openFile(const QString &filename)
     if (!pixels || output.isNull()) {
         tellProblems(image);
         tellProblems(output);
+        notice.end();
         tellCannotLoad(filename);
         return;
     }
@@ -146,9 +152,11 @@ void MainWindow::saveImage(const QString &path)
         tell(tr("No image"));
         return;
     }
-    if (!renderOutput()) {
+    BusyNotice notice(*m_form->statusbar, *m_progressBar);
+    if (!renderOutput(notice)) {
         return;
     }
+    notice.show(tr("Writing %1").arg(QFileInfo(path).fileName()));
     if (!m_output.save(path, saveQuality)) {
         qWarning("Cannot save %s: %s", qPrintable(path), qPrintable(m_output.problem()));
         tell(tr("Cannot save %1. Choose another place or name.").arg(path));
@@ -159,20 +167,21 @@ void MainWindow::saveImage(const QString &path)
 
 void MainWindow::slotFinalRendering()
 {
-    renderOutput();
+    BusyNotice notice(*m_form->statusbar, *m_progressBar);
+    renderOutput(notice);
 }
 
-bool MainWindow::renderOutput()
+bool MainWindow::renderOutput(BusyNotice &notice)
 {
     try {
-        return renderIntoOutput();
+        return renderIntoOutput(notice);
     } catch (const std::exception &problem) {
         // A render that the memory does not hold.
         return tellRenderFailed(QString::fromLocal8Bit(problem.what()));
     }
 }
 
-bool MainWindow::renderIntoOutput()
+bool MainWindow::renderIntoOutput(BusyNotice &notice)
 {
     update();
     const bool sixteenBit = m_source.is16Bit();
@@ -181,7 +190,10 @@ bool MainWindow::renderIntoOutput()
         return tellRenderFailed(m_source.problem());
     }
     GLWidget *preview = m_form->glWidgetPreview;
-    if (!preview->renderFinal(pixels.get(), m_source.width(), m_source.height(), sixteenBit, false)) {
+    const auto tellTile = [&notice](int tile, int tiles) {
+        notice.show(tr("Rendering tile %1 of %2").arg(tile).arg(tiles), tile - 1, tiles);
+    };
+    if (!preview->renderFinal(pixels.get(), m_source.width(), m_source.height(), sixteenBit, false, tellTile)) {
         return tellRenderFailed(preview->graphicsProblem());
     }
     if (!m_output.setPixels(pixels.get(), false, sixteenBit)) {
