@@ -84,6 +84,8 @@ protected:
     {
         xdotool({QStringLiteral("windowfocus"), QStringLiteral("--sync"), window});
         xdotool({QStringLiteral("key"), QStringLiteral("--window"), window, keys});
+        // A window that goes when a key is pressed does not see it go up: the next window would get it again and again.
+        xdotool({QStringLiteral("keyup"), keys});
     }
 
     /// The exit status, once the program has ended by itself; -1 if it does not or crashes.
