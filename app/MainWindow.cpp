@@ -16,6 +16,7 @@
 #include "ui_MainWindow.h"
 
 #include <QDesktopServices>
+#include <QProgressBar>
 #include <QStackedLayout>
 #include <QToolBar>
 #include <QUrl>
@@ -28,6 +29,7 @@ namespace
 
 constexpr int toolBarGap = 20;
 constexpr int toolBarIconSide = 32;
+constexpr QSize progressBarSize(140, 12);
 
 QWidget *newGap()
 {
@@ -48,12 +50,13 @@ QWidget *newStretch()
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent), m_mixer(new Mixer(this)), m_vignette(new Vignette(this)), m_splitTone(new SplitTone(this)),
       m_grain(new Grain(this)), m_sharpen(new Sharpen(this)), m_curves(new Curves(this)), m_panels(new QStackedLayout),
-      m_toolBar(new QToolBar(this)), m_form(std::make_unique<Ui::MainWindow>())
+      m_toolBar(new QToolBar(this)), m_progressBar(new QProgressBar), m_form(std::make_unique<Ui::MainWindow>())
 {
     m_form->setupUi(this);
     setContextMenuPolicy(Qt::NoContextMenu);
     m_fileDealer.setUpRecentMenu(m_form->menuRecent);
     setUpToolBar();
+    setUpStatusBar();
     setUpPanels();
     connectPanels();
     connect(m_form->actionHelp, &QAction::triggered, this, &MainWindow::showGuide);
@@ -85,6 +88,21 @@ void MainWindow::setUpToolBar()
     m_toolBar->addSeparator();
     m_toolBar->addWidget(newStretch());
     addToolBar(Qt::LeftToolBarArea, m_toolBar);
+}
+
+void MainWindow::setUpStatusBar()
+{
+    m_progressBar->setObjectName(QStringLiteral("progressBar"));
+    m_progressBar->setAccessibleName(tr("Progress"));
+    m_progressBar->setAccessibleDescription(tr("How much of reading, rendering or writing is done"));
+    m_progressBar->setTextVisible(false);
+    m_progressBar->setFixedSize(progressBarSize);
+    // It is shown in the middle of a job, when nothing can be laid out: its place is always there.
+    QSizePolicy placed = m_progressBar->sizePolicy();
+    placed.setRetainSizeWhenHidden(true);
+    m_progressBar->setSizePolicy(placed);
+    m_form->statusbar->addPermanentWidget(m_progressBar);
+    m_progressBar->hide();
 }
 
 void MainWindow::setUpPanels()

@@ -12,9 +12,11 @@
 
 #include <memory>
 
+class BusyNotice;
 class Curves;
 class Grain;
 class Mixer;
+class QProgressBar;
 class QStackedLayout;
 class QToolBar;
 class Sharpen;
@@ -83,6 +85,7 @@ public slots:
 private:
     void setUpPanels();
     void setUpToolBar();
+    void setUpStatusBar();
     void connectPanels();
     void showGuide();
     void showPreferences();
@@ -92,8 +95,8 @@ private:
     void tellCannotLoad(const QString &filename);
     void tell(const QString &message);
     void openFile(const QString &filename);
-    bool renderOutput();
-    bool renderIntoOutput();
+    bool renderOutput(BusyNotice &notice);
+    bool renderIntoOutput(BusyNotice &notice);
     bool tellRenderFailed(const QString &reason);
 
     Mixer *m_mixer;
@@ -104,6 +107,7 @@ private:
     Curves *m_curves;
     QStackedLayout *m_panels;
     QToolBar *m_toolBar;
+    QProgressBar *m_progressBar;
     graphics::LumioImage m_source;
     graphics::LumioImage m_output;
     FileDealer m_fileDealer;

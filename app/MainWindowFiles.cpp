@@ -2,6 +2,7 @@
 // The ways a picture takes into the window and out of it again.
 #include "app/MainWindow.h"
 
+#include "app/BusyNotice.h"
 #include "app/Memory.h"
 #include "app/Product.h"
 #include "ui_MainWindow.h"
@@ -9,9 +10,10 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
-#include <cstdint>
+#include <cstddef>
 #include <exception>
-#include <vector>
+#include <memory>
+#include <utility>
 
 namespace grisal::ui
 {
@@ -27,14 +29,12 @@ std::size_t pixelCount(const graphics::LumioImage &image)
     return static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height());
 }
 
-/// The pixels as bytes, R, G, B; empty where they cannot be had.
-std::vector<std::uint8_t> bytesOf(graphics::LumioImage &image)
+/// The pixels as bytes, or as words, R, G, B; null where they cannot be had.
+std::unique_ptr<std::byte[]> pixelsOf(graphics::LumioImage &image, bool sixteenBit)
 {
-    std::vector<std::uint8_t> pixels(pixelCount(image) * 3);
-    if (!image.getPixels(pixels.data(), false, false)) {
-        pixels.clear();
-    }
-    return pixels;
+    const std::size_t size = pixelCount(image) * 3 * (sixteenBit ? 2 : 1);
+    auto pixels = std::make_unique_for_overwrite<std::byte[]>(size);
+    return image.getPixels(pixels.get(), false, sixteenBit) ? std::move(pixels) : nullptr;
 }
 
 /// Whether the path leads to something, if only to a link whose target is missing.
@@ -80,28 +80,33 @@ void MainWindow::openImage(QString filename)
 // picture that is open, which is then opened again: its panels start afresh under the name that was asked for.
 void MainWindow::openFile(const QString &filename)
 {
+    BusyNotice notice(*m_form->statusbar, *m_progressBar);
+    notice.show(tr("Reading %1").arg(QFileInfo(filename).fileName()));
     graphics::LumioImage image = m_source;
     const bool read = image.read(filename);
     tellProblems(image);
     if (!read && isThere(filename)) {
+        notice.end();
         tellCannotLoad(filename);
         return;
     }
     qDebug("%s", image.info().c_str());
     if (image.isNull()) {
+        notice.end();
         tellCannotLoad(filename);
         return;
     }
-    const std::vector<std::uint8_t> pixels = bytesOf(image);
+    const std::unique_ptr<std::byte[]> pixels = pixelsOf(image, false);
     graphics::LumioImage output(image.width(), image.height(), image.is16Bit());
     output.takeMetadataOf(image);
-    if (pixels.empty() || output.isNull()) {
+    if (!pixels || output.isNull()) {
         tellProblems(image);
         tellProblems(output);
+        notice.end();
         tellCannotLoad(filename);
         return;
     }
-    loadBuffer(pixels.data(), image.width(), image.height(), false);
+    loadBuffer(pixels.get(), image.width(), image.height(), false);
     m_source = image;
     m_output = output;
     m_fileDealer.addToRecent();
@@ -147,9 +152,11 @@ void MainWindow::saveImage(const QString &path)
         tell(tr("No image"));
         return;
     }
-    if (!renderOutput()) {
+    BusyNotice notice(*m_form->statusbar, *m_progressBar);
+    if (!renderOutput(notice)) {
         return;
     }
+    notice.show(tr("Writing %1").arg(QFileInfo(path).fileName()));
     if (!m_output.save(path, saveQuality)) {
         qWarning("Cannot save %s: %s", qPrintable(path), qPrintable(m_output.problem()));
         tell(tr("Cannot save %1. Choose another place or name.").arg(path));
@@ -160,32 +167,36 @@ void MainWindow::saveImage(const QString &path)
 
 void MainWindow::slotFinalRendering()
 {
-    renderOutput();
+    BusyNotice notice(*m_form->statusbar, *m_progressBar);
+    renderOutput(notice);
 }
 
-bool MainWindow::renderOutput()
+bool MainWindow::renderOutput(BusyNotice &notice)
 {
     try {
-        return renderIntoOutput();
+        return renderIntoOutput(notice);
     } catch (const std::exception &problem) {
         // A render that the memory does not hold.
         return tellRenderFailed(QString::fromLocal8Bit(problem.what()));
     }
 }
 
-bool MainWindow::renderIntoOutput()
+bool MainWindow::renderIntoOutput(BusyNotice &notice)
 {
     update();
     const bool sixteenBit = m_source.is16Bit();
-    std::vector<std::uint8_t> pixels(pixelCount(m_source) * 3 * (sixteenBit ? 2 : 1));
-    if (!m_source.getPixels(pixels.data(), false, sixteenBit)) {
+    const std::unique_ptr<std::byte[]> pixels = pixelsOf(m_source, sixteenBit);
+    if (!pixels) {
         return tellRenderFailed(m_source.problem());
     }
     GLWidget *preview = m_form->glWidgetPreview;
-    if (!preview->renderFinal(pixels.data(), m_source.width(), m_source.height(), sixteenBit, false)) {
+    const auto tellTile = [&notice](int tile, int tiles) {
+        notice.show(tr("Rendering tile %1 of %2").arg(tile).arg(tiles), tile - 1, tiles);
+    };
+    if (!preview->renderFinal(pixels.get(), m_source.width(), m_source.height(), sixteenBit, false, tellTile)) {
         return tellRenderFailed(preview->graphicsProblem().english());
     }
-    if (!m_output.setPixels(pixels.data(), false, sixteenBit)) {
+    if (!m_output.setPixels(pixels.get(), false, sixteenBit)) {
         return tellRenderFailed(m_output.problem());
     }
     return true;

@@ -5,7 +5,7 @@ namespace grisal::graphics
 {
 
 DocumentView::DocumentView(int width, int height, GLenum format, GLenum internalFormat, GLenum type)
-    : m_target(width, height, format, internalFormat, type)
+    : m_target(createColourFramebuffer(width, height, format, internalFormat, type))
 {
 }
 

@@ -4,10 +4,7 @@
 namespace grisal::graphics
 {
 
-CurveFilter::CurveFilter()
-    : IFilter("CurveFilter"), m_program("CurveFilter", vertexSource(), fragmentSource("CurveFilter"))
-{
-}
+CurveFilter::CurveFilter() : IFilter("CurveFilter"), m_program("CurveFilter", "CurveFilter") {}
 
 void CurveFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
 {

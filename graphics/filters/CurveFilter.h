@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
 #include "graphics/gl/Textures.h"
-#include "graphics/shader/ShaderProgram.h"
 
 #include <QVector>
 
@@ -27,7 +27,7 @@ public:
     GLuint curveTexture() const { return m_curveTexture.name(); }
 
 private:
-    ShaderProgram m_program;
+    FilterProgram m_program;
     Texture m_curveTexture;
     QVector<float> m_curve;
 };

@@ -1,22 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/filters/FinalVignetteFilter.h"
 
-#include "graphics/filters/NoiseMap.h"
-
 namespace grisal::graphics
 {
 
 FinalVignetteFilter::FinalVignetteFilter()
-    : IFilter("FinalVignetteFilter"),
-      m_program("FinalBWVignette", vertexSource(), fragmentSource("FinalVignetteFilter")),
-      m_noiseTexture(loadNoiseMap())
+    : IFilter("FinalVignetteFilter"), m_program("FinalBWVignette", "FinalVignetteFilter")
 {
 }
 
 void FinalVignetteFilter::apply(GLuint, const FramebufferObject &target)
 {
-    setVignetteUniforms(m_program, parameters, width, height, maxWidth, maxHeight);
-    renderToFramebuffer(width, height, m_program.program, target);
+    const ShaderProgram &program = m_program;
+    setVignetteUniforms(program, parameters, width, height, maxWidth, maxHeight);
+    renderToFramebuffer(width, height, program.program, target);
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
 }
 

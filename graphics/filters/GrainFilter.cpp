@@ -6,11 +6,7 @@
 namespace grisal::graphics
 {
 
-GrainFilter::GrainFilter()
-    : IFilter("GrainFilter"), m_program("GrainFilter", vertexSource(), fragmentSource("GrainFilter")),
-      m_noiseTexture(loadNoiseMap())
-{
-}
+GrainFilter::GrainFilter() : IFilter("GrainFilter"), m_program("GrainFilter", "GrainFilter") {}
 
 void GrainFilter::setWeights(const QVector<float> &values)
 {
@@ -50,6 +46,9 @@ void GrainFilter::blurNoise()
     }
     glEnable(GL_TEXTURE_1D);
     glEnable(GL_TEXTURE_2D);
+    if (m_noiseTexture.name() == 0) {
+        m_noiseTexture = Texture(loadNoiseMap());
+    }
     if (!m_blur) {
         m_blur = std::make_unique<GaussianBlurFilter>(m_sigma, 64.0F, noiseMapSide, noiseMapSide, GL_RGB8, GL_RGB,
                                                       GL_UNSIGNED_BYTE);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/GaussianBlurFilter.h"
 #include "graphics/filters/IFilter.h"
 #include "graphics/gl/Textures.h"
-#include "graphics/shader/ShaderProgram.h"
 
 #include <QVector>
 
@@ -29,8 +29,8 @@ public:
     /// current.
     void setWeights(const QVector<float> &values);
 
-    /// Blurs the noise with a radius of `sigma` pixels: the coarseness of the grain. It is done when the noise is needed
-    /// for the first time; most pictures get no grain.
+    /// Blurs the noise with a radius of `sigma` pixels: the coarseness of the grain. It is done when the noise is
+    /// needed for the first time; most pictures get no grain.
     void setSigma(float sigma);
 
     /// The noise is blurred anew when it is needed: after a failure of the driver, nobody knows what it looks like.
@@ -46,7 +46,7 @@ public:
 private:
     void blurNoise();
 
-    ShaderProgram m_program;
+    FilterProgram m_program;
     float m_sigma = 0;
     bool m_sigmaChanged = false;
     Texture m_noiseTexture;

@@ -4,10 +4,7 @@
 namespace grisal::graphics
 {
 
-HalfToneFilter::HalfToneFilter()
-    : IFilter("HalfToneFilter"), m_program("HalfTone", vertexSource(), fragmentSource("HalfToneFilter"))
-{
-}
+HalfToneFilter::HalfToneFilter() : IFilter("HalfToneFilter"), m_program("HalfTone", "HalfToneFilter") {}
 
 void HalfToneFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
 {

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "graphics/filters/ColorRGB.h"
+#include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
-#include "graphics/shader/ShaderProgram.h"
 
 namespace grisal::graphics
 {
@@ -23,7 +23,7 @@ public:
     ColorRGB<float> secondColor; ///< tint of the shadows, 0..1
 
 private:
-    ShaderProgram m_program;
+    FilterProgram m_program;
 };
 
 } // namespace grisal::graphics

@@ -4,10 +4,7 @@
 namespace grisal::graphics
 {
 
-MixerFilter::MixerFilter()
-    : IFilter("MixerFilter"), m_program("BWConversionMixer", vertexSource(), fragmentSource("MixerFilter"))
-{
-}
+MixerFilter::MixerFilter() : IFilter("MixerFilter"), m_program("BWConversionMixer", "MixerFilter") {}
 
 void MixerFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
 {

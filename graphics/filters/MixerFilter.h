@@ -2,8 +2,8 @@
 #pragma once
 
 #include "graphics/filters/ColorRGB.h"
+#include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
-#include "graphics/shader/ShaderProgram.h"
 
 namespace grisal::graphics
 {
@@ -21,7 +21,7 @@ public:
     ColorRGB<float> weights;
 
 private:
-    ShaderProgram m_program;
+    FilterProgram m_program;
 };
 
 } // namespace grisal::graphics

@@ -5,10 +5,7 @@ namespace grisal::graphics
 {
 
 // The label is the mixer's: both programs are listed under it wherever programs are listed.
-OverlayFilter::OverlayFilter()
-    : IFilter("OverlayFilter"), m_program("BWConversionMixer", vertexSource(), fragmentSource("OverlayFilter"))
-{
-}
+OverlayFilter::OverlayFilter() : IFilter("OverlayFilter"), m_program("BWConversionMixer", "OverlayFilter") {}
 
 void OverlayFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
 {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
-#include "graphics/shader/ShaderProgram.h"
 
 namespace grisal::graphics
 {
@@ -19,7 +19,7 @@ public:
     GLuint overlayTexture = 0; ///< the mask, in its red channel; owned by whoever sets it
 
 private:
-    ShaderProgram m_program;
+    FilterProgram m_program;
 };
 
 } // namespace grisal::graphics

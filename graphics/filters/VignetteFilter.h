@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
 #include "graphics/filters/VignetteParameters.h"
 #include "graphics/gl/Textures.h"
-#include "graphics/shader/ShaderProgram.h"
 
 namespace grisal::graphics
 {
@@ -23,7 +23,7 @@ public:
     float maxHeight = 0; ///< height of the whole picture in pixels
 
 private:
-    ShaderProgram m_program;
+    FilterProgram m_program;
     Texture m_noiseTexture;
 };
 

@@ -12,7 +12,8 @@ namespace grisal::graphics
 
 DocumentRenderer::DocumentRenderer(std::uint32_t width, std::uint32_t height, GLenum format, GLenum internalFormat,
                                    GLenum type)
-    : m_target(static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), format, internalFormat, type)
+    : m_target(createColourFramebuffer(static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), format,
+                                       internalFormat, type))
 {
 }
 

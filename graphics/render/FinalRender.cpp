@@ -69,7 +69,7 @@ void logValueRange(const FinalPicture &picture)
 }
 
 bool renderInPlace(const FinalPicture &picture, FilterSet &filters, DocumentView &view, const TileSide &horizontal,
-                   const TileSide &vertical, const GlFaultWatch &watch)
+                   const TileSide &vertical, const GlFaultWatch &watch, const TileProgress &progress)
 {
     const TileFormats formats = picture.sixteenBit ? TileFormats{GL_RGB, GL_UNSIGNED_SHORT, GL_RGB16F}
                                                    : TileFormats{GL_RGB, GL_UNSIGNED_BYTE, GL_RGB8};
@@ -77,6 +77,7 @@ bool renderInPlace(const FinalPicture &picture, FilterSet &filters, DocumentView
                              static_cast<std::uint32_t>(picture.height), 1, 1};
     DocumentFilterQueue queue;
     TiledDocumentRenderer renderer(picture.hasAlpha, horizontal, vertical, formats, source);
+    renderer.setProgress(progress);
     Document document(0, &queue);
     document.setView(&view);
     addFinalFilters(queue, filters);
@@ -106,7 +107,7 @@ void addFinalFilters(DocumentFilterQueue &queue, FilterSet &filters)
 }
 
 bool renderFinalPicture(const FinalPicture &picture, const FilterParameters &parameters, FilterSet &filters,
-                        DocumentView &view)
+                        DocumentView &view, const TileProgress &progress)
 {
     const GlFaultWatch watch;
     // The grain leaves another unit active, on which it would be enabled for nothing.
@@ -125,7 +126,7 @@ bool renderFinalPicture(const FinalPicture &picture, const FilterParameters &par
     qDebug() << "HalfTone Weight: " << filters.splitTone.weight;
     filters.setParameters(parameters);
 
-    const bool rendered = renderInPlace(picture, filters, view, horizontal, vertical, watch);
+    const bool rendered = renderInPlace(picture, filters, view, horizontal, vertical, watch, progress);
     if (!rendered) {
         filters.grain.forgetNoise();
     }

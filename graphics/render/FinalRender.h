@@ -2,6 +2,7 @@
 #pragma once
 
 #include "graphics/filters/FilterParameters.h"
+#include "graphics/render/TileProgress.h"
 
 namespace grisal::graphics
 {
@@ -29,6 +30,6 @@ void addFinalFilters(DocumentFilterQueue &queue, FilterSet &filters);
 /// afterwards, their sizes are what they were, and the grain's noise has the parameters' radius. Returns whether
 /// there was a result; without one the pixels are unchanged.
 bool renderFinalPicture(const FinalPicture &picture, const FilterParameters &parameters, FilterSet &filters,
-                        DocumentView &view);
+                        DocumentView &view, const TileProgress &progress = {});
 
 } // namespace grisal::graphics

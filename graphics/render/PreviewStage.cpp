@@ -111,13 +111,13 @@ void PreviewStage::setCurve(const QVector<float> &curve)
     }
 }
 
-bool PreviewStage::renderFinal(const FinalPicture &picture)
+bool PreviewStage::renderFinal(const FinalPicture &picture, const TileProgress &progress)
 {
     const bool usable = picture.pixels != nullptr && picture.width > 0 && picture.height > 0;
     if (!usable || !m_preview) {
         return false;
     }
-    const bool rendered = renderFinalPicture(picture, m_parameters, *m_filters, m_preview->view());
+    const bool rendered = renderFinalPicture(picture, m_parameters, *m_filters, m_preview->view(), progress);
     blurGrain(m_parameters.grainRadius);
     return rendered;
 }

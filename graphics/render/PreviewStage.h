@@ -47,7 +47,7 @@ public:
 
     /// Renders a whole picture in place with the filters as they are. False, with the pixels unchanged, where there
     /// is no result or nothing was loaded yet.
-    bool renderFinal(const FinalPicture &picture);
+    bool renderFinal(const FinalPicture &picture, const TileProgress &progress = {});
 
 private:
     void prepareFilters(int width, int height);

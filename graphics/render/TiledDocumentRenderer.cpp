@@ -149,6 +149,9 @@ bool TiledDocumentRenderer::renderTiles(Document &document, const Chain &chain, 
     TileTransfer<T> transfer(m_source.width, m_source.height, m_hasAlpha ? 4 : 3, m_formats);
     for (std::uint32_t h = 0; h < columns; ++h) {
         for (std::uint32_t v = 0; v < rows; ++v) {
+            if (m_progress) {
+                m_progress(static_cast<int>(h * rows + v + 1), static_cast<int>(columns * rows));
+            }
             qDebug() << "(INFO) Begin Rendering Loop";
             // The labels name the other axis; logs have always read like this.
             qDebug() << "(INFO) iX: " << v;

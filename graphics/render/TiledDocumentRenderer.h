@@ -5,10 +5,12 @@
 #include "graphics/image/ImageBuffer.h"
 #include "graphics/render/IRenderer.h"
 #include "graphics/render/TilePlan.h"
+#include "graphics/render/TileProgress.h"
 #include "graphics/render/TileTransfer.h"
 
 #include <cstddef>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace grisal::graphics
@@ -31,6 +33,9 @@ public:
     TiledDocumentRenderer(bool hasAlpha, TileSide horizontal, TileSide vertical, const TileFormats &formats,
                           const ImageBuffer &source);
     ~TiledDocumentRenderer() override;
+
+    /// Who is told of each tile; nobody by default.
+    void setProgress(TileProgress progress) { m_progress = std::move(progress); }
 
     /// Renders the document's queue over the source and returns true. The queue itself is left as it is.
     bool render(Document &document) override;
@@ -62,6 +67,7 @@ private:
     TileSide m_vertical;
     TileFormats m_formats;
     ImageBuffer m_source;
+    TileProgress m_progress;
     std::unique_ptr<std::byte[]> m_pixels;
     std::unique_ptr<ImageBuffer> m_output;
 };

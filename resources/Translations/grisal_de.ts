@@ -969,5 +969,25 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <source>Overwrite?</source>
         <translation>Überschreiben?</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>How much of reading, rendering or writing is done</source>
+        <translation>Wie viel vom Lesen, Berechnen oder Schreiben getan ist</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>Writing %1</source>
+        <translation>%1 wird geschrieben</translation>
+    </message>
+    <message>
+        <source>Rendering tile %1 of %2</source>
+        <translation>Kachel %1 von %2 wird berechnet</translation>
+    </message>
 </context>
 </TS>

@@ -969,5 +969,25 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <source>Overwrite?</source>
         <translation>Écraser&#xa0;?</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>How much of reading, rendering or writing is done</source>
+        <translation>La part de lecture, de calcul ou d’écriture déjà faite</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Lecture de %1</translation>
+    </message>
+    <message>
+        <source>Writing %1</source>
+        <translation>Écriture de %1</translation>
+    </message>
+    <message>
+        <source>Rendering tile %1 of %2</source>
+        <translation>Calcul de la tuile %1 sur %2</translation>
+    </message>
 </context>
 </TS>

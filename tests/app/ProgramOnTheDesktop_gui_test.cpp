@@ -86,6 +86,8 @@ protected:
     {
         xdotool({QStringLiteral("windowfocus"), QStringLiteral("--sync"), window});
         xdotool({QStringLiteral("key"), QStringLiteral("--window"), window, keys});
+        // A window that goes when a key is pressed does not see it go up: the next window would get it again and again.
+        xdotool({QStringLiteral("keyup"), keys});
     }
 
     /// The title of the dialog for opening pictures, in whatever language; empty if none comes. The keys are pressed

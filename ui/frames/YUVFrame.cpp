@@ -18,7 +18,6 @@ YUVFrame::YUVFrame(QWidget *parent) : QFrame(parent)
     square.setHeightForWidth(true);
     setSizePolicy(square);
     setColorSpace(1);
-    rebuildWheelImage();
     emitWeights();
 }
 
@@ -44,7 +43,7 @@ void YUVFrame::slotSetRGB(grisal::graphics::ColorRGB<float> weights)
     m_luma = luma;
     m_chroma = chroma;
     m_marker = markerAt(m_plane, m_chroma);
-    rebuildWheelImage();
+    m_wheelImageIsOld = true;
     update();
     sayValue();
 }
@@ -52,7 +51,7 @@ void YUVFrame::slotSetRGB(grisal::graphics::ColorRGB<float> weights)
 void YUVFrame::slotSetLuma(float luma)
 {
     m_luma = grisal::math::clampedWeight(luma);
-    rebuildWheelImage();
+    m_wheelImageIsOld = true;
     update();
     sayValue();
 }
@@ -102,7 +101,7 @@ void YUVFrame::wheelEvent(QWheelEvent *event)
 void YUVFrame::turnWheel(int delta)
 {
     m_luma = lumaAfterWheel(m_luma, delta);
-    rebuildWheelImage();
+    m_wheelImageIsOld = true;
     update();
     emitWeights();
     sayValue();
@@ -168,9 +167,14 @@ void YUVFrame::emitWeights()
     update();
 }
 
-void YUVFrame::rebuildWheelImage()
+// Made when it is looked at: one of the two wheels is mostly hidden.
+const QImage &YUVFrame::wheelImage() const
 {
-    m_wheelImage = wheelImageOf(m_plane, m_luma);
+    if (m_wheelImageIsOld) {
+        m_wheelImage = wheelImageOf(m_plane, m_luma);
+        m_wheelImageIsOld = false;
+    }
+    return m_wheelImage;
 }
 
 void YUVFrame::paintEvent(QPaintEvent *)
@@ -184,7 +188,7 @@ void YUVFrame::paintEvent(QPaintEvent *)
 
 void YUVFrame::drawWheel(QPainter *painter)
 {
-    if (m_wheelImage.isNull()) {
+    if (wheelImage().isNull()) {
         return;
     }
     if (painter == nullptr) {
@@ -196,7 +200,7 @@ void YUVFrame::drawWheel(QPainter *painter)
     m_scaleY = static_cast<double>(size.height()) / m_plane.height();
 
     const qreal pixelRatio = painter->device()->devicePixelRatioF();
-    QImage shown = m_wheelImage.scaled(size * pixelRatio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QImage shown = wheelImage().scaled(size * pixelRatio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     shown.setDevicePixelRatio(pixelRatio);
     painter->drawImage(0, 0, shown);
 

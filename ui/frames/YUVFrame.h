@@ -34,7 +34,7 @@ public:
     double markerX() const { return m_marker.x(); }
     double markerY() const { return m_marker.y(); }
 
-    const QImage &wheelImage() const { return m_wheelImage; }
+    const QImage &wheelImage() const;
 
     QAccessible::Role spokenRole() const override { return QAccessible::ColorChooser; }
     QString spokenValue() const override;
@@ -71,7 +71,6 @@ private:
     void turnWheel(int delta);
     void emitWeights();
     QString hueName() const;
-    void rebuildWheelImage();
     void drawHexagon(QPainter &painter, int saturation) const;
     void drawAxes(QPainter &painter) const;
     void drawMarker(QPainter &painter) const;
@@ -80,7 +79,8 @@ private:
     double m_scaleY = -1.0;
     bool m_mousePressed = false;
     QPointF m_marker;
-    QImage m_wheelImage;
+    mutable QImage m_wheelImage;
+    mutable bool m_wheelImageIsOld = true;
     int m_colorSpace = 1;
     float m_luma = 255.0F;
     Chroma m_chroma;

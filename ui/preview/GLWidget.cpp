@@ -8,6 +8,7 @@
 #include "ui/preview/ContextEnd.h"
 
 #include <QDebug>
+#include <QScopedValueRollback>
 
 #include <utility>
 
@@ -165,13 +166,22 @@ void GLWidget::showPicture(const graphics::PreviewPixels &pixels)
     slotFitTo(m_previewWidth <= m_previewHeight ? FitLarger : FitSmaller);
 }
 
-bool GLWidget::renderFinal(void *pixels, int width, int height, bool sixteenBit, bool hasAlpha)
+bool GLWidget::renderFinal(void *pixels, int width, int height, bool sixteenBit, bool hasAlpha,
+                           const graphics::TileProgress &progress)
 {
     if (!makeContextCurrent()) {
         return false;
     }
+    const auto tellAndComeBack = [&](int tile, int tiles) {
+        if (progress) {
+            progress(tile, tiles);
+            // What it painted was put together in another context.
+            makeCurrent();
+        }
+    };
     fitViewToWidget();
-    const bool rendered = m_stage.renderFinal({pixels, width, height, sixteenBit, hasAlpha});
+    const QScopedValueRollback<bool> rendering(m_renderingFinal, true);
+    const bool rendered = m_stage.renderFinal({pixels, width, height, sixteenBit, hasAlpha}, tellAndComeBack);
     update();
     return rendered;
 }
@@ -213,14 +223,16 @@ void GLWidget::paintGL()
 void GLWidget::paintPreview()
 {
     graphics::Preview *preview = m_stage.preview();
-    glEnable(GL_TEXTURE_2D);
     fitViewToWidget();
-    if (m_dirty) {
+    // In the middle of a final render the filters have its sizes: the last frame will do.
+    if (m_dirty && !m_renderingFinal) {
         preview->render();
         m_dirty = false;
         bindScreen();
     }
     preview->view().setup();
+    // Not before the render, which may make textures and leaves them switched off then.
+    glEnable(GL_TEXTURE_2D);
     drawPreview(preview->output());
     glDisable(GL_TEXTURE_2D);
 }

@@ -59,8 +59,9 @@ public:
 
     /// Renders the whole picture in `pixels` in place with the current filters and parameters: width x height pixels
     /// of 3 components, 4 with `hasAlpha`, bytes or 16-bit words. Returns false, with the buffer unchanged, where
-    /// nothing could be rendered. The preview is as before afterwards.
-    bool renderFinal(void *pixels, int width, int height, bool sixteenBit, bool hasAlpha);
+    /// nothing could be rendered. The preview is as before afterwards. `progress` is told of each tile and may paint.
+    bool renderFinal(void *pixels, int width, int height, bool sixteenBit, bool hasAlpha,
+                     const graphics::TileProgress &progress = {});
 
     /// The next paint renders the preview again.
     void setDirty() { m_dirty = true; }
@@ -145,6 +146,7 @@ private:
     int m_previewHeight = 0;
     bool m_dirty = false;
     bool m_started = false;
+    bool m_renderingFinal = false;
     bool m_pressed = false;
     bool m_bypass = false;
     enumFitTo m_fitMode = FitSmaller;

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "app/BusyNotice.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QProgressBar>
+#include <QStatusBar>
+
+namespace
+{
+
+constexpr int readingTime = 100; // milliseconds
+
+} // namespace
+
+BusyNotice::BusyNotice(QStatusBar &statusBar, QProgressBar &progressBar)
+    : m_statusBar(statusBar), m_progressBar(progressBar)
+{
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+BusyNotice::~BusyNotice()
+{
+    end();
+}
+
+void BusyNotice::show(const QString &text)
+{
+    m_progressBar.setRange(0, 0);
+    paint(text);
+}
+
+void BusyNotice::show(const QString &text, int done, int all)
+{
+    const bool first = done == 0 || !m_sincePainted.isValid();
+    if (!first && m_sincePainted.elapsed() < readingTime) {
+        return;
+    }
+    m_progressBar.setRange(0, all);
+    m_progressBar.setValue(done);
+    paint(text);
+}
+
+void BusyNotice::paint(const QString &text)
+{
+    if (m_ended) {
+        return;
+    }
+    m_text = text;
+    m_progressBar.show();
+    m_statusBar.showMessage(text);
+    m_statusBar.update();
+    // A plain repaint() would wait for the event loop where the last one was a moment ago.
+    QEvent paintNow(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(m_statusBar.window(), &paintNow);
+    m_sincePainted.start();
+}
+
+void BusyNotice::end()
+{
+    if (m_ended) {
+        return;
+    }
+    m_ended = true;
+    m_progressBar.hide();
+    // What somebody else has said meanwhile stays.
+    if (m_statusBar.currentMessage() == m_text) {
+        m_statusBar.clearMessage();
+    }
+    QGuiApplication::restoreOverrideCursor();
+}

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/shader/ShaderProgram.h"
+
+#include <memory>
+
+namespace grisal::graphics
+{
+
+/// The program of a filter, made of the shared vertex shader and one of the filters' fragment shaders. It is compiled
+/// when it is used for the first time: most pictures need few of the filters, and the window should not wait for all.
+///
+/// The context must be current when it is used and at the end of its life.
+class FilterProgram
+{
+public:
+    /// `label` identifies the program to people, `stem` is the name of the fragment shader's file.
+    FilterProgram(const char *label, const char *stem) : m_label(label), m_stem(stem) {}
+
+    operator const ShaderProgram &() const
+    {
+        if (!m_program) {
+            m_program = std::make_unique<ShaderProgram>(m_label, vertexSource(), fragmentSource(m_stem));
+        }
+        return *m_program;
+    }
+
+private:
+    const char *m_label;
+    const char *m_stem;
+    mutable std::unique_ptr<ShaderProgram> m_program;
+};
+
+} // namespace grisal::graphics
