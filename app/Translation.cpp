@@ -27,7 +27,7 @@ QString fileInLanguageOf(const QLocale &locale, const QString &pattern)
         if (language == QLatin1String("en")) {
             break;
         }
-        const QString path = pattern.arg(language);
+        QString path = pattern.arg(language);
         if (QFile::exists(path)) {
             return path;
         }

@@ -88,7 +88,7 @@ TEST_F(TranslationTest, TheLocaleChoosesTheCatalogue)
 TEST_F(TranslationTest, MenusAreGermanWhileTheTranslationLives)
 {
     {
-        const Translation translation(QLocale(QLocale::German));
+        const Translation translation{QLocale(QLocale::German)};
         EXPECT_EQ(menusOf(grisal::ui::MainWindow()), "Datei Bearbeiten Ansicht Filter Hilfe");
     }
     EXPECT_EQ(menusOf(grisal::ui::MainWindow()), "File Edit View Filter Help");
@@ -96,13 +96,13 @@ TEST_F(TranslationTest, MenusAreGermanWhileTheTranslationLives)
 
 TEST_F(TranslationTest, MenusAreFrenchForFrench)
 {
-    const Translation translation(QLocale(QLocale::French, QLocale::Canada));
+    const Translation translation{QLocale(QLocale::French, QLocale::Canada)};
     EXPECT_EQ(menusOf(grisal::ui::MainWindow()), "Fichier Édition Affichage Filtres Aide");
 }
 
 TEST_F(TranslationTest, MenusAreEnglishInALanguageWithoutACatalogue)
 {
-    const Translation translation(QLocale(QLocale::Dutch));
+    const Translation translation{QLocale(QLocale::Dutch)};
     EXPECT_EQ(menusOf(grisal::ui::MainWindow()), "File Edit View Filter Help");
     FileDealer dealer;
     EXPECT_EQ(toolkitButtonOf(Preferences(dealer), QDialogButtonBox::Close), "Close");
@@ -110,7 +110,7 @@ TEST_F(TranslationTest, MenusAreEnglishInALanguageWithoutACatalogue)
 
 TEST_F(TranslationTest, TheToolkitSpeaksTheSameLanguage)
 {
-    const Translation translation(QLocale(QLocale::German));
+    const Translation translation{QLocale(QLocale::German)};
     FileDealer dealer;
     const Preferences preferences(dealer);
     EXPECT_EQ(preferences.windowTitle(), QStringLiteral("Einstellungen"));
@@ -119,7 +119,7 @@ TEST_F(TranslationTest, TheToolkitSpeaksTheSameLanguage)
 
 TEST_F(TranslationTest, TextsInTheSourcesAreTranslatedLikeThoseInTheForms)
 {
-    const Translation translation(QLocale(QLocale::German));
+    const Translation translation{QLocale(QLocale::German)};
     const grisal::ui::MainWindow window;
     EXPECT_EQ(window.findChild<QToolBar *>()->accessibleName(), QStringLiteral("Filter"));
     EXPECT_EQ(child<grisal::ui::GLWidget>(window, "glWidgetPreview").spokenValue(), QStringLiteral("Kein Bild"));
