@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 //
-// Any bytes, in a file: it is read, or refused with a reason, and a picture that was read can be described and copied.
+// Any bytes, in a file: it is read, or refused with a reason, and a picture that was read can be described and copied,
+// and what its file said about it can be saved with another one.
 #include "graphics/image/LumioImage.h"
+
+#include <QTemporaryDir>
 
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstdint>
 #include <cstdlib>
 #include <vector>
@@ -36,6 +40,17 @@ void copyOut(LumioImage &image, bool sixteenBit)
     require(image.getPixels(pixels.data(), false, sixteenBit));
 }
 
+/// Saves what the file said with a picture of its own, in a format that follows from the number.
+void saveMetadata(const LumioImage &source, std::size_t number)
+{
+    static const QTemporaryDir folder(QStringLiteral("/dev/shm/grisal-XXXXXX"));
+    static const std::array<const char *, 3> names{"a.jpg", "a.png", "a.tif"};
+    LumioImage output(2, 2, false);
+    output.takeMetadataOf(source);
+    require(output.save(folder.filePath(QString::fromLatin1(names[number % names.size()])), 90));
+    require(output.read(folder.filePath(QString::fromLatin1(names[number % names.size()]))));
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
@@ -52,5 +67,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     require(!image.isNull() && !image.info().empty());
     copyOut(image, false);
     copyOut(image, true);
+    saveMetadata(image, size);
     return 0;
 }

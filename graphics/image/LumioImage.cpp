@@ -101,8 +101,8 @@ LumioImage::LumioImage(int width, int height, bool sixteenBit) : LumioImage()
         return;
     }
     attempt([&] {
-        m_image = imageWithoutPixels(static_cast<std::size_t>(width), static_cast<std::size_t>(height),
-                                     sixteenBit ? 16 : 8);
+        m_image =
+            imageWithoutPixels(static_cast<std::size_t>(width), static_cast<std::size_t>(height), sixteenBit ? 16 : 8);
         m_samples = Samples::Blank;
     });
 }
