@@ -74,6 +74,18 @@ Message warningOf(Call call)
     return {};
 }
 
+/// Whether the library finds a picture in what was written.
+bool opensAsPicture(const std::string &name)
+{
+    try {
+        Magick::Image head = firstPicture();
+        warningOf([&] { head.ping(name); });
+        return head.columns() > 0;
+    } catch (const std::exception &) {
+        return false;
+    }
+}
+
 // A TIFF may have 12 bits, say: more than a byte keeps.
 void raiseDepth(Magick::Image &image)
 {
@@ -219,8 +231,10 @@ void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quali
     m_image.quality(static_cast<unsigned>(quality));
     const std::string name = libraryName(*format, nameOfOpenFile(target.file().descriptor()));
     m_warning = warningOf([&] { m_image.write(name); });
+    if (!m_metadata.isEmpty()) {
+        writeMetadata(target.file(), *format, name);
+    }
     m_image.fileName(QFile::encodeName(path).toStdString());
-    writeMetadata(target.file(), *format);
     if (!endsAsItShould(target.file(), *format)) {
         m_problem = QStringLiteral("Not all of the picture could be written");
     } else if (!target.commit()) {
@@ -230,9 +244,15 @@ void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quali
     }
 }
 
-void LumioImage::writeMetadata(const OpenFile &file, PictureFormat format)
+// What other programs have said about a picture may keep the library from reading it again: the picture goes first.
+void LumioImage::writeMetadata(const OpenFile &file, PictureFormat format, const std::string &name)
 {
-    if (!m_metadata.writeInto(file, format, width(), height()) && m_warning.isEmpty()) {
+    bool allSaid = m_metadata.writeInto(file, format, width(), height());
+    if (!opensAsPicture(name)) {
+        m_image.write(name);
+        allSaid = false;
+    }
+    if (!allSaid && m_warning.isEmpty()) {
         m_warning =
             Message(QT_TRANSLATE_NOOP("Message", "Not all that was said about the picture could be saved with it"));
     }

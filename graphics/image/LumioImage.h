@@ -84,7 +84,7 @@ private:
     bool prepareForWriting();
     void fillBlank();
     void writeTo(ReplacementFile &target, const QString &path, int quality);
-    void writeMetadata(const OpenFile &file, PictureFormat format);
+    void writeMetadata(const OpenFile &file, PictureFormat format, const std::string &name);
     void nameInMessages(int descriptor, const QString &path);
 
     /// Where the library's samples come from.

@@ -24,6 +24,9 @@ public:
     /// What a picture file says. Only the file itself is looked at.
     Metadata(const OpenFile &file, PictureFormat format);
 
+    /// Whether there is nothing to say.
+    bool isEmpty() const { return m_contents == nullptr; }
+
     /// Whether all of it was understood, and not too large.
     bool isComplete() const { return m_complete; }
 

@@ -218,6 +218,16 @@ void GLWidget::paintGL()
         paintPreview();
     }
     paintFocusMark();
+    makeOpaque();
+}
+
+// What is not opaque would let the desktop through where windows can be transparent, as they can on Wayland.
+void GLWidget::makeOpaque() const
+{
+    glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_TRUE);
+    glClearColor(0, 0, 0, 1);
+    glClear(GL_COLOR_BUFFER_BIT);
+    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
 void GLWidget::paintPreview()

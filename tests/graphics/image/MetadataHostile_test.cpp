@@ -127,6 +127,20 @@ TEST_F(MetadataHostileTest, FilesWithBytesChangedAtRandomAreReadOrRefused)
     }
 }
 
+// The library reads no TIFF file with such a unit: a picture that cannot be opened again would be lost.
+TEST_F(MetadataHostileTest, WhatWouldMakeATiffUnreadableIsLeftOut)
+{
+    const QString jpeg = written("a.jpg");
+    Metadata impossible = fullMetadata();
+    impossible.exif["Exif.Image.ResolutionUnit"] = std::uint16_t{84};
+    setMetadata(jpeg, impossible);
+    ASSERT_TRUE(reads(jpeg));
+    ASSERT_TRUE(image.save(path("b.tif"), quality));
+    EXPECT_FALSE(image.warning().isEmpty());
+    LumioImage again;
+    EXPECT_TRUE(again.read(path("b.tif"))) << again.problem().toStdString();
+}
+
 TEST_F(MetadataHostileTest, TooLargeValuesOfATiffAreLeftOut)
 {
     const QString tiff = written("a.tif");

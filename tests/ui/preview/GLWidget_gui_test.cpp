@@ -6,6 +6,8 @@
 
 #include <cmath>
 
+#include <array>
+
 namespace
 {
 
@@ -54,6 +56,18 @@ TEST_F(GLWidgetTest, ThePreviewIsSeenAfterTheGrain)
     widget.update();
     QTest::qWait(50);
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
+}
+
+// On Wayland the desktop would be seen through the margin otherwise.
+TEST_F(GLWidgetTest, TheMarginIsBlackAndOpaque)
+{
+    showPictureAtOneToOne();
+    ASSERT_TRUE(screenShows(centred(redAsGrey(picture))));
+    widget.makeCurrent();
+    glBindFramebuffer(GL_FRAMEBUFFER, widget.defaultFramebufferObject());
+    std::array<GLubyte, 4> corner{1, 1, 1, 1};
+    glReadPixels(0, 0, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, corner.data());
+    EXPECT_EQ(corner, (std::array<GLubyte, 4>{0, 0, 0, 255}));
 }
 
 TEST_F(GLWidgetTest, SixteenBitPicturesLogOtherFormats)
