@@ -9,6 +9,7 @@
 
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QTimer>
 
 #include <cstddef>
 #include <exception>
@@ -152,6 +153,8 @@ void MainWindow::saveImage(const QString &path)
         tell(tr("No image"));
         return;
     }
+    // Once the user has the result: what was needed for it is given back.
+    QTimer::singleShot(0, this, &memory::returnFreedBlocks);
     BusyNotice notice(*m_form->statusbar, *m_progressBar);
     if (!renderOutput(notice)) {
         return;

@@ -25,6 +25,7 @@ void GrainFilter::forgetNoise()
     m_sigmaChanged = m_sigmaChanged || m_blurredNoise;
     m_blur.reset();
     m_blurredNoise.reset();
+    m_noiseTexture = Texture();
 }
 
 const GaussianBlurFilter *GrainFilter::blur()

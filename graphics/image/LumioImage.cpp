@@ -74,12 +74,16 @@ Message warningOf(Call call)
     return {};
 }
 
-/// Whether the library finds a picture in what was written.
-bool opensAsPicture(const std::string &name)
+/// Whether what was written would be taken for a picture again.
+bool opensAsPicture(const OpenFile &written)
 {
+    const PictureFile file(QString::fromStdString(nameOfOpenFile(written.descriptor())));
+    if (!file.problem().isEmpty()) {
+        return false;
+    }
     try {
         Magick::Image head = firstPicture();
-        warningOf([&] { head.ping(name); });
+        warningOf([&] { head.ping(file.name()); });
         return head.columns() > 0;
     } catch (const std::exception &) {
         return false;
@@ -230,7 +234,7 @@ void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quali
     m_image.matte(false);
     m_image.quality(static_cast<unsigned>(quality));
     const std::string name = libraryName(*format, nameOfOpenFile(target.file().descriptor()));
-    m_warning = warningOf([&] { m_image.write(name); });
+    m_warning = writePixels(name);
     if (!m_metadata.isEmpty()) {
         writeMetadata(target.file(), *format, name);
     }
@@ -244,12 +248,19 @@ void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quali
     }
 }
 
+Message LumioImage::writePixels(const std::string &name)
+{
+    // Left by an earlier PNG; the library would add to it and complain on standard error.
+    MagickLib::SetImageAttribute(m_image.image(), "[png:bit-depth-written]", nullptr);
+    return warningOf([&] { m_image.write(name); });
+}
+
 // What other programs have said about a picture may keep the library from reading it again: the picture goes first.
 void LumioImage::writeMetadata(const OpenFile &file, PictureFormat format, const std::string &name)
 {
     bool allSaid = m_metadata.writeInto(file, format, width(), height());
-    if (!opensAsPicture(name)) {
-        m_image.write(name);
+    if (!opensAsPicture(file)) {
+        writePixels(name);
         allSaid = false;
     }
     if (!allSaid && m_warning.isEmpty()) {
@@ -264,8 +275,6 @@ bool LumioImage::prepareForWriting()
 {
     return attemptWithPixels([&](std::size_t count) {
         m_image.compressType(Magick::UndefinedCompression);
-        // Left by an earlier PNG; the library would add to it and complain on standard error.
-        MagickLib::SetImageAttribute(m_image.image(), "[png:bit-depth-written]", nullptr);
         if (is16Bit() || m_samples != Samples::AsRead) {
             fillBlank();
             return true;

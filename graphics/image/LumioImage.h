@@ -84,6 +84,7 @@ private:
     bool prepareForWriting();
     void fillBlank();
     void writeTo(ReplacementFile &target, const QString &path, int quality);
+    Message writePixels(const std::string &name);
     void writeMetadata(const OpenFile &file, PictureFormat format, const std::string &name);
     void nameInMessages(int descriptor, const QString &path);
 

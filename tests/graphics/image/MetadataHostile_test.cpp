@@ -141,6 +141,22 @@ TEST_F(MetadataHostileTest, WhatWouldMakeATiffUnreadableIsLeftOut)
     EXPECT_TRUE(again.read(path("b.tif"))) << again.problem().toStdString();
 }
 
+// Nor does this program open a PNG file with texts of that length.
+TEST_F(MetadataHostileTest, WhatWouldMakeAPngUnreadableIsLeftOut)
+{
+    const QString tiff = written("a.tif");
+    Metadata large;
+    large.xmp["Xmp.dc.source"] = std::string(1'200'000, 'x');
+    setMetadata(tiff, large);
+    ASSERT_TRUE(reads(tiff));
+    testing::internal::CaptureStderr();
+    ASSERT_TRUE(image.save(path("b.png"), quality));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_FALSE(image.warning().isEmpty());
+    LumioImage again;
+    EXPECT_TRUE(again.read(path("b.png"))) << again.problem().toStdString();
+}
+
 TEST_F(MetadataHostileTest, TooLargeValuesOfATiffAreLeftOut)
 {
     const QString tiff = written("a.tif");
