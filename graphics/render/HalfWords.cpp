@@ -12,6 +12,7 @@ namespace
 
 constexpr std::uint16_t one = 0x3c00;
 constexpr std::uint16_t infinity = 0x7c00;
+constexpr std::size_t halvesToOne = 0x3c01; // one among them
 constexpr int mantissaBits = 10;
 constexpr int bias = 15;
 constexpr int largestWord = 65535;
@@ -26,14 +27,14 @@ double valueOf(std::uint16_t half)
 }
 
 /// The words of the halves from 0 to 1; small enough for the processor's first cache.
-const std::array<std::uint16_t, one + 1> &table()
+const std::array<std::uint16_t, halvesToOne> &table()
 {
     static const auto words = [] {
-        std::array<std::uint16_t, one + 1> made{};
-        for (std::uint16_t half = 0; half <= one; ++half) {
+        std::array<std::uint16_t, halvesToOne> made{};
+        std::uint16_t half = 0;
+        for (std::uint16_t &word : made) {
             // The product is rounded to a float first, as drivers have it.
-            const float word = static_cast<float>(valueOf(half)) * largestWord;
-            made[half] = static_cast<std::uint16_t>(std::nearbyint(word));
+            word = static_cast<std::uint16_t>(std::nearbyint(static_cast<float>(valueOf(half++)) * largestWord));
         }
         return made;
     }();
