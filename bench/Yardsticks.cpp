@@ -20,7 +20,6 @@ std::int32_t length(std::uint32_t side)
 
 FinalPasses::FinalPasses(std::uint32_t width, std::uint32_t height, GLenum internalFormat, GLenum type)
     : m_horizontal(planTileSide(width)), m_vertical(planTileSide(height)),
-      m_mask(length(m_horizontal.padded), length(m_vertical.padded), GL_RED, GL_R32F, GL_FLOAT),
       m_tile(length(m_horizontal.tile), length(m_vertical.tile), GL_RGB, internalFormat, type),
       m_tileMask(length(m_horizontal.tile), length(m_vertical.tile), GL_RED, GL_R32F, GL_FLOAT),
       m_first(length(m_horizontal.tile), length(m_vertical.tile), GL_RGB, internalFormat, type),
@@ -42,9 +41,9 @@ FinalPasses::FinalPasses(std::uint32_t width, std::uint32_t height, GLenum inter
 void FinalPasses::run()
 {
     glEnable(GL_TEXTURE_2D);
-    m_vignette.apply(0, m_mask.record());
     const std::uint32_t tiles = tileCount(m_horizontal) * tileCount(m_vertical);
     for (std::uint32_t tile = 0; tile < tiles; ++tile) {
+        m_vignette.applyPart(0, 0, m_overlay.width, m_overlay.height, m_tileMask.record());
         m_filters.mixer.apply(m_tile.record().texture, m_first.record());
         m_filters.curve.apply(m_first.record().texture, m_second.record());
         m_filters.splitTone.apply(m_second.record().texture, m_first.record());

@@ -27,7 +27,6 @@ public:
 private:
     graphics::TileSide m_horizontal;
     graphics::TileSide m_vertical;
-    graphics::RenderTarget m_mask;
     graphics::RenderTarget m_tile;
     graphics::RenderTarget m_tileMask;
     graphics::RenderTarget m_first;

@@ -16,7 +16,11 @@ class FinalVignetteFilter : public IFilter
 public:
     FinalVignetteFilter();
 
+    /// The whole mask.
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
+
+    /// The partWidth x partHeight pixels of the mask whose first is (x, y), bit for bit as the whole mask has them.
+    void applyPart(int x, int y, int partWidth, int partHeight, const FramebufferObject &target);
 
     VignetteParameters parameters;
     float maxWidth = 0;  ///< sent, but the mask goes by the size of the pass

@@ -2,59 +2,71 @@
 #include "graphics/render/VignetteMask.h"
 
 #include "graphics/filters/FinalVignetteFilter.h"
+#include "graphics/gl/Framebuffers.h"
 #include "graphics/gl/GlFaults.h"
 
 #include <QDebug>
 
+#include <utility>
+
 namespace grisal::graphics
 {
 
-VignetteMask::VignetteMask(const VignetteParameters &parameters, std::uint32_t width, std::uint32_t height,
-                           std::uint32_t largestSide)
-    : m_parameters(parameters), m_width(static_cast<std::int32_t>(width)), m_height(static_cast<std::int32_t>(height))
+namespace
 {
-    const bool fits = width <= largestSide && height <= largestSide;
-    if (!fits || !draw()) {
-        m_target.reset();
-        qDebug() << "(INFO) Vignette mask computed without the GPU, its largest texture side is" << largestSide;
-    }
+
+void logComputed(std::uint32_t largestSide)
+{
+    qDebug() << "(INFO) Vignette mask computed without the GPU, its largest texture side is" << largestSide;
 }
 
-/// False where the driver has no target of this size or does not get the mask drawn.
-bool VignetteMask::draw()
+} // namespace
+
+VignetteMask::VignetteMask(const VignetteParameters &parameters, std::uint32_t width, std::uint32_t height,
+                           std::uint32_t largestSide)
+    : m_parameters(parameters), m_width(static_cast<std::int32_t>(width)), m_height(static_cast<std::int32_t>(height)),
+      m_largestSide(largestSide)
 {
-    GlFaultWatch watch;
-    m_target = std::make_unique<RenderTarget>(createColourFramebuffer(m_width, m_height, GL_RED, GL_R32F, GL_FLOAT));
-    if (!m_target->isComplete()) {
-        watch.forgive();
-        return false;
+    if (width > largestSide || height > largestSide) {
+        logComputed(largestSide);
+        return;
     }
-    FinalVignetteFilter filter;
-    filter.parameters = m_parameters;
-    filter.width = m_width;
-    filter.height = m_height;
-    filter.maxWidth = static_cast<float>(m_width);
-    filter.maxHeight = static_cast<float>(m_height);
-    filter.apply(0, m_target->record());
-    const bool drawn = watch.isClean();
-    watch.forgive();
-    return drawn;
+    m_filter = std::make_unique<FinalVignetteFilter>();
+    m_filter->parameters = m_parameters;
+    m_filter->width = m_width;
+    m_filter->height = m_height;
+    m_filter->maxWidth = static_cast<float>(m_width);
+    m_filter->maxHeight = static_cast<float>(m_height);
 }
+
+VignetteMask::~VignetteMask() = default;
 
 Texture VignetteMask::piece(const TileArea &area) const
 {
+    if (m_filter) {
+        Texture texture = drawn(area);
+        if (texture.name() != 0) {
+            return texture;
+        }
+        logComputed(m_largestSide);
+    }
+    return Texture(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height),
+                                 GL_R32F, GL_RED, GL_FLOAT, computed(area).data()));
+}
+
+/// No texture where the driver has no target of this size or does not get the piece drawn.
+Texture VignetteMask::drawn(const TileArea &area) const
+{
     const auto width = static_cast<std::int32_t>(area.width);
     const auto height = static_cast<std::int32_t>(area.height);
-    if (!m_target) {
-        return Texture(createTexture(width, height, GL_R32F, GL_RED, GL_FLOAT, computed(area).data()));
-    }
-    Texture texture(createTexture(width, height, GL_R32F, GL_RED, GL_FLOAT, nullptr));
-    glBindFramebuffer(GL_FRAMEBUFFER, m_target->record().framebuffer);
-    glBindTexture(GL_TEXTURE_2D, texture.name());
-    glCopyTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, static_cast<GLint>(area.x), static_cast<GLint>(area.y), width, height);
-    glBindTexture(GL_TEXTURE_2D, 0);
-    glBindFramebuffer(GL_FRAMEBUFFER, 0);
-    return texture;
+    GlFaultWatch watch;
+    const FramebufferObject target = createColourFramebuffer(width, height, GL_RED, GL_R32F, GL_FLOAT);
+    Texture texture(target.texture);
+    m_filter->applyPart(static_cast<int>(area.x), static_cast<int>(area.y), width, height, target);
+    glDeleteFramebuffers(1, &target.framebuffer);
+    const bool good = watch.isClean();
+    watch.forgive();
+    return good ? std::move(texture) : Texture();
 }
 
 std::vector<float> VignetteMask::computed(const TileArea &area) const

@@ -97,6 +97,24 @@ TEST_F(FinalVignetteFilterTest, GoesByTheSizeOfItsPassAlone)
     EXPECT_TRUE(picturesNear("mask-size", mask, expectedMask({30, 80, 90, 25}, 67, 41), {2e-6, 0}));
 }
 
+TEST_F(FinalVignetteFilterTest, APartIsBitForBitThatOfTheWhole)
+{
+    FinalVignetteFilter filter;
+    filter.parameters = {{30, 80, 0}, 90, 25};
+    const FloatPixels whole = runFilter(filter, FloatPixels(67, 41));
+    const graphics::RenderTarget target(20, 11, GL_RED, GL_R32F, GL_FLOAT);
+
+    filter.applyPart(47, 30, 20, 11, target.record());
+
+    FloatPixels part(20, 11, 1);
+    graphics::readPixels(target.record(), 20, 11, GL_RED, GL_FLOAT, part.values.data());
+    for (int y = 0; y < part.height; ++y) {
+        for (int x = 0; x < part.width; ++x) {
+            ASSERT_EQ(part.at(x, y, 0), whole.at(47 + x, 30 + y, 0)) << x << ", " << y;
+        }
+    }
+}
+
 TEST_F(FinalVignetteFilterTest, ReadsNoSource)
 {
     FinalVignetteFilter filter;
