@@ -29,6 +29,19 @@ void setPassMatrices(std::int32_t width, std::int32_t height)
     glLoadIdentity();
 }
 
+bool isOfSize(GLuint texture, std::int32_t width, std::int32_t height)
+{
+    GLint bound = 0;
+    glGetIntegerv(GL_TEXTURE_BINDING_2D, &bound);
+    GLint textureWidth = 0;
+    GLint textureHeight = 0;
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &textureWidth);
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_HEIGHT, &textureHeight);
+    glBindTexture(GL_TEXTURE_2D, static_cast<GLuint>(bound));
+    return textureWidth == width && textureHeight == height;
+}
+
 FramebufferObject startFramebuffer(std::int32_t width, std::int32_t height, GLenum format, GLenum internalFormat,
                                    GLenum type)
 {
@@ -102,7 +115,10 @@ void renderToFramebuffer(std::int32_t width, std::int32_t height, GLuint program
     switchOffPerFragmentTests();
     glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
     glViewport(0, 0, width, height);
-    glClear(GL_COLOR_BUFFER_BIT);
+    // To clear what the quad covers anyway costs a software driver as much as half a pass.
+    if (!isOfSize(target.texture, width, height)) {
+        glClear(GL_COLOR_BUFFER_BIT);
+    }
     setPassMatrices(width, height);
 
     glUseProgram(program);
