@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/image/LumioImage.h"
 
-#include "graphics/image/ImageLibrary.h"
 #include "graphics/image/ImageNames.h"
 #include "graphics/image/Orientation.h"
 #include "graphics/image/PictureFile.h"
-#include "graphics/image/QuantumCopy.h"
 #include "graphics/image/ReplacementFile.h"
 
 #include <QFile>
 
-#include <cstddef>
 #include <cstdint>
 #include <exception>
 #include <fstream>
@@ -26,22 +23,6 @@ namespace
 bool opensForReading(const QString &path)
 {
     return std::ifstream(QFile::encodeName(path).toStdString()).is_open();
-}
-
-Magick::Image emptyImage()
-{
-    initializeImageLibrary(nullptr);
-    return {};
-}
-
-/// A picture whose pixels the library has no memory for yet.
-Magick::Image imageWithoutPixels(std::size_t width, std::size_t height, unsigned depth)
-{
-    Magick::Image image = emptyImage();
-    image.image()->columns = width;
-    image.image()->rows = height;
-    image.depth(depth);
-    return image;
 }
 
 /// To be read into: the first picture of a file that holds several, without a look at the others.
@@ -108,55 +89,6 @@ void forgetMetadata(Magick::Image &image)
 
 } // namespace
 
-LumioImage::LumioImage() : m_image(emptyImage()) {}
-
-LumioImage::LumioImage(int width, int height, bool sixteenBit) : LumioImage()
-{
-    if (width < 1 || height < 1) {
-        m_problem = QStringLiteral("A picture cannot be %1 x %2 pixels large").arg(width).arg(height);
-        return;
-    }
-    attempt([&] {
-        m_image =
-            imageWithoutPixels(static_cast<std::size_t>(width), static_cast<std::size_t>(height), sixteenBit ? 16 : 8);
-        m_samples = Samples::Blank;
-    });
-}
-
-template <typename Step>
-bool LumioImage::attempt(Step step)
-{
-    m_problem.clear();
-    m_warning = {};
-    try {
-        step();
-    } catch (const std::exception &exception) {
-        m_problem = QString::fromLocal8Bit(exception.what());
-        return false;
-    }
-    return m_problem.isEmpty();
-}
-
-template <typename Step>
-bool LumioImage::attemptWithPixels(Step step)
-{
-    return attempt([&] {
-        if (isNull()) {
-            m_problem = QStringLiteral("Image is not valid");
-            return;
-        }
-        if (m_samples == Samples::Blank) {
-            // The library cannot part copies that share pixels which are not there.
-            m_image = imageWithoutPixels(m_image.columns(), m_image.rows(), m_image.depth());
-        }
-        m_image.modifyImage();
-        m_image.type(Magick::TrueColorType);
-        if (!step(std::size_t{m_image.columns()} * m_image.rows())) {
-            m_problem = QStringLiteral("The pixels cannot be reached");
-        }
-    });
-}
-
 bool LumioImage::read(const QString &path)
 {
     const PictureFile file(path);
@@ -202,6 +134,7 @@ void LumioImage::readFrom(const PictureFile &file, const QString &path)
     forgetMetadata(fresh);
     turnUpright(fresh, metadata.orientation());
     m_image = fresh;
+    m_packed.reset();
     m_samples = Samples::AsRead;
     m_metadata = metadata;
 }
@@ -269,35 +202,6 @@ void LumioImage::writeMetadata(const OpenFile &file, PictureFormat format, const
     }
 }
 
-// Only true colour pictures are written with the depth asked for: the library gives grey and palette pictures as few
-// or as many bits as it likes. And a picture that was read from a JPEG would go into a TIFF by JPEG compression.
-bool LumioImage::prepareForWriting()
-{
-    return attemptWithPixels([&](std::size_t count) {
-        m_image.compressType(Magick::UndefinedCompression);
-        if (is16Bit() || m_samples != Samples::AsRead) {
-            fillBlank();
-            return true;
-        }
-        Magick::PixelPacket *pixels = m_image.getPixels(0, 0, m_image.columns(), m_image.rows());
-        if (pixels != nullptr) {
-            spreadBytes(pixels, count);
-            m_image.syncPixels();
-        }
-        return pixels != nullptr;
-    });
-}
-
-// The memory for a blank picture's pixels is taken when it is needed: mostly they are put in before anybody looks.
-void LumioImage::fillBlank()
-{
-    if (m_samples == Samples::Blank) {
-        m_image.backgroundColor(Magick::ColorRGB(0, 0, 0));
-        m_image.erase();
-        m_samples = Samples::FromBytes;
-    }
-}
-
 bool LumioImage::isNull() const
 {
     return !m_image.isValid();
@@ -318,43 +222,13 @@ int LumioImage::height() const
     return static_cast<int>(m_image.rows());
 }
 
-bool LumioImage::getPixels(void *buffer, bool alpha, bool sixteenBit)
-{
-    return attemptWithPixels([&](std::size_t count) {
-        fillBlank();
-        const Magick::PixelPacket *pixels = m_image.getConstPixels(0, 0, m_image.columns(), m_image.rows());
-        if (pixels != nullptr && sixteenBit) {
-            auto *words = static_cast<std::uint16_t *>(buffer);
-            copyWordsOut(pixels, count, words, alpha);
-            if (m_samples == Samples::FromBytes) {
-                keepHighBytes(words, count, alpha);
-            }
-        } else if (pixels != nullptr) {
-            copyBytesOut(pixels, count, static_cast<std::uint8_t *>(buffer), alpha);
-        }
-        return pixels != nullptr;
-    });
-}
-
-bool LumioImage::setPixels(const void *buffer, bool alpha, bool sixteenBit)
-{
-    return attemptWithPixels([&](std::size_t count) {
-        Magick::PixelPacket *pixels = m_image.setPixels(0, 0, m_image.columns(), m_image.rows());
-        if (pixels != nullptr && sixteenBit) {
-            copyWordsIn(static_cast<const std::uint16_t *>(buffer), count, pixels, alpha);
-        } else if (pixels != nullptr) {
-            copyBytesIn(static_cast<const std::uint8_t *>(buffer), count, pixels, alpha);
-        }
-        if (pixels != nullptr) {
-            m_image.syncPixels();
-            m_samples = sixteenBit ? Samples::AsRead : Samples::FromBytes;
-        }
-        return pixels != nullptr;
-    });
-}
-
 std::string LumioImage::info() const
 {
+    if (m_samples == Samples::Packed) {
+        // The library tells the type of a picture by its pixels.
+        LumioImage unpacked = *this;
+        return unpacked.fillLibraryPixels() ? unpacked.info() : std::string();
+    }
     std::ostringstream text;
     text << '\n'
          << " ******** LumioImage ******** \n"

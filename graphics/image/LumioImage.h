@@ -8,6 +8,9 @@
 
 #include <QString>
 
+#include <cstddef>
+#include <exception>
+#include <memory>
 #include <string>
 
 namespace grisal::graphics
@@ -62,7 +65,19 @@ public:
     /// the library fails.
     bool getPixels(void *buffer, bool alpha, bool sixteenBit);
 
-    /// Copies all pixels in from such a buffer. Makes the picture true colour.
+    /// A buffer for the pixels of this picture, without alpha, in the very memory that the picture will keep them in;
+    /// null where the library fails. Whatever the picture shows is gone: it is black until setPixels() takes the buffer
+    /// over. The buffer lives until then, or until the picture is used in another way.
+    void *roomForPixels();
+
+    /// From now on the pixels are kept as getPixels() gives them, without alpha, in the picture's own depth: 3 or 6
+    /// bytes for each, where the library takes 8. It gets them back when something is asked for that needs it. What the
+    /// library knew of the file, but for its name, is gone. False, with all as it was, where that fails.
+    bool pack();
+    /// The packed pixels, for as long as the picture is not changed; null while it is not packed.
+    const void *packedPixels() const { return m_packed.get(); }
+
+    /// Copies all pixels in from such a buffer, which may be roomForPixels(). Makes the picture true colour.
     bool setPixels(const void *buffer, bool alpha, bool sixteenBit);
 
     /// A description for the log, several lines.
@@ -77,12 +92,30 @@ public:
 
 private:
     template <typename Step>
-    bool attempt(Step step);
+    bool attempt(Step step)
+    {
+        m_problem.clear();
+        m_warning = {};
+        try {
+            step();
+        } catch (const std::exception &exception) {
+            m_problem = QString::fromLocal8Bit(exception.what());
+            return false;
+        }
+        return m_problem.isEmpty();
+    }
     template <typename Step>
     bool attemptWithPixels(Step step);
     void readFrom(const PictureFile &file, const QString &path);
     bool prepareForWriting();
-    void fillBlank();
+    bool fillLibraryPixels();
+    std::size_t pixelCount() const;
+    bool hasLibraryPixels() const;
+    void forgetLibraryPixels();
+    Magick::PixelPacket *libraryPixels();
+    bool fill();
+    bool putIn(const void *buffer, bool alpha, bool sixteenBit);
+    bool takeOut(void *buffer, bool alpha, bool sixteenBit);
     void writeTo(ReplacementFile &target, const QString &path, int quality);
     Message writePixels(const std::string &name);
     void writeMetadata(const OpenFile &file, PictureFormat format, const std::string &name);
@@ -93,10 +126,13 @@ private:
         AsRead,    ///< from a file, or words that were put in
         FromBytes, ///< bytes b that were put in: they stand there as b * 257, and as words b << 8 is told
         Blank,     ///< nobody has put any in; the library has none yet
+        Room,      ///< nobody has put any in; the library's memory is lent as a buffer
+        Packed,    ///< they are in m_packed; the library has none
     };
 
     Magick::Image m_image;
     Samples m_samples = Samples::AsRead;
+    std::shared_ptr<const std::byte[]> m_packed;
     Metadata m_metadata;
     QString m_problem;
     Message m_warning;

@@ -3,6 +3,10 @@
 
 #include "graphics/image/Bands.h"
 
+#include <algorithm>
+#include <array>
+#include <cstring>
+
 namespace grisal::graphics
 {
 
@@ -81,6 +85,30 @@ void copyInBands(const From *from, std::size_t fromStep, To *to, std::size_t toS
     });
 }
 
+/// Spreads the values that lie packed where the pixels are to be. From the end on, so that nothing is overwritten
+/// that is still to be read: the pixels from `first` on lie behind all that they are made of.
+template <typename T>
+void spreadInPlace(Magick::PixelPacket *pixels, std::size_t count,
+                   void (*copy)(const T *, std::size_t, Magick::PixelPacket *))
+{
+    constexpr std::size_t components = 3;
+    constexpr std::size_t packed = components * sizeof(T);
+    const T *source = reinterpret_cast<const T *>(pixels);
+    for (;;) {
+        const std::size_t first = (count * packed + sizeof(Magick::PixelPacket) - 1) / sizeof(Magick::PixelPacket);
+        if (count - first < smallestBand) {
+            break;
+        }
+        copyInBands(source + first * components, components, pixels + first, 1, count - first, copy);
+        count = first;
+    }
+    while (count-- > 0) {
+        const std::array<T, components> values{source[count * components], source[count * components + 1],
+                                               source[count * components + 2]};
+        copy(values.data(), 1, pixels + count);
+    }
+}
+
 } // namespace
 
 void copyBytesOut(const Magick::PixelPacket *pixels, std::size_t count, std::uint8_t *target, bool alpha)
@@ -95,12 +123,39 @@ void copyWordsOut(const Magick::PixelPacket *pixels, std::size_t count, std::uin
 
 void copyBytesIn(const std::uint8_t *source, std::size_t count, Magick::PixelPacket *pixels, bool alpha)
 {
+    if (static_cast<const void *>(source) == pixels && !alpha) {
+        spreadInPlace(pixels, count, bytesIn<3>);
+        return;
+    }
     copyInBands(source, alpha ? 4 : 3, pixels, 1, count, alpha ? bytesIn<4> : bytesIn<3>);
 }
 
 void copyWordsIn(const std::uint16_t *source, std::size_t count, Magick::PixelPacket *pixels, bool alpha)
 {
+    if (static_cast<const void *>(source) == pixels && !alpha) {
+        spreadInPlace(pixels, count, wordsIn<3>);
+        return;
+    }
     copyInBands(source, alpha ? 4 : 3, pixels, 1, count, alpha ? wordsIn<4> : wordsIn<3>);
+}
+
+void unpack(const void *packed, bool fromWords, std::size_t count, void *buffer, bool toWords)
+{
+    inBands(count, smallestBand, [=](std::size_t first, std::size_t end) {
+        if (fromWords == toWords) {
+            const std::size_t size = fromWords ? sizeof(std::uint16_t) : sizeof(std::uint8_t);
+            std::memcpy(static_cast<std::byte *>(buffer) + first * size,
+                        static_cast<const std::byte *>(packed) + first * size, (end - first) * size);
+        } else if (toWords) {
+            const auto *bytes = static_cast<const std::uint8_t *>(packed);
+            std::transform(bytes + first, bytes + end, static_cast<std::uint16_t *>(buffer) + first,
+                           [](unsigned byte) { return static_cast<std::uint16_t>(byte << byteShift); });
+        } else {
+            const auto *words = static_cast<const std::uint16_t *>(packed);
+            std::transform(words + first, words + end, static_cast<std::uint8_t *>(buffer) + first,
+                           [](unsigned word) { return static_cast<std::uint8_t>(word >> byteShift); });
+        }
+    });
 }
 
 void keepHighBytes(std::uint16_t *words, std::size_t count, bool alpha)
