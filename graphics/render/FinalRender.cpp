@@ -78,6 +78,9 @@ bool renderInPlace(const FinalPicture &picture, FilterSet &filters, DocumentView
     DocumentFilterQueue queue;
     TiledDocumentRenderer renderer(picture.hasAlpha, horizontal, vertical, formats, source);
     renderer.setProgress(progress);
+    if (picture.expendable) {
+        renderer.renderInPlace();
+    }
     Document document(0, &queue);
     document.setView(&view);
     addFinalFilters(queue, filters);
@@ -90,8 +93,10 @@ bool renderInPlace(const FinalPicture &picture, FilterSet &filters, DocumentView
         qWarning("OpenGL could not render the picture");
         return false;
     }
-    const std::size_t componentSize = picture.sixteenBit ? sizeof(std::uint16_t) : sizeof(std::uint8_t);
-    std::memcpy(picture.pixels, renderer.output()->pixels, componentCount(picture) * componentSize);
+    if (!picture.expendable) {
+        const std::size_t componentSize = picture.sixteenBit ? sizeof(std::uint16_t) : sizeof(std::uint8_t);
+        std::memcpy(picture.pixels, renderer.output()->pixels, componentCount(picture) * componentSize);
+    }
     return true;
 }
 

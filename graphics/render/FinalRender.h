@@ -18,6 +18,8 @@ struct FinalPicture {
     int height;      ///< in pixels
     bool sixteenBit; ///< 16-bit words instead of bytes
     bool hasAlpha;   ///< 4 components a pixel instead of 3; the fourth is left as it is
+    /// Without a result the pixels may be anything, instead of what they were: the render then needs no copy of them.
+    bool expendable = false;
 };
 
 /// Fills a queue in the order of the final render: unlike in the preview, split toning comes before the grain.
@@ -28,7 +30,7 @@ void addFinalFilters(DocumentFilterQueue &queue, FilterSet &filters);
 ///
 /// The context must be current. `view` is only asked to set up its projection. The filters have the parameters
 /// afterwards, their sizes are what they were, and the grain's noise has the parameters' radius. Returns whether
-/// there was a result; without one the pixels are unchanged.
+/// there was a result; without one the pixels are unchanged unless they are expendable.
 bool renderFinalPicture(const FinalPicture &picture, const FilterParameters &parameters, FilterSet &filters,
                         DocumentView &view, const TileProgress &progress = {});
 

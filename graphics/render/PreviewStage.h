@@ -45,8 +45,8 @@ public:
     void setGrain(const QVector<float> &weights, float radius);
     void setCurve(const QVector<float> &curve);
 
-    /// Renders a whole picture in place with the filters as they are. False, with the pixels unchanged, where there
-    /// is no result or nothing was loaded yet.
+    /// Renders a whole picture in place with the filters as they are. False where there is no result or nothing was
+    /// loaded yet.
     bool renderFinal(const FinalPicture &picture, const TileProgress &progress = {});
 
 private:

@@ -100,9 +100,11 @@ void TiledDocumentRenderer::renderPicture(Document &document, const Chain &chain
 {
     const std::size_t size = std::size_t{m_source.width} * m_source.height * (m_hasAlpha ? 4 : 3);
     const bool anyEnabled = countEnabled(chain.filters) > 0;
-    m_pixels = std::make_unique_for_overwrite<std::byte[]>(size * sizeof(T));
-    auto *pixels = reinterpret_cast<T *>(m_pixels.get());
-    if (m_hasAlpha || !anyEnabled) {
+    if (!m_inPlace) {
+        m_pixels = std::make_unique_for_overwrite<std::byte[]>(size * sizeof(T));
+    }
+    auto *pixels = m_inPlace ? static_cast<T *>(m_source.pixels) : reinterpret_cast<T *>(m_pixels.get());
+    if (!m_inPlace && (m_hasAlpha || !anyEnabled)) {
         // A fourth component stays, and so does everything where no filter is enabled.
         std::copy_n(static_cast<const T *>(m_source.pixels), size, pixels);
     }
@@ -129,8 +131,10 @@ bool TiledDocumentRenderer::renderTiles(Document &document, const Chain &chain, 
     const auto tileWidth = static_cast<std::int32_t>(m_horizontal.tile);
     const auto tileHeight = static_cast<std::int32_t>(m_vertical.tile);
     qDebug() << "(INFO) Buffers requested";
-    const RenderTarget first(tileWidth, tileHeight, f.pixelFormat, f.internalFormat, f.pixelType);
-    const RenderTarget second(tileWidth, tileHeight, f.pixelFormat, f.internalFormat, f.pixelType);
+    const RenderTarget first(
+        createColourFramebuffer(tileWidth, tileHeight, f.pixelFormat, f.internalFormat, f.pixelType));
+    const RenderTarget second(
+        createColourFramebuffer(tileWidth, tileHeight, f.pixelFormat, f.internalFormat, f.pixelType));
     if (!first.isComplete() || !second.isComplete()) {
         qWarning("The driver cannot render tiles of %d x %d pixels", tileWidth, tileHeight);
         return false;

@@ -37,12 +37,16 @@ public:
     /// Who is told of each tile; nobody by default.
     void setProgress(TileProgress progress) { m_progress = std::move(progress); }
 
+    /// From now on the result goes where the source is, tile by tile, and output() describes that place. Where there is
+    /// no result, nobody knows what is there.
+    void renderInPlace() { m_inPlace = true; }
+
     /// Renders the document's queue over the source and returns true. The queue itself is left as it is.
     bool render(Document &document) override;
 
     /// The result, with size and components of the source and, with alpha, its fourth component. Null before a render,
     /// after one with an unknown pixel type, and where the driver has no targets of the tiles' size. The renderer owns
-    /// it.
+    /// it and, unless it renders in place, its pixels.
     const ImageBuffer *output() const { return m_output.get(); }
 
 private:
@@ -67,6 +71,7 @@ private:
     TileSide m_vertical;
     TileFormats m_formats;
     ImageBuffer m_source;
+    bool m_inPlace = false;
     TileProgress m_progress;
     std::unique_ptr<std::byte[]> m_pixels;
     std::unique_ptr<ImageBuffer> m_output;

@@ -181,7 +181,7 @@ bool GLWidget::renderFinal(void *pixels, int width, int height, bool sixteenBit,
     };
     fitViewToWidget();
     const QScopedValueRollback<bool> rendering(m_renderingFinal, true);
-    const bool rendered = m_stage.renderFinal({pixels, width, height, sixteenBit, hasAlpha}, tellAndComeBack);
+    const bool rendered = m_stage.renderFinal({pixels, width, height, sixteenBit, hasAlpha, true}, tellAndComeBack);
     update();
     return rendered;
 }

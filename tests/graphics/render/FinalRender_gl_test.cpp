@@ -71,6 +71,29 @@ TEST_F(FinalRenderTest, KeepsTheFourthComponent)
     EXPECT_EQ(picture.values, (std::vector<std::uint16_t>{65535, 65535, 65535, 7, 0, 0, 0, 60000}));
 }
 
+// Several tiles with all filters: each is read before it is written, whatever its neighbours already hold.
+TEST_F(FinalRenderTest, ExpendablePixelsBecomeTheSame)
+{
+    filters->curve.enabled = filters->splitTone.enabled = filters->vignette.enabled = true;
+    parameters.mixerWeights = {0.3F, 0.5F, 0.2F};
+    const auto source = rampPicture<std::uint8_t>(2055, 2053, 4);
+    BytePixels kept = source;
+    BytePixels expendable = source;
+    EXPECT_TRUE(renderFinalPicture({kept.values.data(), 2055, 2053, false, true}, parameters, *filters, *view));
+    EXPECT_TRUE(
+        renderFinalPicture({expendable.values.data(), 2055, 2053, false, true, true}, parameters, *filters, *view));
+    EXPECT_NE(kept.values, source.values);
+    EXPECT_TRUE(picturesNear("expendable", expendable, kept));
+}
+
+TEST_F(FinalRenderTest, WithoutEnabledFilterExpendablePixelsStay)
+{
+    filters->mixer.enabled = false;
+    BytePixels picture(2, 1, 3, {1, 2, 3, 4, 5, 6});
+    EXPECT_TRUE(renderFinalPicture({picture.values.data(), 2, 1, false, false, true}, parameters, *filters, *view));
+    EXPECT_EQ(picture.values, (std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6}));
+}
+
 TEST_F(FinalRenderTest, GivesTheFiltersTheirSizesBack)
 {
     filters->setSize(12, 8);
