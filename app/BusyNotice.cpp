@@ -9,7 +9,7 @@
 namespace
 {
 
-constexpr int readingTime = 100; // milliseconds
+constexpr int readingTime = 200; // milliseconds
 
 } // namespace
 

@@ -25,19 +25,6 @@ namespace
 constexpr int messageDuration = 2000;
 constexpr int saveQuality = 90;
 
-std::size_t pixelCount(const graphics::LumioImage &image)
-{
-    return static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height());
-}
-
-/// The pixels as bytes, or as words, R, G, B; null where they cannot be had.
-std::unique_ptr<std::byte[]> pixelsOf(graphics::LumioImage &image, bool sixteenBit)
-{
-    const std::size_t size = pixelCount(image) * 3 * (sixteenBit ? 2 : 1);
-    auto pixels = std::make_unique_for_overwrite<std::byte[]>(size);
-    return image.getPixels(pixels.get(), false, sixteenBit) ? std::move(pixels) : nullptr;
-}
-
 /// Whether the path leads to something, if only to a link whose target is missing.
 bool isThere(const QString &path)
 {
@@ -97,23 +84,37 @@ void MainWindow::openFile(const QString &filename)
         tellCannotLoad(filename);
         return;
     }
-    const std::unique_ptr<std::byte[]> pixels = pixelsOf(image, false);
     graphics::LumioImage output(image.width(), image.height(), image.is16Bit());
     output.takeMetadataOf(image);
-    if (!pixels || output.isNull()) {
+    // The memory that the library needed for reading becomes the output's, before anything else can take of it.
+    if (!image.pack() || output.roomForPixels() == nullptr || !showPreviewOf(image)) {
         tellProblems(image);
         tellProblems(output);
         notice.end();
         tellCannotLoad(filename);
         return;
     }
-    loadBuffer(pixels.get(), image.width(), image.height(), false);
     m_source = image;
     m_output = output;
     m_fileDealer.addToRecent();
     setWindowTitle(titleFor(filename, image));
     slotResetActions();
     update();
+}
+
+// The preview has bytes, whatever the picture has.
+bool MainWindow::showPreviewOf(graphics::LumioImage &image)
+{
+    std::unique_ptr<std::byte[]> bytes;
+    if (image.is16Bit()) {
+        const auto count = static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height());
+        bytes = std::make_unique_for_overwrite<std::byte[]>(count * 3);
+        if (!image.getPixels(bytes.get(), false, false)) {
+            return false;
+        }
+    }
+    loadBuffer(bytes ? bytes.get() : image.packedPixels(), image.width(), image.height(), false);
+    return true;
 }
 
 void MainWindow::tellProblems(const graphics::LumioImage &image)
@@ -188,18 +189,21 @@ bool MainWindow::renderIntoOutput(BusyNotice &notice)
 {
     update();
     const bool sixteenBit = m_source.is16Bit();
-    const std::unique_ptr<std::byte[]> pixels = pixelsOf(m_source, sixteenBit);
-    if (!pixels) {
+    void *pixels = m_output.roomForPixels();
+    if (pixels == nullptr) {
+        return tellRenderFailed(m_output.problem());
+    }
+    if (!m_source.getPixels(pixels, false, sixteenBit)) {
         return tellRenderFailed(m_source.problem());
     }
     GLWidget *preview = m_form->glWidgetPreview;
     const auto tellTile = [&notice](int tile, int tiles) {
         notice.show(tr("Rendering tile %1 of %2").arg(tile).arg(tiles), tile - 1, tiles);
     };
-    if (!preview->renderFinal(pixels.get(), m_source.width(), m_source.height(), sixteenBit, false, tellTile)) {
+    if (!preview->renderFinal(pixels, m_source.width(), m_source.height(), sixteenBit, false, tellTile)) {
         return tellRenderFailed(preview->graphicsProblem().english());
     }
-    if (!m_output.setPixels(pixels.get(), false, sixteenBit)) {
+    if (!m_output.setPixels(pixels, false, sixteenBit)) {
         return tellRenderFailed(m_output.problem());
     }
     return true;
