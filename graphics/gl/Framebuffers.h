@@ -37,8 +37,8 @@ GLenum depthFormatFor(GLenum internalFormat);
 /// Draws one quad over width x height pixels of `target` with a linked program; the only drawing of the filters.
 ///
 /// The context must be current. What the pass does not cover of the target is cleared, the viewport and both
-/// matrices are set to the pass. Blending, scissor, depth and stencil tests are switched off. Afterwards no program is in use and framebuffer
-/// 0 is bound.
+/// matrices are set to the pass. Blending, scissor, depth and stencil tests are switched off. Afterwards no program is
+/// in use and framebuffer 0 is bound.
 void renderToFramebuffer(std::int32_t width, std::int32_t height, GLuint program, const FramebufferObject &target);
 
 /// Reads width x height pixels of `target`, from its first row on, into `pixels` without row padding. The caller

@@ -187,16 +187,16 @@ void *LumioImage::roomForPixels()
 bool LumioImage::pack()
 {
     return m_samples == Samples::Packed || attemptWithPixels([&](std::size_t count) {
-        const std::size_t size = count * 3 * (is16Bit() ? sizeof(std::uint16_t) : sizeof(std::uint8_t));
-        std::shared_ptr<std::byte[]> packed = std::make_shared_for_overwrite<std::byte[]>(size);
-        if (!takeOut(packed.get(), false, is16Bit())) {
-            return false;
-        }
-        m_packed = packed;
-        m_samples = Samples::Packed;
-        forgetLibraryPixels();
-        return true;
-    });
+               const std::size_t size = count * 3 * (is16Bit() ? sizeof(std::uint16_t) : sizeof(std::uint8_t));
+               std::shared_ptr<std::byte[]> packed = std::make_shared_for_overwrite<std::byte[]>(size);
+               if (!takeOut(packed.get(), false, is16Bit())) {
+                   return false;
+               }
+               m_packed = packed;
+               m_samples = Samples::Packed;
+               forgetLibraryPixels();
+               return true;
+           });
 }
 
 } // namespace grisal::graphics

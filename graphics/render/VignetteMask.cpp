@@ -50,8 +50,8 @@ Texture VignetteMask::piece(const TileArea &area) const
         }
         logComputed(m_largestSide);
     }
-    return Texture(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height),
-                                 GL_R32F, GL_RED, GL_FLOAT, computed(area).data()));
+    return Texture(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height), GL_R32F,
+                                 GL_RED, GL_FLOAT, computed(area).data()));
 }
 
 /// No texture where the driver has no target of this size or does not get the piece drawn.

@@ -59,7 +59,8 @@ public:
 
     /// Renders the whole picture in `pixels` in place with the current filters and parameters: width x height pixels
     /// of 3 components, 4 with `hasAlpha`, bytes or 16-bit words. Returns false where nothing could be rendered; the
-    /// buffer may then hold anything. The preview is as before afterwards. `progress` is told of each tile and may paint.
+    /// buffer may then hold anything. The preview is as before afterwards. `progress` is told of each tile and may
+    /// paint.
     bool renderFinal(void *pixels, int width, int height, bool sixteenBit, bool hasAlpha,
                      const graphics::TileProgress &progress = {});
 
