@@ -7,9 +7,11 @@
 #include <QTemporaryDir>
 
 #include <cstddef>
+#include <cstdint>
 #include <numeric>
 #include <string>
 #include <tuple>
+#include <vector>
 
 using namespace grisal::test;
 using grisal::graphics::LumioImage;
@@ -151,6 +153,18 @@ TEST_F(LumioImageSaveTest, WritesSmallerFilesAtALowerQuality)
     ASSERT_TRUE(image.save(path("fine.jpg"), quality));
     ASSERT_TRUE(image.save(path("coarse.jpg"), 20));
     EXPECT_LT(contentsOf(path("coarse.jpg")).size(), contentsOf(path("fine.jpg")).size());
+}
+
+// Tables made for the picture would need its coefficients in memory, all at once.
+TEST_F(LumioImageSaveTest, WritesAJpegWithTheTablesThatFitAll)
+{
+    ASSERT_TRUE(pictureOf(countedBytes(std::size_t{16} * 16 * 3), 16, 16).save(path("a.jpg"), quality));
+    const QByteArray file = contentsOf(path("a.jpg"));
+    std::vector<int> lengths;
+    for (auto at = file.indexOf("\xff\xc4"); at >= 0; at = file.indexOf("\xff\xc4", at + 2)) {
+        lengths.push_back(static_cast<std::uint8_t>(file[at + 2]) * 256 + static_cast<std::uint8_t>(file[at + 3]));
+    }
+    EXPECT_EQ(lengths, (std::vector<int>{31, 181, 31, 181}));
 }
 
 TEST_F(LumioImageSaveTest, WritesAGreyJpegCloseToItsBytes)
