@@ -38,6 +38,28 @@ bool TileTransfer<T>::isWithin(const TileArea &area) const
     return area.x + area.width <= m_width && area.y + area.height <= m_height;
 }
 
+template <>
+Texture TileTransfer<std::uint8_t>::send(const std::uint8_t *pixels, std::size_t rowLength, const TileArea &area)
+{
+    const RowLength length(GL_UNPACK_ROW_LENGTH, rowLength);
+    return Texture(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height),
+                                 m_formats.internalFormat, m_formats.pixelFormat, m_formats.pixelType, pixels));
+}
+
+template <>
+Texture TileTransfer<std::uint16_t>::send(const std::uint16_t *pixels, std::size_t rowLength, const TileArea &area)
+{
+    const std::size_t row = area.width * tileComponents;
+    m_halves.resize(row * area.height);
+    inBands(area.height, smallestBand, [&](std::size_t first, std::size_t end) {
+        for (std::size_t y = first; y < end; ++y) {
+            halvesOfWords(pixels + y * rowLength * tileComponents, row, m_halves.data() + y * row);
+        }
+    });
+    return Texture(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height),
+                                 m_formats.internalFormat, m_formats.pixelFormat, GL_HALF_FLOAT, m_halves.data()));
+}
+
 template <typename T>
 Texture TileTransfer<T>::upload(const T *picture, const TileArea &area)
 {
@@ -46,9 +68,7 @@ Texture TileTransfer<T>::upload(const T *picture, const TileArea &area)
         cutTile(picture, m_width, m_height, m_components, area, m_tile);
     }
     const T *pixels = direct ? picture + (area.y * m_width + area.x) * tileComponents : m_tile.data();
-    const RowLength length(GL_UNPACK_ROW_LENGTH, direct ? m_width : area.width);
-    return Texture(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height),
-                                 m_formats.internalFormat, m_formats.pixelFormat, m_formats.pixelType, pixels));
+    return send(pixels, direct ? m_width : area.width, area);
 }
 
 template <>

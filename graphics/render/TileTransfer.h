@@ -39,6 +39,7 @@ public:
 
 private:
     bool isWithin(const TileArea &area) const;
+    Texture send(const T *pixels, std::size_t rowLength, const TileArea &area);
     void read(const FramebufferObject &target, const TileArea &seen, T *pixels, std::size_t rowLength);
 
     std::size_t m_width;
