@@ -65,20 +65,22 @@ public:
     /// the library fails.
     bool getPixels(void *buffer, bool alpha, bool sixteenBit);
 
+    /// Copies all pixels in from such a buffer; one without alpha may be roomForPixels(). Makes the picture true
+    /// colour.
+    bool setPixels(const void *buffer, bool alpha, bool sixteenBit);
+
     /// A buffer for the pixels of this picture, without alpha, in the very memory that the picture will keep them in;
     /// null where the library fails. Whatever the picture shows is gone: it is black until setPixels() takes the buffer
-    /// over. The buffer lives until then, or until the picture is used in another way.
+    /// over. The buffer lives until then, or until pixels are got or packed, or the picture is read or saved.
     void *roomForPixels();
 
     /// From now on the pixels are kept as getPixels() gives them, without alpha, in the picture's own depth: 3 or 6
-    /// bytes for each, where the library takes 8. It gets them back when something is asked for that needs it. What the
-    /// library knew of the file, but for its name, is gone. False, with all as it was, where that fails.
+    /// bytes for each, where the library takes 8. The picture is what those bytes or words say, and true colour; of
+    /// what the library knew of the file it keeps what info() tells. False, with all as it was, where that fails.
     bool pack();
-    /// The packed pixels, for as long as the picture is not changed; null while it is not packed.
+    /// The packed pixels, until they are set or an operation needs them in the library's memory, as saving and alpha
+    /// do; null while the picture is not packed.
     const void *packedPixels() const { return m_packed.get(); }
-
-    /// Copies all pixels in from such a buffer, which may be roomForPixels(). Makes the picture true colour.
-    bool setPixels(const void *buffer, bool alpha, bool sixteenBit);
 
     /// A description for the log, several lines.
     std::string info() const;
@@ -108,7 +110,6 @@ private:
     bool attemptWithPixels(Step step);
     void readFrom(const PictureFile &file, const QString &path);
     bool prepareForWriting();
-    bool fillLibraryPixels();
     std::size_t pixelCount() const;
     bool hasLibraryPixels() const;
     void forgetLibraryPixels();

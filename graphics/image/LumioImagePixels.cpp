@@ -75,8 +75,11 @@ bool LumioImage::hasLibraryPixels() const
 void LumioImage::forgetLibraryPixels()
 {
     const std::string name = m_image.fileName();
+    const Magick::RenderingIntent intent = m_image.renderingIntent();
     m_image = imageWithoutPixels(m_image.columns(), m_image.rows(), m_image.depth());
     m_image.fileName(name);
+    m_image.renderingIntent(intent);
+    m_image.type(Magick::TrueColorType);
 }
 
 Magick::PixelPacket *LumioImage::libraryPixels()
@@ -100,11 +103,6 @@ bool LumioImage::prepareForWriting()
         }
         return pixels != nullptr;
     });
-}
-
-bool LumioImage::fillLibraryPixels()
-{
-    return attemptWithPixels([&](std::size_t) { return fill(); });
 }
 
 // The memory for the library's pixels is taken when it is needed: mostly there are new ones before anybody looks.

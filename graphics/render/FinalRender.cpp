@@ -79,7 +79,7 @@ bool renderInPlace(const FinalPicture &picture, FilterSet &filters, DocumentView
     TiledDocumentRenderer renderer(picture.hasAlpha, horizontal, vertical, formats, source);
     renderer.setProgress(progress);
     if (picture.expendable) {
-        renderer.renderInPlace();
+        renderer.setInPlace();
     }
     Document document(0, &queue);
     document.setView(&view);

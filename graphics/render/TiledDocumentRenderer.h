@@ -21,8 +21,8 @@ class OverlayFilter;
 
 /// Renders a picture at full resolution, tile by tile.
 ///
-/// What depends on the place in the whole picture cannot be computed in a tile: an enabled vignette is drawn once, as
-/// a mask of the padded size, and inside the tiles an OverlayFilter with its piece of the mask stands in its place.
+/// What depends on the place in the whole picture cannot be computed in a tile: of an enabled vignette there is a mask
+/// of the padded size, and inside the tiles an OverlayFilter with its piece of the mask stands in its place.
 /// Unlike in the preview, the first filter of the queue runs once; with exactly one filter enabled it is the first of
 /// the queue that runs, whichever is enabled; with none the source is the result.
 class TiledDocumentRenderer : public IRenderer
@@ -39,7 +39,7 @@ public:
 
     /// From now on the result goes where the source is, tile by tile, and output() describes that place. Where there is
     /// no result, nobody knows what is there.
-    void renderInPlace() { m_inPlace = true; }
+    void setInPlace() { m_inPlace = true; }
 
     /// Renders the document's queue over the source and returns true. The queue itself is left as it is.
     bool render(Document &document) override;

@@ -48,6 +48,7 @@ Texture VignetteMask::piece(const TileArea &area) const
         if (texture.name() != 0) {
             return texture;
         }
+        m_filter.reset();
         logComputed(m_largestSide);
     }
     return Texture(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height), GL_R32F,

@@ -38,7 +38,7 @@ private:
     std::int32_t m_width;
     std::int32_t m_height;
     std::uint32_t m_largestSide;
-    std::unique_ptr<FinalVignetteFilter> m_filter;
+    mutable std::unique_ptr<FinalVignetteFilter> m_filter; ///< none any more once the driver has failed
 };
 
 } // namespace grisal::graphics

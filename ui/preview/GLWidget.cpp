@@ -181,7 +181,13 @@ bool GLWidget::renderFinal(void *pixels, int width, int height, bool sixteenBit,
     };
     fitViewToWidget();
     const QScopedValueRollback<bool> rendering(m_renderingFinal, true);
-    const bool rendered = m_stage.renderFinal({pixels, width, height, sixteenBit, hasAlpha, true}, tellAndComeBack);
+    const graphics::FinalPicture picture{.pixels = pixels,
+                                         .width = width,
+                                         .height = height,
+                                         .sixteenBit = sixteenBit,
+                                         .hasAlpha = hasAlpha,
+                                         .expendable = true};
+    const bool rendered = m_stage.renderFinal(picture, tellAndComeBack);
     update();
     return rendered;
 }

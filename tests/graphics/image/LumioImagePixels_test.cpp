@@ -36,6 +36,18 @@ std::vector<Value> packedOf(const LumioImage &image)
     return values == nullptr ? std::vector<Value>() : std::vector<Value>(values, values + count);
 }
 
+Words opacitiesOf(LumioImage &image)
+{
+    const std::size_t count = static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height());
+    Words words(count * 4);
+    Words opacities;
+    image.getPixels(words.data(), true, true);
+    for (std::size_t i = 3; i < words.size(); i += 4) {
+        opacities.push_back(words[i]);
+    }
+    return opacities;
+}
+
 struct Size {
     int width;
     int height;
@@ -76,6 +88,7 @@ TEST_P(PixelPlaces, TheLentBufferBecomesThePicture)
     std::memcpy(room, bytes.data(), bytes.size());
     ASSERT_TRUE(byteImage.setPixels(room, false, false));
     EXPECT_EQ(bytesOf(byteImage), bytes);
+    EXPECT_EQ(opacitiesOf(byteImage), Words(bytes.size() / 3, 255));
 
     const auto words = mixedValues<Words>(width, height);
     LumioImage wordImage(width, height, true);
@@ -84,6 +97,7 @@ TEST_P(PixelPlaces, TheLentBufferBecomesThePicture)
     std::memcpy(room, words.data(), words.size() * sizeof(words[0]));
     ASSERT_TRUE(wordImage.setPixels(room, false, true));
     EXPECT_EQ(wordsOf(wordImage), words);
+    EXPECT_EQ(opacitiesOf(wordImage), Words(words.size() / 3, 65535));
 }
 
 TEST(LumioImageTest, PackedPixelsAreGivenInTheOtherDepthToo)
@@ -141,10 +155,16 @@ TEST(LumioImageTest, APackedPictureDescribesItself)
 {
     const QTemporaryDir directory;
     const QString path = directory.filePath("a.png");
-    ASSERT_TRUE(pictureOf(mixedValues<Bytes>(5, 3), 5, 3).save(path, 90));
+    Magick::Image picture = painted(5, 3, 8, [](int x, int y) {
+        return Samples{0, std::uint16_t(x), std::uint16_t(y)};
+    });
+    picture.renderingIntent(Magick::PerceptualIntent);
+    picture.write(path.toStdString());
     LumioImage image;
     ASSERT_TRUE(image.read(path));
+    wordsOf(image);
     const std::string before = image.info();
+    ASSERT_NE(before.find("PerceptualIntent"), std::string::npos);
     ASSERT_TRUE(image.pack());
     EXPECT_EQ(image.info(), before);
     EXPECT_NE(image.packedPixels(), nullptr);

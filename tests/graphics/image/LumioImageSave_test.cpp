@@ -137,6 +137,16 @@ TEST_F(LumioImageSaveTest, SaysNothingWhenAPictureIsSavedAgain)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
+// The library would make up a resolution for the first and remember it.
+TEST_F(LumioImageSaveTest, LeavesNothingOfAJpegInTheNextFile)
+{
+    LumioImage image = pictureOf(countedBytes(12), 2, 2);
+    ASSERT_TRUE(image.save(path("first.png"), quality));
+    ASSERT_TRUE(image.save(path("a.jpg"), quality));
+    ASSERT_TRUE(image.save(path("second.png"), quality));
+    EXPECT_EQ(contentsOf(path("second.png")).size(), contentsOf(path("first.png")).size());
+}
+
 TEST_F(LumioImageSaveTest, WritesToOddNames)
 {
     LumioImage image = pictureOf(countedBytes(12), 2, 2);

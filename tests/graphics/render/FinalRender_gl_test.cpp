@@ -76,14 +76,18 @@ TEST_F(FinalRenderTest, ExpendablePixelsBecomeTheSame)
 {
     filters->curve.enabled = filters->splitTone.enabled = filters->vignette.enabled = true;
     parameters.mixerWeights = {0.3F, 0.5F, 0.2F};
-    const auto source = rampPicture<std::uint8_t>(2055, 2053, 4);
-    BytePixels kept = source;
-    BytePixels expendable = source;
-    EXPECT_TRUE(renderFinalPicture({kept.values.data(), 2055, 2053, false, true}, parameters, *filters, *view));
-    EXPECT_TRUE(
-        renderFinalPicture({expendable.values.data(), 2055, 2053, false, true, true}, parameters, *filters, *view));
-    EXPECT_NE(kept.values, source.values);
-    EXPECT_TRUE(picturesNear("expendable", expendable, kept));
+    const auto render = [&](auto picture, bool expendable) {
+        const bool sixteenBit = sizeof(picture.values[0]) == 2;
+        EXPECT_TRUE(renderFinalPicture(
+            {picture.values.data(), picture.width, picture.height, sixteenBit, picture.components == 4, expendable},
+            parameters, *filters, *view));
+        return picture;
+    };
+    const auto bytes = rampPicture<std::uint8_t>(2055, 2053, 4);
+    EXPECT_NE(render(bytes, true).values, bytes.values);
+    EXPECT_TRUE(picturesNear("expendable bytes", render(bytes, true), render(bytes, false)));
+    const auto words = rampPicture<std::uint16_t>(2055, 7, 3);
+    EXPECT_TRUE(picturesNear("expendable words", render(words, true), render(words, false)));
 }
 
 TEST_F(FinalRenderTest, WithoutEnabledFilterExpendablePixelsStay)

@@ -140,7 +140,7 @@ TEST_F(VignetteMaskTest, OddRowsComeBackWhole)
               1e-4);
 }
 
-// Whether it is copied or computed, a piece is what the whole mask has at its place.
+// Whether it is drawn or computed, a piece is what the whole mask has at its place.
 TEST_F(VignetteMaskTest, APieceIsAPartOfTheWhole)
 {
     for (const std::uint32_t largestSide : {roomForIt, noRoomForIt}) {

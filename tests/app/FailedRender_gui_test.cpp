@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+//
+// The driver fails in the middle of a save: the next save has to be whole, whatever was left of the failed one.
+#include "graphics/gl/GL.h"
+#include "tests/app/FilesTest.h"
+
+#include <QFile>
+
+#include <dlfcn.h>
+
+namespace
+{
+
+int failingCall = 0;
+int calls = 0;
+
+} // namespace
+
+/// Stands in for the driver's.
+extern "C" GLenum GLAPIENTRY glGetError()
+{
+    static const auto real = reinterpret_cast<GLenum(GLAPIENTRY *)()>(dlsym(RTLD_NEXT, "glGetError"));
+    const GLenum error = real();
+    return ++calls == failingCall ? GL_OUT_OF_MEMORY : error;
+}
+
+namespace
+{
+
+using namespace grisal::test;
+
+class FailedRender : public FilesTest
+{
+protected:
+    /// Opens a picture of four tiles, saves it once in the right way, and again with the driver failing half way.
+    void failToSave(const QString &name, int depth)
+    {
+        start();
+        window.openImage(makePicture(name, 2055, 6, depth, depth == 8 ? colourful : fine));
+        calls = 0;
+        window.saveImage(inHome(QStringLiteral("right.tif")));
+        failingCall = calls / 2;
+        calls = 0;
+        expectWarning(QStringLiteral("Failed to create texture: Out of memory"));
+        expectWarning(QStringLiteral("OpenGL could not render the picture"));
+        expectWarning(QStringLiteral("The picture could not be rendered."));
+        window.saveImage(inHome(QStringLiteral("failed.tif")));
+        failingCall = 0;
+        EXPECT_FALSE(QFile::exists(inHome(QStringLiteral("failed.tif"))));
+    }
+
+    void expectNextSaveIsRight()
+    {
+        window.saveImage(inHome(QStringLiteral("next.tif")));
+        EXPECT_EQ(samplesOf(inHome(QStringLiteral("next.tif"))), samplesOf(inHome(QStringLiteral("right.tif"))));
+    }
+};
+
+TEST_F(FailedRender, TheNextSaveIsWhole)
+{
+    failToSave(QStringLiteral("a.png"), 8);
+    expectNextSaveIsRight();
+}
+
+TEST_F(FailedRender, TheNextSaveOf16BitsIsWhole)
+{
+    failToSave(QStringLiteral("a.tif"), 16);
+    expectNextSaveIsRight();
+}
+
+// What is there of the picture is opened again instead of a file that is not there any more.
+TEST_F(FailedRender, ASaveAfterAMissingFileIsWhole)
+{
+    failToSave(QStringLiteral("a.png"), 8);
+    expectWarning(QStringLiteral("missing.png"));
+    window.openImage(inHome(QStringLiteral("missing.png")));
+    expectNextSaveIsRight();
+}
+
+} // namespace
