@@ -17,6 +17,7 @@ constexpr std::size_t halvesToOne = 0x3c01; // one among them
 constexpr int mantissaBits = 10;
 constexpr int bias = 15;
 constexpr int largestWord = 65535;
+constexpr std::size_t wordCount = 65536;
 
 /// The value of a half float between 0 and 1, by its bits.
 double valueOf(std::uint16_t half)
@@ -37,12 +38,12 @@ std::uint16_t bitsOf(float value)
     return static_cast<std::uint16_t>(((exponent - smallestExponent) << mantissaBits) + mantissa);
 }
 
-const std::array<std::uint16_t, largestWord + 1> &halfTable()
+const std::array<std::uint16_t, wordCount> &halfTable()
 {
     static const auto made = [] {
-        std::array<std::uint16_t, largestWord + 1> table{};
-        for (int word = 0; word <= largestWord; ++word) {
-            table[static_cast<std::size_t>(word)] = bitsOf(static_cast<float>(word) / largestWord);
+        std::array<std::uint16_t, wordCount> table{};
+        for (std::size_t word = 0; word < wordCount; ++word) {
+            table[word] = bitsOf(static_cast<float>(word) / largestWord);
         }
         return table;
     }();
