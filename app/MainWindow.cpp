@@ -21,6 +21,8 @@
 #include <QToolBar>
 #include <QUrl>
 
+#include <future>
+
 namespace grisal::ui
 {
 
@@ -144,8 +146,10 @@ void MainWindow::loadBuffer(const void *pixels, int width, int height, bool sixt
         return;
     }
     const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    m_curves->slotSetHistogram(graphics::toneHistogram(pixels, count, sixteenBit, false));
+    // The driver takes the preview meanwhile, and has no use for a second core.
+    auto tones = std::async(graphics::toneHistogram, pixels, count, sixteenBit, false);
     preview->loadImage(pixels, width, height, sixteenBit, false);
+    m_curves->slotSetHistogram(tones.get());
     preview->setDirty();
     slotResetFilters();
 }

@@ -12,7 +12,7 @@
 namespace grisal::bench
 {
 
-/// The program's window on the screen, with the placeholder at first. Each step ends when its picture is drawn.
+/// The program's window on the screen, with the placeholder at first. Each step ends when its picture is on the screen.
 class ScreenWindow
 {
 public:
@@ -52,8 +52,14 @@ private:
 
     void paint()
     {
-        QApplication::processEvents();
-        preview().repaint();
+        bool swapped = false;
+        const QMetaObject::Connection frame =
+            QObject::connect(&preview(), &QOpenGLWidget::frameSwapped, [&swapped] { swapped = true; });
+        preview().update();
+        while (!swapped) {
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        QObject::disconnect(frame);
         preview().makeCurrent();
         glFinish();
     }
