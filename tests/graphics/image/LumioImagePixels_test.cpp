@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include <cstring>
+#include <random>
 
 using namespace grisal::test;
 using grisal::graphics::LumioImage;
@@ -20,10 +21,9 @@ template <typename Values>
 Values mixedValues(int width, int height)
 {
     Values values(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 3);
-    std::uint32_t next = 1;
+    std::minstd_rand next;
     for (auto &value : values) {
-        next = next * 1664525 + 1013904223;
-        value = static_cast<typename Values::value_type>(next >> 16);
+        value = static_cast<typename Values::value_type>(next());
     }
     return values;
 }

@@ -71,7 +71,7 @@ TEST_F(FinalRenderTest, KeepsTheFourthComponent)
     EXPECT_EQ(picture.values, (std::vector<std::uint16_t>{65535, 65535, 65535, 7, 0, 0, 0, 60000}));
 }
 
-// Several tiles with all filters: each is read before it is written, whatever its neighbours already hold.
+// Several tiles and filters: each tile is read before it is written, whatever its neighbours already hold.
 TEST_F(FinalRenderTest, ExpendablePixelsBecomeTheSame)
 {
     filters->curve.enabled = filters->splitTone.enabled = filters->vignette.enabled = true;

@@ -12,6 +12,30 @@ namespace grisal::test
 using graphics::halfOfWord;
 using graphics::wordOfHalf;
 
+constexpr int side = 256;
+
+/// All values of 16 bits, each as red, green and blue of a pixel.
+std::vector<std::uint16_t> everyValue()
+{
+    std::vector<std::uint16_t> values(std::size_t{side} * side * 3);
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        values[i] = static_cast<std::uint16_t>(i / 3);
+    }
+    return values;
+}
+
+/// What comes out as `to` of a target of halves that these went into as `from`.
+std::vector<std::uint16_t> throughTheDriver(const std::vector<std::uint16_t> &values, GLenum from, GLenum to)
+{
+    const graphics::RenderTarget target(side, side, GL_RGB, GL_RGB16F, from);
+    glBindTexture(GL_TEXTURE_2D, target.record().texture);
+    glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, side, side, GL_RGB, from, values.data());
+    glBindTexture(GL_TEXTURE_2D, 0);
+    std::vector<std::uint16_t> result(values.size());
+    readPixels(target.record(), side, side, GL_RGB, to, result.data());
+    return result;
+}
+
 class HalfWordsTest : public GlTest
 {
 };
@@ -30,17 +54,8 @@ TEST_F(HalfWordsTest, TheEndsAndTheMiddle)
 // The driver's own conversion is the slow way to the same words: every half goes both ways.
 TEST_F(HalfWordsTest, AreThoseOfTheDriver)
 {
-    constexpr int side = 256;
-    std::vector<std::uint16_t> halves(std::size_t{side} * side * 3);
-    for (std::size_t i = 0; i < halves.size(); ++i) {
-        halves[i] = static_cast<std::uint16_t>(i / 3);
-    }
-    const graphics::RenderTarget target(side, side, GL_RGB, GL_RGB16F, GL_HALF_FLOAT);
-    glBindTexture(GL_TEXTURE_2D, target.record().texture);
-    glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, side, side, GL_RGB, GL_HALF_FLOAT, halves.data());
-    glBindTexture(GL_TEXTURE_2D, 0);
-    std::vector<std::uint16_t> expected(halves.size());
-    readPixels(target.record(), side, side, GL_RGB, GL_UNSIGNED_SHORT, expected.data());
+    const std::vector<std::uint16_t> halves = everyValue();
+    const std::vector<std::uint16_t> expected = throughTheDriver(halves, GL_HALF_FLOAT, GL_UNSIGNED_SHORT);
 
     std::vector<std::uint16_t> words(halves.size());
     graphics::wordsOfHalves(halves.data(), halves.size(), words.data());
@@ -61,17 +76,8 @@ TEST_F(HalfWordsTest, TheHalvesOfSomeWords)
 
 TEST_F(HalfWordsTest, EveryWordBecomesTheHalfThatTheDriverMakesOfIt)
 {
-    constexpr int side = 256;
-    std::vector<std::uint16_t> words(std::size_t{side} * side * 3);
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        words[i] = static_cast<std::uint16_t>(i / 3);
-    }
-    const graphics::RenderTarget target(side, side, GL_RGB, GL_RGB16F, GL_UNSIGNED_SHORT);
-    glBindTexture(GL_TEXTURE_2D, target.record().texture);
-    glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, side, side, GL_RGB, GL_UNSIGNED_SHORT, words.data());
-    glBindTexture(GL_TEXTURE_2D, 0);
-    std::vector<std::uint16_t> expected(words.size());
-    readPixels(target.record(), side, side, GL_RGB, GL_HALF_FLOAT, expected.data());
+    const std::vector<std::uint16_t> words = everyValue();
+    const std::vector<std::uint16_t> expected = throughTheDriver(words, GL_UNSIGNED_SHORT, GL_HALF_FLOAT);
 
     std::vector<std::uint16_t> halves(words.size());
     graphics::halvesOfWords(words.data(), words.size(), halves.data());
