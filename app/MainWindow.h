@@ -91,7 +91,7 @@ private:
     void showPreferences();
     bool togglePanel(QWidget *panel, QAction *action);
     void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem);
-    bool showPreviewOf(graphics::LumioImage &image);
+    bool showPreviewOf(graphics::LumioImage &image, void *room);
     void tellProblems(const graphics::LumioImage &image);
     void tellCannotLoad(const QString &filename);
     void tell(const QString &message);

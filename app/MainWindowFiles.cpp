@@ -87,7 +87,8 @@ void MainWindow::openFile(const QString &filename)
     graphics::LumioImage output(image.width(), image.height(), image.is16Bit());
     output.takeMetadataOf(image);
     // The memory that the library needed for reading becomes the output's, before anything else can take of it.
-    if (!image.pack() || output.roomForPixels() == nullptr || !showPreviewOf(image)) {
+    void *room = image.pack() ? output.roomForPixels() : nullptr;
+    if (room == nullptr || !showPreviewOf(image, room)) {
         tellProblems(image);
         tellProblems(output);
         notice.end();
@@ -102,18 +103,13 @@ void MainWindow::openFile(const QString &filename)
     update();
 }
 
-// The preview has bytes, whatever the picture has.
-bool MainWindow::showPreviewOf(graphics::LumioImage &image)
+// The preview has bytes, whatever the picture has; in `room` there is place for them.
+bool MainWindow::showPreviewOf(graphics::LumioImage &image, void *room)
 {
-    std::unique_ptr<std::byte[]> bytes;
-    if (image.is16Bit()) {
-        const auto count = static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height());
-        bytes = std::make_unique_for_overwrite<std::byte[]>(count * 3);
-        if (!image.getPixels(bytes.get(), false, false)) {
-            return false;
-        }
+    if (image.is16Bit() && !image.getPixels(room, false, false)) {
+        return false;
     }
-    loadBuffer(bytes ? bytes.get() : image.packedPixels(), image.width(), image.height(), false);
+    loadBuffer(image.is16Bit() ? room : image.packedPixels(), image.width(), image.height(), false);
     return true;
 }
 

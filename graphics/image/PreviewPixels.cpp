@@ -39,50 +39,96 @@ int halfSide(int side)
     return std::max(1, side / 2);
 }
 
-/// Halves the top left width x height pixels of a picture whose rows are `fullWidth` pixels long.
+/// Halves the top left pixels of a picture row by row as often as it takes, so that nothing between the picture and
+/// the last half is ever whole.
 template <typename Component, std::size_t components>
-std::vector<Component> halfSize(const Component *pixels, int fullWidth, int width, int height)
+class Halves
 {
-    const std::size_t halfWidth = length(halfSide(width));
-    const std::size_t halfHeight = length(halfSide(height));
-    const std::size_t row = length(fullWidth) * components;
-    // A side of 1 has no neighbour: there each pixel counts twice.
-    const std::size_t right = width > 1 ? components : 0;
-    const std::size_t below = height > 1 ? row : 0;
+public:
+    /// The picture's rows are `fullWidth` pixels long, of which `width` count.
+    Halves(const Component *pixels, int fullWidth, int width, int height)
+        : m_pixels(pixels), m_row(length(fullWidth) * components)
+    {
+        m_sizes.push_back({length(width), length(height)});
+    }
 
-    std::vector<Component> half(halfWidth * halfHeight * rgb);
-    inBands(halfHeight, smallestBand, [&](std::size_t first, std::size_t end) {
-        Component *target = half.data() + first * halfWidth * rgb;
-        for (std::size_t y = first; y < end; ++y) {
-            const Component *upper = pixels + 2 * y * row;
-            const Component *lower = upper + below;
-            for (std::size_t x = 0; x < halfWidth; ++x, upper += 2 * components, lower += 2 * components) {
-                for (std::size_t c = 0; c < rgb; ++c) {
-                    const std::uint32_t sum = std::uint32_t{upper[c]} + upper[c + right] + lower[c] + lower[c + right];
-                    *target++ = static_cast<Component>((sum + 2) / 4);
-                }
+    std::vector<Component> afterHalvings(int halvings)
+    {
+        for (int i = 0; i < halvings; ++i) {
+            m_sizes.push_back({half(m_sizes.back().width), half(m_sizes.back().height)});
+        }
+        const Size size = m_sizes.back();
+        std::vector<Component> pixels(size.width * size.height * rgb);
+        inBands(size.height, smallestBand, [&](std::size_t first, std::size_t end) {
+            for (std::size_t y = first; y < end; ++y) {
+                makeRow(m_sizes.size() - 1, y, pixels.data() + y * size.width * rgb);
+            }
+        });
+        return pixels;
+    }
+
+private:
+    struct Size {
+        std::size_t width;
+        std::size_t height;
+    };
+
+    static std::size_t half(std::size_t side) { return std::max<std::size_t>(1, side / 2); }
+
+    /// Row y after that many halvings, at least one.
+    void makeRow(std::size_t halvings, std::size_t y, Component *target) const
+    {
+        const Size whole = m_sizes[halvings - 1];
+        const std::size_t below = whole.height > 1 ? 2 * y + 1 : y; // a side of 1 has no neighbour: it counts twice
+        if (halvings == 1) {
+            join<components>(m_pixels + 2 * y * m_row, m_pixels + below * m_row, whole.width, target);
+            return;
+        }
+        std::vector<Component> rows(2 * whole.width * rgb);
+        Component *lower = rows.data() + whole.width * rgb;
+        makeRow(halvings - 1, 2 * y, rows.data());
+        makeRow(halvings - 1, below, lower);
+        join<rgb>(rows.data(), lower, whole.width, target);
+    }
+
+    /// Two rows of pixels with `step` components each become one of half the width.
+    template <std::size_t step>
+    static void join(const Component *upper, const Component *lower, std::size_t width, Component *target)
+    {
+        const std::size_t right = width > 1 ? step : 0;
+        for (std::size_t x = 0; x < half(width); ++x, upper += 2 * step, lower += 2 * step) {
+            for (std::size_t c = 0; c < rgb; ++c) {
+                const std::uint32_t sum = std::uint32_t{upper[c]} + upper[c + right] + lower[c] + lower[c + right];
+                *target++ = static_cast<Component>((sum + 2) / 4);
             }
         }
-    });
-    return half;
+    }
+
+    const Component *m_pixels;
+    std::size_t m_row;
+    std::vector<Size> m_sizes;
+};
+
+int halvingsOf(int width, int height)
+{
+    int halvings = 0;
+    for (int side = std::max(width, height); side > maxPreviewSide; side /= 2) {
+        ++halvings;
+    }
+    return halvings;
 }
 
-/// The top left pixels, halved at once where they are too many: a copy in full size would be thrown away.
+/// The top left pixels, three components each.
 template <typename Component>
-std::vector<Component> firstPixels(const void *pixels, int fullWidth, const PreviewPixels &size, bool tooLarge,
+std::vector<Component> firstPixels(const void *pixels, int fullWidth, const PreviewPixels &size, int halvings,
                                    bool alpha)
 {
     const auto *source = static_cast<const Component *>(pixels);
-    if (!tooLarge) {
+    if (halvings == 0) {
         return topLeft<Component>(pixels, fullWidth, size.width, size.height, alpha ? rgb + 1 : rgb);
     }
-    return alpha ? halfSize<Component, rgb + 1>(source, fullWidth, size.width, size.height)
-                 : halfSize<Component, rgb>(source, fullWidth, size.width, size.height);
-}
-
-bool isTooLarge(const PreviewPixels &pixels)
-{
-    return std::max(pixels.width, pixels.height) > maxPreviewSide;
+    return alpha ? Halves<Component, rgb + 1>(source, fullWidth, size.width, size.height).afterHalvings(halvings)
+                 : Halves<Component, rgb>(source, fullWidth, size.width, size.height).afterHalvings(halvings);
 }
 
 } // namespace
@@ -108,18 +154,15 @@ PreviewPixels makePreviewPixels(const void *pixels, int width, int height, bool 
     }
     preview.width = roundedPreviewSide(width);
     preview.height = roundedPreviewSide(height);
-    const bool tooLarge = isTooLarge(preview);
+    const int halvings = halvingsOf(preview.width, preview.height);
     if (sixteenBit) {
-        preview.words = firstPixels<std::uint16_t>(pixels, width, preview, tooLarge, alpha);
+        preview.words = firstPixels<std::uint16_t>(pixels, width, preview, halvings, alpha);
     } else {
-        preview.bytes = firstPixels<std::uint8_t>(pixels, width, preview, tooLarge, alpha);
+        preview.bytes = firstPixels<std::uint8_t>(pixels, width, preview, halvings, alpha);
     }
-    if (tooLarge) {
+    for (int i = 0; i < halvings; ++i) {
         preview.width = halfSide(preview.width);
         preview.height = halfSide(preview.height);
-    }
-    while (isTooLarge(preview)) {
-        preview = halved(preview);
     }
     return preview;
 }
@@ -133,9 +176,11 @@ PreviewPixels halved(const PreviewPixels &pixels)
     half.width = halfSide(pixels.width);
     half.height = halfSide(pixels.height);
     if (pixels.words.empty()) {
-        half.bytes = halfSize<std::uint8_t, rgb>(pixels.bytes.data(), pixels.width, pixels.width, pixels.height);
+        half.bytes =
+            Halves<std::uint8_t, rgb>(pixels.bytes.data(), pixels.width, pixels.width, pixels.height).afterHalvings(1);
     } else {
-        half.words = halfSize<std::uint16_t, rgb>(pixels.words.data(), pixels.width, pixels.width, pixels.height);
+        half.words =
+            Halves<std::uint16_t, rgb>(pixels.words.data(), pixels.width, pixels.width, pixels.height).afterHalvings(1);
     }
     return half;
 }

@@ -107,6 +107,20 @@ TEST(PreviewPixelsTest, HalvesALargePictureTwice)
     EXPECT_EQ(preview.bytes, Bytes(componentsOf(2250, 1500), 200));
 }
 
+TEST(PreviewPixelsTest, RoundsAfterEachHalving)
+{
+    constexpr int width = 9004;
+    constexpr int height = 28; // 14, then 7, of which the widths are 4502 and 2251
+    Bytes bytes(componentsOf(width, height));
+    std::generate(bytes.begin(), bytes.end(),
+                  [i = 0U]() mutable { return static_cast<std::uint8_t>(i++ * 40503 >> 7); });
+    const PreviewPixels twice = halved(halved({width, height, bytes, {}}));
+    const PreviewPixels preview = makePreviewPixels(bytes.data(), width, height, false, false);
+    EXPECT_EQ(preview.width, 2251);
+    EXPECT_EQ(preview.height, 7);
+    EXPECT_EQ(preview.bytes, twice.bytes);
+}
+
 TEST(PreviewPixelsTest, NeverHalvesASideToNothing)
 {
     const PreviewPixels wide = blank(20000, 1);
