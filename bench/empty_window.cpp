@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The yardstick of the program's start: an empty window with an empty OpenGL widget. Ends with its first frame.
+// The yardstick of the program's start: empty_window [WIDTH HEIGHT] is an empty window with an empty OpenGL widget, of
+// that size or as small as the toolkit makes it. Ends with its first frame.
 #include <QApplication>
 #include <QMainWindow>
 #include <QOpenGLWidget>
@@ -19,6 +20,9 @@ int main(int argc, char **argv)
     auto *widget = new QOpenGLWidget;
     window.setCentralWidget(widget);
     QObject::connect(widget, &QOpenGLWidget::frameSwapped, &window, [] { std::quick_exit(0); });
+    if (argc == 3) {
+        window.resize(std::atoi(argv[1]), std::atoi(argv[2]));
+    }
     window.show();
     return QApplication::exec();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The program's start: its window with the placeholder, as app/main.cpp shows it. Ends with its first frame.
+// The program's start: its window with the placeholder, as app/main.cpp shows it. Ends with its first frame and prints
+// how wide and high the window is.
 #include "app/MainWindow.h"
 #include "app/Memory.h"
 #include "app/MessageLog.h"
@@ -10,6 +11,7 @@
 #include <QApplication>
 
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <vector>
 
@@ -21,8 +23,11 @@ int main(int argc, char **argv)
     grisal::graphics::setDefaultSurfaceFormat();
     const QApplication application(argc, argv);
     grisal::ui::MainWindow window;
-    QObject::connect(window.findChild<grisal::ui::GLWidget *>(), &QOpenGLWidget::frameSwapped, &window,
-                     [] { std::quick_exit(0); });
+    QObject::connect(window.findChild<grisal::ui::GLWidget *>(), &QOpenGLWidget::frameSwapped, &window, [&window] {
+        std::printf("%d %d\n", window.width(), window.height());
+        std::fflush(stdout);
+        std::quick_exit(0);
+    });
     const std::vector<std::uint8_t> grey(std::size_t{300} * 200 * 3, 128);
     window.show();
     window.loadBuffer(grey.data(), 300, 200, false);
