@@ -22,6 +22,7 @@
 #include <QUrl>
 
 #include <future>
+#include <utility>
 
 namespace grisal::ui
 {
@@ -49,9 +50,10 @@ QWidget *newStretch()
 
 } // namespace
 
-MainWindow::MainWindow(QWidget *parent)
-    : QMainWindow(parent), m_mixer(new Mixer(this)), m_vignette(new Vignette(this)), m_splitTone(new SplitTone(this)),
-      m_grain(new Grain(this)), m_sharpen(new Sharpen(this)), m_curves(new Curves(this)), m_panels(new QStackedLayout),
+MainWindow::MainWindow(graphics::PictureMaker newPicture, QWidget *parent)
+    : QMainWindow(parent), m_newPicture(std::move(newPicture)), m_mixer(new Mixer(this)),
+      m_vignette(new Vignette(this)), m_splitTone(new SplitTone(this)), m_grain(new Grain(this)),
+      m_sharpen(new Sharpen(this)), m_curves(new Curves(this)), m_panels(new QStackedLayout),
       m_toolBar(new QToolBar(this)), m_progressBar(new QProgressBar), m_form(std::make_unique<Ui::MainWindow>())
 {
     m_form->setupUi(this);
@@ -61,6 +63,10 @@ MainWindow::MainWindow(QWidget *parent)
     setUpStatusBar();
     setUpPanels();
     connectPanels();
+    // What pictures need is fetched while the user still looks for one.
+    connect(
+        m_form->glWidgetPreview, &QOpenGLWidget::frameSwapped, this, [this] { m_newPicture(); },
+        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     connect(m_form->actionHelp, &QAction::triggered, this, &MainWindow::showGuide);
     connect(m_form->actionPreferences, &QAction::triggered, this, &MainWindow::showPreferences);
 }

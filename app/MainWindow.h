@@ -5,7 +5,7 @@
 #include "ui/preview/GLWidget.h"
 
 #include "app/FileDealer.h"
-#include "graphics/image/LumioImage.h"
+#include "graphics/image/IPicture.h"
 #include "graphics/Message.h"
 
 #include <QMainWindow>
@@ -41,7 +41,9 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit MainWindow(QWidget *parent = nullptr);
+    /// `newPicture` makes the pictures that files are read into. It is called for the first time when the window has
+    /// been seen, so that it may take its time then.
+    explicit MainWindow(graphics::PictureMaker newPicture, QWidget *parent = nullptr);
     ~MainWindow() override;
 
     /// Shows width x height pixels of 3 components, bytes or 16-bit words, in the preview and puts all panels back to
@@ -91,15 +93,17 @@ private:
     void showPreferences();
     bool togglePanel(QWidget *panel, QAction *action);
     void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem);
-    bool showPreviewOf(graphics::LumioImage &image, void *room);
-    void tellProblems(const graphics::LumioImage &image);
+    bool showPreviewOf(graphics::IPicture &image, void *room);
+    void tellProblems(const graphics::IPicture &image);
     void tellCannotLoad(const QString &filename);
     void tell(const QString &message);
     void openFile(const QString &filename);
+    bool readFile(graphics::IPicture &image, const QString &filename);
     bool renderOutput(BusyNotice &notice);
     bool renderIntoOutput(BusyNotice &notice);
     bool tellRenderFailed(const QString &reason);
 
+    graphics::PictureMaker m_newPicture;
     Mixer *m_mixer;
     Vignette *m_vignette;
     SplitTone *m_splitTone;
@@ -109,8 +113,8 @@ private:
     QStackedLayout *m_panels;
     QToolBar *m_toolBar;
     QProgressBar *m_progressBar;
-    graphics::LumioImage m_source;
-    graphics::LumioImage m_output;
+    std::unique_ptr<graphics::IPicture> m_source; // none until one has been opened; then there are both
+    std::unique_ptr<graphics::IPicture> m_output;
     FileDealer m_fileDealer;
     UserGuide *m_guide = nullptr; // from its first showing on
     std::unique_ptr<Ui::MainWindow> m_form;

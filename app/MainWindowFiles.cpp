@@ -32,7 +32,7 @@ bool isThere(const QString &path)
     return file.exists() || file.isSymLink();
 }
 
-QString titleFor(const QString &path, const graphics::LumioImage &image)
+QString titleFor(const QString &path, const graphics::IPicture &image)
 {
     // These three characters stand for the mark of unsaved changes; twice, they are themselves.
     const QString name = QFileInfo(path).fileName().replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
@@ -66,45 +66,50 @@ void MainWindow::openImage(QString filename)
 
 // A file that is there and cannot be read leaves everything as it is. A file that is not there any more leaves the
 // picture that is open, which is then opened again: its panels start afresh under the name that was asked for.
+bool MainWindow::readFile(graphics::IPicture &image, const QString &filename)
+{
+    const bool read = image.read(filename);
+    tellProblems(image);
+    if (!read && isThere(filename)) {
+        return false;
+    }
+    qDebug("%s", image.info().c_str());
+    return !image.isNull();
+}
+
 void MainWindow::openFile(const QString &filename)
 {
     BusyNotice notice(*m_form->statusbar, *m_progressBar);
     notice.show(tr("Reading %1").arg(QFileInfo(filename).fileName()));
-    graphics::LumioImage image = m_source;
-    const bool read = image.read(filename);
-    tellProblems(image);
-    if (!read && isThere(filename)) {
+    std::unique_ptr<graphics::IPicture> image = m_source ? m_source->copy() : m_newPicture();
+    if (!image || !readFile(*image, filename)) {
         notice.end();
         tellCannotLoad(filename);
+        if (!image) {
+            tell(tr("A part of Grisal is missing, without which pictures cannot be opened. Please install it again."));
+        }
         return;
     }
-    qDebug("%s", image.info().c_str());
-    if (image.isNull()) {
-        notice.end();
-        tellCannotLoad(filename);
-        return;
-    }
-    graphics::LumioImage output(image.width(), image.height(), image.is16Bit());
-    output.takeMetadataOf(image);
+    std::unique_ptr<graphics::IPicture> output = image->blank();
     // The memory that the library needed for reading becomes the output's, before anything else can take of it.
-    void *room = image.pack() ? output.roomForPixels() : nullptr;
-    if (room == nullptr || !showPreviewOf(image, room)) {
-        tellProblems(image);
-        tellProblems(output);
+    void *room = image->pack() ? output->roomForPixels() : nullptr;
+    if (room == nullptr || !showPreviewOf(*image, room)) {
+        tellProblems(*image);
+        tellProblems(*output);
         notice.end();
         tellCannotLoad(filename);
         return;
     }
-    m_source = image;
-    m_output = output;
+    m_source = std::move(image);
+    m_output = std::move(output);
     m_fileDealer.addToRecent();
-    setWindowTitle(titleFor(filename, image));
+    setWindowTitle(titleFor(filename, *m_source));
     slotResetActions();
     update();
 }
 
 // The preview has bytes, whatever the picture has; in `room` there is place for them.
-bool MainWindow::showPreviewOf(graphics::LumioImage &image, void *room)
+bool MainWindow::showPreviewOf(graphics::IPicture &image, void *room)
 {
     if (image.is16Bit() && !image.getPixels(room, false, false)) {
         return false;
@@ -113,7 +118,7 @@ bool MainWindow::showPreviewOf(graphics::LumioImage &image, void *room)
     return true;
 }
 
-void MainWindow::tellProblems(const graphics::LumioImage &image)
+void MainWindow::tellProblems(const graphics::IPicture &image)
 {
     if (!image.problem().isEmpty()) {
         qWarning("%s", qPrintable(image.problem()));
@@ -145,7 +150,7 @@ void MainWindow::saveImage(const QString &path)
         tell(tr("No filename"));
         return;
     }
-    if (m_output.isNull()) {
+    if (!m_output) {
         qWarning("MainWindow::saveImage(): Image is Null");
         tell(tr("No image"));
         return;
@@ -157,12 +162,12 @@ void MainWindow::saveImage(const QString &path)
         return;
     }
     notice.show(tr("Writing %1").arg(QFileInfo(path).fileName()));
-    if (!m_output.save(path, saveQuality)) {
-        qWarning("Cannot save %s: %s", qPrintable(path), qPrintable(m_output.problem()));
+    if (!m_output->save(path, saveQuality)) {
+        qWarning("Cannot save %s: %s", qPrintable(path), qPrintable(m_output->problem()));
         tell(tr("Cannot save %1. Choose another place or name.").arg(path));
         return;
     }
-    tellProblems(m_output);
+    tellProblems(*m_output);
 }
 
 void MainWindow::slotFinalRendering()
@@ -184,23 +189,26 @@ bool MainWindow::renderOutput(BusyNotice &notice)
 bool MainWindow::renderIntoOutput(BusyNotice &notice)
 {
     update();
-    const bool sixteenBit = m_source.is16Bit();
-    void *pixels = m_output.roomForPixels();
-    if (pixels == nullptr) {
-        return tellRenderFailed(m_output.problem());
+    if (!m_output) {
+        return tellRenderFailed(QStringLiteral("No picture is open"));
     }
-    if (!m_source.getPixels(pixels, false, sixteenBit)) {
-        return tellRenderFailed(m_source.problem());
+    const bool sixteenBit = m_source->is16Bit();
+    void *pixels = m_output->roomForPixels();
+    if (pixels == nullptr) {
+        return tellRenderFailed(m_output->problem());
+    }
+    if (!m_source->getPixels(pixels, false, sixteenBit)) {
+        return tellRenderFailed(m_source->problem());
     }
     GLWidget *preview = m_form->glWidgetPreview;
     const auto tellTile = [&notice](int tile, int tiles) {
         notice.show(tr("Rendering tile %1 of %2").arg(tile).arg(tiles), tile - 1, tiles);
     };
-    if (!preview->renderFinal(pixels, m_source.width(), m_source.height(), sixteenBit, false, tellTile)) {
+    if (!preview->renderFinal(pixels, m_source->width(), m_source->height(), sixteenBit, false, tellTile)) {
         return tellRenderFailed(preview->graphicsProblem().english());
     }
-    if (!m_output.setPixels(pixels, false, sixteenBit)) {
-        return tellRenderFailed(m_output.problem());
+    if (!m_output->setPixels(pixels, false, sixteenBit)) {
+        return tellRenderFailed(m_output->problem());
     }
     return true;
 }

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <csignal>
 #include <cstdlib>
 
 namespace message_log
@@ -57,6 +58,8 @@ void write(QtMsgType type, const QMessageLogContext &, const QString &text)
 void install()
 {
     qInstallMessageHandler(write);
+    // A log that must not grow any more is no reason to end the program.
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 } // namespace message_log

@@ -2,9 +2,9 @@
 #include "app/MainWindow.h"
 #include "app/Memory.h"
 #include "app/MessageLog.h"
+#include "app/PictureModule.h"
 #include "app/Translation.h"
 #include "graphics/gl/SurfaceFormat.h"
-#include "graphics/image/ImageLibrary.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -38,14 +38,13 @@ void tellGraphicsProblem(const grisal::graphics::Message &problem)
 int main(int argc, char **argv)
 {
     memory::keepFreedBlocks();
-    grisal::graphics::initializeImageLibrary(argv[0]);
     message_log::install();
     grisal::graphics::setDefaultSurfaceFormat();
 
     QApplication application(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral(GRISAL_APP_ID));
     const Translation translation(QLocale::system());
-    auto window = std::make_unique<grisal::ui::MainWindow>();
+    auto window = std::make_unique<grisal::ui::MainWindow>(&picture_module::newPicture);
 
     std::vector<std::uint8_t> placeholder(std::size_t{placeholderWidth} * placeholderHeight * 3, placeholderGrey);
     window->show();

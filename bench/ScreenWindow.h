@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/MainWindow.h"
+#include "app/PictureModule.h"
 
 #include <QAction>
 #include <QApplication>
@@ -23,6 +24,8 @@ public:
         m_window.show();
         m_window.loadBuffer(grey.data(), 300, 200, false);
         paint();
+        // What the window does once it is seen.
+        QApplication::processEvents();
     }
 
     void open(const QString &path)
@@ -64,7 +67,7 @@ private:
         glFinish();
     }
 
-    ui::MainWindow m_window;
+    ui::MainWindow m_window{picture_module::newPicture};
 };
 
 } // namespace grisal::bench

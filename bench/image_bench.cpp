@@ -2,7 +2,7 @@
 //
 // What an opened picture costs on the processor: pixels out of the image library and into it, the preview's copy, the
 // tone histogram. 24 megapixels.
-#include "graphics/image/LumioImage.h"
+#include "graphics/files/LumioImage.h"
 #include "graphics/image/PreviewPixels.h"
 #include "graphics/image/ToneHistogram.h"
 

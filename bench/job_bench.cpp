@@ -10,7 +10,6 @@
 #include "bench/Yardsticks.h"
 #include "graphics/gl/OffscreenContext.h"
 #include "graphics/gl/SurfaceFormat.h"
-#include "graphics/image/ImageLibrary.h"
 #include "graphics/image/PreviewPixels.h"
 #include "graphics/render/PreviewStage.h"
 
@@ -189,7 +188,6 @@ int main(int argc, char **argv)
 {
     qInstallMessageHandler(ignoreMessage);
     memory::keepFreedBlocks();
-    initializeImageLibrary(argv[0]);
     setDefaultSurfaceFormat();
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);

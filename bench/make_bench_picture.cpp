@@ -2,7 +2,7 @@
 //
 // Writes the picture that the other programs of this folder work on: make_bench_picture WIDTH HEIGHT DEPTH PATH
 #include "bench/BenchPictures.h"
-#include "graphics/image/ImageLibrary.h"
+#include "graphics/files/ImageLibrary.h"
 
 #include <cstdio>
 #include <cstdlib>

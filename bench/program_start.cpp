@@ -5,8 +5,8 @@
 #include "app/MainWindow.h"
 #include "app/Memory.h"
 #include "app/MessageLog.h"
+#include "app/PictureModule.h"
 #include "graphics/gl/SurfaceFormat.h"
-#include "graphics/image/ImageLibrary.h"
 
 #include <QApplication>
 
@@ -18,11 +18,10 @@
 int main(int argc, char **argv)
 {
     memory::keepFreedBlocks();
-    grisal::graphics::initializeImageLibrary(argv[0]);
     message_log::install();
     grisal::graphics::setDefaultSurfaceFormat();
     const QApplication application(argc, argv);
-    grisal::ui::MainWindow window;
+    grisal::ui::MainWindow window(&picture_module::newPicture);
     QObject::connect(window.findChild<grisal::ui::GLWidget *>(), &QOpenGLWidget::frameSwapped, &window, [&window] {
         std::printf("%d %d\n", window.width(), window.height());
         std::fflush(stdout);

@@ -7,7 +7,6 @@
 #include "app/Memory.h"
 #include "bench/ScreenWindow.h"
 #include "graphics/gl/SurfaceFormat.h"
-#include "graphics/image/ImageLibrary.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -56,7 +55,6 @@ int main(int argc, char **argv)
 {
     qInstallMessageHandler(ignoreMessage);
     memory::keepFreedBlocks();
-    grisal::graphics::initializeImageLibrary(argv[0]);
     grisal::graphics::setDefaultSurfaceFormat();
     const QApplication application(argc, argv);
     if (argc != 3) {

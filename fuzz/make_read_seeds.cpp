@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // make_read_seeds FOLDER: writes the small pictures that read_fuzz starts from, one of each kind.
-#include "tests/graphics/image/PictureFiles.h"
+#include "tests/graphics/files/PictureFiles.h"
 
 #include <cstdlib>
 #include <iostream>

@@ -2,7 +2,7 @@
 //
 // Any bytes, in a file: it is read, or refused with a reason, and a picture that was read can be described and copied,
 // and what its file said about it can be saved with another one.
-#include "graphics/image/LumioImage.h"
+#include "graphics/files/LumioImage.h"
 
 #include <QTemporaryDir>
 

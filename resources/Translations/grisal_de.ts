@@ -989,5 +989,9 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <source>Rendering tile %1 of %2</source>
         <translation>Kachel %1 von %2 wird berechnet</translation>
     </message>
+    <message>
+        <source>A part of Grisal is missing, without which pictures cannot be opened. Please install it again.</source>
+        <translation>Ein Teil von Grisal fehlt, ohne den keine Bilder geöffnet werden können. Bitte installieren Sie es neu.</translation>
+    </message>
 </context>
 </TS>

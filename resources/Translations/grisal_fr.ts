@@ -989,5 +989,9 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <source>Rendering tile %1 of %2</source>
         <translation>Calcul de la tuile %1 sur %2</translation>
     </message>
+    <message>
+        <source>A part of Grisal is missing, without which pictures cannot be opened. Please install it again.</source>
+        <translation>Il manque une partie de Grisal, sans laquelle aucune image ne peut être ouverte. Veuillez le réinstaller.</translation>
+    </message>
 </context>
 </TS>

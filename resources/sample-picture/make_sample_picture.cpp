@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/image/LumioImage.h"
+#include "graphics/files/LumioImage.h"
 #include "resources/sample-picture/Scene.h"
 
 #include <cstdint>

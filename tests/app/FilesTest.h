@@ -2,7 +2,7 @@
 #pragma once
 
 #include "tests/app/WindowTest.h"
-#include "tests/graphics/image/PictureFiles.h"
+#include "tests/graphics/files/PictureFiles.h"
 #include "tests/support/Modal.h"
 
 #include <QDir>

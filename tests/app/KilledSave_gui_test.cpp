@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Whenever the program is killed, a file that it was saving over is the whole old picture or the whole new one. A few
 // moments by default; as many as GRISAL_KILLED_SAVES says.
-#include "tests/graphics/image/PictureFiles.h"
+#include "tests/graphics/files/PictureFiles.h"
 #include "tests/support/GlPresence.h"
 
 #include <gtest/gtest.h>

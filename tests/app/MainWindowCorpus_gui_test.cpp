@@ -2,7 +2,7 @@
 // Hundreds of hostile files and real pictures go through one window, one after the other.
 #include "tests/app/FilesTest.h"
 
-#include "tests/graphics/image/Corpus.h"
+#include "tests/graphics/files/Corpus.h"
 #include "ui/panels/Mixer.h"
 
 #include <QApplication>

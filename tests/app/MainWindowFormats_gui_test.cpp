@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Pictures of every format, depth and size go through the window and come out again with the chosen look.
 #include "tests/app/FilesTest.h"
-#include "tests/graphics/image/MetadataFiles.h"
+#include "tests/graphics/files/MetadataFiles.h"
 
 #include "ui/panels/Mixer.h"
 

@@ -109,6 +109,14 @@ TEST_F(MainWindowSave, SavingWithoutAPictureIsTold)
     EXPECT_FALSE(QFile::exists(inHome(QStringLiteral("a.png"))));
 }
 
+TEST_F(MainWindowSave, WithoutAPictureNothingIsRendered)
+{
+    start();
+    expectWarning(QStringLiteral("The picture could not be rendered. No picture is open"));
+    window.slotFinalRendering();
+    EXPECT_EQ(status(), "The picture could not be rendered. Nothing was saved; the log tells more.");
+}
+
 TEST_F(MainWindowSave, ACancelledSaveAsIsToldForTwoSeconds)
 {
     start();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The program itself, from outside: what it shows and logs.
-#include "tests/graphics/image/PictureFiles.h"
+#include "tests/graphics/files/PictureFiles.h"
 
 #include <gtest/gtest.h>
 

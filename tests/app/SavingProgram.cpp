@@ -3,7 +3,7 @@
 // with grain and without by turns, as often as its third says. Tells each save's start on its standard output.
 #include "app/MainWindow.h"
 #include "graphics/gl/SurfaceFormat.h"
-#include "graphics/image/ImageLibrary.h"
+#include "tests/app/NewPicture.h"
 
 #include <QAction>
 #include <QApplication>
@@ -12,11 +12,10 @@
 
 int main(int argc, char **argv)
 {
-    grisal::graphics::initializeImageLibrary(argv[0]);
     grisal::graphics::setDefaultSurfaceFormat();
     const QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    grisal::ui::MainWindow window;
+    grisal::ui::MainWindow window(grisal::test::newPicture);
     window.show();
     QApplication::processEvents();
     window.openImage(arguments.at(1));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/MainWindow.h"
+#include "tests/app/NewPicture.h"
 #include "tests/support/GlPresence.h"
 #include "tests/support/GuiTest.h"
 
@@ -61,7 +62,7 @@ protected:
 
     QAction &action(const char *name) { return child<QAction>(window, name); }
 
-    ui::MainWindow window;
+    ui::MainWindow window{newPicture};
 };
 
 } // namespace grisal::test

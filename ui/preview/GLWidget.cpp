@@ -64,7 +64,7 @@ void GLWidget::initializeGL()
     qDebug("%s", qPrintable(line));
     qDebug("INITIALIZE GL");
     qDebug("%s", qPrintable(line));
-    if (!isValid()) {
+    if (!isValid() || m_started) {
         return;
     }
     switch (graphics::initialiseGlEntryPoints()) {
@@ -83,9 +83,6 @@ void GLWidget::initializeGL()
 
 void GLWidget::startGraphics()
 {
-    if (m_started) {
-        return;
-    }
     m_started = true;
     qDebug("GL vendor: %s", qPrintable(glText(GL_VENDOR)));
     qDebug("GL renderer: %s", qPrintable(glText(GL_RENDERER)));

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/files/ImageLibrary.h"
+
+#include <Magick++.h>
+
+#include <unistd.h>
+
+#include <csignal>
+
+namespace grisal::graphics
+{
+
+namespace
+{
+
+constexpr MagickLib::magick_int64_t longestSide = 65'500;
+constexpr MagickLib::magick_int64_t mostPixels = 1'000'000'000;
+
+/// Three quarters of the machine's memory, in bytes.
+MagickLib::magick_int64_t memoryShare()
+{
+    return MagickLib::magick_int64_t{sysconf(_SC_PHYS_PAGES)} * sysconf(_SC_PAGESIZE) / 4 * 3;
+}
+
+void setLimits()
+{
+    using namespace MagickLib;
+    SetMagickResourceLimit(WidthResource, longestSide);
+    SetMagickResourceLimit(HeightResource, longestSide);
+    SetMagickResourceLimit(PixelsResource, mostPixels);
+    SetMagickResourceLimit(MemoryResource, memoryShare());
+    SetMagickResourceLimit(MapResource, 0);
+    SetMagickResourceLimit(DiskResource, 0);
+}
+
+} // namespace
+
+void initializeImageLibrary(const char *programPath)
+{
+    static bool initialized = false;
+    if (initialized) {
+        return;
+    }
+    MagickLib::ExceptionInfo exception;
+    MagickLib::GetExceptionInfo(&exception);
+    MagickLib::InitializeMagickEx(programPath, MAGICK_OPT_NO_SIGNAL_HANDER, &exception);
+    MagickLib::DestroyExceptionInfo(&exception);
+    Magick::InitializeMagick(programPath);
+    setLimits();
+    std::signal(SIGXFSZ, SIG_IGN);
+    initialized = true;
+}
+
+} // namespace grisal::graphics

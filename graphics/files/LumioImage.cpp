@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/files/LumioImage.h"
+
+#include "graphics/files/ImageNames.h"
+#include "graphics/files/Orientation.h"
+#include "graphics/files/PictureFile.h"
+#include "graphics/files/ReplacementFile.h"
+
+#include <QFile>
+
+#include <cstdint>
+#include <exception>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+namespace grisal::graphics
+{
+
+namespace
+{
+
+bool opensForReading(const QString &path)
+{
+    return std::ifstream(QFile::encodeName(path).toStdString()).is_open();
+}
+
+/// To be read into: the first picture of a file that holds several, without a look at the others.
+Magick::Image firstPicture()
+{
+    Magick::Image image;
+    image.subImage(0);
+    image.subRange(1);
+    return image;
+}
+
+Magick::ImageType typeOf(const Magick::Image &image)
+{
+    try {
+        return image.type();
+    } catch (const std::exception &) {
+        return Magick::UndefinedType; // the pixels cannot be reached
+    }
+}
+
+// A warning leaves the result of the call standing, so the text is kept and all goes on.
+template <typename Call>
+Message warningOf(Call call)
+{
+    try {
+        call();
+    } catch (const Magick::Warning &warning) {
+        return Message::quoting(QString::fromLocal8Bit(warning.what()));
+    }
+    return {};
+}
+
+/// Whether what was written would be taken for a picture again.
+bool opensAsPicture(const OpenFile &written)
+{
+    const PictureFile file(QString::fromStdString(nameOfOpenFile(written.descriptor())));
+    if (!file.problem().isEmpty()) {
+        return false;
+    }
+    try {
+        Magick::Image head = firstPicture();
+        warningOf([&] { head.ping(file.name()); });
+        return head.columns() > 0;
+    } catch (const std::exception &) {
+        return false;
+    }
+}
+
+// A TIFF may have 12 bits, say: more than a byte keeps.
+void raiseDepth(Magick::Image &image)
+{
+    if (image.depth() > 8) {
+        image.depth(16);
+    }
+}
+
+// The library would write its own share of it beside ours.
+void forgetMetadata(Magick::Image &image)
+{
+    image.profile("*", Magick::Blob());
+    image.orientation(Magick::UndefinedOrientation);
+    MagickLib::DestroyImageAttributes(image.image());
+}
+
+} // namespace
+
+std::unique_ptr<IPicture> LumioImage::copy() const
+{
+    return std::make_unique<LumioImage>(*this);
+}
+
+std::unique_ptr<IPicture> LumioImage::blank() const
+{
+    auto picture = std::make_unique<LumioImage>(width(), height(), is16Bit());
+    picture->takeMetadataOf(*this);
+    return picture;
+}
+
+bool LumioImage::read(const QString &path)
+{
+    const PictureFile file(path);
+    const bool good = attempt([&] {
+        m_problem = file.problem();
+        if (m_problem.isEmpty()) {
+            readFrom(file, path);
+        }
+    });
+    nameInMessages(file.descriptor(), path);
+    return good;
+}
+
+// The library knows an open file by another name than the user does.
+void LumioImage::nameInMessages(int descriptor, const QString &path)
+{
+    const QString name = QString::fromStdString(nameOfOpenFile(descriptor));
+    m_problem.replace(name, path);
+    m_warning.replaceInDetail(name, path);
+}
+
+void LumioImage::readFrom(const PictureFile &file, const QString &path)
+{
+    Magick::Image head = firstPicture();
+    warningOf([&] { head.ping(file.name()); });
+    if (!file.canHold(std::uint64_t{head.columns()} * head.rows())) {
+        m_problem = QStringLiteral("%1 is too small a file for its %2 x %3 pixels")
+                        .arg(path, QString::number(head.columns()), QString::number(head.rows()));
+        return;
+    }
+    const Metadata metadata(file.file(), file.format());
+    Magick::Image fresh = firstPicture();
+    m_warning = warningOf([&] { fresh.read(file.name()); });
+    if (!fresh.isValid()) {
+        m_problem = m_warning.isEmpty() ? QStringLiteral("No picture in %1").arg(path) : warning();
+        return;
+    }
+    if (m_warning.isEmpty() && !metadata.isComplete()) {
+        m_warning = Message(QT_TRANSLATE_NOOP("Message", "Not all that %1 says about its picture could be read"), path);
+    }
+    fresh.fileName(QFile::encodeName(path).toStdString());
+    raiseDepth(fresh);
+    forgetMetadata(fresh);
+    turnUpright(fresh, metadata.orientation());
+    m_image = fresh;
+    m_packed.reset();
+    m_samples = Samples::AsRead;
+    m_metadata = metadata;
+}
+
+bool LumioImage::save(const QString &path, int quality)
+{
+    if (isNull()) {
+        std::cout << "save: Image is not valid" << std::endl;
+    }
+    if (!prepareForWriting()) {
+        return false;
+    }
+    ReplacementFile target(path);
+    const bool good = attempt([&] { writeTo(target, path, quality); });
+    nameInMessages(target.file().descriptor(), path);
+    return good;
+}
+
+void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quality)
+{
+    const std::optional<PictureFormat> format = formatOfName(path);
+    if (!format) {
+        m_problem = QStringLiteral("The name ends in none of .jpg, .jpeg, .png, .tif and .tiff");
+        return;
+    }
+    m_problem = target.problem();
+    if (!m_problem.isEmpty()) {
+        return;
+    }
+    m_image.matte(false);
+    m_image.quality(static_cast<unsigned>(quality));
+    const std::string name = libraryName(*format, nameOfOpenFile(target.file().descriptor()));
+    m_warning = writePixels(name);
+    if (!m_metadata.isEmpty()) {
+        writeMetadata(target.file(), *format, name);
+    }
+    m_image.fileName(QFile::encodeName(path).toStdString());
+    if (!endsAsItShould(target.file(), *format)) {
+        m_problem = QStringLiteral("Not all of the picture could be written");
+    } else if (!target.commit()) {
+        m_problem = target.problem();
+    } else if (!opensForReading(path)) {
+        m_problem = QStringLiteral("Cannot open %1 after writing it").arg(path);
+    }
+}
+
+Message LumioImage::writePixels(const std::string &name)
+{
+    // Left by an earlier PNG; the library would add to it and complain on standard error.
+    MagickLib::SetImageAttribute(m_image.image(), "[png:bit-depth-written]", nullptr);
+    // Left by an earlier JPEG, whose resolution the library makes up.
+    m_image.image()->x_resolution = 0;
+    m_image.image()->y_resolution = 0;
+    m_image.resolutionUnits(Magick::UndefinedResolution);
+    // A second look at all of a JPEG would save 3 to 10 hundredths of its size, more of a smooth picture's, and takes
+    // longer than writing itself and almost as much memory as the picture's own.
+    m_image.defineValue("jpeg", "optimize-coding", "false");
+    return warningOf([&] { m_image.write(name); });
+}
+
+// What other programs have said about a picture may keep the library from reading it again: the picture goes first.
+void LumioImage::writeMetadata(const OpenFile &file, PictureFormat format, const std::string &name)
+{
+    bool allSaid = m_metadata.writeInto(file, format, width(), height());
+    if (!opensAsPicture(file)) {
+        writePixels(name);
+        allSaid = false;
+    }
+    if (!allSaid && m_warning.isEmpty()) {
+        m_warning =
+            Message(QT_TRANSLATE_NOOP("Message", "Not all that was said about the picture could be saved with it"));
+    }
+}
+
+bool LumioImage::isNull() const
+{
+    return !m_image.isValid();
+}
+
+bool LumioImage::is16Bit() const
+{
+    return m_image.depth() == 16;
+}
+
+int LumioImage::width() const
+{
+    return static_cast<int>(m_image.columns());
+}
+
+int LumioImage::height() const
+{
+    return static_cast<int>(m_image.rows());
+}
+
+std::string LumioImage::info() const
+{
+    std::ostringstream text;
+    text << '\n'
+         << " ******** LumioImage ******** \n"
+         << "  filename:   " << m_image.fileName() << '\n'
+         << "  width :     " << m_image.columns() << '\n'
+         << "  height:     " << m_image.rows() << '\n'
+         << "  depth:      " << m_image.depth() << '\n'
+         << "  colorspace: " << colorSpaceName(m_image.colorSpace()) << '\n'
+         << "  intent:     " << renderingIntentName(m_image.renderingIntent()) << '\n'
+         << "  type:       " << imageTypeName(typeOf(m_image)) << '\n'
+         << "  quantize:   " << m_image.quantizeColors() << '\n'
+         << " ************************* \n"
+         << '\n';
+    return text.str();
+}
+
+} // namespace grisal::graphics

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/files/MetadataBlocks.h"
+
+#include "graphics/files/TiffMetadata.h"
+
+#include <QByteArrayView>
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstdint>
+
+namespace grisal::graphics
+{
+
+namespace
+{
+
+constexpr qsizetype mostMetadata = 16 << 20;
+
+// A JPEG file is a row of segments: two bytes of marker, the length of the rest, the contents.
+constexpr QByteArrayView jpegStart{"\xff\xd8"};
+constexpr QByteArrayView jpegEnd{"\xff\xd9"};
+constexpr int mostSegments = 10'000;
+constexpr std::uint8_t firstApplication = 0xe0;
+
+// A PNG file is a row of chunks: the length of the contents, four letters, the contents, a checksum.
+constexpr int chunkHeadSize = 8;
+constexpr int chunkFrameSize = 12;
+constexpr int mostChunks = 500'000;
+constexpr std::uint32_t largestExif = 1 << 19;
+/// The signature and the first chunk, which tells the size of the picture.
+constexpr qsizetype pngStartSize = signatureLength + chunkFrameSize + 13;
+
+bool isTableOrFrame(std::uint8_t marker)
+{
+    return marker >= 0xc0 && marker < 0xff && !(marker >= 0xd0 && marker <= 0xda);
+}
+
+bool isMetadataSegment(QByteArrayView segment)
+{
+    const auto kind = static_cast<std::uint8_t>(segment[1] - static_cast<char>(firstApplication));
+    const QByteArrayView contents = segment.sliced(4);
+    return (kind == 1 || kind == 13) || (kind == 2 && contents.startsWith("ICC_PROFILE"));
+}
+
+MetadataBlocks jpegMetadataOf(const OpenFile &file)
+{
+    MetadataBlocks blocks{jpegStart.toByteArray()};
+    std::uint64_t place = jpegStart.size();
+    for (int i = 0; i < mostSegments; ++i) {
+        const QByteArray head = file.bytesAt(place, 4);
+        if (head.size() < 4 || head[0] != '\xff') {
+            break;
+        }
+        const auto marker = static_cast<std::uint8_t>(head[1]);
+        if (marker == 0xff) { // padding
+            ++place;
+            continue;
+        }
+        const auto length = qFromBigEndian<std::uint16_t>(head.constData() + 2);
+        if (!isTableOrFrame(marker) || length < 2) {
+            break;
+        }
+        const QByteArray segment = file.bytesAt(place, 2 + length);
+        if (segment.size() == 2 + length && isMetadataSegment(segment)) {
+            blocks.complete = blocks.complete && blocks.file.size() + segment.size() <= mostMetadata;
+            blocks.file += blocks.complete ? segment : QByteArray();
+        }
+        place += 2 + std::uint64_t{length};
+    }
+    blocks.file += jpegEnd;
+    return blocks;
+}
+
+bool insertJpegMetadata(const OpenFile &file, QByteArrayView metadata)
+{
+    const qsizetype frame = jpegStart.size() + jpegEnd.size();
+    const QByteArray head = file.bytesAt(0, 6);
+    if (head.size() < 6 || metadata.size() < frame) {
+        return false;
+    }
+    // What makes the file a JFIF file has to come first.
+    const bool isJfif = head.mid(2, 2) == "\xff\xe0";
+    const std::uint64_t place =
+        isJfif ? std::uint64_t{4} + qFromBigEndian<std::uint16_t>(head.constData() + 4) : jpegStart.size();
+    return file.insert(place, metadata.sliced(jpegStart.size(), metadata.size() - frame));
+}
+
+/// Whether a chunk of this kind, which starts like this, is wanted.
+bool isMetadataChunk(QByteArrayView kind, QByteArrayView start)
+{
+    const bool isText = kind == "tEXt" || kind == "zTXt" || kind == "iTXt";
+    return kind == "eXIf" || kind == "iCCP" ||
+           (isText && (start.startsWith("Raw profile type ") || start.startsWith("XML:com.adobe.xmp")));
+}
+
+MetadataBlocks pngMetadataOf(const OpenFile &file)
+{
+    constexpr int longestKeyword = 20;
+    MetadataBlocks blocks{file.bytesAt(0, pngStartSize)};
+    std::uint64_t place = pngStartSize;
+    for (int i = 0; i < mostChunks; ++i) {
+        const QByteArray head = file.bytesAt(place, chunkHeadSize + longestKeyword);
+        if (head.size() < chunkFrameSize) {
+            break;
+        }
+        const auto length = qFromBigEndian<std::uint32_t>(head.constData());
+        const QByteArrayView kind = QByteArrayView(head).sliced(4, 4);
+        if (kind == "IEND") {
+            break;
+        }
+        const std::uint64_t size = chunkFrameSize + std::uint64_t{length};
+        if (isMetadataChunk(kind, QByteArrayView(head).sliced(chunkHeadSize))) {
+            const std::uint64_t most = kind == "eXIf" ? largestExif : mostMetadata;
+            const bool fits = size + static_cast<std::uint64_t>(blocks.file.size()) <= mostMetadata && size <= most;
+            blocks.file += fits ? file.bytesAt(place, static_cast<qsizetype>(size)) : QByteArray();
+            blocks.complete = blocks.complete && fits;
+        }
+        place += size;
+    }
+    blocks.file += pngChunk("IEND", {});
+    return blocks;
+}
+
+bool insertPngMetadata(const OpenFile &file, QByteArrayView metadata)
+{
+    const qsizetype frame = pngStartSize + chunkFrameSize;
+    return metadata.size() >= frame && file.size() >= pngStartSize &&
+           file.insert(pngStartSize, metadata.sliced(pngStartSize, metadata.size() - frame));
+}
+
+std::uint32_t checksum(QByteArrayView bytes)
+{
+    constexpr std::uint32_t polynomial = 0xedb88320;
+    std::uint32_t sum = 0xffffffff;
+    for (const char byte : bytes) {
+        sum ^= static_cast<std::uint8_t>(byte);
+        for (int bit = 0; bit < 8; ++bit) {
+            sum = (sum >> 1) ^ ((sum & 1) * polynomial);
+        }
+    }
+    return ~sum;
+}
+
+QByteArray bigEndian(std::uint32_t number)
+{
+    QByteArray bytes(sizeof number, '\0');
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
+} // namespace
+
+MetadataBlocks metadataOf(const OpenFile &file, PictureFormat format)
+{
+    switch (format) {
+    case PictureFormat::Jpeg:
+        return jpegMetadataOf(file);
+    case PictureFormat::Png:
+        return pngMetadataOf(file);
+    case PictureFormat::Tiff:
+        return tiffMetadataOf(file);
+    }
+    return {};
+}
+
+bool insertMetadata(const OpenFile &file, PictureFormat format, const QByteArray &metadata)
+{
+    switch (format) {
+    case PictureFormat::Jpeg:
+        return insertJpegMetadata(file, metadata);
+    case PictureFormat::Png:
+        return insertPngMetadata(file, metadata);
+    case PictureFormat::Tiff:
+        return insertTiffMetadata(file, metadata);
+    }
+    return false;
+}
+
+QByteArray pngChunk(QByteArrayView kind, QByteArrayView contents)
+{
+    QByteArray checked = kind.toByteArray();
+    checked += contents;
+    return bigEndian(static_cast<std::uint32_t>(contents.size())) + checked + bigEndian(checksum(checked));
+}
+
+QByteArray emptyPicture(PictureFormat format)
+{
+    switch (format) {
+    case PictureFormat::Jpeg:
+        return jpegStart.toByteArray() + jpegEnd.toByteArray();
+    case PictureFormat::Png:
+        // One pixel, 8 bits of grey.
+        return QByteArray("\x89PNG\r\n\x1a\n") + pngChunk("IHDR", QByteArray("\0\0\0\1\0\0\0\1\x08\0\0\0\0", 13)) +
+               pngChunk("IEND", {});
+    case PictureFormat::Tiff:
+        return {};
+    }
+    return {};
+}
+
+} // namespace grisal::graphics

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/files/OpenFile.h"
+#include "graphics/files/PictureFormat.h"
+
+#include <QByteArray>
+
+namespace grisal::graphics
+{
+
+/// What an image file says about its picture: a small file of the same format that holds nothing else.
+struct MetadataBlocks {
+    QByteArray file; ///< empty where there is no telling
+    /// False where something was left out for its size: what others make of it is to fit into the memory, too.
+    bool complete = true;
+};
+
+/// Takes what a picture file says about its picture out of it. Only the places where it stands are read.
+MetadataBlocks metadataOf(const OpenFile &file, PictureFormat format);
+
+/// Puts what such a small file holds into a picture file that was just written and holds nothing of that kind. The
+/// pixels are moved within the file, and nothing but a block of them is held. False, with the file as it was, where it
+/// does not hold what it should or where there is no room; throws where the file is damaged.
+bool insertMetadata(const OpenFile &file, PictureFormat format, const QByteArray &metadata);
+
+/// A chunk of a PNG file, of a kind of four letters.
+QByteArray pngChunk(QByteArrayView kind, QByteArrayView contents);
+
+/// The smallest file of a format, to be filled by others with metadata. A TIFF file is made without one.
+QByteArray emptyPicture(PictureFormat format);
+
+} // namespace grisal::graphics

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/files/OpenFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+
+namespace grisal::graphics
+{
+
+namespace
+{
+
+/// What is moved at once: large enough for the drive, small enough for the memory.
+constexpr std::uint64_t blockSize = 1 << 22;
+
+} // namespace
+
+OpenFile::~OpenFile()
+{
+    if (isOpen()) {
+        close(m_descriptor);
+    }
+}
+
+std::uint64_t OpenFile::size() const
+{
+    struct stat status {
+    };
+    return fstat(m_descriptor, &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
+}
+
+QByteArray OpenFile::bytesAt(std::uint64_t place, qsizetype count) const
+{
+    QByteArray bytes(count, '\0');
+    qsizetype done = 0;
+    ssize_t got = 1;
+    while (done < count && got > 0) {
+        got = pread(m_descriptor, bytes.data() + done, static_cast<std::size_t>(count - done),
+                    static_cast<off_t>(place) + done);
+        done += std::max<ssize_t>(got, 0);
+    }
+    bytes.truncate(done);
+    return bytes;
+}
+
+void OpenFile::overwrite(std::uint64_t place, QByteArrayView bytes) const
+{
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        const ssize_t written = pwrite(m_descriptor, bytes.data() + done, static_cast<std::size_t>(bytes.size() - done),
+                                       static_cast<off_t>(place) + done);
+        if (written <= 0) {
+            throw std::system_error(errno, std::generic_category(), "The file cannot be completed");
+        }
+        done += written;
+    }
+}
+
+// The last block moves first, since each goes where the one behind it was.
+bool OpenFile::insert(std::uint64_t place, QByteArrayView bytes) const
+{
+    const std::uint64_t end = size();
+    if (posix_fallocate(m_descriptor, static_cast<off_t>(end), bytes.size()) != 0) {
+        [[maybe_unused]] const int back = ftruncate(m_descriptor, static_cast<off_t>(end));
+        return false;
+    }
+    const auto distance = static_cast<std::uint64_t>(bytes.size());
+    for (std::uint64_t behind = end; behind > place;) {
+        const std::uint64_t length = std::min(blockSize, behind - place);
+        behind -= length;
+        const QByteArray block = bytesAt(behind, static_cast<qsizetype>(length));
+        if (block.size() != static_cast<qsizetype>(length)) {
+            throw std::system_error(EIO, std::generic_category(), "The file cannot be completed");
+        }
+        overwrite(behind + distance, block);
+    }
+    overwrite(place, bytes);
+    return true;
+}
+
+} // namespace grisal::graphics

@@ -1,0 +1,388 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/files/LumioImage.h"
+#include "tests/graphics/files/PictureFiles.h"
+
+#include <gtest/gtest.h>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cstddef>
+#include <cstdint>
+#include <numeric>
+#include <string>
+#include <tuple>
+#include <vector>
+
+using namespace grisal::test;
+using grisal::graphics::LumioImage;
+
+namespace
+{
+
+constexpr int quality = 90;
+
+Bytes countedBytes(std::size_t count)
+{
+    Bytes bytes(count);
+    std::iota(bytes.begin(), bytes.end(), std::uint8_t{0});
+    return bytes;
+}
+
+Words spread(const Bytes &bytes)
+{
+    Words words;
+    for (const std::uint8_t byte : bytes) {
+        words.push_back(static_cast<std::uint16_t>(byte * 257));
+    }
+    return words;
+}
+
+struct LumioImageSaveTest : testing::Test {
+    QTemporaryDir directory;
+
+    QString path(const QString &name) const { return directory.filePath(name); }
+};
+
+TEST_F(LumioImageSaveTest, ReportsANullPictureOnStandardOutput)
+{
+    LumioImage image;
+    testing::internal::CaptureStdout();
+    EXPECT_FALSE(image.save(path("a.png"), quality));
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "save: Image is not valid\n");
+    EXPECT_FALSE(image.problem().isEmpty());
+    EXPECT_FALSE(QFile::exists(path("a.png")));
+}
+
+TEST_F(LumioImageSaveTest, WritesTheFormatOfTheExtension)
+{
+    LumioImage image = pictureOf(countedBytes(12), 2, 2);
+    const auto starts = [&](const char *name, const QByteArray &magic) {
+        return image.save(path(name), quality) && contentsOf(path(name)).startsWith(magic);
+    };
+    EXPECT_TRUE(starts("a.png", "\x89PNG"));
+    EXPECT_TRUE(starts("a.tif", "II*"));
+    EXPECT_TRUE(starts("a.TIFF", "II*"));
+    EXPECT_TRUE(starts("a.jpg", "\xff\xd8"));
+    EXPECT_TRUE(starts("a.JPEG", "\xff\xd8"));
+}
+
+TEST_F(LumioImageSaveTest, RefusesAnUnknownExtension)
+{
+    LumioImage image = pictureOf(countedBytes(12), 2, 2);
+    EXPECT_FALSE(image.save(path("a.unknown"), quality));
+    EXPECT_FALSE(image.problem().isEmpty());
+    EXPECT_EQ(bytesOf(image), countedBytes(12));
+}
+
+TEST_F(LumioImageSaveTest, RefusesAFolderThatIsNotThere)
+{
+    LumioImage image = pictureOf(countedBytes(12), 2, 2);
+    EXPECT_FALSE(image.save(path("nowhere/a.png"), quality));
+    EXPECT_FALSE(image.problem().isEmpty());
+}
+
+TEST_F(LumioImageSaveTest, TellsThatTheDiskIsFull)
+{
+    LumioImage image = pictureOf(countedBytes(12), 2, 2);
+    for (const char *name : {"full.png", "full.jpg", "full.tif"}) {
+        ASSERT_TRUE(QFile::link("/dev/full", path(name)));
+        EXPECT_FALSE(image.save(path(name), quality)) << name;
+        EXPECT_FALSE(image.problem().isEmpty()) << name;
+    }
+}
+
+// The library would take the format from the front of such a name and write another file than the one asked for.
+TEST_F(LumioImageSaveTest, TakesNoFormatFromTheFrontOfAName)
+{
+    LumioImage image = pictureOf(countedBytes(12), 2, 2);
+    EXPECT_FALSE(image.save("png:" + path("a.png"), quality));
+    EXPECT_FALSE(image.problem().isEmpty());
+    EXPECT_FALSE(QFile::exists(path("a.png")));
+    EXPECT_TRUE(image.save(path("png:a.jpg"), quality));
+    EXPECT_TRUE(contentsOf(path("png:a.jpg")).startsWith("\xff\xd8"));
+}
+
+// Nor does it get to see the folders a picture lies in: it would write them into a TIFF.
+TEST_F(LumioImageSaveTest, KeepsFolderNamesToItself)
+{
+    LumioImage image = pictureOf(countedBytes(12), 2, 2);
+    for (const char *name : {"a.tif", "a.png", "a.jpg"}) {
+        ASSERT_TRUE(image.save(path(name), quality)) << name;
+        EXPECT_FALSE(contentsOf(path(name)).contains(QFile::encodeName(directory.path()))) << name;
+    }
+}
+
+TEST_F(LumioImageSaveTest, ForgetsAProblemAtTheNextSave)
+{
+    LumioImage image = pictureOf(countedBytes(12), 2, 2);
+    ASSERT_FALSE(image.save(path("nowhere/a.png"), quality));
+    ASSERT_TRUE(image.save(path("a.png"), quality));
+    EXPECT_TRUE(image.problem().isEmpty());
+}
+
+TEST_F(LumioImageSaveTest, ReplacesAnExistingFile)
+{
+    writeFile(path("a.png"), QByteArray(100000, 'x'));
+    LumioImage image = pictureOf(countedBytes(12), 2, 2);
+    ASSERT_TRUE(image.save(path("a.png"), quality));
+    EXPECT_EQ(samplesOf(path("a.png")), spread(countedBytes(12)));
+}
+
+TEST_F(LumioImageSaveTest, SaysNothingWhenAPictureIsSavedAgain)
+{
+    LumioImage image = pictureOf(countedBytes(12), 2, 2);
+    testing::internal::CaptureStderr();
+    EXPECT_TRUE(image.save(path("a.png"), quality));
+    EXPECT_TRUE(image.save(path("a.png"), quality));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+// The library would make up a resolution for the first and remember it.
+TEST_F(LumioImageSaveTest, LeavesNothingOfAJpegInTheNextFile)
+{
+    LumioImage image = pictureOf(countedBytes(12), 2, 2);
+    ASSERT_TRUE(image.save(path("first.png"), quality));
+    ASSERT_TRUE(image.save(path("a.jpg"), quality));
+    ASSERT_TRUE(image.save(path("second.png"), quality));
+    EXPECT_EQ(contentsOf(path("second.png")).size(), contentsOf(path("first.png")).size());
+}
+
+TEST_F(LumioImageSaveTest, WritesToOddNames)
+{
+    LumioImage image = pictureOf(countedBytes(12), 2, 2);
+    for (const QString &name : {QStringLiteral("Bäume.png"), QStringLiteral("100%d.png"), QStringLiteral("a[1].png")}) {
+        EXPECT_TRUE(image.save(path(name), quality)) << name.toStdString();
+        EXPECT_TRUE(QFile::exists(path(name))) << name.toStdString();
+    }
+}
+
+TEST_F(LumioImageSaveTest, WritesSmallerFilesAtALowerQuality)
+{
+    const Bytes bytes = countedBytes(std::size_t{64} * 64 * 3);
+    LumioImage image = pictureOf(bytes, 64, 64);
+    ASSERT_TRUE(image.save(path("fine.jpg"), quality));
+    ASSERT_TRUE(image.save(path("coarse.jpg"), 20));
+    EXPECT_LT(contentsOf(path("coarse.jpg")).size(), contentsOf(path("fine.jpg")).size());
+}
+
+// Tables made for the picture would need its coefficients in memory, all at once.
+TEST_F(LumioImageSaveTest, WritesAJpegWithTheTablesThatFitAll)
+{
+    ASSERT_TRUE(pictureOf(countedBytes(std::size_t{16} * 16 * 3), 16, 16).save(path("a.jpg"), quality));
+    const QByteArray file = contentsOf(path("a.jpg"));
+    std::vector<int> lengths;
+    for (auto at = file.indexOf("\xff\xc4"); at >= 0; at = file.indexOf("\xff\xc4", at + 2)) {
+        lengths.push_back(static_cast<std::uint8_t>(file[at + 2]) * 256 + static_cast<std::uint8_t>(file[at + 3]));
+    }
+    EXPECT_EQ(lengths, (std::vector<int>{31, 181, 31, 181}));
+}
+
+TEST_F(LumioImageSaveTest, WritesAGreyJpegCloseToItsBytes)
+{
+    Bytes bytes;
+    for (int i = 0; i < 64 * 16; ++i) {
+        bytes.insert(bytes.end(), 3, static_cast<std::uint8_t>(i % 64 * 4));
+    }
+    LumioImage image = pictureOf(bytes, 64, 16);
+    ASSERT_TRUE(image.save(path("a.jpg"), quality));
+
+    ASSERT_TRUE(image.read(path("a.jpg")));
+    EXPECT_FALSE(image.is16Bit());
+    const Bytes saved = bytesOf(image);
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        ASSERT_NEAR(saved[i], bytes[i], 4) << "component " << i;
+    }
+}
+
+TEST_F(LumioImageSaveTest, KeepsThePixels)
+{
+    LumioImage byteImage = pictureOf(countedBytes(12), 2, 2);
+    ASSERT_TRUE(byteImage.save(path("a.png"), quality));
+    EXPECT_EQ(bytesOf(byteImage), countedBytes(12));
+
+    const Words words{1, 2, 3, 400, 50000, 65535};
+    LumioImage wordImage = pictureOf(words, 2, 1);
+    ASSERT_TRUE(wordImage.save(path("b.png"), quality));
+    EXPECT_EQ(wordsOf(wordImage), words);
+}
+
+TEST_F(LumioImageSaveTest, DropsTheAlphaOfItsSource)
+{
+    Magick::Image clear = painted(2, 2, 8, [](int, int) -> Samples { return {0xffff, 0x8080, 0}; });
+    clear.type(Magick::TrueColorMatteType);
+    clear.opacity(0x4040);
+    clear.write(path("clear.png").toStdString());
+
+    LumioImage image;
+    ASSERT_TRUE(image.read(path("clear.png")));
+    for (const char *name : {"a.png", "a.tif"}) {
+        ASSERT_TRUE(image.save(path(name), quality));
+        EXPECT_EQ(channelsPerPixel(path(name)), 3) << name;
+        EXPECT_EQ(samplesOf(path(name)), spread({255, 128, 0, 255, 128, 0, 255, 128, 0, 255, 128, 0})) << name;
+    }
+}
+
+// Left alone, the library hands the compression of the source on, which in this case loses detail.
+TEST_F(LumioImageSaveTest, LosesNothingFromAJpegToATiff)
+{
+    LumioImage image = pictureOf(countedBytes(48), 4, 4);
+    ASSERT_TRUE(image.save(path("a.jpg"), quality));
+    ASSERT_TRUE(image.read(path("a.jpg")));
+    const Bytes bytes = bytesOf(image);
+    ASSERT_TRUE(image.save(path("a.tif"), quality));
+    EXPECT_EQ(samplesOf(path("a.tif")), spread(bytes));
+}
+
+/// Contents that tempt the library to write fewer or more bits, or fewer channels, than it was asked for.
+struct Tempting {
+    const char *name;
+    Samples (*painter)(int x, int y);
+};
+
+Samples grey(int level)
+{
+    const auto sample = static_cast<std::uint16_t>(level * 257);
+    return {sample, sample, sample};
+}
+
+const Tempting temptingContents[] = {
+    {"black", [](int, int) { return grey(0); }},
+    {"white", [](int, int) { return grey(255); }},
+    {"lines", [](int x, int) { return grey(x % 2 * 255); }},
+    {"greys", [](int x, int y) { return grey(x * 16 + y); }},
+    {"few_colours",
+     [](int x, int) {
+         return Samples{static_cast<std::uint16_t>(x % 2 * 0xffff), 0, 0x8080};
+     }},
+    {"multiples_of_257",
+     [](int x, int y) {
+         return Samples{static_cast<std::uint16_t>(x * 257), static_cast<std::uint16_t>(y * 257), 257};
+     }},
+};
+
+class TemptingContents : public testing::TestWithParam<std::tuple<Tempting, const char *, int>>
+{
+protected:
+    static constexpr int side = 16;
+
+    Words words() const
+    {
+        Words all;
+        for (int i = 0; i < side * side; ++i) {
+            const Samples samples = std::get<0>(GetParam()).painter(i % side, i / side);
+            all.insert(all.end(), samples.begin(), samples.end());
+        }
+        return all;
+    }
+    Bytes highBytes() const
+    {
+        Bytes bytes;
+        for (const std::uint16_t word : words()) {
+            bytes.push_back(static_cast<std::uint8_t>(word >> 8));
+        }
+        return bytes;
+    }
+    QString fileName(const QString &stem) const { return directory.filePath(stem + std::get<1>(GetParam())); }
+    int depth() const { return std::get<2>(GetParam()); }
+    LumioImage picture() const
+    {
+        return depth() == 16 ? pictureOf(words(), side, side) : pictureOf(highBytes(), side, side);
+    }
+
+    QTemporaryDir directory;
+};
+
+TEST_P(TemptingContents, AreWrittenWithTheDepthOfThePicture)
+{
+    ASSERT_TRUE(picture().save(fileName("a"), quality));
+    EXPECT_EQ(bitsPerChannel(fileName("a")), depth());
+    EXPECT_EQ(channelsPerPixel(fileName("a")), 3);
+    EXPECT_EQ(samplesOf(fileName("a")), words());
+}
+
+TEST_P(TemptingContents, StayTheSameFromFileToFile)
+{
+    ASSERT_TRUE(picture().save(fileName("0"), quality));
+    for (int i = 0; i < 3; ++i) {
+        LumioImage image;
+        ASSERT_TRUE(image.read(fileName(QString::number(i))));
+        ASSERT_TRUE(image.save(fileName(QString::number(i + 1)), quality));
+    }
+    EXPECT_EQ(bitsPerChannel(fileName("3")), depth());
+    EXPECT_EQ(samplesOf(fileName("3")), words());
+}
+
+TEST_P(TemptingContents, StayTheSameThroughAnOutputPicture)
+{
+    ASSERT_TRUE(picture().save(fileName("0"), quality));
+    for (int i = 0; i < 3; ++i) {
+        LumioImage source;
+        ASSERT_TRUE(source.read(fileName(QString::number(i))));
+        ASSERT_EQ(source.is16Bit(), depth() == 16);
+        LumioImage output =
+            source.is16Bit() ? pictureOf(wordsOf(source), side, side) : pictureOf(bytesOf(source), side, side);
+        ASSERT_TRUE(output.save(fileName(QString::number(i + 1)), quality));
+    }
+    EXPECT_EQ(bitsPerChannel(fileName("3")), depth());
+    EXPECT_EQ(samplesOf(fileName("3")), words());
+}
+
+INSTANTIATE_TEST_SUITE_P(LumioImageSaveTest, TemptingContents,
+                         testing::Combine(testing::ValuesIn(temptingContents), testing::Values(".png", ".tif"),
+                                          testing::Values(8, 16)),
+                         [](const auto &test) {
+                             return std::string(std::get<0>(test.param).name) + "_" + (std::get<1>(test.param) + 1) +
+                                    "_" + std::to_string(std::get<2>(test.param));
+                         });
+
+/// Sources of other kinds, written at once: palettes, grey and line art of the library's own making.
+class OtherSources : public testing::TestWithParam<std::tuple<Magick::ImageType, const char *, const char *>>
+{
+};
+
+TEST_P(OtherSources, AreWrittenAsEightBitTrueColour)
+{
+    const auto &[type, sourceName, targetName] = GetParam();
+    const QTemporaryDir directory;
+    Magick::Image picture = painted(16, 16, 8, [](int x, int y) -> Samples {
+        return {static_cast<std::uint16_t>(x / 4 * 0x5555), static_cast<std::uint16_t>(y / 4 * 0x5555), 0};
+    });
+    picture.type(type);
+    picture.write(directory.filePath(sourceName).toStdString());
+
+    LumioImage image;
+    ASSERT_TRUE(image.read(directory.filePath(sourceName)));
+    const Bytes bytes = bytesOf(image);
+    ASSERT_TRUE(image.read(directory.filePath(sourceName)));
+    ASSERT_TRUE(image.save(directory.filePath(targetName), quality));
+    EXPECT_EQ(bitsPerChannel(directory.filePath(targetName)), 8);
+    EXPECT_EQ(channelsPerPixel(directory.filePath(targetName)), 3);
+    EXPECT_EQ(samplesOf(directory.filePath(targetName)), spread(bytes));
+}
+
+INSTANTIATE_TEST_SUITE_P(LumioImageSaveTest, OtherSources,
+                         testing::Combine(testing::Values(Magick::BilevelType, Magick::GrayscaleType,
+                                                          Magick::PaletteType),
+                                          testing::Values("a.png", "a.tif"), testing::Values("b.png", "b.tif")));
+
+class SavedWidths : public testing::TestWithParam<int>
+{
+};
+
+TEST_P(SavedWidths, ComeBackPixelForPixel)
+{
+    const int width = GetParam();
+    const QTemporaryDir directory;
+    const Bytes bytes = countedBytes(static_cast<std::size_t>(width) * 3 * 3);
+    for (const char *name : {"a.png", "a.tif"}) {
+        LumioImage image = pictureOf(bytes, width, 3);
+        ASSERT_TRUE(image.save(directory.filePath(name), quality));
+        ASSERT_TRUE(image.read(directory.filePath(name)));
+        EXPECT_EQ(image.width(), width);
+        EXPECT_EQ(bytesOf(image), bytes) << name;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(LumioImageSaveTest, SavedWidths, testing::Values(1, 3, 5, 1001));
+
+} // namespace

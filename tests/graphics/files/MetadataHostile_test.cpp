@@ -1,0 +1,276 @@
+// SPDX-License-Identifier: MIT
+// Files that say nonsense about their pictures, too much, or what others have no room for.
+#include "graphics/files/LumioImage.h"
+#include "graphics/files/MetadataBlocks.h"
+#include "tests/graphics/files/MetadataFiles.h"
+#include "tests/graphics/files/PictureFiles.h"
+
+#include <gtest/gtest.h>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtEndian>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+
+#include <cstdlib>
+#include <string>
+
+using namespace grisal::test;
+using grisal::graphics::LumioImage;
+using grisal::graphics::OpenFile;
+using grisal::graphics::PictureFormat;
+
+namespace
+{
+
+constexpr int quality = 90;
+
+Samples colours(int x, int y)
+{
+    return {static_cast<std::uint16_t>(x * 2570), static_cast<std::uint16_t>(y * 5140), 0x4040};
+}
+
+struct MetadataHostileTest : testing::Test {
+    QTemporaryDir directory;
+    LumioImage image;
+
+    QString path(const QString &name) const { return directory.filePath(name); }
+
+    QString written(const QString &name) const
+    {
+        painted(24, 16, 8, colours).write(path(name).toStdString());
+        return path(name);
+    }
+
+    /// A file with all of fullMetadata(), which is kept turned by a quarter.
+    QString full(const QString &name) const
+    {
+        QString file = written(name);
+        setMetadata(file, fullMetadata());
+        return file;
+    }
+
+    /// Reads without a word on standard error.
+    bool reads(const QString &file)
+    {
+        testing::internal::CaptureStderr();
+        const bool read = image.read(file);
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << file.toStdString();
+        return read;
+    }
+    std::string make(const QString &file) const { return metadataIn(file)["Exif.Image.Make"]; }
+};
+
+/// Puts a segment behind the first two bytes of a JPEG file.
+void addSegment(const QString &path, char marker, const QByteArray &contents)
+{
+    QByteArray segment = QByteArray("\xff") + marker + QByteArray(2, '\0') + contents;
+    qToBigEndian(static_cast<quint16>(contents.size() + 2), segment.data() + 2);
+    QByteArray file = contentsOf(path);
+    writeFile(path, file.insert(2, segment));
+}
+
+TEST_F(MetadataHostileTest, BrokenExifDoesNotKeepAPictureFromBeingRead)
+{
+    const QByteArray good = exifBlock(fullMetadata().exif);
+    QByteArray everyOther = good;
+    for (qsizetype i = 8; i < everyOther.size(); i += 2) {
+        everyOther[i] = '\xee';
+    }
+    int i = 0;
+    for (const QByteArray &exif : {QByteArray("rubbish"), QByteArray(), good.left(20), everyOther,
+                                   QByteArray("II*\0\xff\xff\xff\xff", 8), QByteArray("II*\0\x08\0\0\0\xff\xff", 10)}) {
+        const QString jpeg = written(QStringLiteral("%1.jpg").arg(++i));
+        addSegment(jpeg, '\xe1', QByteArray("Exif\0\0", 6) + exif);
+        EXPECT_TRUE(reads(jpeg)) << i << ", " << image.problem().toStdString();
+        EXPECT_EQ(image.width(), 24) << i;
+        EXPECT_TRUE(image.save(path("saved.png"), quality)) << i;
+        const QString png = written(QStringLiteral("%1.png").arg(i));
+        addChunk(png, "eXIf", exif);
+        EXPECT_TRUE(reads(png)) << i << ", " << image.problem().toStdString();
+        EXPECT_EQ(image.width(), 24) << i;
+        EXPECT_TRUE(image.save(path("saved.jpg"), quality)) << i;
+    }
+}
+
+TEST_F(MetadataHostileTest, BrokenXmpIsToldAndTheRestIsKept)
+{
+    const QString jpeg = full("a.jpg");
+    addSegment(jpeg, '\xe1', QByteArray("http://ns.adobe.com/xap/1.0/\0<x:xmpmeta xmlns:x='adobe", 54));
+    ASSERT_TRUE(reads(jpeg));
+    EXPECT_TRUE(image.warning().contains(jpeg)) << image.warning().toStdString();
+    ASSERT_TRUE(image.save(path("b.png"), quality));
+    EXPECT_EQ(make(path("b.png")), "Acme");
+}
+
+// Any byte of it may be any other one.
+TEST_F(MetadataHostileTest, FilesWithBytesChangedAtRandomAreReadOrRefused)
+{
+    std::srand(1);
+    for (const char *name : {"a.jpg", "a.png", "a.tif"}) {
+        const QByteArray good = contentsOf(full(QString::fromLatin1(name)));
+        int read = 0;
+        for (int i = 0; i < 300; ++i) {
+            QByteArray bad = good;
+            for (int j = 0; j < 1 + i % 8; ++j) {
+                bad[std::rand() % bad.size()] = static_cast<char>(std::rand());
+            }
+            writeFile(path("bad"), bad);
+            const bool isRead = image.read(path("bad"));
+            read += isRead ? 1 : 0;
+            if (isRead && i % 10 == 0) { // to the disk it takes its time
+                EXPECT_TRUE(image.save(path("saved.tif"), quality)) << name << ", " << i;
+            }
+        }
+        std::cout << name << ": " << read << " of 300 read\n";
+    }
+}
+
+// The library reads no TIFF file with such a unit: a picture that cannot be opened again would be lost.
+TEST_F(MetadataHostileTest, WhatWouldMakeATiffUnreadableIsLeftOut)
+{
+    const QString jpeg = written("a.jpg");
+    Metadata impossible = fullMetadata();
+    impossible.exif["Exif.Image.ResolutionUnit"] = std::uint16_t{84};
+    setMetadata(jpeg, impossible);
+    ASSERT_TRUE(reads(jpeg));
+    ASSERT_TRUE(image.save(path("b.tif"), quality));
+    EXPECT_FALSE(image.warning().isEmpty());
+    LumioImage again;
+    EXPECT_TRUE(again.read(path("b.tif"))) << again.problem().toStdString();
+}
+
+// Nor does this program open a PNG file with texts of that length.
+TEST_F(MetadataHostileTest, WhatWouldMakeAPngUnreadableIsLeftOut)
+{
+    const QString tiff = written("a.tif");
+    Metadata large;
+    large.xmp["Xmp.dc.source"] = std::string(1'200'000, 'x');
+    setMetadata(tiff, large);
+    ASSERT_TRUE(reads(tiff));
+    testing::internal::CaptureStderr();
+    ASSERT_TRUE(image.save(path("b.png"), quality));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_FALSE(image.warning().isEmpty());
+    LumioImage again;
+    EXPECT_TRUE(again.read(path("b.png"))) << again.problem().toStdString();
+}
+
+TEST_F(MetadataHostileTest, TooLargeValuesOfATiffAreLeftOut)
+{
+    const QString tiff = written("a.tif");
+    Metadata large = fullMetadata();
+    large.exif["Exif.Photo.UserComment"] = std::string(9 << 20, 'x');
+    setMetadata(tiff, large);
+    ASSERT_TRUE(reads(tiff));
+    EXPECT_FALSE(image.warning().isEmpty());
+    EXPECT_EQ(image.width(), 16);
+    ASSERT_TRUE(image.save(path("b.tif"), quality));
+    EXPECT_EQ(make(path("b.tif")), "Acme");
+    EXPECT_EQ(metadataIn(path("b.tif"))["Exif.Photo.UserComment"], "");
+    EXPECT_LT(contentsOf(path("b.tif")).size(), 100'000);
+}
+
+TEST_F(MetadataHostileTest, TooLargeAnExifChunkIsLeftOut)
+{
+    const QString png = written("a.png");
+    addChunk(png, "eXIf", exifBlock(fullMetadata().exif) + QByteArray(1 << 20, 'x'));
+    ASSERT_TRUE(reads(png));
+    EXPECT_FALSE(image.warning().isEmpty());
+    EXPECT_EQ(image.width(), 24);
+}
+
+// A directory that names itself as its inner one.
+TEST_F(MetadataHostileTest, DirectoriesInACircleComeToAnEnd)
+{
+    const QString tiff = full("a.tif");
+    QByteArray contents = contentsOf(tiff);
+    const auto start = qFromLittleEndian<quint32>(contents.constData() + 4);
+    const auto entries = qFromLittleEndian<quint16>(contents.constData() + start);
+    int changed = 0;
+    for (quint32 at = start + 2; at < start + 2 + entries * 12U; at += 12) {
+        const auto tag = qFromLittleEndian<quint16>(contents.constData() + at);
+        if (tag == 34665 || tag == 34853) {
+            qToLittleEndian(start, contents.data() + at + 8);
+            ++changed;
+        }
+    }
+    ASSERT_EQ(changed, 2);
+    writeFile(tiff, contents);
+    EXPECT_TRUE(reads(tiff)) << image.problem().toStdString();
+}
+
+// Each of 200 inner directories is the outer one again.
+TEST_F(MetadataHostileTest, DirectoriesThatMultiplyStaySmall)
+{
+    const auto words = [](std::initializer_list<quint16> numbers) {
+        QByteArray bytes;
+        for (const quint16 number : numbers) {
+            bytes += static_cast<char>(number % 256);
+            bytes += static_cast<char>(number / 256);
+        }
+        return bytes;
+    };
+    QByteArray contents = QByteArray("II*\0\x08\0\0\0", 8) + words({209});
+    for (const quint16 tag : {256, 257, 258, 259, 262, 273, 277, 278, 279}) {
+        contents += words({tag, 3, 1, 0, static_cast<quint16>(tag == 258 || tag == 273 ? 8 : 1), 0});
+    }
+    for (int i = 0; i < 200; ++i) {
+        contents += words({34665, 4, 1, 0, 8, 0});
+    }
+    writeFile(path("a.tif"), contents + words({0, 0}));
+    const OpenFile file(open(path("a.tif").toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC));
+    const grisal::graphics::MetadataBlocks blocks = metadataOf(file, PictureFormat::Tiff);
+    EXPECT_FALSE(blocks.complete);
+    EXPECT_LT(blocks.file.size(), 10 << 20);
+    image.read(path("a.tif"));
+}
+
+TEST_F(MetadataHostileTest, AManyTimesPaddedJpegIsRead)
+{
+    const QString jpeg = full("a.jpg");
+    QByteArray contents = contentsOf(jpeg);
+    writeFile(jpeg, contents.insert(2, QByteArray(100'000, '\xff')));
+    EXPECT_TRUE(reads(jpeg));
+}
+
+// Where there is room for the picture only.
+TEST_F(MetadataHostileTest, AFullDiskCostsTheMetadataAndNotThePicture)
+{
+    ASSERT_TRUE(image.read(full("a.jpg")));
+    LumioImage plain = pictureOf(bytesOf(image), image.width(), image.height());
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    for (const char *name : {"b.jpg", "b.png", "b.tif"}) {
+        const QString target = path(QString::fromLatin1(name));
+        ASSERT_TRUE(plain.save(target, quality));
+        const QByteArray without = contentsOf(target);
+        const rlimit limit{static_cast<rlim_t>(without.size()) + 100, before.rlim_max};
+        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+        const bool saved = image.save(target, quality);
+        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+        EXPECT_TRUE(saved) << name << ": " << image.problem().toStdString();
+        EXPECT_FALSE(image.warning().isEmpty()) << name;
+        EXPECT_EQ(contentsOf(target), without) << name;
+        ASSERT_TRUE(image.save(target, quality));
+        EXPECT_TRUE(image.warning().isEmpty()) << name;
+        EXPECT_EQ(make(target), "Acme") << name;
+    }
+    EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files | QDir::Hidden).size(), 4);
+}
+
+TEST_F(MetadataHostileTest, NothingIsInsertedIntoAFileThatHasNoRoomForIt)
+{
+    for (const PictureFormat format : {PictureFormat::Jpeg, PictureFormat::Png, PictureFormat::Tiff}) {
+        for (const QByteArray &contents :
+             {QByteArray(), QByteArray("II*\0\x08", 5), QByteArray("II*\0\x08\0\0\0", 8)}) {
+            writeFile(path("short"), contents);
+            const OpenFile file(open(path("short").toLocal8Bit().constData(), O_RDWR | O_CLOEXEC));
+            EXPECT_FALSE(insertMetadata(file, format, {}));
+            EXPECT_EQ(contentsOf(path("short")), contents);
+        }
+    }
+}
+
+} // namespace

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/files/PictureFile.h"
+#include "tests/graphics/files/PictureFiles.h"
+
+#include <gtest/gtest.h>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace grisal::test;
+using namespace grisal::graphics;
+
+class PictureFileTest : public testing::Test
+{
+protected:
+    QString path(const QString &name) const { return directory.filePath(name); }
+
+    QString fileOf(const QString &name, const QByteArray &contents) const
+    {
+        writeFile(path(name), contents);
+        return path(name);
+    }
+
+    static bool passes(const QString &file) { return PictureFile(file).problem().isEmpty(); }
+
+    static QByteArray pngChunk(const char *kind, quint32 length, const QByteArray &contents)
+    {
+        QByteArray chunk(4, '\0');
+        for (int i = 0; i < 4; ++i) {
+            chunk[i] = static_cast<char>(length >> (24 - 8 * i));
+        }
+        return chunk + kind + contents + QByteArray(4, '\0');
+    }
+
+    QTemporaryDir directory;
+    const QByteArray png = "\x89PNG\r\n\x1a\n";
+    const QByteArray jpeg = "\xff\xd8\xff\xe0 and so on";
+};
+
+TEST_F(PictureFileTest, PassesByItsContentsWhateverItsName)
+{
+    EXPECT_TRUE(passes(fileOf("a.txt", jpeg)));
+    EXPECT_TRUE(passes(fileOf("png:a", png)));
+    EXPECT_TRUE(passes(fileOf(QString(251, QLatin1Char('x')) + ".jpg", jpeg)));
+}
+
+TEST_F(PictureFileTest, TurnsOtherContentsAway)
+{
+    for (const char *contents : {"", "\xff", "%!PS-Adobe-3.0\n", "<svg xmlns=\"http://www.w3.org/2000/svg\"/>",
+                                 "push graphic-context", "GIF89a", "#!/bin/sh\n"}) {
+        EXPECT_FALSE(passes(fileOf("a.jpg", contents))) << contents;
+    }
+}
+
+TEST_F(PictureFileTest, TurnsWhatIsNoFileAwayAtOnce)
+{
+    ASSERT_EQ(mkfifo(path("pipe.jpg").toLocal8Bit().constData(), 0600), 0);
+    ASSERT_TRUE(QFile::link("/dev/zero", path("endless.png")));
+    ASSERT_TRUE(QFile::link("loop-a.jpg", path("loop-b.jpg")));
+    ASSERT_TRUE(QFile::link("loop-b.jpg", path("loop-a.jpg")));
+    ASSERT_TRUE(QFile::link("nowhere.jpg", path("dangling.jpg")));
+    for (const char *name : {"pipe.jpg", "endless.png", "loop-a.jpg", "dangling.jpg", "missing.jpg", "."}) {
+        const PictureFile file(path(name));
+        EXPECT_EQ(file.problem(), QStringLiteral("Cannot open %1").arg(path(name)));
+    }
+}
+
+TEST_F(PictureFileTest, TurnsASocketAway)
+{
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    const QByteArray name = path("socket.jpg").toLocal8Bit();
+    ASSERT_LT(name.size(), qsizetype{sizeof address.sun_path});
+    std::copy(name.begin(), name.end(), address.sun_path);
+    const int descriptor = socket(AF_UNIX, SOCK_STREAM, 0);
+    ASSERT_EQ(bind(descriptor, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
+    EXPECT_FALSE(passes(path("socket.jpg")));
+    close(descriptor);
+}
+
+TEST_F(PictureFileTest, FollowsLinksToFiles)
+{
+    fileOf("a.jpg", jpeg);
+    ASSERT_TRUE(QFile::link("a.jpg", path("b.jpg")));
+    ASSERT_TRUE(QFile::link("b.jpg", path("c d.jpg")));
+    EXPECT_TRUE(passes(path("c d.jpg")));
+}
+
+TEST_F(PictureFileTest, IsTheOneThatWasLookedAtWhateverHappensToItsName)
+{
+    const PictureFile file(fileOf("a.jpg", jpeg));
+    fileOf("b.jpg", "%!PS-Adobe-3.0\n");
+    ASSERT_EQ(rename(path("b.jpg").toLocal8Bit().constData(), path("a.jpg").toLocal8Bit().constData()), 0);
+    EXPECT_EQ(contentsOf(QString::fromStdString(file.name().substr(5))), jpeg);
+    EXPECT_EQ(file.name().substr(0, 5), "JPEG:");
+}
+
+TEST_F(PictureFileTest, TurnsAPngWithAbsurdTextsAway)
+{
+    for (const char *kind : {"tEXt", "zTXt", "iTXt"}) {
+        EXPECT_FALSE(passes(
+            fileOf("a.png", png + pngChunk("IHDR", 13, QByteArray(13, '\0')) + pngChunk(kind, 0x40000000, "text"))))
+            << kind;
+        EXPECT_TRUE(passes(fileOf("b.png", png + pngChunk(kind, 4, "text")))) << kind;
+    }
+    EXPECT_TRUE(passes(fileOf("c.png", png + pngChunk("IDAT", 0x40000000, "pixels"))));
+}
+
+TEST_F(PictureFileTest, TurnsAPngWithManyCompressedTextsAway)
+{
+    EXPECT_TRUE(passes(fileOf("a.png", png + pngChunk("zTXt", 4, "text").repeated(16))));
+    EXPECT_FALSE(passes(fileOf("b.png", png + pngChunk("zTXt", 4, "text").repeated(17))));
+    EXPECT_TRUE(passes(fileOf("c.png", png + pngChunk("tEXt", 4, "text").repeated(1000))));
+    EXPECT_TRUE(passes(fileOf("d.png", png + pngChunk("IEND", 0, {}) + pngChunk("zTXt", 4, "text").repeated(17))));
+}
+
+// A download that was cut short may be nothing but zeros behind its start, and gigabytes long.
+TEST_F(PictureFileTest, IsNotHeldUpByZeros)
+{
+    QFile file(fileOf("a.png", png));
+    ASSERT_TRUE(file.resize(qint64{1} << 40));
+    EXPECT_TRUE(passes(path("a.png")));
+}
+
+TEST_F(PictureFileTest, TurnsAPngOfTooManyPiecesAway)
+{
+    EXPECT_TRUE(passes(fileOf("a.png", png + pngChunk("IDAT", 0, {}).repeated(10'000))));
+    EXPECT_FALSE(passes(fileOf("b.png", png + pngChunk("IDAT", 0, {}).repeated(500'001))));
+}
+
+TEST_F(PictureFileTest, MayHoldAsManyPixelsAsAPhotographOfItsSize)
+{
+    const PictureFile small(fileOf("a.jpg", jpeg));
+    EXPECT_TRUE(small.canHold(90'000'000));
+    EXPECT_FALSE(small.canHold(90'000'001));
+    const PictureFile large(fileOf("b.jpg", jpeg + QByteArray(1'000'000, '\0')));
+    EXPECT_TRUE(large.canHold(200'000'000));
+    EXPECT_FALSE(large.canHold(300'000'000));
+}
+
+TEST_F(PictureFileTest, EndsAsItsFormatDoesWhenItIsWhole)
+{
+    const auto ends = [this](PictureFormat format, const QByteArray &contents) {
+        const PictureFile file(fileOf("a", contents));
+        const QByteArray name = QFile::encodeName(path("a"));
+        return endsAsItShould(OpenFile(open(name.constData(), O_RDONLY)), format);
+    };
+    EXPECT_TRUE(ends(PictureFormat::Jpeg, jpeg + "\xff\xd9"));
+    EXPECT_FALSE(ends(PictureFormat::Jpeg, jpeg));
+    EXPECT_TRUE(ends(PictureFormat::Png, png + pngChunk("IEND", 0, {})));
+    EXPECT_FALSE(ends(PictureFormat::Png, png + pngChunk("IDAT", 0, {})));
+    EXPECT_TRUE(ends(PictureFormat::Tiff, QByteArray("II*\0\x09\0\0\0 directory", 18)));
+    EXPECT_FALSE(ends(PictureFormat::Tiff, QByteArray("II*\0\x20\0\0\0 pixels", 15)));
+    EXPECT_FALSE(ends(PictureFormat::Tiff, QByteArray("II*\0\0\0\0\0 pixels", 15)));
+    EXPECT_FALSE(ends(PictureFormat::Tiff, {}));
+}
+
+} // namespace

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/files/LumioImage.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace grisal::test
+{
+
+using Words = std::vector<std::uint16_t>;
+using Bytes = std::vector<std::uint8_t>;
+
+/// The red, green and blue sample of a pixel, 16 bits each.
+using Samples = std::array<std::uint16_t, 3>;
+using Painter = std::function<Samples(int x, int y)>;
+
+/// A picture of the image library itself, made without LumioImage, for files that tests open.
+Magick::Image painted(int width, int height, int depth, const Painter &painter);
+
+/// The samples of a file as the image library reads them, R, G, B per pixel, without LumioImage.
+Words samplesOf(const QString &path);
+
+/// The depth of a PNG or TIFF file, from its own header: bits per channel. 0 if it is neither, or cut short.
+int bitsPerChannel(const QString &path);
+
+/// The channels per pixel of a PNG or TIFF file, from its own header; palettes count as one.
+int channelsPerPixel(const QString &path);
+
+QByteArray contentsOf(const QString &path);
+void writeFile(const QString &path, const QByteArray &contents);
+
+/// A blank picture filled from `bytes` or `words`, R, G, B per pixel.
+graphics::LumioImage pictureOf(const Bytes &bytes, int width, int height);
+graphics::LumioImage pictureOf(const Words &words, int width, int height);
+
+/// All pixels of a picture, R, G, B.
+Bytes bytesOf(graphics::LumioImage &image);
+Words wordsOf(graphics::LumioImage &image);
+
+} // namespace grisal::test

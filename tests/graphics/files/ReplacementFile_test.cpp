@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/files/ReplacementFile.h"
+#include "tests/graphics/files/PictureFiles.h"
+
+#include <gtest/gtest.h>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+
+namespace
+{
+
+using namespace grisal::test;
+using grisal::graphics::ReplacementFile;
+
+class ReplacementFileTest : public testing::Test
+{
+protected:
+    QString path(const QString &name) const { return directory.filePath(name); }
+
+    QStringList names() const
+    {
+        return QDir(directory.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+    static void put(const ReplacementFile &file, const QByteArray &contents)
+    {
+        ASSERT_EQ(write(file.file().descriptor(), contents.constData(), static_cast<std::size_t>(contents.size())),
+                  contents.size());
+    }
+
+    static bool replace(const QString &path, const QByteArray &contents)
+    {
+        ReplacementFile file(path);
+        if (!file.problem().isEmpty()) {
+            return false;
+        }
+        put(file, contents);
+        return file.commit();
+    }
+
+    static mode_t modeOf(const QString &path)
+    {
+        struct stat status {
+        };
+        return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+    }
+
+    QTemporaryDir directory;
+};
+
+TEST_F(ReplacementFileTest, MakesAFile)
+{
+    const mode_t before = umask(022);
+    EXPECT_TRUE(replace(path("a.png"), "new"));
+    umask(before);
+    EXPECT_EQ(contentsOf(path("a.png")), "new");
+    EXPECT_EQ(modeOf(path("a.png")), 0644U);
+    EXPECT_EQ(names(), QStringList("a.png"));
+}
+
+TEST_F(ReplacementFileTest, TakesThePlaceAndThePermissionsOfAnother)
+{
+    writeFile(path("a.png"), "old");
+    ASSERT_EQ(chmod(QFile::encodeName(path("a.png")).constData(), 0640), 0);
+    EXPECT_TRUE(replace(path("a.png"), "new"));
+    EXPECT_EQ(contentsOf(path("a.png")), "new");
+    EXPECT_EQ(modeOf(path("a.png")), 0640U);
+    EXPECT_EQ(names(), QStringList("a.png"));
+}
+
+TEST_F(ReplacementFileTest, LeavesTheOldFileUntilItIsCommitted)
+{
+    writeFile(path("a.png"), "old");
+    {
+        const ReplacementFile file(path("a.png"));
+        put(file, "new");
+        EXPECT_EQ(contentsOf(path("a.png")), "old");
+    }
+    EXPECT_EQ(contentsOf(path("a.png")), "old");
+    EXPECT_EQ(names(), QStringList("a.png"));
+}
+
+TEST_F(ReplacementFileTest, FollowsALinkAndLeavesItALink)
+{
+    ASSERT_TRUE(QDir(directory.path()).mkdir("folder"));
+    writeFile(path("folder/a.png"), "old");
+    ASSERT_TRUE(QFile::link("folder/a.png", path("b.png")));
+    ASSERT_TRUE(QFile::link("b.png", path("c.png")));
+    EXPECT_TRUE(replace(path("c.png"), "new"));
+    EXPECT_EQ(contentsOf(path("folder/a.png")), "new");
+    EXPECT_TRUE(QFileInfo(path("c.png")).isSymLink());
+    EXPECT_TRUE(QFileInfo(path("b.png")).isSymLink());
+}
+
+TEST_F(ReplacementFileTest, MakesTheFileThatALinkWaitsFor)
+{
+    ASSERT_TRUE(QFile::link("a.png", path("b.png")));
+    EXPECT_TRUE(replace(path("b.png"), "new"));
+    EXPECT_EQ(contentsOf(path("a.png")), "new");
+    EXPECT_TRUE(QFileInfo(path("b.png")).isSymLink());
+}
+
+// A link's way upwards starts where the link lies, not where the path that leads there says.
+TEST_F(ReplacementFileTest, FollowsLinksThroughLinkedFolders)
+{
+    QDir root(directory.path());
+    for (const char *folder : {"home", "home/2019", "data", "data/2019", "data/best"}) {
+        ASSERT_TRUE(root.mkdir(folder));
+    }
+    writeFile(path("home/2019/a.png"), "another");
+    writeFile(path("data/2019/a.png"), "old");
+    ASSERT_EQ(symlink("../data/best", QFile::encodeName(path("home/Best")).constData()), 0);
+    ASSERT_EQ(symlink("../2019/a.png", QFile::encodeName(path("data/best/a.png")).constData()), 0);
+    EXPECT_TRUE(replace(path("home/Best/a.png"), "new"));
+    EXPECT_EQ(contentsOf(path("data/2019/a.png")), "new");
+    EXPECT_EQ(contentsOf(path("home/2019/a.png")), "another");
+    EXPECT_TRUE(replace(path("home/Best/../x.png"), "new"));
+    EXPECT_EQ(contentsOf(path("data/x.png")), "new");
+    EXPECT_FALSE(QFile::exists(path("home/x.png")));
+}
+
+TEST_F(ReplacementFileTest, NeverGivesMoreAccessThanTheOldFile)
+{
+    writeFile(path("a.png"), "old");
+    ASSERT_EQ(chmod(QFile::encodeName(path("a.png")).constData(), 0600), 0);
+    const ReplacementFile file(path("a.png"));
+    struct stat status {
+    };
+    ASSERT_EQ(fstat(file.file().descriptor(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0600U);
+    ASSERT_EQ(chmod(QFile::encodeName(path("a.png")).constData(), 06755), 0);
+    EXPECT_TRUE(replace(path("a.png"), "new"));
+    EXPECT_EQ(modeOf(path("a.png")), 0755U);
+}
+
+TEST_F(ReplacementFileTest, KeepsWhatIsNotedAboutTheOldFile)
+{
+    writeFile(path("a.png"), "old");
+    const QByteArray name = QFile::encodeName(path("a.png"));
+    if (setxattr(name.constData(), "user.comment", "best", 4, 0) != 0) {
+        GTEST_SKIP() << "this file system keeps no notes";
+    }
+    EXPECT_TRUE(replace(path("a.png"), "new"));
+    char note[4] = {};
+    EXPECT_EQ(getxattr(name.constData(), "user.comment", note, sizeof note), 4);
+    EXPECT_EQ(QByteArray(note, 4), "best");
+}
+
+TEST_F(ReplacementFileTest, WorksWithTheLongestOfNames)
+{
+    const QString name = QString(251, QLatin1Char('x')) + ".png";
+    EXPECT_TRUE(replace(path(name), "old"));
+    EXPECT_TRUE(replace(path(name), "new"));
+    EXPECT_EQ(contentsOf(path(name)), "new");
+    EXPECT_EQ(names(), QStringList(name));
+}
+
+TEST_F(ReplacementFileTest, RefusesWhatIsNoFile)
+{
+    ASSERT_TRUE(QFile::link("/dev/full", path("full.png")));
+    ASSERT_TRUE(QFile::link("loop-a.png", path("loop-b.png")));
+    ASSERT_TRUE(QFile::link("loop-b.png", path("loop-a.png")));
+    ASSERT_TRUE(QDir(directory.path()).mkdir("folder.png"));
+    const QStringList before = names();
+    for (const char *name : {"full.png", "loop-a.png", "folder.png", "nowhere/a.png"}) {
+        EXPECT_FALSE(ReplacementFile(path(name)).problem().isEmpty()) << name;
+        EXPECT_FALSE(replace(path(name), "new")) << name;
+    }
+    EXPECT_EQ(names(), before);
+}
+
+TEST_F(ReplacementFileTest, TellsThatItsFolderIsGone)
+{
+    ASSERT_TRUE(QDir(directory.path()).mkdir("folder"));
+    ReplacementFile file(path("folder/a.png"));
+    ASSERT_TRUE(file.problem().isEmpty());
+    put(file, "new");
+    ASSERT_TRUE(QDir(path("folder")).removeRecursively());
+    EXPECT_FALSE(file.commit());
+    EXPECT_FALSE(file.problem().isEmpty());
+}
+
+/// Runs something in a process of its own that is no administrator's; returns what it returned.
+template <typename Step>
+bool asAnybody(Step step)
+{
+    constexpr uid_t nobody = 65534;
+    const pid_t process = fork();
+    if (process == 0) {
+        const bool changed = geteuid() != 0 || setresuid(nobody, nobody, nobody) == 0;
+        _exit(changed && step() ? EXIT_SUCCESS : EXIT_FAILURE);
+    }
+    int status = 0;
+    waitpid(process, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS;
+}
+
+TEST_F(ReplacementFileTest, LeavesFilesThatAreNotToBeWritten)
+{
+    writeFile(path("a.png"), "old");
+    ASSERT_EQ(chmod(QFile::encodeName(path("a.png")).constData(), 0444), 0);
+    ASSERT_EQ(chmod(QFile::encodeName(directory.path()).constData(), 0777), 0);
+    EXPECT_TRUE(asAnybody([&] { return !replace(path("a.png"), "new") && replace(path("b.png"), "new"); }));
+    EXPECT_EQ(contentsOf(path("a.png")), "old");
+    EXPECT_EQ(contentsOf(path("b.png")), "new");
+}
+
+TEST_F(ReplacementFileTest, LeavesFilesInFoldersThatAreNotToBeWritten)
+{
+    writeFile(path("a.png"), "old");
+    ASSERT_EQ(chmod(QFile::encodeName(path("a.png")).constData(), 0666), 0);
+    ASSERT_EQ(chmod(QFile::encodeName(directory.path()).constData(), 0555), 0);
+    EXPECT_TRUE(asAnybody([&] { return !replace(path("a.png"), "new") && !replace(path("b.png"), "new"); }));
+    ASSERT_EQ(chmod(QFile::encodeName(directory.path()).constData(), 0755), 0);
+    EXPECT_EQ(contentsOf(path("a.png")), "old");
+    EXPECT_EQ(names(), QStringList("a.png"));
+}
+
+// Whenever it is killed, the file is the old one or the new one, and whole.
+TEST_F(ReplacementFileTest, IsWholeWheneverTheProcessIsKilled)
+{
+    constexpr int rounds = 60;
+    constexpr int size = 1 << 20;
+    writeFile(path("a.png"), QByteArray(size, 'o'));
+    int replaced = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const pid_t process = fork();
+        if (process == 0) {
+            for (;;) {
+                replace(path("a.png"), QByteArray(size, static_cast<char>('a' + round % 26)));
+            }
+        }
+        usleep(static_cast<useconds_t>(100 + round * 137));
+        kill(process, SIGKILL);
+        waitpid(process, nullptr, 0);
+        const QByteArray now = contentsOf(path("a.png"));
+        ASSERT_EQ(now, QByteArray(size, now.isEmpty() ? '\0' : now[0]));
+        replaced += now[0] == 'a' + round % 26 ? 1 : 0;
+    }
+    EXPECT_GT(replaced, 0);
+}
+
+} // namespace
