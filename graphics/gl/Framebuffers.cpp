@@ -6,11 +6,20 @@
 
 #include <QtGlobal>
 
+#include <optional>
+
 namespace grisal::graphics
 {
 
 namespace
 {
+
+struct Rows {
+    std::int32_t first;
+    std::int32_t end;
+};
+
+std::optional<Rows> rowsOfPasses;
 
 void switchOffPerFragmentTests()
 {
@@ -115,8 +124,9 @@ void renderToFramebuffer(std::int32_t width, std::int32_t height, GLuint program
     switchOffPerFragmentTests();
     glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
     glViewport(0, 0, width, height);
+    const Rows rows = rowsOfPasses.value_or(Rows{0, height});
     // To clear what the quad covers anyway costs a software driver as much as half a pass.
-    if (!isOfSize(target.texture, width, height)) {
+    if (!rowsOfPasses && !isOfSize(target.texture, width, height)) {
         glClear(GL_COLOR_BUFFER_BIT);
     }
     setPassMatrices(width, height);
@@ -124,17 +134,27 @@ void renderToFramebuffer(std::int32_t width, std::int32_t height, GLuint program
     glUseProgram(program);
     glBegin(GL_QUADS);
     glTexCoord2i(0, 1);
-    glVertex2i(0, 0);
+    glVertex2i(0, rows.first);
     glTexCoord2i(0, 0);
-    glVertex2i(0, height);
+    glVertex2i(0, rows.end);
     glTexCoord2i(1, 0);
-    glVertex2i(width, height);
+    glVertex2i(width, rows.end);
     glTexCoord2i(1, 1);
-    glVertex2i(width, 0);
+    glVertex2i(width, rows.first);
     glEnd();
     glUseProgram(0);
 
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
+}
+
+PassRows::PassRows(std::int32_t first, std::int32_t count)
+{
+    rowsOfPasses = Rows{first, first + count};
+}
+
+PassRows::~PassRows()
+{
+    rowsOfPasses.reset();
 }
 
 void readPixels(const FramebufferObject &target, std::int32_t width, std::int32_t height, GLenum format, GLenum type,

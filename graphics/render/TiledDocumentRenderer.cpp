@@ -31,6 +31,31 @@ std::uint32_t largestTextureSide()
     return static_cast<std::uint32_t>(side);
 }
 
+/// The rows that the filters run over at a time. The targets of a large tile are out of the caches by the time that the
+/// next filter wants them; with a small one it is the passes that count, each of which waits for the one before.
+std::size_t bandOf(const TileArea &area)
+{
+    constexpr std::size_t smallPixels = 2'000'000;
+    constexpr std::size_t bandPixels = 768 * 1024;
+    return area.width * area.height <= smallPixels ? area.height : std::max<std::size_t>(bandPixels / area.width, 1);
+}
+
+const FramebufferObject &runFilters(const std::vector<IFilter *> &filters, GLuint texture,
+                                    const FramebufferObject &first, const FramebufferObject &second)
+{
+    const FramebufferObject *filled = &first;
+    const FramebufferObject *next = &second;
+    filters.front()->apply(texture, *filled);
+    for (std::size_t i = 1; i < filters.size(); ++i) {
+        if (!filters[i]->enabled) {
+            continue;
+        }
+        filters[i]->apply(filled->texture, *next);
+        std::swap(filled, next);
+    }
+    return *filled;
+}
+
 } // namespace
 
 /// The filters of one render, in order, and what the overlay among them needs.
@@ -199,38 +224,33 @@ const FramebufferObject &TiledDocumentRenderer::runChain(const Chain &chain, con
                                                          const FramebufferObject &first,
                                                          const FramebufferObject &second) const
 {
-    const std::vector<IFilter *> &filters = chain.filters;
-    if (countEnabled(filters) == 1) {
+    const Texture mask = prepareOverlay(chain, area);
+    if (countEnabled(chain.filters) == 1) {
         // The first filter stands for the one that is enabled: the mixer always is, in this program.
-        applyFilter(chain, filters.front(), area, texture, second);
+        chain.filters.front()->apply(texture, second);
         return second;
     }
-
-    const FramebufferObject *filled = &first;
-    const FramebufferObject *next = &second;
-    applyFilter(chain, filters.front(), area, texture, *filled);
-    for (std::size_t i = 1; i < filters.size(); ++i) {
-        if (!filters[i]->enabled) {
-            continue;
-        }
-        applyFilter(chain, filters[i], area, filled->texture, *next);
-        std::swap(filled, next);
+    const FramebufferObject *result = &first;
+    const std::size_t band = bandOf(area);
+    for (std::size_t row = 0; row < area.height; row += band) {
+        const PassRows rows(static_cast<std::int32_t>(row),
+                            static_cast<std::int32_t>(std::min(band, area.height - row)));
+        result = &runFilters(chain.filters, texture, first, second);
     }
-    return *filled;
+    return *result;
 }
 
-void TiledDocumentRenderer::applyFilter(const Chain &chain, IFilter *filter, const TileArea &area, GLuint texture,
-                                        const FramebufferObject &target) const
+/// The mask is the caller's until the overlay has run.
+Texture TiledDocumentRenderer::prepareOverlay(const Chain &chain, const TileArea &area) const
 {
-    if (filter != chain.overlay.get()) {
-        filter->apply(texture, target);
-        return;
+    if (!chain.overlay) {
+        return {};
     }
-    const Texture mask = chain.mask->piece(area);
+    Texture mask = chain.mask->piece(area);
     chain.overlay->width = static_cast<int>(area.width);
     chain.overlay->height = static_cast<int>(area.height);
     chain.overlay->overlayTexture = mask.name();
-    chain.overlay->apply(texture, target);
+    return mask;
 }
 
 } // namespace grisal::graphics

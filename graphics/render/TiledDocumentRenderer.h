@@ -63,8 +63,7 @@ private:
                     const RenderTarget &first, const RenderTarget &second) const;
     const FramebufferObject &runChain(const Chain &chain, const TileArea &area, GLuint texture,
                                       const FramebufferObject &first, const FramebufferObject &second) const;
-    void applyFilter(const Chain &chain, IFilter *filter, const TileArea &area, GLuint texture,
-                     const FramebufferObject &target) const;
+    Texture prepareOverlay(const Chain &chain, const TileArea &area) const;
 
     bool m_hasAlpha;
     TileSide m_horizontal;
