@@ -95,7 +95,7 @@ private:
     void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem);
     bool showPreviewOf(graphics::IPicture &image, void *room);
     void tellProblems(const graphics::IPicture &image);
-    void tellCannotLoad(const QString &filename);
+    void tellCannotLoad(const QString &filename, const QString &advice = {});
     void tell(const QString &message);
     void openFile(const QString &filename);
     bool readFile(graphics::IPicture &image, const QString &filename);

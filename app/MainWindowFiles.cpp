@@ -11,7 +11,6 @@
 #include <QMessageBox>
 #include <QTimer>
 
-#include <cstddef>
 #include <exception>
 #include <memory>
 #include <utility>
@@ -64,8 +63,9 @@ void MainWindow::openImage(QString filename)
     memory::returnFreedBlocks();
 }
 
-// A file that is there and cannot be read leaves everything as it is. A file that is not there any more leaves the
-// picture that is open, which is then opened again: its panels start afresh under the name that was asked for.
+// Whether there is a picture to show then. A file that is there and cannot be read leaves everything as it is. A file
+// that is not there any more leaves the picture that is open, which is then opened again: its panels start afresh under
+// the name that was asked for.
 bool MainWindow::readFile(graphics::IPicture &image, const QString &filename)
 {
     const bool read = image.read(filename);
@@ -82,12 +82,15 @@ void MainWindow::openFile(const QString &filename)
     BusyNotice notice(*m_form->statusbar, *m_progressBar);
     notice.show(tr("Reading %1").arg(QFileInfo(filename).fileName()));
     std::unique_ptr<graphics::IPicture> image = m_source ? m_source->copy() : m_newPicture();
-    if (!image || !readFile(*image, filename)) {
+    if (!image) {
+        notice.end();
+        tellCannotLoad(filename, tr("The part of Grisal that opens pictures cannot be loaded. If starting Grisal again "
+                                    "does not help, please install it again."));
+        return;
+    }
+    if (!readFile(*image, filename)) {
         notice.end();
         tellCannotLoad(filename);
-        if (!image) {
-            tell(tr("A part of Grisal is missing, without which pictures cannot be opened. Please install it again."));
-        }
         return;
     }
     std::unique_ptr<graphics::IPicture> output = image->blank();
@@ -129,12 +132,13 @@ void MainWindow::tellProblems(const graphics::IPicture &image)
     }
 }
 
-void MainWindow::tellCannotLoad(const QString &filename)
+void MainWindow::tellCannotLoad(const QString &filename, const QString &advice)
 {
     QMessageBox box(QMessageBox::Information, tr("Open Image"), tr("Cannot load %1.").arg(filename), QMessageBox::Ok,
                     this);
     // A file name is no HTML, whatever its characters.
     box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(advice);
     box.exec();
 }
 

@@ -22,7 +22,7 @@ QString line(QtMsgType type, const QTime &time, const QString &text);
 /// To be called from one thread only.
 void write(QtMsgType type, const QMessageLogContext &context, const QString &text);
 
-/// From now on all messages go into the log.
+/// From now on all messages go into the log, and a file that must not grow any more does not end the process.
 void install();
 
 } // namespace message_log

@@ -17,7 +17,7 @@ using Door = grisal::graphics::IPicture *(*)();
 // its own does.
 Door openModule()
 {
-    void *module = dlopen("libgrisal_pictures.so", RTLD_LAZY | RTLD_LOCAL);
+    void *module = dlopen("libgrisal_pictures.so", RTLD_NOW | RTLD_LOCAL);
     void *door = module != nullptr ? dlsym(module, "newPicture") : nullptr;
     if (door == nullptr) {
         qWarning("The part for image files cannot be loaded: %s", dlerror());

@@ -6,8 +6,7 @@
 #include <memory>
 
 /// The part of the program that reads and writes image files. It stands in a module of its own, which brings some
-/// thirty shared libraries along: to load and start them would hold up the window by an eighth of the time it takes to
-/// show.
+/// thirty shared libraries along: to load and start them would hold up the window.
 namespace picture_module
 {
 

@@ -28,4 +28,6 @@ function(grisal_loads_pictures name)
   set_target_properties(${name} PROPERTIES
     BUILD_RPATH "$<TARGET_FILE_DIR:grisal_pictures>"
     INSTALL_RPATH "$ORIGIN/${libraries}/grisal")
+  # The kind of run path that counts whoever calls dlopen(): a sanitizer puts a function of its own before it.
+  target_link_options(${name} PRIVATE LINKER:--disable-new-dtags)
 endfunction()

@@ -3,13 +3,17 @@
 // The door of the module that is loaded for image files; app/PictureModule opens it.
 #include "graphics/files/LumioImage.h"
 
-#include <new>
+#include <exception>
 
 extern "C" {
 
-/// A new empty picture, the caller's; null where there is no memory for it.
+/// A new empty picture, the caller's; null where the library does not give one.
 __attribute__((visibility("default"))) grisal::graphics::IPicture *newPicture()
 {
-    return new (std::nothrow) grisal::graphics::LumioImage;
+    try {
+        return new grisal::graphics::LumioImage;
+    } catch (const std::exception &) {
+        return nullptr;
+    }
 }
 }

@@ -6,6 +6,7 @@
 
 #include <QtGlobal>
 
+#include <array>
 #include <optional>
 
 namespace grisal::graphics
@@ -19,7 +20,19 @@ struct Rows {
     std::int32_t end;
 };
 
-std::optional<Rows> rowsOfPasses;
+struct RowsOfTargets {
+    Rows rows;
+    std::array<GLuint, 2> framebuffers;
+};
+
+std::optional<RowsOfTargets> someRows;
+
+std::optional<Rows> rowsOf(const FramebufferObject &target)
+{
+    const bool some = someRows && (someRows->framebuffers[0] == target.framebuffer ||
+                                   someRows->framebuffers[1] == target.framebuffer);
+    return some ? std::optional(someRows->rows) : std::nullopt;
+}
 
 void switchOffPerFragmentTests()
 {
@@ -124,9 +137,10 @@ void renderToFramebuffer(std::int32_t width, std::int32_t height, GLuint program
     switchOffPerFragmentTests();
     glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
     glViewport(0, 0, width, height);
-    const Rows rows = rowsOfPasses.value_or(Rows{0, height});
+    const std::optional<Rows> some = rowsOf(target);
+    const Rows rows = some.value_or(Rows{0, height});
     // To clear what the quad covers anyway costs a software driver as much as half a pass.
-    if (!rowsOfPasses && !isOfSize(target.texture, width, height)) {
+    if (!some && !isOfSize(target.texture, width, height)) {
         glClear(GL_COLOR_BUFFER_BIT);
     }
     setPassMatrices(width, height);
@@ -147,14 +161,14 @@ void renderToFramebuffer(std::int32_t width, std::int32_t height, GLuint program
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
 }
 
-PassRows::PassRows(std::int32_t first, std::int32_t count)
+PassRows::PassRows(std::int32_t first, std::int32_t count, const FramebufferObject &one, const FramebufferObject &other)
 {
-    rowsOfPasses = Rows{first, first + count};
+    someRows = {{first, first + count}, {one.framebuffer, other.framebuffer}};
 }
 
 PassRows::~PassRows()
 {
-    rowsOfPasses.reset();
+    someRows.reset();
 }
 
 void readPixels(const FramebufferObject &target, std::int32_t width, std::int32_t height, GLenum format, GLenum type,

@@ -41,12 +41,13 @@ GLenum depthFormatFor(GLenum internalFormat);
 /// in use and framebuffer 0 is bound.
 void renderToFramebuffer(std::int32_t width, std::int32_t height, GLuint program, const FramebufferObject &target);
 
-/// While it lives, passes draw only these rows of what they cover, and leave all others of the target as they are. One
-/// at a time.
+/// While it lives, passes into either of two targets draw only these rows of what they cover; nothing is cleared, and
+/// all other rows stay as they are. Passes into other targets are not touched: a filter may have something of its own
+/// to draw first. One at a time.
 class PassRows
 {
 public:
-    PassRows(std::int32_t first, std::int32_t count);
+    PassRows(std::int32_t first, std::int32_t count, const FramebufferObject &one, const FramebufferObject &other);
     PassRows(const PassRows &) = delete;
     PassRows &operator=(const PassRows &) = delete;
     ~PassRows();

@@ -2,6 +2,7 @@
 #include "graphics/image/Bands.h"
 
 #include <algorithm>
+#include <exception>
 #include <system_error>
 #include <thread>
 #include <vector>
@@ -26,15 +27,30 @@ void inBands(std::size_t count, std::size_t smallest, const std::function<void(s
 {
     const std::size_t bands = std::clamp<std::size_t>(count / std::max<std::size_t>(smallest, 1), 1, mostBands());
     const auto start = [=](std::size_t band) { return count / bands * band + std::min(band, count % bands); };
-    std::vector<std::jthread> helpers;
-    for (std::size_t band = 1; band < bands; ++band) {
+    std::vector<std::exception_ptr> problems(bands);
+    const auto run = [&](std::size_t band) {
         try {
-            helpers.emplace_back(work, start(band), start(band + 1));
-        } catch (const std::system_error &) {
-            work(start(band), start(band + 1)); // no more threads to be had
+            work(start(band), start(band + 1));
+        } catch (...) {
+            problems[band] = std::current_exception();
+        }
+    };
+    {
+        std::vector<std::jthread> helpers;
+        for (std::size_t band = 1; band < bands; ++band) {
+            try {
+                helpers.emplace_back(run, band);
+            } catch (const std::system_error &) {
+                run(band); // no more threads to be had
+            }
+        }
+        run(0);
+    }
+    for (const std::exception_ptr &problem : problems) {
+        if (problem) {
+            std::rethrow_exception(problem);
         }
     }
-    work(0, start(1));
 }
 
 } // namespace grisal::graphics

@@ -16,8 +16,8 @@ namespace grisal::graphics
 /// alpha option, a fourth component; bytes, or 16-bit words in machine order. Taken out as words, bytes b that were put
 /// in come back as b << 8. Files of an 8-bit picture hold the very bytes that were put in.
 ///
-/// No operation throws. Where one fails, it returns false, problem() tells why in the library's words, and the
-/// picture held before is still there. Nothing is written to the log here.
+/// No operation but copy() and blank() throws. Where one fails, it returns false, problem() tells why in the library's
+/// words, and the picture held before is still there. Nothing is written to the log here.
 class IPicture
 {
 public:

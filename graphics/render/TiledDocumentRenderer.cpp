@@ -234,7 +234,7 @@ const FramebufferObject &TiledDocumentRenderer::runChain(const Chain &chain, con
     const std::size_t band = bandOf(area);
     for (std::size_t row = 0; row < area.height; row += band) {
         const PassRows rows(static_cast<std::int32_t>(row),
-                            static_cast<std::int32_t>(std::min(band, area.height - row)));
+                            static_cast<std::int32_t>(std::min(band, area.height - row)), first, second);
         result = &runFilters(chain.filters, texture, first, second);
     }
     return *result;

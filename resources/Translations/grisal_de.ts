@@ -990,8 +990,8 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <translation>Kachel %1 von %2 wird berechnet</translation>
     </message>
     <message>
-        <source>A part of Grisal is missing, without which pictures cannot be opened. Please install it again.</source>
-        <translation>Ein Teil von Grisal fehlt, ohne den keine Bilder geöffnet werden können. Bitte installieren Sie es neu.</translation>
+        <source>The part of Grisal that opens pictures cannot be loaded. If starting Grisal again does not help, please install it again.</source>
+        <translation>Der Teil von Grisal, der Bilder öffnet, lässt sich nicht laden. Wenn ein neuer Start von Grisal nicht hilft, installieren Sie es bitte neu.</translation>
     </message>
 </context>
 </TS>

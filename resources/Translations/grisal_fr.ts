@@ -990,8 +990,8 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <translation>Calcul de la tuile %1 sur %2</translation>
     </message>
     <message>
-        <source>A part of Grisal is missing, without which pictures cannot be opened. Please install it again.</source>
-        <translation>Il manque une partie de Grisal, sans laquelle aucune image ne peut être ouverte. Veuillez le réinstaller.</translation>
+        <source>The part of Grisal that opens pictures cannot be loaded. If starting Grisal again does not help, please install it again.</source>
+        <translation>La partie de Grisal qui ouvre les images ne peut pas être chargée. Si redémarrer Grisal n’y change rien, veuillez le réinstaller.</translation>
     </message>
 </context>
 </TS>

@@ -64,6 +64,7 @@ bool MessageBoxAnswer::answer(QWidget &dialog)
     }
     title = box->windowTitle();
     text = box->text();
+    informativeText = box->informativeText();
     buttons = box->standardButtons();
     defaultButton = box->standardButton(box->defaultButton());
     QAbstractButton *button = box->button(m_button);

@@ -42,6 +42,7 @@ public:
 
     QString title;
     QString text;
+    QString informativeText;
     QMessageBox::StandardButtons buttons;
     QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
 

@@ -99,8 +99,12 @@ TEST_F(RenderToFramebufferTest, SomeRowsLeaveTheOthersOfTheTarget)
     const ShaderProgram program = fragmentProgram("gl_FragColor = vec4(vec3((gl_FragCoord.y + 0.5) / 255.0), 1.0);");
     fillWithSentinel(target);
     {
-        const graphics::PassRows rows(1, 2);
+        const RenderTarget other(width, height, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+        const RenderTarget third(width, height, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+        const graphics::PassRows rows(1, 2, target.record(), other.record());
         renderToFramebuffer(width, height - 1, program.program, target.record());
+        renderToFramebuffer(width, height, program.program, third.record());
+        EXPECT_EQ(readBytes(third.record(), width, height).at(0, 3, 1), 4) << "it has nothing to do with the rows";
     }
     BytePixels expected = flat(255, 0, 255);
     for (int y = 1; y < 3; ++y) {

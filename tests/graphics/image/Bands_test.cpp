@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <mutex>
+#include <stdexcept>
 #include <vector>
 
 namespace grisal::test
@@ -28,6 +29,21 @@ TEST(BandsTest, EverythingIsDoneOnce)
 {
     for (const std::size_t count : {1, 2, 3, 7, 1000, 1001, 1003}) {
         EXPECT_EQ(visits(count, 1), std::vector<int>(count, 1)) << count;
+    }
+}
+
+TEST(BandsTest, WhatABandThrowsIsThrownOnceAllAreDone)
+{
+    for (const std::size_t failing : {std::size_t{0}, std::size_t{999}}) {
+        std::atomic<std::size_t> done = 0;
+        const auto work = [&](std::size_t first, std::size_t end) {
+            done += end - first;
+            if (first <= failing && failing < end) {
+                throw std::runtime_error("no memory");
+            }
+        };
+        EXPECT_THROW(inBands(1000, 1, work), std::runtime_error);
+        EXPECT_EQ(done, 1000U);
     }
 }
 

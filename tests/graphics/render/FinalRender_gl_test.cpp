@@ -90,6 +90,24 @@ TEST_F(FinalRenderTest, ExpendablePixelsBecomeTheSame)
     EXPECT_TRUE(picturesNear("expendable words", render(words, true), render(words, false)));
 }
 
+// The noise is blurred when it is needed, which is in the middle of a tile that is rendered in bands of rows.
+TEST_F(FinalRenderTest, TheFirstRenderWithGrainIsLikeAllOthers)
+{
+    filters->curve.enabled = filters->splitTone.enabled = filters->grain.enabled = filters->vignette.enabled = true;
+    parameters.mixerWeights = {0.3F, 0.5F, 0.2F};
+    parameters.grainWeights = QVector<float>(256, 0.5F);
+    parameters.grainRadius = 1.5F;
+    const auto source = rampPicture<std::uint8_t>(2048, 1020);
+    const auto render = [&] {
+        BytePixels picture = source;
+        EXPECT_TRUE(renderFinalPicture({picture.values.data(), picture.width, picture.height, false, false}, parameters,
+                                       *filters, *view));
+        return picture;
+    };
+    const BytePixels first = render();
+    EXPECT_TRUE(picturesNear("grain", first, render()));
+}
+
 TEST_F(FinalRenderTest, WithoutEnabledFilterExpendablePixelsStay)
 {
     filters->mixer.enabled = false;
