@@ -34,9 +34,10 @@ std::vector<Component> topLeft(const void *pixels, int fullWidth, int width, int
     return copy;
 }
 
-int halfSide(int side)
+template <typename Side>
+Side halfSide(Side side)
 {
-    return std::max(1, side / 2);
+    return std::max<Side>(1, side / 2);
 }
 
 /// Halves the top left pixels of a picture row by row as often as it takes, so that nothing between the picture and
@@ -55,7 +56,7 @@ public:
     std::vector<Component> afterHalvings(int halvings)
     {
         for (int i = 0; i < halvings; ++i) {
-            m_sizes.push_back({half(m_sizes.back().width), half(m_sizes.back().height)});
+            m_sizes.push_back({halfSide(m_sizes.back().width), halfSide(m_sizes.back().height)});
         }
         const Size size = m_sizes.back();
         std::vector<Component> pixels(size.width * size.height * rgb);
@@ -72,8 +73,6 @@ private:
         std::size_t width;
         std::size_t height;
     };
-
-    static std::size_t half(std::size_t side) { return std::max<std::size_t>(1, side / 2); }
 
     /// Row y after that many halvings, at least one.
     void makeRow(std::size_t halvings, std::size_t y, Component *target) const
@@ -96,7 +95,7 @@ private:
     static void join(const Component *upper, const Component *lower, std::size_t width, Component *target)
     {
         const std::size_t right = width > 1 ? step : 0;
-        for (std::size_t x = 0; x < half(width); ++x, upper += 2 * step, lower += 2 * step) {
+        for (std::size_t x = 0; x < halfSide(width); ++x, upper += 2 * step, lower += 2 * step) {
             for (std::size_t c = 0; c < rgb; ++c) {
                 const std::uint32_t sum = std::uint32_t{upper[c]} + upper[c + right] + lower[c] + lower[c + right];
                 *target++ = static_cast<Component>((sum + 2) / 4);

@@ -119,6 +119,14 @@ TEST(PreviewPixelsTest, RoundsAfterEachHalving)
     EXPECT_EQ(preview.width, 2251);
     EXPECT_EQ(preview.height, 7);
     EXPECT_EQ(preview.bytes, twice.bytes);
+
+    const auto mean = [](int a, int b, int c, int d) { return (a + b + c + d + 2) / 4; };
+    const auto once = [&](std::size_t x, std::size_t y) {
+        const std::uint8_t *upper = bytes.data() + (y * width + x) * 3;
+        const std::uint8_t *lower = upper + std::size_t{width} * 3;
+        return mean(upper[0], upper[3], lower[0], lower[3]);
+    };
+    EXPECT_EQ(preview.bytes[0], mean(once(0, 0), once(2, 0), once(0, 2), once(2, 2)));
 }
 
 TEST(PreviewPixelsTest, NeverHalvesASideToNothing)
