@@ -36,7 +36,7 @@ std::uint32_t largestTextureSide()
 std::size_t bandOf(const TileArea &area)
 {
     constexpr std::size_t smallPixels = 2'000'000;
-    constexpr std::size_t bandPixels = 768 * 1024;
+    constexpr std::size_t bandPixels = 800'000;
     return area.width * area.height <= smallPixels ? area.height : std::max<std::size_t>(bandPixels / area.width, 1);
 }
 
