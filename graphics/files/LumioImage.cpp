@@ -5,6 +5,8 @@
 #include "graphics/files/Orientation.h"
 #include "graphics/files/PictureFile.h"
 #include "graphics/files/ReplacementFile.h"
+#include "graphics/image/HeapAhead.h"
+#include "graphics/image/PreviewPixels.h"
 
 #include <QFile>
 
@@ -13,6 +15,7 @@
 #include <fstream>
 #include <iostream>
 #include <sstream>
+#include <vector>
 
 namespace grisal::graphics
 {
@@ -53,6 +56,17 @@ Message warningOf(Call call)
         return Message::quoting(QString::fromLocal8Bit(warning.what()));
     }
     return {};
+}
+
+/// The memory that a picture takes while it is read and shown, in the order in which it is asked for: the library's
+/// own pixels, which it gives a quarter more room than they need; then those that it is packed into; its preview.
+std::vector<HeapAhead::Block> blocksFor(const Magick::Image &head)
+{
+    const std::size_t pixels = std::size_t{head.columns()} * head.rows();
+    const std::size_t library = pixels * sizeof(Magick::PixelPacket);
+    const std::size_t packed = pixels * 3 * (head.depth() > 8 ? sizeof(std::uint16_t) : sizeof(std::uint8_t));
+    const std::size_t shown = previewMemory(static_cast<int>(head.columns()), static_cast<int>(head.rows()));
+    return {{library + library / 4, library}, {packed, packed}, {shown, shown}};
 }
 
 /// Whether what was written would be taken for a picture again.
@@ -133,7 +147,10 @@ void LumioImage::readFrom(const PictureFile &file, const QString &path)
     }
     const Metadata metadata(file.file(), file.format());
     Magick::Image fresh = firstPicture();
-    m_warning = warningOf([&] { fresh.read(file.name()); });
+    {
+        const HeapAhead memory(blocksFor(head));
+        m_warning = warningOf([&] { fresh.read(file.name()); });
+    }
     if (!fresh.isValid()) {
         m_problem = m_warning.isEmpty() ? QStringLiteral("No picture in %1").arg(path) : warning();
         return;
