@@ -9,7 +9,7 @@
 namespace
 {
 
-constexpr int readingTime = 200; // milliseconds
+constexpr int readingTime = 300; // milliseconds
 
 } // namespace
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <mutex>
 
 namespace grisal::graphics
@@ -17,14 +18,18 @@ using Range = std::pair<unsigned, unsigned>;
 
 constexpr std::size_t smallestBand = 500'000;
 
-template <typename T>
-Range rangeOf(const T *pixels, std::size_t count, std::size_t components)
+// With values of the pixels' own type and a number of components that is known when this is compiled, the compiler
+// takes several pixels at a time.
+template <std::size_t components, typename T>
+Range rangeOf(const T *pixels, std::size_t count)
 {
-    Range range{65535, 0};
-    for (std::size_t i = 0; i < count; ++i, pixels += components) {
-        range = {std::min<unsigned>(range.first, *pixels), std::max<unsigned>(range.second, *pixels)};
+    T smallest = std::numeric_limits<T>::max();
+    T largest = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        smallest = std::min(smallest, pixels[i * components]);
+        largest = std::max(largest, pixels[i * components]);
     }
-    return range;
+    return {smallest, largest};
 }
 
 } // namespace
@@ -33,9 +38,13 @@ template <typename T>
 Range valueRange(const T *pixels, std::size_t count, std::size_t components)
 {
     Range range{65535, 0};
+    if (count == 0) {
+        return range;
+    }
     std::mutex joining;
     inBands(count, smallestBand, [&](std::size_t first, std::size_t end) {
-        const Range own = rangeOf(pixels + first * components, end - first, components);
+        const T *band = pixels + first * components;
+        const Range own = components == 4 ? rangeOf<4>(band, end - first) : rangeOf<3>(band, end - first);
         const std::lock_guard lock(joining);
         range = {std::min(range.first, own.first), std::max(range.second, own.second)};
     });

@@ -44,4 +44,24 @@ TEST(ValueRangeTest, FindsTheEndsWhereverTheyStand)
     }
 }
 
+/// Of many pixels, whose other components go further than the first ones.
+template <typename T>
+void expectFirstComponentsOnly(std::size_t components)
+{
+    constexpr std::size_t count = 101;
+    std::vector<T> pixels(count * components);
+    for (std::size_t i = 0; i < pixels.size(); ++i) {
+        pixels[i] = static_cast<T>(i % components != 0 ? i % 2 * 250 : 10 + i / components);
+    }
+    EXPECT_EQ(valueRange(pixels.data(), count, components), (std::pair<unsigned, unsigned>{10, 110}));
+}
+
+TEST(ValueRangeTest, TheOtherComponentsOfManyPixelsDoNotCount)
+{
+    for (const std::size_t components : {3, 4}) {
+        expectFirstComponentsOnly<std::uint8_t>(components);
+        expectFirstComponentsOnly<std::uint16_t>(components);
+    }
+}
+
 } // namespace grisal::test
