@@ -215,22 +215,13 @@ void GLWidget::paintGL()
         return;
     }
     bindScreen();
-    glClearColor(0, 0, 0, 0);
+    // What is not opaque would let the desktop through where windows can be transparent, as they can on Wayland.
+    glClearColor(0, 0, 0, 1);
     glClear(GL_COLOR_BUFFER_BIT);
     if (m_stage.preview() != nullptr) {
         paintPreview();
     }
     paintFocusMark();
-    makeOpaque();
-}
-
-// What is not opaque would let the desktop through where windows can be transparent, as they can on Wayland.
-void GLWidget::makeOpaque() const
-{
-    glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_TRUE);
-    glClearColor(0, 0, 0, 1);
-    glClear(GL_COLOR_BUFFER_BIT);
-    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
 void GLWidget::paintPreview()
@@ -246,7 +237,9 @@ void GLWidget::paintPreview()
     preview->view().setup();
     // Not before the render, which may make textures and leaves them switched off then.
     glEnable(GL_TEXTURE_2D);
+    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_FALSE); // what is clear in the picture stays opaque, too
     drawPreview(preview->output());
+    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     glDisable(GL_TEXTURE_2D);
 }
 

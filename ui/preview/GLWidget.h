@@ -131,7 +131,6 @@ private:
     void drawPreview(GLuint texture) const;
     void paintPreview();
     void paintFocusMark() const;
-    void makeOpaque() const;
     void setBypass(bool bypass);
     void pan(QPointF pixels);
     bool useKey(const QKeyEvent &event);
