@@ -59,10 +59,14 @@ Message warningOf(Call call)
 }
 
 /// The memory that a picture takes while it is read and shown, in the order in which it is asked for: the library's
-/// own pixels, which it gives a quarter more room than they need; then those that it is packed into; its preview.
-std::vector<HeapAhead::Block> blocksFor(const Magick::Image &head)
+/// own pixels, which it gives a quarter more room than they need; then those that it is packed into; its preview. None
+/// for a file that may promise more than it holds.
+std::vector<HeapAhead::Block> blocksFor(const Magick::Image &head, const PictureFile &file)
 {
     const std::size_t pixels = std::size_t{head.columns()} * head.rows();
+    if (!file.isLikelyToHold(pixels)) {
+        return {};
+    }
     const std::size_t library = pixels * sizeof(Magick::PixelPacket);
     const std::size_t packed = pixels * 3 * (head.depth() > 8 ? sizeof(std::uint16_t) : sizeof(std::uint8_t));
     const std::size_t shown = previewMemory(static_cast<int>(head.columns()), static_cast<int>(head.rows()));
@@ -148,7 +152,7 @@ void LumioImage::readFrom(const PictureFile &file, const QString &path)
     const Metadata metadata(file.file(), file.format());
     Magick::Image fresh = firstPicture();
     {
-        const HeapAhead memory(blocksFor(head));
+        const HeapAhead memory(blocksFor(head, file));
         m_warning = warningOf([&] { fresh.read(file.name()); });
     }
     if (!fresh.isValid()) {

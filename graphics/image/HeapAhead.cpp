@@ -7,7 +7,10 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
-#include <system_error>
+#include <exception>
+#include <memory>
+#include <numeric>
+#include <utility>
 
 namespace grisal::graphics
 {
@@ -15,31 +18,25 @@ namespace grisal::graphics
 namespace
 {
 
-/// Less is handed out before another thread has started.
+/// What takes the system a few milliseconds at the most is not worth a helper.
 constexpr std::size_t smallestHelp = 8U << 20U;
 /// Others may have to wait with their memory until a piece is handed out.
 constexpr std::size_t piece = 512U << 10U;
 
-struct Range {
-    std::uintptr_t begin;
+using Taken = std::unique_ptr<std::byte, decltype(&std::free)>;
+
+/// The front of a block, which will be touched.
+struct Front {
+    std::byte *begin;
     std::size_t size;
 };
 
-/// Where blocks of these sizes will come to lie.
-std::vector<Range> placesOf(const std::vector<HeapAhead::Block> &blocks)
+bool isWorthAHelper(const std::vector<HeapAhead::Block> &blocks)
 {
-    std::vector<Range> places;
-    std::vector<void *> taken;
-    places.reserve(blocks.size());
-    taken.reserve(blocks.size());
-    for (const HeapAhead::Block &block : blocks) {
-        taken.push_back(std::malloc(block.size));
-        if (taken.back() != nullptr) {
-            places.push_back({reinterpret_cast<std::uintptr_t>(taken.back()), block.used});
-        }
-    }
-    std::for_each(taken.begin(), taken.end(), &std::free);
-    return places;
+    const std::size_t used =
+        std::accumulate(blocks.begin(), blocks.end(), std::size_t{0},
+                        [](std::size_t sum, const HeapAhead::Block &block) { return sum + block.used; });
+    return used >= smallestHelp && std::thread::hardware_concurrency() > 1;
 }
 
 } // namespace
@@ -62,21 +59,28 @@ std::size_t handOut(std::byte *begin, std::size_t size, const std::stop_token &s
 
 HeapAhead::HeapAhead(const std::vector<Block> &blocks)
 {
-    std::size_t all = 0;
-    for (const Block &block : blocks) {
-        all += block.used;
-    }
-    if (all < smallestHelp) {
+    if (!isWorthAHelper(blocks)) {
         return;
     }
     try {
-        m_helper = std::jthread([places = placesOf(blocks)](const std::stop_token &stop) {
-            for (const Range &place : places) {
-                handOut(reinterpret_cast<std::byte *>(place.begin), place.size, stop);
+        std::vector<Taken> taken; // until the helper knows where they are
+        std::vector<Front> fronts;
+        taken.reserve(blocks.size());
+        fronts.reserve(blocks.size());
+        for (const Block &block : blocks) {
+            taken.emplace_back(static_cast<std::byte *>(std::malloc(block.size)), &std::free);
+            if (!taken.back()) {
+                return; // whoever asks for it next will not get it either
+            }
+            fronts.push_back({taken.back().get(), block.used});
+        }
+        m_helper = std::jthread([fronts = std::move(fronts)](const std::stop_token &stop) {
+            for (const Front &front : fronts) {
+                handOut(front.begin, front.size, stop);
             }
         });
-    } catch (const std::system_error &) {
-        // no more threads to be had
+    } catch (const std::exception &) {
+        // no memory for so little, or no more threads to be had: it goes without help
     }
 }
 

@@ -15,9 +15,10 @@ namespace grisal::graphics
 /// one core busy, of whose time a third may go into such touches; another core can be ahead of it.
 ///
 /// A hint: blocks of the given sizes are taken and freed at once, so that the next blocks of these sizes, asked for in
-/// the same order by the same thread, come to lie where the system has been asked for memory. Where they do not, or
-/// where the heap gives freed blocks back to the system, nothing is won, and nothing is changed in either case: to hand
-/// out memory leaves what stands in it alone.
+/// the same order by the same thread, come to lie where the system is asked for memory. Where they do not, or where
+/// the heap gives freed blocks back to the system, nothing is won; the process may then have memory that it does not
+/// use until it next gives back what is free. What stands in memory that is handed out stays as it is. Where one of the
+/// blocks cannot be had, nothing is handed out.
 class HeapAhead
 {
 public:
@@ -27,7 +28,7 @@ public:
     };
 
     explicit HeapAhead(const std::vector<Block> &blocks);
-    /// Leaves what has not been handed out by now.
+    /// Stops; what has not been handed out by then is left.
     ~HeapAhead() = default;
 
 private:

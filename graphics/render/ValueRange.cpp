@@ -18,8 +18,8 @@ using Range = std::pair<unsigned, unsigned>;
 
 constexpr std::size_t smallestBand = 500'000;
 
-// With values of the pixels' own type and a number of components that is known when this is compiled, the compiler
-// takes several pixels at a time.
+// With values of the pixels' own type and a number of components that is known when this is compiled, a release's
+// optimiser takes several pixels at a time.
 template <std::size_t components, typename T>
 Range rangeOf(const T *pixels, std::size_t count)
 {

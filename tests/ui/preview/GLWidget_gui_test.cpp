@@ -13,6 +13,16 @@ namespace
 
 using namespace grisal::test;
 
+/// The pixel that the widget has painted there, counted from the lower left. Its context is current afterwards.
+std::array<GLubyte, 4> paintedAt(GLWidget &widget, int x, int y)
+{
+    widget.makeCurrent();
+    glBindFramebuffer(GL_FRAMEBUFFER, widget.defaultFramebufferObject());
+    std::array<GLubyte, 4> pixel{1, 1, 1, 1};
+    glReadPixels(x, y, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, pixel.data());
+    return pixel;
+}
+
 TEST_F(GLWidgetTest, TheScreenShowsWhatTheRendererComputed)
 {
     showPictureAtOneToOne();
@@ -63,11 +73,24 @@ TEST_F(GLWidgetTest, TheMarginIsBlackAndOpaque)
 {
     showPictureAtOneToOne();
     ASSERT_TRUE(screenShows(centred(redAsGrey(picture))));
-    widget.makeCurrent();
-    glBindFramebuffer(GL_FRAMEBUFFER, widget.defaultFramebufferObject());
-    std::array<GLubyte, 4> corner{1, 1, 1, 1};
-    glReadPixels(0, 0, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, corner.data());
-    EXPECT_EQ(corner, (std::array<GLubyte, 4>{0, 0, 0, 255}));
+    EXPECT_EQ(paintedAt(widget, 0, 0), (std::array<GLubyte, 4>{0, 0, 0, 255}));
+}
+
+// A tone curve leaves its values in the alpha channel, too.
+TEST_F(GLWidgetTest, APictureWithAlphaIsOpaque)
+{
+    show();
+    load(rampPicture<std::uint8_t>(pictureWidth, pictureHeight, 4));
+    widget.slotActualPixels();
+    widget.slotChangeCurves(QVector<float>(256, 0.6F));
+    widget.curveFilter()->enabled = true;
+    widget.grabFramebuffer();
+    const QSize middle = pixelSize() / 2;
+    EXPECT_EQ(paintedAt(widget, middle.width(), middle.height()), (std::array<GLubyte, 4>{153, 153, 153, 255}));
+
+    std::array<GLboolean, 4> written{};
+    glGetBooleanv(GL_COLOR_WRITEMASK, written.data());
+    EXPECT_EQ(written, (std::array<GLboolean, 4>{GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE}));
 }
 
 TEST_F(GLWidgetTest, SixteenBitPicturesLogOtherFormats)
