@@ -21,9 +21,6 @@
 #include <QToolBar>
 #include <QUrl>
 
-#include <future>
-#include <utility>
-
 namespace grisal::ui
 {
 
@@ -50,10 +47,9 @@ QWidget *newStretch()
 
 } // namespace
 
-MainWindow::MainWindow(graphics::PictureMaker newPicture, QWidget *parent)
-    : QMainWindow(parent), m_newPicture(std::move(newPicture)), m_mixer(new Mixer(this)),
-      m_vignette(new Vignette(this)), m_splitTone(new SplitTone(this)), m_grain(new Grain(this)),
-      m_sharpen(new Sharpen(this)), m_curves(new Curves(this)), m_panels(new QStackedLayout),
+MainWindow::MainWindow(QWidget *parent)
+    : QMainWindow(parent), m_mixer(new Mixer(this)), m_vignette(new Vignette(this)), m_splitTone(new SplitTone(this)),
+      m_grain(new Grain(this)), m_sharpen(new Sharpen(this)), m_curves(new Curves(this)), m_panels(new QStackedLayout),
       m_toolBar(new QToolBar(this)), m_progressBar(new QProgressBar), m_form(std::make_unique<Ui::MainWindow>())
 {
     m_form->setupUi(this);
@@ -63,10 +59,6 @@ MainWindow::MainWindow(graphics::PictureMaker newPicture, QWidget *parent)
     setUpStatusBar();
     setUpPanels();
     connectPanels();
-    // What pictures need is fetched while the user still looks for one.
-    connect(
-        m_form->glWidgetPreview, &QOpenGLWidget::frameSwapped, this, [this] { m_newPicture(); },
-        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     connect(m_form->actionHelp, &QAction::triggered, this, &MainWindow::showGuide);
     connect(m_form->actionPreferences, &QAction::triggered, this, &MainWindow::showPreferences);
 }
@@ -152,10 +144,8 @@ void MainWindow::loadBuffer(const void *pixels, int width, int height, bool sixt
         return;
     }
     const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    // The driver takes the preview meanwhile, and has no use for a second core.
-    auto tones = std::async(graphics::toneHistogram, pixels, count, sixteenBit, false);
+    m_curves->slotSetHistogram(graphics::toneHistogram(pixels, count, sixteenBit, false));
     preview->loadImage(pixels, width, height, sixteenBit, false);
-    m_curves->slotSetHistogram(tones.get());
     preview->setDirty();
     slotResetFilters();
 }

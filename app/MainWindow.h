@@ -5,12 +5,14 @@
 #include "ui/preview/GLWidget.h"
 
 #include "app/FileDealer.h"
-#include "graphics/image/IPicture.h"
+#include "app/Session.h"
+#include "graphics/image/Image.h"
 #include "graphics/Message.h"
 
 #include <QMainWindow>
 
 #include <memory>
+#include <optional>
 
 class BusyNotice;
 class Curves;
@@ -41,9 +43,7 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// `newPicture` makes the pictures that files are read into. It is called for the first time when the window has
-    /// been seen, so that it may take its time then.
-    explicit MainWindow(graphics::PictureMaker newPicture, QWidget *parent = nullptr);
+    explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
     /// Shows width x height pixels of 3 components, bytes or 16-bit words, in the preview and puts all panels back to
@@ -93,17 +93,15 @@ private:
     void showPreferences();
     bool togglePanel(QWidget *panel, QAction *action);
     void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem);
-    bool showPreviewOf(graphics::IPicture &image, void *room);
-    void tellProblems(const graphics::IPicture &image);
-    void tellCannotLoad(const QString &filename, const QString &advice = {});
-    void tell(const QString &message);
+    void showPreviewOf(const graphics::Image &image);
+    void showWarning();
+    void showCannotLoad(const QString &filename);
+    void showStatus(const QString &message);
     void openFile(const QString &filename);
-    bool readFile(graphics::IPicture &image, const QString &filename);
-    bool renderOutput(BusyNotice &notice);
-    bool renderIntoOutput(BusyNotice &notice);
-    bool tellRenderFailed(const QString &reason);
+    std::optional<graphics::Image> renderOutput(BusyNotice &notice);
+    std::optional<graphics::Image> renderImage(BusyNotice &notice);
+    void showRenderFailed(const QString &reason);
 
-    graphics::PictureMaker m_newPicture;
     Mixer *m_mixer;
     Vignette *m_vignette;
     SplitTone *m_splitTone;
@@ -113,8 +111,7 @@ private:
     QStackedLayout *m_panels;
     QToolBar *m_toolBar;
     QProgressBar *m_progressBar;
-    std::unique_ptr<graphics::IPicture> m_source; // none until one has been opened; then there are both
-    std::unique_ptr<graphics::IPicture> m_output;
+    Session m_session;
     FileDealer m_fileDealer;
     UserGuide *m_guide = nullptr; // from its first showing on
     std::unique_ptr<Ui::MainWindow> m_form;

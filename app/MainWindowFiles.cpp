@@ -3,16 +3,13 @@
 #include "app/MainWindow.h"
 
 #include "app/BusyNotice.h"
-#include "app/Memory.h"
 #include "app/Product.h"
 #include "ui_MainWindow.h"
 
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QTimer>
 
 #include <exception>
-#include <memory>
 #include <utility>
 
 namespace grisal::ui
@@ -22,22 +19,18 @@ namespace
 {
 
 constexpr int messageDuration = 2000;
-constexpr int saveQuality = 90;
 
-/// Whether the path leads to something, if only to a link whose target is missing.
-bool isThere(const QString &path)
-{
-    const QFileInfo file(path);
-    return file.exists() || file.isSymLink();
-}
-
-QString titleFor(const QString &path, const graphics::IPicture &image)
+QString titleFor(const QString &path, const graphics::Image &image)
 {
     // These three characters stand for the mark of unsaved changes; twice, they are themselves.
     const QString name = QFileInfo(path).fileName().replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
-    return QStringLiteral("%1 - %2 %3x%4")
-        .arg(QString::fromLatin1(product::title), name, QString::number(image.width()),
-             QString::number(image.height()));
+    return std::visit(
+        [&](const auto &raster) {
+            return QStringLiteral("%1 - %2 %3x%4")
+                .arg(QString::fromLatin1(product::title), name, QString::number(raster.width),
+                     QString::number(raster.height));
+        },
+        image);
 }
 
 } // namespace
@@ -56,93 +49,57 @@ void MainWindow::openImage(QString filename)
     try {
         openFile(filename);
     } catch (const std::exception &problem) {
-        // A picture that the memory does not hold.
+        // Not enough memory for the preview.
         qWarning("%s", problem.what());
-        tellCannotLoad(filename);
+        showCannotLoad(filename);
     }
-    memory::returnFreedBlocks();
-}
-
-// Whether there is a picture to show then. A file that is there and cannot be read leaves everything as it is. A file
-// that is not there any more leaves the picture that is open, which is then opened again: its panels start afresh under
-// the name that was asked for.
-bool MainWindow::readFile(graphics::IPicture &image, const QString &filename)
-{
-    const bool read = image.read(filename);
-    tellProblems(image);
-    if (!read && isThere(filename)) {
-        return false;
-    }
-    qDebug("%s", image.info().c_str());
-    return !image.isNull();
 }
 
 void MainWindow::openFile(const QString &filename)
 {
     BusyNotice notice(*m_form->statusbar, *m_progressBar);
     notice.show(tr("Reading %1").arg(QFileInfo(filename).fileName()));
-    std::unique_ptr<graphics::IPicture> image = m_source ? m_source->copy() : m_newPicture();
-    if (!image) {
+    const Session::PicturePointer picture = m_session.read(filename);
+    if (!picture) {
         notice.end();
-        tellCannotLoad(filename, tr("The part of Grisal that opens pictures cannot be loaded. If starting Grisal again "
-                                    "does not help, please install it again."));
+        showCannotLoad(filename);
         return;
     }
-    if (!readFile(*image, filename)) {
-        notice.end();
-        tellCannotLoad(filename);
-        return;
-    }
-    std::unique_ptr<graphics::IPicture> output = image->blank();
-    // The memory that the library needed for reading becomes the output's, before anything else can take of it.
-    void *room = image->pack() ? output->roomForPixels() : nullptr;
-    if (room == nullptr || !showPreviewOf(*image, room)) {
-        tellProblems(*image);
-        tellProblems(*output);
-        notice.end();
-        tellCannotLoad(filename);
-        return;
-    }
-    m_source = std::move(image);
-    m_output = std::move(output);
+    showPreviewOf(picture->image);
+    m_session.setPicture(picture);
     m_fileDealer.addToRecent();
-    setWindowTitle(titleFor(filename, *m_source));
+    setWindowTitle(titleFor(filename, picture->image));
     slotResetActions();
     update();
+    showWarning();
 }
 
-// The preview has bytes, whatever the picture has; in `room` there is place for them.
-bool MainWindow::showPreviewOf(graphics::IPicture &image, void *room)
+// The preview has 8 bits whatever the picture has.
+void MainWindow::showPreviewOf(const graphics::Image &image)
 {
-    if (image.is16Bit() && !image.getPixels(room, false, false)) {
-        return false;
-    }
-    loadBuffer(image.is16Bit() ? room : image.packedPixels(), image.width(), image.height(), false);
-    return true;
+    const auto *bytes = std::get_if<graphics::Image8>(&image);
+    const graphics::Image8 cut = bytes ? graphics::Image8() : graphics::highBytes(std::get<graphics::Image16>(image));
+    const graphics::Image8 &shown = bytes ? *bytes : cut;
+    loadBuffer(shown.samples.data(), shown.width, shown.height, false);
 }
 
-void MainWindow::tellProblems(const graphics::IPicture &image)
+void MainWindow::showWarning()
 {
-    if (!image.problem().isEmpty()) {
-        qWarning("%s", qPrintable(image.problem()));
-    }
-    if (!image.warning().isEmpty()) {
-        qWarning("%s", qPrintable(image.warning()));
-        tell(image.translatedWarning());
+    if (!m_session.warning().isEmpty()) {
+        showStatus(m_session.warning().translated());
     }
 }
 
-void MainWindow::tellCannotLoad(const QString &filename, const QString &advice)
+void MainWindow::showCannotLoad(const QString &filename)
 {
     QMessageBox box(QMessageBox::Information, tr("Open Image"), tr("Cannot load %1.").arg(filename), QMessageBox::Ok,
                     this);
     // A file name is no HTML, whatever its characters.
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(advice);
     box.exec();
 }
 
-void MainWindow::tell(const QString &message)
+void MainWindow::showStatus(const QString &message)
 {
     m_form->statusbar->showMessage(message, messageDuration);
 }
@@ -151,27 +108,25 @@ void MainWindow::saveImage(const QString &path)
 {
     if (path.isEmpty()) {
         qWarning("MainWindow::saveImage(): Invalid filename");
-        tell(tr("No filename"));
+        showStatus(tr("No filename"));
         return;
     }
-    if (!m_output) {
+    if (!m_session.picture()) {
         qWarning("MainWindow::saveImage(): Image is Null");
-        tell(tr("No image"));
+        showStatus(tr("No image"));
         return;
     }
-    // Once the user has the result: what was needed for it is given back.
-    QTimer::singleShot(0, this, &memory::returnFreedBlocks);
     BusyNotice notice(*m_form->statusbar, *m_progressBar);
-    if (!renderOutput(notice)) {
+    std::optional<graphics::Image> output = renderOutput(notice);
+    if (!output) {
         return;
     }
     notice.show(tr("Writing %1").arg(QFileInfo(path).fileName()));
-    if (!m_output->save(path, saveQuality)) {
-        qWarning("Cannot save %s: %s", qPrintable(path), qPrintable(m_output->problem()));
-        tell(tr("Cannot save %1. Choose another place or name.").arg(path));
+    if (!m_session.write(*std::move(output), path)) {
+        showStatus(tr("Cannot save %1. Choose another place or name.").arg(path));
         return;
     }
-    tellProblems(*m_output);
+    showWarning();
 }
 
 void MainWindow::slotFinalRendering()
@@ -180,48 +135,47 @@ void MainWindow::slotFinalRendering()
     renderOutput(notice);
 }
 
-bool MainWindow::renderOutput(BusyNotice &notice)
+std::optional<graphics::Image> MainWindow::renderOutput(BusyNotice &notice)
 {
     try {
-        return renderIntoOutput(notice);
+        return renderImage(notice);
     } catch (const std::exception &problem) {
-        // A render that the memory does not hold.
-        return tellRenderFailed(QString::fromLocal8Bit(problem.what()));
+        // Not enough memory for the result.
+        showRenderFailed(QString::fromLocal8Bit(problem.what()));
+        return std::nullopt;
     }
 }
 
-bool MainWindow::renderIntoOutput(BusyNotice &notice)
+std::optional<graphics::Image> MainWindow::renderImage(BusyNotice &notice)
 {
     update();
-    if (!m_output) {
-        return tellRenderFailed(QStringLiteral("No picture is open"));
+    if (!m_session.picture()) {
+        showRenderFailed(QStringLiteral("No picture is open"));
+        return std::nullopt;
     }
-    const bool sixteenBit = m_source->is16Bit();
-    void *pixels = m_output->roomForPixels();
-    if (pixels == nullptr) {
-        return tellRenderFailed(m_output->problem());
-    }
-    if (!m_source->getPixels(pixels, false, sixteenBit)) {
-        return tellRenderFailed(m_source->problem());
-    }
-    GLWidget *preview = m_form->glWidgetPreview;
-    const auto tellTile = [&notice](int tile, int tiles) {
+    const auto showTile = [&notice](int tile, int tiles) {
         notice.show(tr("Rendering tile %1 of %2").arg(tile).arg(tiles), tile - 1, tiles);
     };
-    if (!preview->renderFinal(pixels, m_source->width(), m_source->height(), sixteenBit, false, tellTile)) {
-        return tellRenderFailed(preview->graphicsProblem().english());
+    GLWidget *preview = m_form->glWidgetPreview;
+    graphics::Image image = m_session.picture()->image;
+    const bool sixteenBit = is16Bit(image);
+    const bool rendered = std::visit(
+        [&](auto &raster) {
+            return preview->renderFinal(raster.samples.data(), raster.width, raster.height, sixteenBit, false,
+                                        showTile);
+        },
+        image);
+    if (!rendered) {
+        showRenderFailed(preview->graphicsProblem().english());
+        return std::nullopt;
     }
-    if (!m_output->setPixels(pixels, false, sixteenBit)) {
-        return tellRenderFailed(m_output->problem());
-    }
-    return true;
+    return image;
 }
 
-bool MainWindow::tellRenderFailed(const QString &reason)
+void MainWindow::showRenderFailed(const QString &reason)
 {
     qWarning("The picture could not be rendered. %s", qPrintable(reason));
-    tell(tr("The picture could not be rendered. Nothing was saved; the log tells more."));
-    return false;
+    showStatus(tr("The picture could not be rendered. Nothing was saved; the log tells more."));
 }
 
 void MainWindow::on_actionSave_triggered()

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
-#include "app/Memory.h"
 #include "app/MessageLog.h"
-#include "app/PictureModule.h"
 #include "app/Translation.h"
+#include "graphics/files/ImageLibrary.h"
 #include "graphics/gl/SurfaceFormat.h"
 
 #include <QApplication>
@@ -11,10 +10,15 @@
 #include <QMessageBox>
 #include <QString>
 
+#include <unistd.h>
+
+#include <csignal>
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 namespace
@@ -24,35 +28,48 @@ constexpr int placeholderWidth = 300;
 constexpr int placeholderHeight = 200;
 constexpr std::uint8_t placeholderGrey = 128;
 
-void tellGraphicsProblem(const grisal::graphics::Message &problem)
+// Qt ends with abort() where there is no display; all that a signal handler may do is to write and to leave.
+extern "C" void reportMissingDisplay(int /*signal*/)
+{
+    constexpr std::string_view text =
+        "Grisal cannot open a window: there is no display that can be reached. Please start it on a desktop, or set "
+        "DISPLAY or WAYLAND_DISPLAY.\n";
+    [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, text.data(), text.size());
+    _exit(EXIT_FAILURE);
+}
+
+void reportGraphicsProblem(const grisal::graphics::Message &problem)
 {
     qCritical("%s", qPrintable(problem.english()));
-    QMessageBox::critical(nullptr, QApplication::tr("No OpenGL"),
-                          QApplication::tr("%1\nGrisal needs OpenGL 2.1 to show and save pictures. Please install or "
-                                           "update the graphics driver and start Grisal again.")
-                              .arg(problem.translated()));
+    const QString text = QApplication::tr("%1\nGrisal needs OpenGL 2.1 to show and save pictures. Please install or "
+                                          "update the graphics driver and start Grisal again.")
+                             .arg(problem.translated());
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+    QMessageBox::critical(nullptr, QApplication::tr("No OpenGL"), text);
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    memory::keepFreedBlocks();
+    grisal::graphics::initializeImageLibrary(argv[0]);
     message_log::install();
     grisal::graphics::setDefaultSurfaceFormat();
 
+    std::signal(SIGABRT, reportMissingDisplay);
     QApplication application(argc, argv);
+    std::signal(SIGABRT, SIG_DFL);
     QApplication::setDesktopFileName(QStringLiteral(GRISAL_APP_ID));
     const Translation translation(QLocale::system());
-    auto window = std::make_unique<grisal::ui::MainWindow>(&picture_module::newPicture);
+    auto window = std::make_unique<grisal::ui::MainWindow>();
 
     std::vector<std::uint8_t> placeholder(std::size_t{placeholderWidth} * placeholderHeight * 3, placeholderGrey);
     window->show();
     window->loadBuffer(placeholder.data(), placeholderWidth, placeholderHeight, false);
     if (const auto problem = window->graphicsProblem(); !problem.isEmpty()) {
-        // The toolkit crashes when it paints a window that holds an OpenGL widget and there is no OpenGL.
+        // Qt crashes when it paints a window that contains an OpenGL widget and there is no OpenGL.
         window->hide();
-        tellGraphicsProblem(problem);
+        reportGraphicsProblem(problem);
         return EXIT_FAILURE;
     }
     return QApplication::exec();

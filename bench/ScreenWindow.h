@@ -2,7 +2,6 @@
 #pragma once
 
 #include "app/MainWindow.h"
-#include "app/PictureModule.h"
 
 #include <QAction>
 #include <QApplication>
@@ -67,7 +66,7 @@ private:
         glFinish();
     }
 
-    ui::MainWindow m_window{picture_module::newPicture};
+    ui::MainWindow m_window;
 };
 
 } // namespace grisal::bench

@@ -3,9 +3,7 @@
 // The program's start: its window with the placeholder, as app/main.cpp shows it. Ends with its first frame and prints
 // how wide and high the window is.
 #include "app/MainWindow.h"
-#include "app/Memory.h"
 #include "app/MessageLog.h"
-#include "app/PictureModule.h"
 #include "graphics/gl/SurfaceFormat.h"
 
 #include <QApplication>
@@ -17,11 +15,10 @@
 
 int main(int argc, char **argv)
 {
-    memory::keepFreedBlocks();
     message_log::install();
     grisal::graphics::setDefaultSurfaceFormat();
     const QApplication application(argc, argv);
-    grisal::ui::MainWindow window(&picture_module::newPicture);
+    grisal::ui::MainWindow window;
     QObject::connect(window.findChild<grisal::ui::GLWidget *>(), &QOpenGLWidget::frameSwapped, &window, [&window] {
         std::printf("%d %d\n", window.width(), window.height());
         std::fflush(stdout);

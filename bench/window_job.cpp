@@ -4,7 +4,6 @@
 // on, saves the result, and prints how long opening (until the picture is on the screen) and saving took, and how many
 // bytes of memory the process had at the most above what it had with the placeholder.
 #include "app/MainWindow.h"
-#include "app/Memory.h"
 #include "bench/ScreenWindow.h"
 #include "graphics/gl/SurfaceFormat.h"
 
@@ -54,7 +53,6 @@ double millisecondsOf(const QElapsedTimer &timer)
 int main(int argc, char **argv)
 {
     qInstallMessageHandler(ignoreMessage);
-    memory::keepFreedBlocks();
     grisal::graphics::setDefaultSurfaceFormat();
     const QApplication application(argc, argv);
     if (argc != 3) {

@@ -46,7 +46,7 @@ void saveMetadata(const LumioImage &source, std::size_t number)
     static const QTemporaryDir folder(QStringLiteral("/dev/shm/grisal-XXXXXX"));
     static const std::array<const char *, 3> names{"a.jpg", "a.png", "a.tif"};
     LumioImage output(2, 2, false);
-    output.takeMetadataOf(source);
+    output.setMetadata(source.metadata());
     require(output.save(folder.filePath(QString::fromLatin1(names[number % names.size()])), 90));
     require(output.read(folder.filePath(QString::fromLatin1(names[number % names.size()]))));
 }

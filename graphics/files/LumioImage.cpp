@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/LumioImage.h"
 
+#include "graphics/files/ImageLibrary.h"
 #include "graphics/files/ImageNames.h"
 #include "graphics/files/Orientation.h"
 #include "graphics/files/PictureFile.h"
+#include "graphics/files/QuantumCopy.h"
 #include "graphics/files/ReplacementFile.h"
-#include "graphics/image/HeapAhead.h"
-#include "graphics/image/PreviewPixels.h"
 
 #include <QFile>
 
@@ -15,7 +15,6 @@
 #include <fstream>
 #include <iostream>
 #include <sstream>
-#include <vector>
 
 namespace grisal::graphics
 {
@@ -58,21 +57,6 @@ Message warningOf(Call call)
     return {};
 }
 
-/// The memory that a picture takes while it is read and shown, in the order in which it is asked for: the library's
-/// own pixels, which it gives a quarter more room than they need; then those that it is packed into; its preview. None
-/// for a file that may promise more than it holds.
-std::vector<HeapAhead::Block> blocksFor(const Magick::Image &head, const PictureFile &file)
-{
-    const std::size_t pixels = std::size_t{head.columns()} * head.rows();
-    if (!file.isLikelyToHold(pixels)) {
-        return {};
-    }
-    const std::size_t library = pixels * sizeof(Magick::PixelPacket);
-    const std::size_t packed = pixels * 3 * (head.depth() > 8 ? sizeof(std::uint16_t) : sizeof(std::uint8_t));
-    const std::size_t shown = previewMemory(static_cast<int>(head.columns()), static_cast<int>(head.rows()));
-    return {{library + library / 4, library}, {packed, packed}, {shown, shown}};
-}
-
 /// Whether what was written would be taken for a picture again.
 bool opensAsPicture(const OpenFile &written)
 {
@@ -97,7 +81,13 @@ void raiseDepth(Magick::Image &image)
     }
 }
 
-// The library would write its own share of it beside ours.
+Magick::Image emptyImage()
+{
+    initializeImageLibrary(nullptr);
+    return {};
+}
+
+// GraphicsMagick would write its own share of it beside ours.
 void forgetMetadata(Magick::Image &image)
 {
     image.profile("*", Magick::Blob());
@@ -107,16 +97,74 @@ void forgetMetadata(Magick::Image &image)
 
 } // namespace
 
-std::unique_ptr<IPicture> LumioImage::copy() const
+LumioImage::LumioImage() : m_image(emptyImage()) {}
+
+LumioImage::LumioImage(int width, int height, bool sixteenBit) : LumioImage()
 {
-    return std::make_unique<LumioImage>(*this);
+    if (width < 1 || height < 1) {
+        m_problem = QStringLiteral("A picture cannot be %1 x %2 pixels large").arg(width).arg(height);
+        return;
+    }
+    attempt([&] {
+        const Magick::Geometry size(static_cast<unsigned>(width), static_cast<unsigned>(height));
+        Magick::Image black(size, Magick::ColorRGB(0, 0, 0));
+        black.depth(sixteenBit ? 16 : 8);
+        m_image = black;
+    });
 }
 
-std::unique_ptr<IPicture> LumioImage::blank() const
+template <typename Step>
+bool LumioImage::attemptWithPixels(Step step)
 {
-    auto picture = std::make_unique<LumioImage>(width(), height(), is16Bit());
-    picture->takeMetadataOf(*this);
-    return picture;
+    return attempt([&] {
+        if (isNull()) {
+            m_problem = QStringLiteral("Image is not valid");
+            return;
+        }
+        m_image.modifyImage();
+        m_image.type(Magick::TrueColorType);
+        Magick::PixelPacket *pixels = m_image.getPixels(0, 0, m_image.columns(), m_image.rows());
+        if (pixels == nullptr) {
+            m_problem = QStringLiteral("The pixels cannot be reached");
+            return;
+        }
+        step(pixels, std::size_t{m_image.columns()} * m_image.rows());
+        m_image.syncPixels();
+    });
+}
+
+bool LumioImage::getPixels(void *buffer, bool alpha, bool sixteenBit)
+{
+    return attemptWithPixels([&](const Magick::PixelPacket *pixels, std::size_t count) {
+        if (sixteenBit) {
+            copySamples16Out(pixels, count, static_cast<std::uint16_t *>(buffer), alpha);
+        } else {
+            copySamples8Out(pixels, count, static_cast<std::uint8_t *>(buffer), alpha);
+        }
+    });
+}
+
+bool LumioImage::setPixels(const void *buffer, bool alpha, bool sixteenBit)
+{
+    return attemptWithPixels([&](Magick::PixelPacket *pixels, std::size_t count) {
+        if (sixteenBit) {
+            copySamples16In(static_cast<const std::uint16_t *>(buffer), count, pixels, alpha);
+        } else {
+            copySamples8In(static_cast<const std::uint8_t *>(buffer), count, pixels, alpha);
+        }
+    });
+}
+
+// Only true colour images are written with the depth asked for: GraphicsMagick gives grey and palette images as few or
+// as many bits as it likes. And an image that was read from a JPEG would go into a TIFF with JPEG compression.
+bool LumioImage::prepareForWriting()
+{
+    return attemptWithPixels([&](Magick::PixelPacket *pixels, std::size_t count) {
+        m_image.compressType(Magick::UndefinedCompression);
+        if (!is16Bit()) {
+            spreadHighBytes(pixels, count);
+        }
+    });
 }
 
 bool LumioImage::read(const QString &path)
@@ -151,12 +199,9 @@ void LumioImage::readFrom(const PictureFile &file, const QString &path)
     }
     const Metadata metadata(file.file(), file.format());
     Magick::Image fresh = firstPicture();
-    {
-        const HeapAhead memory(blocksFor(head, file));
-        m_warning = warningOf([&] { fresh.read(file.name()); });
-    }
+    m_warning = warningOf([&] { fresh.read(file.name()); });
     if (!fresh.isValid()) {
-        m_problem = m_warning.isEmpty() ? QStringLiteral("No picture in %1").arg(path) : warning();
+        m_problem = m_warning.isEmpty() ? QStringLiteral("No picture in %1").arg(path) : m_warning.english();
         return;
     }
     if (m_warning.isEmpty() && !metadata.isComplete()) {
@@ -167,8 +212,6 @@ void LumioImage::readFrom(const PictureFile &file, const QString &path)
     forgetMetadata(fresh);
     turnUpright(fresh, metadata.orientation());
     m_image = fresh;
-    m_packed.reset();
-    m_samples = Samples::AsRead;
     m_metadata = metadata;
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "graphics/files/Metadata.h"
-#include "graphics/image/IPicture.h"
 #include "graphics/Message.h"
 
 #include <Magick++.h>
@@ -11,7 +10,6 @@
 
 #include <cstddef>
 #include <exception>
-#include <memory>
 #include <string>
 
 namespace grisal::graphics
@@ -20,42 +18,63 @@ namespace grisal::graphics
 class PictureFile;
 class ReplacementFile;
 
-/// A picture of the image library's. The only place that touches image files.
-class LumioImage final : public IPicture
+/// An image file in memory, as GraphicsMagick holds it. The only class that reads and writes image files.
+///
+/// Pixels travel in interleaved buffers of the caller, rows from top to bottom without padding: R, G, B and, with the
+/// alpha option, a fourth component; 8-bit samples, or 16-bit samples in machine byte order. An 8-bit sample b that is
+/// copied in becomes the 16-bit sample b << 8; copied out, a 16-bit sample s becomes s >> 8.
+///
+/// Copies share their pixels until one of them changes. No operation but copying throws. Where one fails, it returns
+/// false, problem() contains the reason, and the image is as it was before. Nothing is written to the log.
+class LumioImage
 {
 public:
-    /// An empty picture: isNull().
+    /// An empty image: isNull().
     LumioImage();
-    /// A black picture of the given size and depth: 16 bits a channel, or 8. It takes memory only when it is used;
-    /// where there is none, that operation fails. isNull() where there is no such size.
+    /// A black image of the given size and depth, 16 or 8 bits a channel. isNull() where there is no such size or not
+    /// enough memory.
     LumioImage(int width, int height, bool sixteenBit);
 
-    std::unique_ptr<IPicture> copy() const override;
-    std::unique_ptr<IPicture> blank() const override;
+    /// Reads a JPEG, PNG or TIFF file, whatever its name, and of several images in it the first, in normalised
+    /// orientation, together with its metadata. The image is replaced only when the new one is good. A file that
+    /// GraphicsMagick reads with a warning, such as one cut short, counts as good; warning() then contains the warning.
+    /// A file that PictureFile rejects is not passed to GraphicsMagick at all.
+    bool read(const QString &path);
 
-    /// What PictureFile turns away is not given to the library at all.
-    bool read(const QString &path) override;
-    /// An existing file is replaced as ReplacementFile does it.
-    bool save(const QString &path, int quality) override;
+    /// Writes the image, without alpha, as true colour of its own depth, 8 or 16 bits a channel (JPEG always 8), with
+    /// its metadata. The format follows from the extension of `path`: .jpg, .jpeg, .png, .tif or .tiff. `quality` is
+    /// 0..100. An existing file is replaced atomically, see ReplacementFile. Where not all metadata fits into the
+    /// format, warning() reports it and the image is saved all the same. A null image is reported on standard output.
+    ///
+    /// Files with 8 bits a channel contain the high byte of every sample. The samples of an 8-bit image are spread for
+    /// that: 16-bit copies are b * 257 afterwards, as after reading.
+    bool save(const QString &path, int quality);
 
-    /// From now on the files that are written say about this picture what the file of `source` said about that one.
-    void takeMetadataOf(const LumioImage &source) { m_metadata = source.m_metadata; }
+    const Metadata &metadata() const { return m_metadata; }
+    /// Sets the metadata of the files that are written from now on.
+    void setMetadata(const Metadata &metadata) { m_metadata = metadata; }
 
-    bool isNull() const override;
-    bool is16Bit() const override;
-    int width() const override;
-    int height() const override;
+    bool isNull() const;
+    /// Whether the depth is 16 bits a channel. A file of more than 8 bits counts as 16.
+    bool is16Bit() const;
+    int width() const;
+    int height() const;
 
-    bool getPixels(void *buffer, bool alpha, bool sixteenBit) override;
-    bool setPixels(const void *buffer, bool alpha, bool sixteenBit) override;
-    void *roomForPixels() override;
-    bool pack() override;
-    const void *packedPixels() const override { return m_packed.get(); }
+    /// Copies all pixels out into width * height * (3 or 4) components and makes the image true colour. The fourth
+    /// component is GraphicsMagick's opacity, of which an 8-bit buffer gets the low byte.
+    bool getPixels(void *buffer, bool alpha, bool sixteenBit);
 
-    std::string info() const override;
-    QString problem() const override { return m_problem; }
-    QString warning() const override { return m_warning.english(); }
-    QString translatedWarning() const override { return m_warning.translated(); }
+    /// Copies all pixels in from such a buffer and makes the image true colour. Without alpha the opacity becomes 255
+    /// (8-bit samples) or 65535 (16-bit samples).
+    bool setPixels(const void *buffer, bool alpha, bool sixteenBit);
+
+    /// A description for the log, several lines.
+    std::string info() const;
+
+    /// Why the last operation failed; empty if it did not.
+    QString problem() const { return m_problem; }
+    /// What was wrong with the last operation although it gave a result; empty otherwise.
+    const Message &warning() const { return m_warning; }
 
 private:
     template <typename Step>
@@ -75,30 +94,12 @@ private:
     bool attemptWithPixels(Step step);
     void readFrom(const PictureFile &file, const QString &path);
     bool prepareForWriting();
-    std::size_t pixelCount() const;
-    bool hasLibraryPixels() const;
-    void forgetLibraryPixels();
-    Magick::PixelPacket *libraryPixels();
-    bool fill();
-    bool putIn(const void *buffer, bool alpha, bool sixteenBit);
-    bool takeOut(void *buffer, bool alpha, bool sixteenBit);
     void writeTo(ReplacementFile &target, const QString &path, int quality);
     Message writePixels(const std::string &name);
     void writeMetadata(const OpenFile &file, PictureFormat format, const std::string &name);
     void nameInMessages(int descriptor, const QString &path);
 
-    /// Where the library's samples come from.
-    enum class Samples {
-        AsRead,    ///< from a file, or words that were put in
-        FromBytes, ///< bytes b that were put in: they stand there as b * 257, and as words b << 8 is told
-        Blank,     ///< nobody has put any in; the library has none yet
-        Room,      ///< nobody has put any in; the library's memory is lent as a buffer
-        Packed,    ///< they are in m_packed; the library has none
-    };
-
     Magick::Image m_image;
-    Samples m_samples = Samples::AsRead;
-    std::shared_ptr<const std::byte[]> m_packed;
     Metadata m_metadata;
     QString m_problem;
     Message m_warning;

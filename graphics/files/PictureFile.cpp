@@ -22,7 +22,6 @@ namespace
 
 constexpr std::uint64_t largestTrustedPicture = 90'000'000;
 constexpr std::uint64_t mostPixelsPerByte = 200;
-constexpr std::uint64_t likelyPixelsPerByte = 40;
 
 // A PNG file is a row of chunks: the length of the contents, four letters, the contents, a checksum.
 constexpr int chunkHeadLength = 8;
@@ -126,11 +125,6 @@ bool PictureFile::hasAbsurdTexts() const
 bool PictureFile::canHold(std::uint64_t pixels) const
 {
     return pixels <= largestTrustedPicture || pixels / mostPixelsPerByte <= m_size;
-}
-
-bool PictureFile::isLikelyToHold(std::uint64_t pixels) const
-{
-    return pixels / likelyPixelsPerByte <= m_size;
 }
 
 bool endsAsItShould(const OpenFile &file, PictureFormat format)

@@ -39,10 +39,6 @@ public:
     /// megapixels, which take up to a gigabyte, are taken at their word.
     bool canHold(std::uint64_t pixels) const;
 
-    /// Whether a photograph of that many pixels is mostly in a file of this size or a larger one. Where it is not, the
-    /// file may well be refused while it is read.
-    bool isLikelyToHold(std::uint64_t pixels) const;
-
 private:
     void open(const QString &path);
     void look(const QString &path);

@@ -9,29 +9,20 @@
 namespace grisal::graphics
 {
 
-/// Copies between the image library's pixels, four samples of 16 bits each, and interleaved buffers: R, G, B and, with
-/// `alpha`, the library's opacity as a fourth component.
-///
-/// A byte b stands in the library as b * 257, which is what the library writes to files of 8 bits as b.
+/// Copies between GraphicsMagick's pixels, four samples of 16 bits each, and interleaved buffers of `count` pixels:
+/// R, G, B and, with `alpha`, the opacity as a fourth component.
 
-/// Takes the high bytes of the colours, and of the opacity the low one.
-void copyBytesOut(const Magick::PixelPacket *pixels, std::size_t count, std::uint8_t *target, bool alpha);
-void copyWordsOut(const Magick::PixelPacket *pixels, std::size_t count, std::uint16_t *target, bool alpha);
+/// Copies the high byte of the colours, and the low byte of the opacity.
+void copySamples8Out(const Magick::PixelPacket *pixels, std::size_t count, std::uint8_t *target, bool alpha);
+void copySamples16Out(const Magick::PixelPacket *pixels, std::size_t count, std::uint16_t *target, bool alpha);
 
-/// Copies in; without alpha the source may begin where the pixels do, in the same memory.
-///
-/// The opacity is the fourth component as it is; without one, 255.
-void copyBytesIn(const std::uint8_t *source, std::size_t count, Magick::PixelPacket *pixels, bool alpha);
-/// The opacity is the fourth component; without one, 65535.
-void copyWordsIn(const std::uint16_t *source, std::size_t count, Magick::PixelPacket *pixels, bool alpha);
+/// An 8-bit sample b becomes b << 8. The opacity is the fourth component as it is, without one 255.
+void copySamples8In(const std::uint8_t *source, std::size_t count, Magick::PixelPacket *pixels, bool alpha);
+/// The opacity is the fourth component, without one 65535.
+void copySamples16In(const std::uint16_t *source, std::size_t count, Magick::PixelPacket *pixels, bool alpha);
 
-/// Leaves of every colour the high byte.
-void keepHighBytes(std::uint16_t *words, std::size_t count, bool alpha);
-
-/// Copies bytes or words into a buffer of bytes or words: a byte b is the word b << 8, and the other way round.
-void unpack(const void *packed, bool fromWords, std::size_t count, void *buffer, bool toWords);
-
-/// Makes b * 257 of every sample's high byte b.
-void spreadBytes(Magick::PixelPacket *pixels, std::size_t count);
+/// Makes every colour sample with the high byte b the value b * 257, which GraphicsMagick writes as b to files with 8
+/// bits a channel.
+void spreadHighBytes(Magick::PixelPacket *pixels, std::size_t count);
 
 } // namespace grisal::graphics

@@ -166,13 +166,6 @@ PreviewPixels makePreviewPixels(const void *pixels, int width, int height, bool 
     return preview;
 }
 
-std::size_t previewMemory(int width, int height)
-{
-    constexpr std::size_t texture = 4;
-    const int halvings = halvingsOf(width, height);
-    return (length(width) >> halvings) * (length(height) >> halvings) * (rgb + 3 * texture);
-}
-
 PreviewPixels halved(const PreviewPixels &pixels)
 {
     if (!pixels.data()) {

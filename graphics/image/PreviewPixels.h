@@ -29,10 +29,6 @@ int roundedPreviewSide(int side);
 /// side is longer than maxPreviewSide. `pixels` has 3 components a pixel, 4 with `alpha`; the fourth is dropped.
 PreviewPixels makePreviewPixels(const void *pixels, int width, int height, bool sixteenBit, bool alpha);
 
-/// About as many bytes as the preview of a picture takes until it is on the screen, as bytes, with the three textures
-/// that a driver on the processor has for it.
-std::size_t previewMemory(int width, int height);
-
 /// Half the size: each pixel is the mean of 2 x 2, rounded to nearest. A last odd row or column is dropped; a side of
 /// 1 stays 1.
 PreviewPixels halved(const PreviewPixels &pixels);

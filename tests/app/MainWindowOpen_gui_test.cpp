@@ -44,16 +44,6 @@ TEST_F(MainWindowOpen, APictureIsShownUnderItsNameAndSize)
     EXPECT_EQ(preview().previewHeight(), 200);
 }
 
-TEST_F(MainWindowOpen, WithoutThePartForImageFilesItIsSaidWhatToDo)
-{
-    grisal::ui::MainWindow broken([] { return nullptr; });
-    const QString path = makePicture(QStringLiteral("a.png"), 8, 4);
-    const MessageBoxAnswer box(QMessageBox::Ok);
-    broken.openImage(path);
-    EXPECT_EQ(box.text, "Cannot load " + path + ".");
-    EXPECT_TRUE(box.informativeText.endsWith("please install it again."));
-}
-
 TEST_F(MainWindowOpen, NamesWithPercentSignsAreShownAsTheyAre)
 {
     start();

@@ -75,7 +75,7 @@ protected:
         if (player) {
             trigger(*player, "actionQuit");
         }
-        player = std::make_unique<grisal::ui::MainWindow>(newPicture);
+        player = std::make_unique<grisal::ui::MainWindow>();
         player->resize(700 + below(300), 560 + below(200));
         player->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(player.get()));

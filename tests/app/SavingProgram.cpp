@@ -3,7 +3,6 @@
 // with grain and without by turns, as often as its third says. Tells each save's start on its standard output.
 #include "app/MainWindow.h"
 #include "graphics/gl/SurfaceFormat.h"
-#include "tests/app/NewPicture.h"
 
 #include <QAction>
 #include <QApplication>
@@ -15,7 +14,7 @@ int main(int argc, char **argv)
     grisal::graphics::setDefaultSurfaceFormat();
     const QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    grisal::ui::MainWindow window(grisal::test::newPicture);
+    grisal::ui::MainWindow window;
     window.show();
     QApplication::processEvents();
     window.openImage(arguments.at(1));

@@ -89,21 +89,21 @@ TEST_F(TranslationTest, MenusAreGermanWhileTheTranslationLives)
 {
     {
         const Translation translation{QLocale(QLocale::German)};
-        EXPECT_EQ(menusOf(grisal::ui::MainWindow(newPicture)), "Datei Bearbeiten Ansicht Filter Hilfe");
+        EXPECT_EQ(menusOf(grisal::ui::MainWindow()), "Datei Bearbeiten Ansicht Filter Hilfe");
     }
-    EXPECT_EQ(menusOf(grisal::ui::MainWindow(newPicture)), "File Edit View Filter Help");
+    EXPECT_EQ(menusOf(grisal::ui::MainWindow()), "File Edit View Filter Help");
 }
 
 TEST_F(TranslationTest, MenusAreFrenchForFrench)
 {
     const Translation translation{QLocale(QLocale::French, QLocale::Canada)};
-    EXPECT_EQ(menusOf(grisal::ui::MainWindow(newPicture)), "Fichier Édition Affichage Filtres Aide");
+    EXPECT_EQ(menusOf(grisal::ui::MainWindow()), "Fichier Édition Affichage Filtres Aide");
 }
 
 TEST_F(TranslationTest, MenusAreEnglishInALanguageWithoutACatalogue)
 {
     const Translation translation{QLocale(QLocale::Dutch)};
-    EXPECT_EQ(menusOf(grisal::ui::MainWindow(newPicture)), "File Edit View Filter Help");
+    EXPECT_EQ(menusOf(grisal::ui::MainWindow()), "File Edit View Filter Help");
     FileDealer dealer;
     EXPECT_EQ(toolkitButtonOf(Preferences(dealer), QDialogButtonBox::Close), "Close");
 }
@@ -120,7 +120,7 @@ TEST_F(TranslationTest, TheToolkitSpeaksTheSameLanguage)
 TEST_F(TranslationTest, TextsInTheSourcesAreTranslatedLikeThoseInTheForms)
 {
     const Translation translation{QLocale(QLocale::German)};
-    const grisal::ui::MainWindow window(newPicture);
+    const grisal::ui::MainWindow window;
     EXPECT_EQ(window.findChild<QToolBar *>()->accessibleName(), QStringLiteral("Filter"));
     EXPECT_EQ(child<grisal::ui::GLWidget>(window, "glWidgetPreview").spokenValue(), QStringLiteral("Kein Bild"));
     EXPECT_EQ(grisal::graphics::Message("The graphics driver does not start OpenGL.").translated(),
@@ -161,7 +161,7 @@ protected:
 TEST_P(TranslatedWindow, HasTheShortcutsAndFilmsOfTheEnglishOne)
 {
     translation.reset();
-    const grisal::ui::MainWindow english(newPicture);
+    const grisal::ui::MainWindow english;
     ASSERT_EQ(menusOf(english), "File Edit View Filter Help");
     ASSERT_NE(menusOf(window), menusOf(english));
     EXPECT_GT(shortcutsOf(english).size(), 15U);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "app/MainWindow.h"
-#include "tests/app/NewPicture.h"
 #include "tests/support/GlPresence.h"
 #include "tests/support/GuiTest.h"
 
@@ -62,7 +61,7 @@ protected:
 
     QAction &action(const char *name) { return child<QAction>(window, name); }
 
-    ui::MainWindow window{newPicture};
+    ui::MainWindow window;
 };
 
 } // namespace grisal::test

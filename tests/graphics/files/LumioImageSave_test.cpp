@@ -206,6 +206,20 @@ TEST_F(LumioImageSaveTest, KeepsThePixels)
     EXPECT_EQ(wordsOf(wordImage), words);
 }
 
+// Only images of 8 bits are spread: 16 bits are saved as they are.
+TEST_F(LumioImageSaveTest, Writes8BitSamplesOfA16BitImageAsHighBytes)
+{
+    LumioImage image(2, 1, true);
+    ASSERT_TRUE(image.setPixels(Bytes{0, 1, 127, 128, 254, 255}.data(), false, false));
+    const Words highBytes{0, 1 << 8, 127 << 8, 128 << 8, 254 << 8, 255 << 8};
+    EXPECT_EQ(wordsOf(image), highBytes);
+    for (const char *name : {"a.png", "a.tif"}) {
+        ASSERT_TRUE(image.save(path(name), quality));
+        EXPECT_EQ(bitsPerChannel(path(name)), 16) << name;
+        EXPECT_EQ(samplesOf(path(name)), highBytes) << name;
+    }
+}
+
 TEST_F(LumioImageSaveTest, DropsTheAlphaOfItsSource)
 {
     Magick::Image clear = painted(2, 2, 8, [](int, int) -> Samples { return {0xffff, 0x8080, 0}; });

@@ -91,15 +91,15 @@ TEST(LumioImageTest, IsBlackUntilPixelsArePutIn)
     }
 }
 
-TEST(LumioImageTest, CanBeMadeLargerThanTheMemory)
+TEST(LumioImageTest, IsNullWhenMadeLargerThanTheMemory)
 {
     constexpr int longest = 1'000'000;
     LumioImage image(longest, longest, true);
+    EXPECT_TRUE(image.isNull());
+    EXPECT_FALSE(image.problem().isEmpty());
     std::uint8_t untouched = 77;
     EXPECT_FALSE(image.getPixels(&untouched, false, false));
-    EXPECT_FALSE(image.problem().isEmpty());
     EXPECT_FALSE(image.setPixels(&untouched, false, false));
-    EXPECT_FALSE(image.problem().isEmpty());
     EXPECT_EQ(untouched, 77);
 }
 

@@ -45,7 +45,7 @@ struct MetadataTest : testing::Test {
         EXPECT_TRUE(image.read(source)) << image.problem().toStdString();
         LumioImage output = image.is16Bit() ? pictureOf(wordsOf(image), image.width(), image.height())
                                             : pictureOf(bytesOf(image), image.width(), image.height());
-        output.takeMetadataOf(image);
+        output.setMetadata(image.metadata());
         testing::internal::CaptureStderr();
         EXPECT_TRUE(output.save(target, quality)) << output.problem().toStdString();
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "");

@@ -146,13 +146,6 @@ TEST_F(PictureFileTest, MayHoldAsManyPixelsAsAPhotographOfItsSize)
     EXPECT_FALSE(large.canHold(300'000'000));
 }
 
-TEST_F(PictureFileTest, IsLikelyToHoldAsManyPixelsAsMostPhotographsOfItsSize)
-{
-    const PictureFile file(fileOf("a.jpg", jpeg + QByteArray(1'000'000, '\0')));
-    EXPECT_TRUE(file.isLikelyToHold(40'000'000));
-    EXPECT_FALSE(file.isLikelyToHold(41'000'000));
-}
-
 TEST_F(PictureFileTest, EndsAsItsFormatDoesWhenItIsWhole)
 {
     const auto ends = [this](PictureFormat format, const QByteArray &contents) {

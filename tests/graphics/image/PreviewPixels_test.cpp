@@ -184,10 +184,4 @@ TEST(PreviewPixelsTest, HalvesASingleRowOrColumnByPairs)
     EXPECT_EQ(half(1, 1, {1, 2, 3}).bytes, (Bytes{1, 2, 3}));
 }
 
-TEST(PreviewPixelsTest, TellsTheMemoryOfAPreviewAndItsTextures)
-{
-    EXPECT_EQ(previewMemory(300, 200), 300U * 200 * (3 + 3 * 4));
-    EXPECT_EQ(previewMemory(12000, 8000), 3000U * 2000 * (3 + 3 * 4));
-}
-
 } // namespace

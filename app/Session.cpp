@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "app/Session.h"
+
+#include "graphics/files/LumioImage.h"
+
+#include <QFile>
+
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <stdexcept>
+
+namespace grisal
+{
+
+namespace
+{
+
+using graphics::Image;
+using graphics::LumioImage;
+using graphics::Raster;
+
+constexpr int saveQuality = 90;
+
+bool isKnownToBeMissing(const QString &path)
+{
+    struct stat status {
+    };
+    return lstat(QFile::encodeName(path).constData(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
+template <typename Sample>
+Image imageOf(LumioImage &file)
+{
+    Raster<Sample> image(file.width(), file.height());
+    if (!file.getPixels(image.samples.data(), false, file.is16Bit())) {
+        throw std::runtime_error(file.problem().toStdString());
+    }
+    return image;
+}
+
+Session::PicturePointer pictureOf(LumioImage &file)
+{
+    Image image = file.is16Bit() ? imageOf<std::uint16_t>(file) : imageOf<std::uint8_t>(file);
+    return std::make_shared<Picture>(Picture{std::move(image), file.metadata(), file.info()});
+}
+
+void logProblems(const LumioImage &file)
+{
+    if (!file.problem().isEmpty()) {
+        qWarning("%s", qPrintable(file.problem()));
+    }
+    if (!file.warning().isEmpty()) {
+        qWarning("%s", qPrintable(file.warning().english()));
+    }
+}
+
+} // namespace
+
+Session::PicturePointer Session::read(const QString &path)
+{
+    m_warning = {};
+    try {
+        LumioImage file;
+        const bool good = file.read(path);
+        logProblems(file);
+        if (!good && !isKnownToBeMissing(path)) {
+            return nullptr;
+        }
+        const bool again = !good && m_picture;
+        qDebug("%s", again ? m_picture->info.c_str() : file.info().c_str());
+        m_warning = file.warning();
+        return good ? pictureOf(file) : m_picture;
+    } catch (const std::exception &problem) {
+        // Not enough memory for the picture.
+        qWarning("%s", problem.what());
+        return nullptr;
+    }
+}
+
+bool Session::write(Image image, const QString &path)
+{
+    m_warning = {};
+    const bool sixteenBit = is16Bit(image);
+    LumioImage file = std::visit(
+        [&](auto &raster) {
+            LumioImage made(raster.width, raster.height, sixteenBit);
+            made.setPixels(raster.samples.data(), false, sixteenBit);
+            raster = {};
+            return made;
+        },
+        image);
+    if (m_picture) {
+        file.setMetadata(m_picture->metadata);
+    }
+    if (!file.save(path, saveQuality)) {
+        qWarning("Cannot save %s: %s", qPrintable(path), qPrintable(file.problem()));
+        return false;
+    }
+    m_warning = file.warning();
+    logProblems(file);
+    return true;
+}
+
+} // namespace grisal

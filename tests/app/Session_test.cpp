@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "app/Session.h"
+#include "tests/graphics/files/PictureFiles.h"
+#include "tests/support/ClosedFolder.h"
+#include "tests/support/LogCapture.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace grisal::test;
+using grisal::Session;
+using grisal::graphics::Image16;
+using grisal::graphics::Image8;
+
+namespace
+{
+
+struct SessionTest : testing::Test {
+    QString path(const QString &name) const { return directory.filePath(name); }
+
+    QString makePicture(const QString &name, int depth)
+    {
+        painted(4, 2, depth, [](int x, int y) -> Samples {
+            return {static_cast<std::uint16_t>(x * 257 * 60), static_cast<std::uint16_t>(y * 0x0101), 0xffff};
+        }).write(path(name).toStdString());
+        return path(name);
+    }
+
+    void open(const QString &file) { session.setPicture(session.read(file)); }
+
+    const QTemporaryDir directory;
+    LogCapture log;
+    Session session;
+};
+
+TEST_F(SessionTest, ReadsAPictureAtTheDepthOfItsFile)
+{
+    const auto picture8 = session.read(makePicture("a.png", 8));
+    ASSERT_TRUE(picture8);
+    const auto *image8 = std::get_if<Image8>(&picture8->image);
+    ASSERT_NE(image8, nullptr);
+    EXPECT_EQ(image8->width, 4);
+    EXPECT_EQ(image8->height, 2);
+    EXPECT_EQ(Bytes(image8->samples.begin(), image8->samples.begin() + 6), (Bytes{0, 0, 255, 60, 0, 255}));
+
+    const auto picture16 = session.read(makePicture("a.tif", 16));
+    ASSERT_TRUE(picture16);
+    EXPECT_EQ(std::get<Image16>(picture16->image).samples, samplesOf(path("a.tif")));
+}
+
+TEST_F(SessionTest, LogsTheDescriptionOfThePicture)
+{
+    ASSERT_TRUE(session.read(makePicture("a.png", 8)));
+    EXPECT_TRUE(log.contains("  width :     4\n  height:     2\n  depth:      8"));
+}
+
+TEST_F(SessionTest, LeavesTheOpenPictureToItsOwner)
+{
+    open(makePicture("a.png", 8));
+    const auto before = session.picture();
+    ASSERT_TRUE(session.read(makePicture("b.png", 8)));
+    EXPECT_EQ(session.picture(), before);
+}
+
+TEST_F(SessionTest, ReturnsTheOpenPictureForAMissingFile)
+{
+    EXPECT_FALSE(session.read(path("missing.png")));
+    open(makePicture("a.png", 8));
+    EXPECT_EQ(session.read(path("missing.png")), session.picture());
+    EXPECT_EQ(session.read(path("a.png/missing.png")), session.picture());
+    EXPECT_EQ(log.warnings().size(), 3);
+}
+
+TEST_F(SessionTest, ReturnsNothingForAFileThatIsNoPicture)
+{
+    open(makePicture("a.png", 8));
+    writeFile(path("rubbish.png"), "no picture at all");
+    EXPECT_FALSE(session.read(path("rubbish.png")));
+    EXPECT_EQ(log.warnings().size(), 1);
+}
+
+// It may well be there: to show the open picture under its name would have the wrong file replaced by the next save.
+TEST_F(SessionTest, ReturnsNothingForAFileThatCannotBeExamined)
+{
+    open(makePicture("a.png", 8));
+    ASSERT_TRUE(QDir(directory.path()).mkdir("closed"));
+    {
+        const ClosedFolder closed(path("closed"));
+        EXPECT_FALSE(session.read(path("closed/b.png")));
+    }
+    EXPECT_FALSE(session.read(path(QString(1000, QLatin1Char('x')) + ".png")));
+}
+
+TEST_F(SessionTest, WritesTheVerySamplesOfAnImage)
+{
+    Image8 image8(2, 1);
+    image8.samples = {0, 1, 127, 128, 254, 255};
+    ASSERT_TRUE(session.write(image8, path("a.png")));
+    EXPECT_EQ(bitsPerChannel(path("a.png")), 8);
+    EXPECT_EQ(samplesOf(path("a.png")), (Words{0, 257, 127 * 257, 128 * 257, 254 * 257, 65535}));
+
+    Image16 image16(2, 1);
+    image16.samples = {0, 1, 255, 256, 65534, 65535};
+    ASSERT_TRUE(session.write(image16, path("a.tif")));
+    EXPECT_EQ(bitsPerChannel(path("a.tif")), 16);
+    EXPECT_EQ(samplesOf(path("a.tif")), image16.samples);
+}
+
+TEST_F(SessionTest, LogsWhyAFileCannotBeWritten)
+{
+    EXPECT_FALSE(session.write(Image8(2, 1), path("nowhere/a.png")));
+    ASSERT_EQ(log.warnings().size(), 1);
+    EXPECT_TRUE(log.warnings().first().startsWith("Cannot save " + path("nowhere/a.png")));
+}
+
+TEST_F(SessionTest, WarnsOfAFileThatIsCutShort)
+{
+    const QString file = path("a.jpg");
+    painted(64, 64, 8, [](int x, int y) {
+        return Samples{0, std::uint16_t(x * 999), std::uint16_t(y * 999)};
+    }).write(file.toStdString());
+    const QByteArray whole = contentsOf(file);
+    writeFile(file, whole.left(whole.size() / 2));
+    ASSERT_TRUE(session.read(file));
+    EXPECT_FALSE(session.warning().isEmpty());
+    ASSERT_TRUE(session.read(makePicture("b.png", 8)));
+    EXPECT_TRUE(session.warning().isEmpty());
+}
+
+} // namespace
