@@ -1,8 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/document/FlexibleDocumentView.h"
 
+#include <cmath>
+
 namespace grisal::graphics
 {
+
+namespace
+{
+
+/// The offset at which the image is drawn. At scale 1 its edge lies at a whole device pixel: between two of them,
+/// rows and columns would be drawn twice or not at all.
+float drawnOffset(float offset, float scale, int imageSide)
+{
+    const float half = static_cast<float>(imageSide) * 0.5F;
+    return scale == 1.0F ? std::floor(offset - half + 0.5F) + half : offset;
+}
+
+} // namespace
 
 FlexibleDocumentView::FlexibleDocumentView(float viewportWidth, float viewportHeight, float imageWidth,
                                            float imageHeight, GLenum internalFormat, GLenum pixelFormat,
@@ -23,7 +38,7 @@ void FlexibleDocumentView::setup()
 
     glMatrixMode(GL_MODELVIEW);
     glLoadIdentity();
-    glTranslatef(m_offsetX, m_offsetY, 0);
+    glTranslatef(drawnOffset(m_offsetX, m_scale, m_imageWidth), drawnOffset(m_offsetY, m_scale, m_imageHeight), 0);
     // Flat on purpose: the picture has no depth to scale.
     glScalef(m_scale, m_scale, 0);
     glTranslatef(static_cast<float>(-m_imageWidth) * 0.5F, static_cast<float>(-m_imageHeight) * 0.5F, 0);

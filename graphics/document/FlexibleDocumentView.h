@@ -8,7 +8,8 @@ namespace grisal::graphics
 
 /// A view that pans and zooms. A picture point (x, y), y counted upwards from the bottom of the drawn quad, lands at
 /// offset + scale * (point - picture size / 2), in device pixels from the bottom left of the viewport: the offset is
-/// where the middle of the picture lies, the scale is device pixels per picture pixel.
+/// where the middle of the picture lies, the scale is device pixels per picture pixel. At scale 1 the picture is drawn at
+/// whole device pixels, half a pixel beside the offset at the most.
 class FlexibleDocumentView : public DocumentView
 {
 public:

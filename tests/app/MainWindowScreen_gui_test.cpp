@@ -78,6 +78,15 @@ TEST_F(MainWindowScreen, AnOpenedPictureIsOnTheScreen)
     EXPECT_TRUE(picturesNear("screen", showRamp(), centredRamp()));
 }
 
+// Its middle lies between two pixels then.
+TEST_F(MainWindowScreen, APreviewOfOddHeightShowsEveryRowOnce)
+{
+    startEven();
+    window.resize(window.width(), window.height() + 1);
+    ASSERT_EQ(preview().height() % 2, 1);
+    EXPECT_TRUE(picturesNear("screen", showRamp(), centredRamp()));
+}
+
 TEST_F(MainWindowScreen, PicturesOfOneToThreePixelsAreOnTheScreen)
 {
     start();

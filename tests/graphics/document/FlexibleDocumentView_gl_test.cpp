@@ -2,10 +2,12 @@
 #include "graphics/document/FlexibleDocumentView.h"
 
 #include "graphics/document/Document.h"
+#include "graphics/gl/Textures.h"
 #include "tests/support/FilterRun.h"
 #include "tests/support/GlTest.h"
 
 #include <array>
+#include <cmath>
 #include <memory>
 #include <utility>
 
@@ -56,6 +58,26 @@ std::pair<double, double> landing(double x, double y)
     double windowZ = 0;
     gluProject(x, y, 0, modelView.data(), projection.data(), viewport().data(), &windowX, &windowY, &windowZ);
     return {windowX, windowY};
+}
+
+/// Draws the texture over the image's quad, its first row at the bottom.
+void drawTexture(GLuint texture, int width, int height)
+{
+    glEnable(GL_TEXTURE_2D);
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glColor3f(1, 1, 1);
+    glBegin(GL_QUADS);
+    glTexCoord2i(0, 0);
+    glVertex2i(0, 0);
+    glTexCoord2i(0, 1);
+    glVertex2i(0, height);
+    glTexCoord2i(1, 1);
+    glVertex2i(width, height);
+    glTexCoord2i(1, 0);
+    glVertex2i(width, 0);
+    glEnd();
+    glBindTexture(GL_TEXTURE_2D, 0);
+    glDisable(GL_TEXTURE_2D);
 }
 
 } // namespace
@@ -180,6 +202,62 @@ TEST_F(FlexibleDocumentViewTest, TheDrawnPictureCoversThosePixels)
     EXPECT_EQ(pixels.at(85, 39, 0), 0);
     EXPECT_EQ(pixels.at(115, 59, 0), 0);
     EXPECT_EQ(pixels.at(114, 60, 0), 0);
+}
+
+// Between two device pixels, rows and columns would be drawn twice or not at all.
+TEST_F(FlexibleDocumentViewTest, EveryPixelIsDrawnOnceAtOneToOneWhereverTheViewIs)
+{
+    constexpr int width = 30;
+    constexpr int height = 20;
+    BytePixels image(width, height);
+    for (int i = 0; i < width * height; ++i) {
+        image.at(i % width, i / width, 0) = static_cast<std::uint8_t>(1 + i % width * 8);
+        image.at(i % width, i / width, 1) = static_cast<std::uint8_t>(1 + i / width * 12);
+    }
+    const graphics::Texture texture(
+        graphics::createTexture(width, height, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE, image.values.data()));
+    const RenderTarget screen(201, 101, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+    FlexibleDocumentView view = smallView();
+    for (const auto &[x, y] : {std::pair{100.0F, 50.0F},
+                               {100.5F, 50.5F},
+                               {100.0F, 50.5F},
+                               {60.25F, 41.75F},
+                               {60.49F, 41.51F},
+                               {60.999F, 41.001F}}) {
+        view.setViewportSize(201, 101);
+        view.setOffset(x, y);
+        view.setup();
+        glBindFramebuffer(GL_FRAMEBUFFER, screen.record().framebuffer);
+        glClear(GL_COLOR_BUFFER_BIT);
+        drawTexture(texture.name(), width, height);
+
+        const BytePixels drawn = readBytes(screen.record(), 201, 101);
+        const int left = static_cast<int>(std::floor(x - 15 + 0.5F));
+        const int bottom = static_cast<int>(std::floor(y - 10 + 0.5F));
+        int wrong = 0;
+        for (int i = 0; i < width * height; ++i) {
+            for (const int c : {0, 1}) {
+                wrong += drawn.at(left + i % width, bottom + i / width, c) != image.at(i % width, i / width, c);
+            }
+        }
+        EXPECT_EQ(wrong, 0) << "offset " << x << ", " << y;
+        EXPECT_EQ(drawn.at(left - 1, bottom, 0), 0);
+        EXPECT_EQ(drawn.at(left + width, bottom + height - 1, 0), 0);
+        // What is asked for stays as it was.
+        EXPECT_EQ(view.offsetX(), x);
+        EXPECT_EQ(view.offsetY(), y);
+    }
+}
+
+TEST_F(FlexibleDocumentViewTest, OtherScalesAreDrawnAtTheOffsetItself)
+{
+    FlexibleDocumentView view = smallView();
+    view.setOffset(70.25F, 40.5F);
+    view.setScale(2);
+    view.setup();
+    const auto [x, y] = landing(15, 10);
+    EXPECT_NEAR(x, 70.25, 1e-4);
+    EXPECT_NEAR(y, 40.5, 1e-4);
 }
 
 TEST_F(FlexibleDocumentViewTest, CentringTakesHalfTheViewport)
