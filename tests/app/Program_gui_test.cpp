@@ -65,6 +65,7 @@ protected:
 
     const QTemporaryDir home;
     QProcess process;
+    QByteArray console;
 };
 
 TEST_F(Program, ShowsAGreyPictureAtItsStart)
@@ -117,9 +118,29 @@ TEST_F(Program, TellsThatThereIsNoOpenGLAndDoesNotCrash)
     setEnvironment(QStringLiteral("QT_XCB_GL_INTEGRATION"), QStringLiteral("none"));
     start();
     ASSERT_TRUE(waitForLog("Critical: There is no OpenGL on this display."));
+    const auto isOnTheConsole = [this] {
+        console += process.readAllStandardError();
+        return console.startsWith("There is no OpenGL on this display.\nGrisal needs OpenGL");
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isOnTheConsole, 10000)) << console.toStdString();
     QTest::qWait(1000);
     EXPECT_EQ(process.state(), QProcess::Running) << "it should wait for an answer to its message box";
     end();
+}
+
+TEST_F(Program, NamesAMissingDisplayOnTheConsoleAndEndsWithStatus1)
+{
+    QProcessEnvironment environment = process.processEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":98765"));
+    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    process.setProcessEnvironment(environment);
+    start();
+    ASSERT_TRUE(process.waitForFinished(10000));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 1);
+    const QByteArray said = process.readAllStandardError();
+    EXPECT_TRUE(said.contains("there is no display that can be reached")) << said.toStdString();
+    EXPECT_TRUE(logged().contains("Fatal: ")) << logged().toStdString();
 }
 
 } // namespace

@@ -118,8 +118,8 @@ TEST_F(SessionTest, LogsWhyAFileCannotBeWritten)
 TEST_F(SessionTest, WarnsOfAFileThatIsCutShort)
 {
     const QString file = path("a.jpg");
-    painted(64, 64, 8, [](int x, int y) {
-        return Samples{0, std::uint16_t(x * 999), std::uint16_t(y * 999)};
+    painted(64, 64, 8, [](int x, int y) -> Samples {
+        return {static_cast<std::uint16_t>(x * y * 999), static_cast<std::uint16_t>(x * 9999), 0};
     }).write(file.toStdString());
     const QByteArray whole = contentsOf(file);
     writeFile(file, whole.left(whole.size() / 2));
