@@ -4,6 +4,23 @@
 namespace grisal::graphics
 {
 
+namespace
+{
+
+/// A centre in percent of `side` as seen from the pixel `offset`: centre - 100 * offset / side. The shader computes
+/// side * 0.01 * centre in floats; the rounded position that it gets for the whole is the one that is moved.
+float movedCentre(float centre, int offset, int side)
+{
+    if (offset == 0) {
+        return centre;
+    }
+    const float pixelsPerPercent = static_cast<float>(side) * 0.01F;
+    const float position = pixelsPerPercent * centre;
+    return (position - static_cast<float>(offset)) / pixelsPerPercent;
+}
+
+} // namespace
+
 FinalVignetteFilter::FinalVignetteFilter()
     : IFilter("FinalVignetteFilter"), m_program("FinalBWVignette", "FinalVignetteFilter")
 {
@@ -16,9 +33,11 @@ void FinalVignetteFilter::apply(GLuint, const FramebufferObject &target)
 
 void FinalVignetteFilter::applyPart(int x, int y, int partWidth, int partHeight, const FramebufferObject &target)
 {
+    VignetteParameters moved = parameters;
+    moved.center.x = movedCentre(parameters.center.x, x, width);
+    moved.center.y = movedCentre(parameters.center.y, y, height);
     const ShaderProgram &program = m_program;
-    setVignetteUniforms(program, parameters, width, height, maxWidth, maxHeight);
-    setUniform3f(program, "Origin", static_cast<float>(x), static_cast<float>(y), 0);
+    setVignetteUniforms(program, moved, width, height, maxWidth, maxHeight);
     renderToFramebuffer(partWidth, partHeight, program.program, target);
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
 }

@@ -3,16 +3,14 @@
 //   VignetteCenter       x and y in percent of Width and Height
 //   Strength             percent; 0 gives an empty mask
 //   Radius               percent of the mean of Width and Height: where the strength is reached
-//   Width, Height        size of the mask in pixels
+//   Width, Height        size of the whole mask in pixels, also where a pass draws a piece of it
 //   MaxWidth, MaxHeight  not used
-//   Origin               x and y, in pixels of the mask, of the first pixel that is drawn
 
 uniform float Width;
 uniform float Height;
 uniform float MaxWidth;
 uniform float MaxHeight;
 uniform vec3 VignetteCenter;
-uniform vec3 Origin;
 uniform float Strength;
 uniform float Radius;
 
@@ -38,7 +36,7 @@ void main()
 {
     float vignetteValue = 0.0;
     if (Strength > 0.0) {
-        vec2 currentPosition = vec2(gl_FragCoord.x + Origin.x, gl_FragCoord.y + Origin.y);
+        vec2 currentPosition = vec2(gl_FragCoord.x, gl_FragCoord.y);
         vec2 centerPosition = (VignetteCenter.xy);
         centerPosition.x = (Width * 0.01 * centerPosition.x);
         centerPosition.y = (Height * 0.01 * centerPosition.y);

@@ -9,7 +9,7 @@
 namespace grisal::graphics
 {
 
-/// Draws a vignette as a mask of its own: (v, v, v, 0) with v = vignetteValue() for the size of the pass. The source
+/// Draws a vignette as a mask of its own: (v, v, v, 0) with v = vignetteValue() for width x height. The source
 /// texture of apply() is not read.
 class FinalVignetteFilter : public IFilter
 {
@@ -19,11 +19,13 @@ public:
     /// The whole mask.
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
-    /// The partWidth x partHeight pixels of the mask whose first is (x, y), bit for bit as the whole mask has them.
+    /// The partWidth x partHeight pixels of the mask whose first is (x, y), in pixels: the whole mask with its centre
+    /// moved, `width` and `height` being the size of the whole. The moved centre is rounded to a float, so that some
+    /// values differ from those of the whole in their last bits.
     void applyPart(int x, int y, int partWidth, int partHeight, const FramebufferObject &target);
 
     VignetteParameters parameters;
-    float maxWidth = 0;  ///< sent, but the mask goes by the size of the pass
+    float maxWidth = 0;  ///< sent, but the mask goes by width and height
     float maxHeight = 0; ///< as maxWidth
 
 private:

@@ -19,7 +19,8 @@ class FinalVignetteFilter;
 ///
 /// It never exists as a whole, which would take as much memory as the picture: pieces are drawn when they are asked
 /// for. A mask that is larger than `largestSide`, the driver's largest texture side, or a piece for which the driver
-/// gives no target, is computed without the GPU, with the same formula, and the log says so.
+/// gives no target, is computed without the GPU, with the same formula, and the log says so. A drawn piece is the whole
+/// with its centre moved and differs from it by that centre's rounding.
 class VignetteMask
 {
 public:

@@ -97,7 +97,7 @@ TEST_F(FinalVignetteFilterTest, GoesByTheSizeOfItsPassAlone)
     EXPECT_TRUE(picturesNear("mask-size", mask, expectedMask({30, 80, 90, 25}, 67, 41), {2e-6, 0}));
 }
 
-TEST_F(FinalVignetteFilterTest, APartIsBitForBitThatOfTheWhole)
+TEST_F(FinalVignetteFilterTest, DrawsAPartAsTheWholeHasIt)
 {
     FinalVignetteFilter filter;
     filter.parameters = {{30, 80, 0}, 90, 25};
@@ -108,11 +108,27 @@ TEST_F(FinalVignetteFilterTest, APartIsBitForBitThatOfTheWhole)
 
     FloatPixels part(20, 11, 1);
     graphics::readPixels(target.record(), 20, 11, GL_RED, GL_FLOAT, part.values.data());
+    FloatPixels expected(20, 11, 1);
     for (int y = 0; y < part.height; ++y) {
         for (int x = 0; x < part.width; ++x) {
-            ASSERT_EQ(part.at(x, y, 0), whole.at(47 + x, 30 + y, 0)) << x << ", " << y;
+            expected.at(x, y, 0) = whole.at(47 + x, 30 + y, 0);
         }
     }
+    EXPECT_TRUE(picturesNear("mask-part", part, expected, {1e-6, 0}));
+}
+
+TEST_F(FinalVignetteFilterTest, KeepsItsParametersAfterAPart)
+{
+    FinalVignetteFilter filter;
+    filter.parameters = {{30, 80, 0}, 90, 25};
+    const FloatPixels before = runFilter(filter, FloatPixels(67, 41));
+    const graphics::RenderTarget target(20, 11, GL_RED, GL_R32F, GL_FLOAT);
+
+    filter.applyPart(47, 30, 20, 11, target.record());
+
+    EXPECT_EQ(filter.parameters.center.x, 30);
+    EXPECT_EQ(filter.parameters.center.y, 80);
+    EXPECT_TRUE(picturesNear("mask-after-part", runFilter(filter, FloatPixels(67, 41)), before));
 }
 
 TEST_F(FinalVignetteFilterTest, ReadsNoSource)

@@ -7,6 +7,10 @@
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferenceFilters.h"
 
+#include <algorithm>
+#include <cmath>
+#include <ostream>
+
 namespace grisal::test
 {
 
@@ -22,10 +26,47 @@ constexpr int height = 124;
 constexpr std::uint32_t roomForIt = 1024;
 constexpr std::uint32_t noRoomForIt = 515;
 
+const VignetteParameters centred{{50, 50, 0}, 50, 50};
 const VignetteParameters offCentre{{30, 80, 0}, 90, 25};
 
 class VignetteMaskTest : public GlTest
 {
+};
+
+/// A mask whose sides are multiples of 4.
+struct Case {
+    const char *name;
+    std::uint32_t width;
+    std::uint32_t height;
+    VignetteParameters vignette;
+
+    friend void PrintTo(const Case &mask, std::ostream *stream) { *stream << mask.name; }
+};
+
+class DrawnPieces : public GlTest, public testing::WithParamInterface<Case>
+{
+};
+
+/// How far pieces are from the whole that they are compared with.
+struct Apart {
+    double largest = 0;          ///< largest difference of two values
+    int mostLevels = 0;          ///< the same in levels of 1/255, both values rounded
+    std::size_t otherLevels = 0; ///< pixels whose level is another
+    std::size_t pixels = 0;      ///< pixels compared
+
+    void add(const std::vector<float> &piece, const TileArea &area, const std::vector<float> &whole,
+             std::size_t rowLength)
+    {
+        for (std::size_t i = 0; i < piece.size(); ++i, ++pixels) {
+            const float expected = whole[(area.y + i / area.width) * rowLength + area.x + i % area.width];
+            largest = std::max(largest, std::abs(double{piece[i]} - expected));
+            const int levels = std::abs(levelOf(piece[i]) - levelOf(expected));
+            mostLevels = std::max(mostLevels, levels);
+            otherLevels += levels != 0 ? 1 : 0;
+        }
+    }
+
+    static int levelOf(float value) { return static_cast<int>(std::lround(value * 255)); }
 };
 
 std::vector<float> pieceOf(const VignetteMask &mask, const TileArea &area)
@@ -140,18 +181,47 @@ TEST_F(VignetteMaskTest, OddRowsComeBackWhole)
               1e-4);
 }
 
-// Whether it is drawn or computed, a piece is what the whole mask has at its place.
-TEST_F(VignetteMaskTest, APieceIsAPartOfTheWhole)
+TEST_F(VignetteMaskTest, AComputedPieceIsBitForBitThatOfTheWhole)
 {
-    for (const std::uint32_t largestSide : {roomForIt, noRoomForIt}) {
-        const VignetteMask mask(offCentre, width, height, largestSide);
-        const std::vector<float> whole = pieceOf(mask, {0, 0, width, height});
-        const std::vector<float> piece = pieceOf(mask, {387, 31, 129, 31});
-        for (std::size_t i = 0; i < piece.size(); ++i) {
-            ASSERT_EQ(piece[i], whole[(31 + i / 129) * width + 387 + i % 129]) << i;
-        }
+    const VignetteMask mask(offCentre, width, height, noRoomForIt);
+    const std::vector<float> whole = pieceOf(mask, {0, 0, width, height});
+    const std::vector<float> piece = pieceOf(mask, {387, 31, 129, 31});
+    for (std::size_t i = 0; i < piece.size(); ++i) {
+        ASSERT_EQ(piece[i], whole[(31 + i / 129) * width + 387 + i % 129]) << i;
     }
 }
+
+// A drawn piece has a centre of its own, a float in percent. Its rounding moves a value to the next of 255 levels at
+// most, and hardly any value at all.
+TEST_P(DrawnPieces, AreLevelForLevelThoseOfTheWhole)
+{
+    const Case &mask = GetParam();
+    const VignetteMask drawn(mask.vignette, mask.width, mask.height, std::max(mask.width, mask.height));
+    const std::vector<float> whole = pieceOf(drawn, {0, 0, mask.width, mask.height});
+    Apart apart;
+    for (std::size_t x = 0; x < mask.width; x += mask.width / 4) {
+        for (std::size_t y = 0; y < mask.height; y += mask.height / 4) {
+            const TileArea area{x, y, mask.width / 4, mask.height / 4};
+            apart.add(pieceOf(drawn, area), area, whole, mask.width);
+        }
+    }
+
+    const double percent = 100.0 * static_cast<double>(apart.otherLevels) / static_cast<double>(whole.size());
+    std::cout << "pieces: largest difference " << apart.largest << ", another level in " << percent << " %\n";
+    EXPECT_EQ(apart.pixels, whole.size());
+    EXPECT_LE(apart.mostLevels, 1);
+    EXPECT_LE(percent, 0.001);
+}
+
+INSTANTIATE_TEST_SUITE_P(Masks, DrawnPieces,
+                         testing::Values(Case{"Small", 516, 124, centred}, Case{"SmallOffCentre", 516, 124, offCentre},
+                                         Case{"Centred", 2052, 2052, centred}, Case{"OffCentre", 2052, 2052, offCentre},
+                                         Case{"InACorner", 2056, 1500, {{99, 1, 0}, 73, 47}},
+                                         Case{"Wide", 8192, 512, {{3, 71, 0}, 55, 80}},
+                                         Case{"High", 512, 8192, {{97, 13, 0}, 55, 80}},
+                                         Case{"Large", 6000, 4000, {{37, 12, 0}, 55, 80}},
+                                         Case{"SmallRadius", 2052, 2052, {{30, 80, 0}, 100, 1}}),
+                         [](const auto &test) { return test.param.name; });
 
 TEST_F(VignetteMaskTest, LeavesNothingBound)
 {
