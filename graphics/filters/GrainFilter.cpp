@@ -2,6 +2,7 @@
 #include "graphics/filters/GrainFilter.h"
 
 #include "graphics/filters/NoiseMap.h"
+#include "graphics/gl/GlFaults.h"
 
 namespace grisal::graphics
 {
@@ -16,35 +17,26 @@ void GrainFilter::setWeights(const QVector<float> &values)
 
 void GrainFilter::setSigma(float sigma)
 {
-    m_sigmaChanged = m_sigmaChanged || !m_blurredNoise || sigma != m_sigma;
+    if (m_blurredNoise && sigma == m_sigma) {
+        return;
+    }
     m_sigma = sigma;
+    const GlFaultWatch watch;
+    blurNoise();
+    if (!watch.isClean()) {
+        forgetNoise();
+    }
 }
 
 void GrainFilter::forgetNoise()
 {
-    m_sigmaChanged = m_sigmaChanged || m_blurredNoise;
     m_blur.reset();
     m_blurredNoise.reset();
     m_noiseTexture = Texture();
 }
 
-const GaussianBlurFilter *GrainFilter::blur()
-{
-    blurNoise();
-    return m_blur.get();
-}
-
-const RenderTarget *GrainFilter::blurredNoise()
-{
-    blurNoise();
-    return m_blurredNoise.get();
-}
-
 void GrainFilter::blurNoise()
 {
-    if (!m_sigmaChanged) {
-        return;
-    }
     glEnable(GL_TEXTURE_1D);
     glEnable(GL_TEXTURE_2D);
     if (m_noiseTexture.name() == 0) {
@@ -61,12 +53,10 @@ void GrainFilter::blurNoise()
     m_blur->radius = m_sigma;
     m_blur->scale = 1.0F;
     m_blur->apply(m_noiseTexture.name(), m_blurredNoise->record());
-    m_sigmaChanged = false;
 }
 
 void GrainFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
 {
-    blurNoise();
     setUniform1f(m_program, "Width", static_cast<float>(width));
     setUniform1f(m_program, "Height", static_cast<float>(height));
     setUniform1f(m_program, "Sigma", m_sigma);

@@ -29,26 +29,26 @@ public:
     /// current.
     void setWeights(const QVector<float> &values);
 
-    /// Blurs the noise with a radius of `sigma` pixels: the coarseness of the grain. It is done when the noise is
-    /// needed for the first time; most pictures get no grain.
+    /// Blurs the noise with a radius of `sigma` pixels: the coarseness of the grain. It renders, so the context must be
+    /// current; noise that has this radius already is left as it is. Where GL reports a fault the noise is forgotten.
     void setSigma(float sigma);
 
-    /// The noise is blurred anew when it is needed: after a failure of the driver, nobody knows what it looks like.
+    /// There is no noise until the next setSigma(), which blurs it from the start: after a failure of the driver its
+    /// textures may hold anything. The context must be current.
     void forgetNoise();
 
     float sigma() const { return m_sigma; }
     GLuint weightsTexture() const { return m_weightsTexture.name(); }
-    /// The filter that blurs the noise, and the noise, blurred; null before the first setSigma(). The context must be
-    /// current.
-    const GaussianBlurFilter *blur();
-    const RenderTarget *blurredNoise();
+    /// The filter that blurs the noise; null while there is no noise.
+    const GaussianBlurFilter *blur() const { return m_blur.get(); }
+    /// The blurred noise; null before the first setSigma() and after forgetNoise().
+    const RenderTarget *blurredNoise() const { return m_blurredNoise.get(); }
 
 private:
     void blurNoise();
 
     FilterProgram m_program;
     float m_sigma = 0;
-    bool m_sigmaChanged = false;
     Texture m_noiseTexture;
     Texture m_weightsTexture;
     std::unique_ptr<GaussianBlurFilter> m_blur;

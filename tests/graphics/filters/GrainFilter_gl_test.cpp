@@ -42,9 +42,18 @@ QVector<float> risingWeights()
     return weights;
 }
 
-BytePixels noiseOf(GrainFilter &filter)
+BytePixels noiseOf(const GrainFilter &filter)
 {
     return readBytes(filter.blurredNoise()->record(), noiseMapSide, noiseMapSide);
+}
+
+/// Overwrites the blurred noise, so that it shows whether it is blurred again.
+void spoilNoise(const GrainFilter &filter)
+{
+    const std::vector<std::uint8_t> black(std::size_t{noiseMapSide} * noiseMapSide * 3);
+    glBindTexture(GL_TEXTURE_2D, filter.blurredNoise()->record().texture);
+    glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, noiseMapSide, noiseMapSide, GL_RGB, GL_UNSIGNED_BYTE, black.data());
+    glBindTexture(GL_TEXTURE_2D, 0);
 }
 
 BytePixels bareNoise()
@@ -232,6 +241,55 @@ TEST_F(GrainFilterTest, WithoutSigmaTheNoiseIsTheMapItself)
     filter.setSigma(0);
 
     EXPECT_TRUE(picturesNear("grain-bare-noise", noiseOf(filter), bareNoise()));
+}
+
+TEST_F(GrainFilterTest, TheNoiseIsBlurredWhenTheSigmaIsSet)
+{
+    GrainFilter filter;
+    filter.setSigma(0);
+    const GLuint texture = filter.blurredNoise()->record().texture;
+    const BytePixels bare = readTexture(texture, noiseMapSide, noiseMapSide);
+
+    filter.setSigma(2.5F);
+
+    EXPECT_NE(readTexture(texture, noiseMapSide, noiseMapSide).values, bare.values);
+}
+
+TEST_F(GrainFilterTest, TheSameSigmaAgainLeavesTheNoiseAsItIs)
+{
+    GrainFilter filter;
+    filter.setSigma(0);
+    spoilNoise(filter);
+
+    filter.setSigma(0);
+
+    EXPECT_EQ(noiseOf(filter).values, BytePixels(noiseMapSide, noiseMapSide).values);
+}
+
+TEST_F(GrainFilterTest, ForgottenNoiseIsBlurredAgainWithTheSameSigma)
+{
+    GrainFilter filter;
+    filter.setSigma(0);
+    spoilNoise(filter);
+
+    filter.forgetNoise();
+    EXPECT_EQ(filter.blur(), nullptr);
+    EXPECT_EQ(filter.blurredNoise(), nullptr);
+    filter.setSigma(0);
+
+    EXPECT_TRUE(picturesNear("grain-forgotten", noiseOf(filter), bareNoise()));
+}
+
+TEST_F(GrainFilterTest, APassBlursNoNoise)
+{
+    GrainFilter filter;
+    filter.setSigma(1);
+    filter.setWeights(everywhere);
+    filter.forgetNoise();
+
+    runFilter(filter, FloatPixels(3, 2));
+
+    EXPECT_EQ(filter.blurredNoise(), nullptr);
 }
 
 TEST_F(GrainFilterTest, ASecondSigmaBlursAfreshWithTheSameBlurAndTarget)

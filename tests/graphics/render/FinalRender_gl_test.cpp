@@ -4,6 +4,8 @@
 #include "graphics/document/DocumentFilterQueue.h"
 #include "graphics/document/FlexibleDocumentView.h"
 #include "graphics/filters/FilterSet.h"
+#include "graphics/filters/NoiseMap.h"
+#include "tests/support/FilterRun.h"
 #include "tests/support/GlTest.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
@@ -35,6 +37,11 @@ protected:
         view.reset();
         filters.reset();
         GlTest::TearDown();
+    }
+
+    static BytePixels noiseOf(const GrainFilter &grain)
+    {
+        return readBytes(grain.blurredNoise()->record(), noiseMapSide, noiseMapSide);
     }
 
     std::unique_ptr<FlexibleDocumentView> view;
@@ -90,27 +97,6 @@ TEST_F(FinalRenderTest, ExpendablePixelsBecomeTheSame)
     EXPECT_TRUE(picturesNear("expendable words", render(words, true), render(words, false)));
 }
 
-// The noise is blurred when it is needed, which is in the middle of a tile that is rendered in bands of rows.
-TEST_F(FinalRenderTest, NoiseThatIsBlurredInTheMiddleIsLikeNoiseThatWasBlurredBefore)
-{
-    parameters.grainWeights = QVector<float>(256, 0.5F);
-    parameters.grainRadius = 1.5F;
-    parameters.mixerWeights = {0.3F, 0.5F, 0.2F};
-    const auto render = [this] {
-        filters->grain.enabled = true;
-        BytePixels picture = rampPicture<std::uint8_t>(2048, 1020);
-        EXPECT_TRUE(renderFinalPicture({picture.values.data(), picture.width, picture.height, false, false}, parameters,
-                                       *filters, *view));
-        return picture;
-    };
-    const BytePixels inTheMiddle = render();
-    filters = std::make_unique<FilterSet>();
-    filters->mixer.enabled = true;
-    filters->grain.setSigma(parameters.grainRadius);
-    EXPECT_NE(filters->grain.blurredNoise(), nullptr);
-    EXPECT_TRUE(picturesNear("grain", inTheMiddle, render()));
-}
-
 TEST_F(FinalRenderTest, WithoutEnabledFilterExpendablePixelsStay)
 {
     filters->mixer.enabled = false;
@@ -150,10 +136,14 @@ TEST_F(FinalRenderTest, LogsSizesPlanAndValueRange)
 
 TEST_F(FinalRenderTest, BlursTheNoiseWithTheRadiusOfThePanel)
 {
+    GrainFilter expected;
+    expected.setSigma(2.5F);
+    filters->grain.setSigma(1);
     BytePixels picture(1, 1, 3, {1, 2, 3});
     parameters.grainRadius = 2.5F;
     renderFinalPicture({picture.values.data(), 1, 1, false, false}, parameters, *filters, *view);
     EXPECT_EQ(filters->grain.sigma(), 2.5F);
+    EXPECT_EQ(noiseOf(filters->grain).values, noiseOf(expected).values);
 }
 
 } // namespace

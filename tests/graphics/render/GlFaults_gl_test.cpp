@@ -3,8 +3,10 @@
 // What becomes of a final render when OpenGL fails somewhere in it.
 #include "graphics/document/FlexibleDocumentView.h"
 #include "graphics/filters/FilterSet.h"
+#include "graphics/filters/NoiseMap.h"
 #include "graphics/gl/GlFaults.h"
 #include "graphics/render/FinalRender.h"
+#include "tests/support/FilterRun.h"
 #include "tests/support/GlTest.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/Pictures.h"
@@ -110,6 +112,17 @@ protected:
         return !rendered;
     }
 
+    BytePixels noise() const { return readBytes(filters->grain.blurredNoise()->record(), noiseMapSide, noiseMapSide); }
+
+    void spoilNoise() const
+    {
+        const BytePixels black(noiseMapSide, noiseMapSide);
+        glBindTexture(GL_TEXTURE_2D, filters->grain.blurredNoise()->record().texture);
+        glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, black.width, black.height, GL_RGB, GL_UNSIGNED_BYTE,
+                        black.values.data());
+        glBindTexture(GL_TEXTURE_2D, 0);
+    }
+
     LogCapture log;
     std::unique_ptr<FlexibleDocumentView> view;
     std::unique_ptr<FilterSet> filters;
@@ -146,6 +159,42 @@ TEST_P(GlFaults, IncompleteFramebuffersMakeNoWrongPicture)
         failed += expectNothingWrong(0, call) ? 1 : 0;
     }
     EXPECT_GT(failed, calls / 3);
+}
+
+// Whatever failed may have drawn into the noise: the next render blurs it again, though its radius is the same.
+TEST_P(GlFaults, AFailedRenderBlursTheNoiseAgain)
+{
+    ASSERT_TRUE(render(0, 0));
+    right = picture;
+    spoilNoise();
+    ASSERT_TRUE(render(0, 0));
+    ASSERT_NE(picture.values, right.values) << "the noise makes no difference";
+
+    ASSERT_FALSE(render(0, 1));
+
+    EXPECT_TRUE(render(0, 0));
+    EXPECT_EQ(picture.values, right.values);
+}
+
+TEST_P(GlFaults, NoiseThatCouldNotBeBlurredIsBlurredAgain)
+{
+    filters->grain.setSigma(1.5F);
+    const BytePixels expected = noise();
+    filters->grain.forgetNoise();
+    errorFault = {};
+    filters->grain.setSigma(1.5F);
+    const int calls = errorFault.calls;
+    ASSERT_GT(calls, 3);
+    constexpr int ofTheTimeBefore = 1;
+    for (int call = ofTheTimeBefore + 1; call <= calls; ++call) {
+        filters->grain.forgetNoise();
+        errorFault = {call, 0};
+        filters->grain.setSigma(1.5F);
+        EXPECT_EQ(filters->grain.blurredNoise(), nullptr) << "call " << call;
+
+        filters->grain.setSigma(1.5F);
+        EXPECT_EQ(noise().values, expected.values) << "call " << call;
+    }
 }
 
 TEST_P(GlFaults, AnErrorOfTheTimeBeforeIsNoFault)

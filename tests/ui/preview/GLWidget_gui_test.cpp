@@ -167,6 +167,20 @@ TEST_F(GLWidgetTest, WithoutAContextThereIsNoFinalRender)
     EXPECT_EQ(widget.vignetteFilter(), nullptr);
 }
 
+// Curve and grain go into textures at once where there is a context.
+TEST_F(GLWidgetTest, ParametersThatAreSetWithoutAContextAreKept)
+{
+    load(picture);
+
+    widget.slotChangeCurves(QVector<float>(256, 0.25F));
+    widget.slotChangeGrain(QVector<float>(256, 0.75F), 2.5F);
+
+    EXPECT_EQ(widget.grainFilter(), nullptr);
+    EXPECT_EQ(widget.parameters().curve.first(), 0.25F);
+    EXPECT_EQ(widget.parameters().grainWeights.first(), 0.75F);
+    EXPECT_EQ(widget.parameters().grainRadius, 2.5F);
+}
+
 TEST_F(GLWidgetTest, AFinalRenderLeavesThePreviewAsItWas)
 {
     showPictureAtOneToOne();
