@@ -19,6 +19,9 @@ public:
 
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
+    /// The program of the pass, compiled at its first use. The context must be current.
+    const ShaderProgram &program() const { return m_program; }
+
     /// Takes the outputs 0..1 for evenly spaced greys, 256 of them from the curves panel. The straight curve is
     /// i / 256: an 8-bit target stores the greys above 128 one level darker. The context must be current.
     void setCurve(const QVector<float> &values);

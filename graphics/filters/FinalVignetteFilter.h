@@ -19,6 +19,9 @@ public:
     /// The whole mask.
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
+    /// The program of the pass, compiled at its first use. The context must be current.
+    const ShaderProgram &program() const { return m_program; }
+
     /// The partWidth x partHeight pixels of the mask whose first is (x, y), in pixels: the whole mask with its centre
     /// moved, `width` and `height` being the size of the whole. The moved centre is rounded to a float, so that some
     /// values differ from those of the whole in their last bits.

@@ -25,6 +25,9 @@ public:
 
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
+    /// The program of the pass, compiled at its first use. The context must be current.
+    const ShaderProgram &program() const { return m_program; }
+
     /// Takes the strengths 0..1 for evenly spaced greys, 256 of them from the grain panel. The context must be
     /// current.
     void setWeights(const QVector<float> &values);

@@ -18,6 +18,9 @@ public:
 
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
+    /// The program of the pass, compiled at its first use. The context must be current.
+    const ShaderProgram &program() const { return m_program; }
+
     float weight = 1;            ///< share of the highlights; 0 tints everything with secondColor
     ColorRGB<float> firstColor;  ///< tint of the highlights, 0..1
     ColorRGB<float> secondColor; ///< tint of the shadows, 0..1

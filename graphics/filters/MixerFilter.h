@@ -16,6 +16,9 @@ public:
 
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
+    /// The program of the pass, compiled at its first use. The context must be current.
+    const ShaderProgram &program() const { return m_program; }
+
     /// Multipliers of the channels, not normalised: a sum above 1 brightens. No neutral value for colour pictures; a
     /// sum of 1 leaves greys as they are.
     ColorRGB<float> weights;

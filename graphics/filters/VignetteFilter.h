@@ -18,6 +18,9 @@ public:
 
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
+    /// The program of the pass, compiled at its first use. The context must be current.
+    const ShaderProgram &program() const { return m_program; }
+
     VignetteParameters parameters;
     float maxWidth = 0;  ///< width of the whole picture in pixels
     float maxHeight = 0; ///< height of the whole picture in pixels

@@ -6,6 +6,7 @@
 #include "tests/support/GlTest.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferencePictures.h"
+#include "tests/support/UniformRecorder.h"
 
 #include <cmath>
 
@@ -66,6 +67,28 @@ TEST_F(CurveFilterTest, StartsWithoutCurveSizeOrDuty)
     EXPECT_EQ(filter.width, 0);
     EXPECT_EQ(filter.height, 0);
     EXPECT_FALSE(filter.enabled);
+}
+
+TEST_F(CurveFilterTest, ProgramIsLabelledAsTheFilter)
+{
+    const CurveFilter filter;
+
+    EXPECT_EQ(filter.program().name, "CurveFilter");
+}
+
+// The program does not read MaxPixel.
+TEST_F(CurveFilterTest, SendsItsUniformsInOrder)
+{
+    CurveFilter filter;
+    filter.setCurve({0.1F, 0.4F});
+    const UniformRecorder recorder;
+
+    runFilter(filter, FloatPixels(5, 3));
+
+    EXPECT_EQ(recorder.sent(),
+              (std::vector<SentUniform>{
+                  {"Width", {5}}, {"Height", {3}}, {"MaxPixel", {1}}, {"Curve", {1}}, {"MainTexture", {0}}}));
+    EXPECT_EQ(recorder.programs(), std::vector<GLuint>{filter.program().program});
 }
 
 TEST_F(CurveFilterTest, RedPicksTheSampleForAllFourChannels)

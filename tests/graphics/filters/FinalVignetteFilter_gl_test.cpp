@@ -57,6 +57,13 @@ TEST_F(FinalVignetteFilterTest, StartsAtTheFirstPixelWithoutSizeOrDuty)
     EXPECT_FALSE(filter.enabled);
 }
 
+TEST_F(FinalVignetteFilterTest, ProgramIsLabelledFinalBWVignette)
+{
+    const FinalVignetteFilter filter;
+
+    EXPECT_EQ(filter.program().name, "FinalBWVignette");
+}
+
 // 100 x 100, centre (50.5, 50.5), a pixel's middle: 0.5 * d / 100.
 TEST_F(FinalVignetteFilterTest, TheMaskHasTheDistanceFromTheCentre)
 {

@@ -6,6 +6,7 @@
 #include "tests/support/GlTest.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferencePictures.h"
+#include "tests/support/UniformRecorder.h"
 
 #include <array>
 #include <numeric>
@@ -79,6 +80,28 @@ TEST_F(GaussianBlurFilterTest, StartsWithWhatItIsMadeOfAndWithoutRadius)
     EXPECT_EQ(filter.width, 12);
     EXPECT_EQ(filter.height, 8);
     EXPECT_FALSE(filter.enabled);
+}
+
+// The programs do not read Sigma.
+TEST_F(GaussianBlurFilterTest, SendsItsUniformsInOrderAlongXFirst)
+{
+    GaussianBlurFilter filter(2.5F, 64, 5, 3, GL_RGBA32F, GL_RGBA, GL_FLOAT);
+    filter.radius = 1.25F;
+    const UniformRecorder recorder;
+
+    runFilter(filter, FloatPixels(5, 3));
+
+    EXPECT_EQ(recorder.sent(), (std::vector<SentUniform>{{"Width", {5}},
+                                                         {"Height", {3}},
+                                                         {"Sigma", {2.5F}},
+                                                         {"Radius", {1.25F}},
+                                                         {"MainTexture", {0}},
+                                                         {"Width", {5}},
+                                                         {"Height", {3}},
+                                                         {"Sigma", {2.5F}},
+                                                         {"Radius", {1.25F}},
+                                                         {"MainTexture", {0}}}));
+    EXPECT_EQ(recorder.programs(), (std::vector<GLuint>{filter.alongX().program, filter.alongY().program}));
 }
 
 TEST_F(GaussianBlurFilterTest, HalfAPixelIsFiveTapsInEachDirection)

@@ -7,6 +7,7 @@
 #include "tests/support/GlTest.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferencePictures.h"
+#include "tests/support/UniformRecorder.h"
 
 #include <numeric>
 
@@ -102,6 +103,34 @@ TEST_F(GrainFilterTest, StartsWithoutWeightsBlurSizeOrDuty)
     EXPECT_EQ(filter.width, 0);
     EXPECT_EQ(filter.height, 0);
     EXPECT_FALSE(filter.enabled);
+}
+
+TEST_F(GrainFilterTest, ProgramIsLabelledAsTheFilter)
+{
+    const GrainFilter filter;
+
+    EXPECT_EQ(filter.program().name, "GrainFilter");
+}
+
+// The program has no MaxPixel and does not read Sigma.
+TEST_F(GrainFilterTest, SendsItsUniformsInOrder)
+{
+    GrainFilter filter;
+    filter.setSigma(1.5F);
+    filter.setWeights(everywhere);
+    runFilter(filter, FloatPixels(5, 3)); // the noise is blurred by now
+    const UniformRecorder recorder;
+
+    runFilter(filter, FloatPixels(5, 3));
+
+    EXPECT_EQ(recorder.sent(), (std::vector<SentUniform>{{"Width", {5}},
+                                                         {"Height", {3}},
+                                                         {"Sigma", {1.5F}},
+                                                         {"MaxPixel", {1}},
+                                                         {"NoiseMap", {1}},
+                                                         {"Weights", {2}},
+                                                         {"MainTexture", {0}}}));
+    EXPECT_EQ(recorder.programs(), std::vector<GLuint>{filter.program().program});
 }
 
 // The noise map begins with a red of 190: with I = 127.5 it is 0.49725 * (I + 2 * 190 * 0.0039 * I) * 0.0039.

@@ -6,6 +6,7 @@
 #include "tests/support/GlTest.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferencePictures.h"
+#include "tests/support/UniformRecorder.h"
 
 namespace grisal::test
 {
@@ -56,6 +57,34 @@ TEST_F(HalfToneFilterTest, StartsWithoutTintSizeOrDuty)
     EXPECT_EQ(filter.width, 0);
     EXPECT_EQ(filter.height, 0);
     EXPECT_FALSE(filter.enabled);
+}
+
+TEST_F(HalfToneFilterTest, ProgramIsLabelledHalfTone)
+{
+    const HalfToneFilter filter;
+
+    EXPECT_EQ(filter.program().name, "HalfTone");
+}
+
+// The program has no MaxPixel.
+TEST_F(HalfToneFilterTest, SendsItsUniformsInOrder)
+{
+    HalfToneFilter filter;
+    filter.weight = 0.75F;
+    filter.firstColor = {0.1F, 0.2F, 0.3F};
+    filter.secondColor = {0.4F, 0.5F, 0.6F};
+    const UniformRecorder recorder;
+
+    runFilter(filter, FloatPixels(5, 3));
+
+    EXPECT_EQ(recorder.sent(), (std::vector<SentUniform>{{"Width", {5}},
+                                                         {"Height", {3}},
+                                                         {"Weight", {0.75F}},
+                                                         {"MaxPixel", {1}},
+                                                         {"FirstColor", {0.1F, 0.2F, 0.3F}},
+                                                         {"SecondColor", {0.4F, 0.5F, 0.6F}},
+                                                         {"MainTexture", {0}}}));
+    EXPECT_EQ(recorder.programs(), std::vector<GLuint>{filter.program().program});
 }
 
 // h = 0, s = 1, o = 0: 0.49725 * (127.5 + 2 * tint * 0.9945 * 127.5) * 0.0039 for a middle grey.

@@ -6,6 +6,7 @@
 #include "tests/support/GlTest.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferencePictures.h"
+#include "tests/support/UniformRecorder.h"
 
 namespace grisal::test
 {
@@ -38,6 +39,30 @@ TEST_F(MixerFilterTest, StartsWithoutWeightSizeOrDuty)
     EXPECT_EQ(filter.width, 0);
     EXPECT_EQ(filter.height, 0);
     EXPECT_FALSE(filter.enabled);
+}
+
+TEST_F(MixerFilterTest, ProgramIsLabelledAsTheConversion)
+{
+    const MixerFilter filter;
+
+    EXPECT_EQ(filter.program().name, "BWConversionMixer");
+}
+
+// The program has no MaxPixel.
+TEST_F(MixerFilterTest, SendsItsUniformsInOrder)
+{
+    MixerFilter filter;
+    filter.weights = {0.3F, 0.59F, 0.11F};
+    const UniformRecorder recorder;
+
+    runFilter(filter, FloatPixels(5, 3));
+
+    EXPECT_EQ(recorder.sent(), (std::vector<SentUniform>{{"Width", {5}},
+                                                         {"Height", {3}},
+                                                         {"MaxPixel", {1}},
+                                                         {"Weights", {0.3F, 0.59F, 0.11F}},
+                                                         {"MainTexture", {0}}}));
+    EXPECT_EQ(recorder.programs(), std::vector<GLuint>{filter.program().program});
 }
 
 TEST_F(MixerFilterTest, EachChannelCountsWithItsWeight)

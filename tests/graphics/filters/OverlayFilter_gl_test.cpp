@@ -7,6 +7,7 @@
 #include "tests/support/GlTest.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferencePictures.h"
+#include "tests/support/UniformRecorder.h"
 
 #include <memory>
 
@@ -69,6 +70,28 @@ TEST_F(OverlayFilterTest, StartsWithoutMaskSizeOrDuty)
     EXPECT_EQ(filter.width, 0);
     EXPECT_EQ(filter.height, 0);
     EXPECT_FALSE(filter.enabled);
+}
+
+// The mixer's label, on purpose: both programs are listed under it.
+TEST_F(OverlayFilterTest, ProgramIsLabelledLikeTheMixers)
+{
+    const OverlayFilter filter;
+
+    EXPECT_EQ(filter.program().name, "BWConversionMixer");
+}
+
+TEST_F(OverlayFilterTest, SendsItsUniformsInOrder)
+{
+    const Texture mask = maskTexture(FloatPixels(5, 3, 1));
+    OverlayFilter filter;
+    filter.overlayTexture = mask.name();
+    const UniformRecorder recorder;
+
+    runFilter(filter, FloatPixels(5, 3));
+
+    EXPECT_EQ(recorder.sent(), (std::vector<SentUniform>{
+                                   {"Width", {5}}, {"Height", {3}}, {"OverlayTexture", {1}}, {"MainTexture", {0}}}));
+    EXPECT_EQ(recorder.programs(), std::vector<GLuint>{filter.program().program});
 }
 
 // A middle grey is 127.5: I * 0.0039 = 0.49725 without the mask, I * I * 0.0039 * 0.0039 = 0.2472576 with all of it.

@@ -6,6 +6,7 @@
 #include "tests/support/GlTest.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferencePictures.h"
+#include "tests/support/UniformRecorder.h"
 
 namespace grisal::test
 {
@@ -59,6 +60,39 @@ TEST_F(VignetteFilterTest, StartsAtTheFirstPixelWithoutSizeOrDuty)
     EXPECT_EQ(filter.width, 0);
     EXPECT_EQ(filter.height, 0);
     EXPECT_FALSE(filter.enabled);
+}
+
+TEST_F(VignetteFilterTest, ProgramIsLabelledBWVignette)
+{
+    const VignetteFilter filter;
+
+    EXPECT_EQ(filter.program().name, "BWVignette");
+}
+
+// The program has neither MaxPixel nor the three sizes of the noise, and it does not read the noise.
+TEST_F(VignetteFilterTest, SendsItsUniformsInOrder)
+{
+    VignetteFilter filter;
+    set(filter, {30, 80, 70, 40}, 200, 90);
+    filter.parameters.center.z = 7;
+    const UniformRecorder recorder;
+
+    runFilter(filter, FloatPixels(5, 3));
+
+    EXPECT_EQ(recorder.sent(), (std::vector<SentUniform>{{"Width", {5}},
+                                                         {"Height", {3}},
+                                                         {"MaxWidth", {200}},
+                                                         {"MaxHeight", {90}},
+                                                         {"NoiseWidth", {100}},
+                                                         {"NoiseHeight", {100}},
+                                                         {"NoiseFactor", {1}},
+                                                         {"MaxPixel", {1}},
+                                                         {"VignetteCenter", {30, 80, 7}},
+                                                         {"Radius", {40}},
+                                                         {"Strength", {70}},
+                                                         {"NoiseMap", {1}},
+                                                         {"MainTexture", {0}}}));
+    EXPECT_EQ(recorder.programs(), std::vector<GLuint>{filter.program().program});
 }
 
 // The first pixel's middle lies at (0.5, 0.5), that is 0.05 % of 1000. With a strength of 50 and a radius of 100 the
