@@ -6,6 +6,7 @@
 #include "tests/support/GlTest.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferencePictures.h"
+#include "tests/support/UniformRecorder.h"
 
 namespace grisal::test
 {
@@ -62,6 +63,32 @@ TEST_F(FinalVignetteFilterTest, ProgramIsLabelledFinalBWVignette)
     const FinalVignetteFilter filter;
 
     EXPECT_EQ(filter.program().name, "FinalBWVignette");
+}
+
+// As the vignette does, but without its two textures. The program has neither MaxPixel nor the three sizes of the
+// noise, and it does not read the size of the picture.
+TEST_F(FinalVignetteFilterTest, SendsItsUniformsInOrder)
+{
+    FinalVignetteFilter filter;
+    filter.parameters = {{30, 80, 7}, 70, 40};
+    filter.maxWidth = 200;
+    filter.maxHeight = 90;
+    const UniformRecorder recorder;
+
+    runFilter(filter, FloatPixels(5, 3));
+
+    EXPECT_EQ(recorder.sent(), (std::vector<SentUniform>{{"Width", {5}},
+                                                         {"Height", {3}},
+                                                         {"MaxWidth", {200}},
+                                                         {"MaxHeight", {90}},
+                                                         {"NoiseWidth", {100}},
+                                                         {"NoiseHeight", {100}},
+                                                         {"NoiseFactor", {1}},
+                                                         {"MaxPixel", {1}},
+                                                         {"VignetteCenter", {30, 80, 7}},
+                                                         {"Radius", {40}},
+                                                         {"Strength", {70}}}));
+    EXPECT_EQ(recorder.programs(), std::vector<GLuint>{filter.program().program});
 }
 
 // 100 x 100, centre (50.5, 50.5), a pixel's middle: 0.5 * d / 100.
