@@ -5,6 +5,7 @@
 #include "tests/support/GlTest.h"
 #include "tests/support/LogCapture.h"
 
+#include <utility>
 #include <vector>
 
 namespace grisal::test
@@ -67,6 +68,28 @@ void fill(const FramebufferObject &target, float red, float green, float blue)
     glClearColor(red, green, blue, 1);
     glClear(GL_COLOR_BUFFER_BIT);
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
+}
+
+GLenum fakedStatus = GL_FRAMEBUFFER_COMPLETE;
+
+GLenum GLAPIENTRY checkWithFakedStatus(GLenum)
+{
+    return fakedStatus;
+}
+
+/// The warnings for a new target whose status the driver reports as `status`; it is a target all the same.
+QStringList warningsAbout(GLenum status)
+{
+    const LogCapture log;
+    fakedStatus = status;
+    const auto real = std::exchange(__glewCheckFramebufferStatus, checkWithFakedStatus);
+    const RenderTarget target(6, 4, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+    __glewCheckFramebufferStatus = real;
+    EXPECT_EQ(glInteger(GL_FRAMEBUFFER_BINDING), 0);
+    EXPECT_TRUE(glIsTexture(target.record().texture));
+    EXPECT_TRUE(glIsRenderbuffer(target.record().renderbuffer));
+    EXPECT_TRUE(glIsFramebuffer(target.record().framebuffer));
+    return log.warnings();
 }
 
 } // namespace
@@ -134,6 +157,23 @@ TEST_F(FramebuffersTest, EveryFormatInUseMakesACompleteTargetWithoutAWord)
         EXPECT_EQ(statusOf(target.record()), static_cast<GLenum>(GL_FRAMEBUFFER_COMPLETE)) << f.internalFormat;
     }
     EXPECT_EQ(log.warnings(), QStringList());
+}
+
+TEST_F(FramebuffersTest, LogsThreeStatesAndReturnsTheTarget)
+{
+    EXPECT_EQ(warningsAbout(GL_FRAMEBUFFER_INCOMPLETE_ATTACHMENT),
+              QStringList{"Failed to create Framebuffer: Broken attachment"});
+    EXPECT_EQ(warningsAbout(GL_FRAMEBUFFER_INCOMPLETE_MISSING_ATTACHMENT),
+              QStringList{"Failed to create Framebuffer: Incomplete attachment"});
+    EXPECT_EQ(warningsAbout(GL_FRAMEBUFFER_UNSUPPORTED),
+              QStringList{"Failed to create Framebuffer: GL_FRAMEBUFFER_ARB not supported"});
+}
+
+TEST_F(FramebuffersTest, LogsNothingAboutAnyOtherStateAndReturnsTheTarget)
+{
+    EXPECT_EQ(warningsAbout(GL_FRAMEBUFFER_INCOMPLETE_DIMENSIONS_EXT), QStringList());
+    EXPECT_EQ(warningsAbout(GL_FRAMEBUFFER_INCOMPLETE_MULTISAMPLE), QStringList());
+    EXPECT_EQ(warningsAbout(0), QStringList());
 }
 
 TEST_F(FramebuffersTest, FramebufferZeroIsBoundAfterMakingOne)

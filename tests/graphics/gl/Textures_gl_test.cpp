@@ -8,7 +8,31 @@
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
 
+#include <dlfcn.h>
+
 #include <string>
+
+namespace
+{
+
+/// An error that one call of glGetError() returns instead of the driver's.
+struct FakedError {
+    GLenum error = GL_NO_ERROR;
+    int call = 0; ///< which call, counted from 1; none at 0
+    int calls = 0;
+};
+
+FakedError faked;
+
+} // namespace
+
+/// Stands in for the driver's.
+extern "C" GLenum GLAPIENTRY glGetError()
+{
+    static const auto real = reinterpret_cast<GLenum(GLAPIENTRY *)()>(dlsym(RTLD_NEXT, "glGetError"));
+    const GLenum error = real();
+    return ++faked.calls == faked.call ? faked.error : error;
+}
 
 namespace grisal::test
 {
@@ -55,6 +79,22 @@ std::vector<int> reds(const std::string &fragment, GLenum kind, GLuint texture, 
 }
 
 const std::vector<std::uint8_t> fourGreys{10, 10, 10, 20, 20, 20, 30, 30, 30, 40, 40, 40};
+
+/// The warnings for a texture after whose upload the driver reports `error`; it is a texture all the same.
+QStringList warningsAfter(GLenum error)
+{
+    const LogCapture log;
+    faked = {error, 2}; // the first call takes an error of the time before
+    const Texture texture(createTexture(4, 1, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE, fourGreys.data()));
+    EXPECT_EQ(faked.calls, 2) << "only the first error after the upload is read";
+    faked = {};
+    EXPECT_NE(texture.name(), 0U);
+    EXPECT_EQ(reds("uniform sampler2D Picture; void main() { gl_FragColor = texture2D(Picture, "
+                   "vec2(gl_FragCoord.x / 4.0, 0.5)); }",
+                   GL_TEXTURE_2D, texture.name(), 4),
+              (std::vector<int>{10, 20, 30, 40}));
+    return log.warnings();
+}
 
 } // namespace
 
@@ -223,6 +263,23 @@ TEST_F(TexturesTest, FormatsThatDoNotGoTogetherAreLoggedAndTheNameReturned)
 
     EXPECT_NE(texture.name(), 0U);
     EXPECT_EQ(log.warnings(), QStringList{"Failed to create texture: Invalid operation"});
+}
+
+// Made up: an upload cannot provoke this error.
+TEST_F(TexturesTest, LogsATableTooLargeAndReturnsTheName)
+{
+    EXPECT_EQ(warningsAfter(GL_TABLE_TOO_LARGE), QStringList{"Failed to create texture: Table to large"});
+}
+
+TEST_F(TexturesTest, LogsMemoryThatRanOutAndReturnsTheName)
+{
+    EXPECT_EQ(warningsAfter(GL_OUT_OF_MEMORY), QStringList{"Failed to create texture: Out of memory"});
+}
+
+TEST_F(TexturesTest, LogsNothingAboutAnyOtherErrorAndReturnsTheName)
+{
+    EXPECT_EQ(warningsAfter(GL_INVALID_FRAMEBUFFER_OPERATION), QStringList());
+    EXPECT_EQ(warningsAfter(GL_CONTEXT_LOST), QStringList());
 }
 
 TEST_F(TexturesTest, AnErrorOfSomeoneElseIsNotLogged)
