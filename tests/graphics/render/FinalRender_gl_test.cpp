@@ -134,6 +134,20 @@ TEST_F(FinalRenderTest, LogsSizesPlanAndValueRange)
     EXPECT_EQ(lines.mid(lines.size() - 2).join('\n').toStdString(), "Final vmin:  40\nFinal vmax:  200");
 }
 
+// The line stands before the parameters reach the filters: it has the weight of the last picture.
+TEST_F(FinalRenderTest, LogsTheFormerWeightOfTheSplitTone)
+{
+    filters->splitTone.weight = 0.75F;
+    parameters.splitWeight = 1.25F;
+    const LogCapture log;
+    BytePixels picture(1, 1, 3, {1, 2, 3});
+
+    renderFinalPicture({picture.values.data(), 1, 1, false, false}, parameters, *filters, *view);
+
+    EXPECT_EQ(log.debugs().filter("HalfTone"), QStringList{"HalfTone Weight:  0.75"});
+    EXPECT_EQ(filters->splitTone.weight, 1.25F);
+}
+
 TEST_F(FinalRenderTest, BlursTheNoiseWithTheRadiusOfThePanel)
 {
     GrainFilter expected;
