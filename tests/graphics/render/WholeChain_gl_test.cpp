@@ -79,6 +79,12 @@ std::vector<Case> everyFilterAloneAndAllTogether()
             named("vignette", false, false, false, true),   named("all", true, true, true, true)};
 }
 
+/// Five filters and four: the passes of a tile end in either of its two targets.
+std::vector<Case> allFiltersAndAllButTheGrain()
+{
+    return {named("all", true, true, true, true), named("all but grain", true, true, false, true)};
+}
+
 const BytePixels &blurredNoiseMap()
 {
     static const BytePixels blurred = reference::blurredNoise(reference::noiseMap(), strongParameters().grainRadius);
@@ -195,9 +201,10 @@ protected:
     }
 
     template <typename T>
-    void expectFileAlike(const std::string &picture, const Pixels<T> &pixels)
+    void expectFileAlike(const std::string &picture, const Pixels<T> &pixels,
+                         const std::vector<Case> &cases = everyFilterAloneAndAllTogether())
     {
-        for (const auto &[name, look] : everyFilterAloneAndAllTogether()) {
+        for (const auto &[name, look] : cases) {
             const Pixels<T> expected = reference::fileOf(pixels, look, noise);
             Pixels<T> actual = file(pixels, look);
             if (look.grain) {
@@ -253,6 +260,24 @@ TEST_P(WholeChain, SixteenBitFileOfARamp)
 TEST_P(WholeChain, SixteenBitFileOfTheSample)
 {
     expectFileAlike("sample", sample());
+}
+
+// 2.25 million pixels in one tile: more than the filters run over at once.
+class LargeTile : public WholeChain
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Pictures, LargeTile, testing::Values(Size{2048, 1100}),
+                         [](const auto &) { return "2048x1100"; });
+
+TEST_P(LargeTile, EightBitFile)
+{
+    expectFileAlike("large tile", rampPicture<std::uint8_t>(width(), height()), allFiltersAndAllButTheGrain());
+}
+
+TEST_P(LargeTile, SixteenBitFile)
+{
+    expectFileAlike("large tile", rampPicture<std::uint16_t>(width(), height()), allFiltersAndAllButTheGrain());
 }
 
 } // namespace
