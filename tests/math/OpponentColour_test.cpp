@@ -69,4 +69,23 @@ TEST(OpponentColour, GreenTakesUpWhatTheClampingLeaves)
     EXPECT_NEAR(shifted.r + shifted.g + shifted.b, 511, 1e-2);
 }
 
+// With three equal thirds this mean would be 0. Green counts a little more, and saved pictures depend on it.
+TEST(OpponentColour, TheMeanWeighsGreenALittleMore)
+{
+    EXPECT_NEAR(meanOf({-100, 200, -100}), 2e-10, 1e-12);
+}
+
+// 3.00000036 lies in the middle between two floats; the third of green decides which one it becomes.
+TEST(OpponentColour, GreenComesBackThroughItsOwnThird)
+{
+    EXPECT_EQ(weightsAt(1.00000012F, -1.00000012F, -1.00000012F).g, 3.00000024F);
+}
+
+// 10 - 60 + 50: with three equal thirds a mean just below 60 would leave +6e-11.
+TEST(OpponentColour, AShiftStartsFromTheMeanThatWeighsGreenMore)
+{
+    EXPECT_NEAR(shiftedToMean({10, 110, 60}, 50).r, -5e-11, 1e-12);
+    EXPECT_NEAR(shiftedToSum({10, 110, 60}, 150).r, -5e-11, 1e-12);
+}
+
 } // namespace

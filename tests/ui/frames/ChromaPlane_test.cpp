@@ -122,8 +122,17 @@ TEST_P(WheelImage, ShowsTheColourOfEveryPlace)
 INSTANTIATE_TEST_SUITE_P(ModesAndLevels, WheelImage,
                          testing::Values(WheelCase{0, 85}, WheelCase{0, 255}, WheelCase{0, -3.7F}, WheelCase{0, 128.6F},
                                          WheelCase{1, 85}, WheelCase{1, 255}, WheelCase{1, -3.7F}, WheelCase{1, 128.6F},
-                                         WheelCase{2, 85}, WheelCase{2, 255}, WheelCase{2, -3.7F},
-                                         WheelCase{2, 128.6F}));
+                                         WheelCase{2, 85}, WheelCase{2, 255}, WheelCase{2, -3.7F}, WheelCase{2, 128.6F},
+                                         WheelCase{1, 85.5F}));
+
+// The green of these colours lies halfway between two levels: whether it is rounded up goes by the third of green.
+TEST(WheelImage, RoundsHalfLevelsOfGreenByItsOwnThird)
+{
+    const QImage image = wheelImageOf(middle, 85.5F);
+    const auto colour = [&image](int u, int v) { return image.pixel(u + 341, 340 - v); };
+    EXPECT_EQ(colour(0, 0), qRgb(85, 86, 85));     // 86.5
+    EXPECT_EQ(colour(20, 20), qRgb(105, 47, 105)); // 46.5
+}
 
 TEST(WheelImage, HasGreyInTheMiddle)
 {

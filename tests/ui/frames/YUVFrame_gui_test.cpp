@@ -110,6 +110,27 @@ TEST_F(YUVFrameTest, WeightsPutTheMarkerAtTheirChroma)
     EXPECT_NEAR(frame.markerY(), (30.0 + 341) / 682, 1e-6);
 }
 
+// The mean weighs green a little more than the others: with equal weights this level would be 0.
+TEST_F(YUVFrameTest, WeightsThatAddUpToNothingHaveALevelAboveZero)
+{
+    frame.slotSetRGB({-100, 200, -100});
+    EXPECT_NEAR(frame.luma(), 2e-10, 1e-12);
+}
+
+// 3 * 85.1 lies in the middle between two floats; the third of green decides which one is emitted.
+TEST_F(YUVFrameTest, APickGivesGreenThroughItsOwnThird)
+{
+    frame.slotSetLuma(85);
+    sendMouse(QEvent::MouseButtonPress, 0, 0);
+    turnWheel(10);
+    picked.clear();
+    sendMouse(QEvent::MouseMove, -200, -100);
+    ASSERT_EQ(picked.count(), 1);
+    EXPECT_EQ(picked[0][0].toFloat(), 512);
+    EXPECT_EQ(picked[0][1].toFloat(), 255.299988F);
+    EXPECT_EQ(picked[0][2].toFloat(), -512);
+}
+
 TEST_F(YUVFrameTest, AnotherLevelLeavesTheMarkerAndEmitsNothing)
 {
     frame.slotSetRGB({30, 60, 90});

@@ -230,6 +230,18 @@ TEST_F(MixerTest, ASumOfFractionsShowsTheSumOfItsWholeWeights)
     EXPECT_EQ(spinBox("spinBoxLuma").value(), 255);
 }
 
+// Red is 10 - 60 + 50. The mean weighs green a little more than the others and is a little above 60 here; with equal
+// weights it would be below and red positive. The sliders show whole weights, which are the same in both cases.
+TEST_F(MixerTest, TheSumStartsFromAMeanThatWeighsGreenMore)
+{
+    setChannels({10, 110, 60});
+    emitted.clear();
+    slider("sliderLuma").setValue(150);
+    ASSERT_EQ(emitted.count(), 1);
+    EXPECT_NEAR(emitted[0][0].toFloat(), -5e-11 / 255, 1e-14);
+    EXPECT_EQ(sliders(), (Triple{0, 100, 50}));
+}
+
 TEST_F(MixerTest, TheSumCommitsWhatTheChannelSlidersTry)
 {
     setChannels({100, 85, 70});

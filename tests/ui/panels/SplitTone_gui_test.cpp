@@ -251,6 +251,18 @@ TEST_F(SplitToneTest, TypedColoursAreSilentAndMoveWheelAndLuma)
     expectEmitted(1, {200, 100, 30}, {20, 40, 61});
 }
 
+// The mean weighs green a little more than the others and is a little above 100 here; with equal weights it would be
+// below and be cut to 99.
+TEST_F(SplitToneTest, TheLumaOfAGreenTintIsNotCutByOne)
+{
+    spinBox("spinBoxHR").setValue(90);
+    spinBox("spinBoxHG").setValue(120);
+    spinBox("spinBoxHB").setValue(90);
+    EXPECT_EQ(slider("sliderHLuma").value(), 100);
+    panel.slotSetShadows(90, 120, 90);
+    EXPECT_EQ(slider("sliderSLuma").value(), 100);
+}
+
 TEST_F(SplitToneTest, ALumaMovesAllChannelsAlike)
 {
     reset();
