@@ -225,6 +225,20 @@ TEST(HistogramBehind, WhatBecomesWhiteFallsOut)
     EXPECT_EQ(histogramBehind(QVector<float>(count, 1.0F), histogram), QVector<float>(count, 0.0F));
 }
 
+// A bin i goes to i * (1 / (i / 256)), which is 256 but for these, where the quotient is rounded down: they stay in.
+TEST(HistogramBehind, FourteenTonesOfAWhiteCurveLandInTheLastBin)
+{
+    QVector<float> expected(count, 0.0F);
+    expected[255] = 14;
+    EXPECT_EQ(histogramBehind(QVector<float>(count, 1.0F), QVector<float>(count, 1.0F)), expected);
+
+    for (const int tone : {49, 98, 103, 107, 161, 187, 196, 197, 206, 214, 237, 239, 249, 253}) {
+        QVector<float> histogram(count, 0.0F);
+        histogram[tone] = 1;
+        EXPECT_EQ(histogramBehind(QVector<float>(count, 1.0F), histogram)[255], 1) << tone;
+    }
+}
+
 TEST(HistogramBehind, AnotherNumberOfValuesLeavesTheHistogram)
 {
     const QVector<float> histogram(count, 0.5F);
