@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QMetaMethod>
 #include <QSettings>
+#include <QTimerEvent>
 
 #include <algorithm>
 
@@ -54,6 +55,14 @@ std::string methodsOf(const QMetaObject &meta, char between)
         methods << QString::fromLatin1(meta.method(i).methodSignature());
     }
     return methods.join(QLatin1Char(between)).toStdString();
+}
+
+void timeOutNow(QTimer &timer)
+{
+    if (timer.isActive()) {
+        QTimerEvent timeout(timer.timerId());
+        QCoreApplication::sendEvent(&timer, &timeout);
+    }
 }
 
 void trigger(const QObject &window, const char *name)

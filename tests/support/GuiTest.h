@@ -11,6 +11,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <stdexcept>
 #include <string>
@@ -57,6 +58,9 @@ T &child(const QObject &parent, const char *name)
 
 /// The signatures of a class's own signals and slots, in their order, with `between` between them.
 std::string methodsOf(const QMetaObject &meta, char between = ' ');
+
+/// Ends the interval of a running timer now; a timer that does not run is left as it is.
+void timeOutNow(QTimer &timer);
 
 /// Triggers an action as a user does; the test ends where it is missing, disabled or hidden.
 void trigger(const QObject &window, const char *name);

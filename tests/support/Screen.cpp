@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/Screen.h"
 
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
@@ -31,13 +30,11 @@ BytePixels onScreen(const QWidget &widget)
 
 BytePixels onScreenOnceLike(const QWidget &widget, const BytePixels &expected)
 {
-    QElapsedTimer timer;
-    timer.start();
-    BytePixels shown = onScreen(widget);
-    while (shown.values != expected.values && timer.elapsed() < 5000) {
-        QTest::qWait(20);
+    BytePixels shown;
+    static_cast<void>(QTest::qWaitFor([&] {
         shown = onScreen(widget);
-    }
+        return shown.values == expected.values;
+    }));
     return shown;
 }
 

@@ -47,6 +47,8 @@ private:
 GLWidget::GLWidget(QWidget *parent) : QOpenGLWidget(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
+    m_clickTimer.setObjectName(QStringLiteral("clickTimer"));
+    m_resizeTimer.setObjectName(QStringLiteral("resizeTimer"));
     m_clickTimer.setSingleShot(true);
     m_resizeTimer.setSingleShot(true);
     connect(&m_clickTimer, &QTimer::timeout, this, &GLWidget::singleClick);

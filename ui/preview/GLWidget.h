@@ -152,8 +152,8 @@ private:
     bool m_bypass = false;
     enumFitTo m_fitMode = FitSmaller;
     QPointF m_lastPos;
-    QTimer m_clickTimer;
-    QTimer m_resizeTimer;
+    QTimer m_clickTimer{this};
+    QTimer m_resizeTimer{this};
     graphics::Message m_problem;
     FocusMark m_focusMark{this};
 };

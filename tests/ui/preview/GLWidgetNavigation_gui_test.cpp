@@ -3,12 +3,18 @@
 
 #include "tests/support/LogCapture.h"
 
-#include <QSignalSpy>
-
 namespace
 {
 
 using namespace grisal::test;
+
+/// Whether a paint at this moment shows the source; through the red mixer every pixel is grey.
+bool paintsSource(GLWidget &widget)
+{
+    const QImage frame = widget.grabFramebuffer();
+    const QColor middle = frame.pixelColor(frame.rect().center());
+    return middle.red() != middle.green();
+}
 
 TEST_F(GLWidgetTest, HoldingTheButtonComparesWithTheSource)
 {
@@ -19,15 +25,29 @@ TEST_F(GLWidgetTest, HoldingTheButtonComparesWithTheSource)
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
-TEST_F(GLWidgetTest, HoldingTheButtonTakesEffectOnce)
+TEST_F(GLWidgetTest, HoldingTheButtonTakesEffectOnceAfterAQuarterOfASecond)
+{
+    showPictureAtOneToOne();
+    EXPECT_FALSE(clickTimer().isActive());
+    QTest::mousePress(&widget, Qt::LeftButton, {}, {20, 20});
+    EXPECT_TRUE(clickTimer().isActive());
+    EXPECT_EQ(clickTimer().interval(), 250);
+    EXPECT_FALSE(paintsSource(widget));
+    timeOutNow(clickTimer());
+    EXPECT_TRUE(paintsSource(widget));
+    EXPECT_FALSE(clickTimer().isActive());
+    EXPECT_TRUE(screenShows(centred(picture)));
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, {20, 20});
+    EXPECT_FALSE(paintsSource(widget));
+}
+
+TEST_F(GLWidgetTest, AReleaseBeforeTheQuarterOfASecondComparesNothing)
 {
     showPictureAtOneToOne();
     QTest::mousePress(&widget, Qt::LeftButton, {}, {20, 20});
-    EXPECT_TRUE(screenShows(centred(picture)));
-    const QSignalSpy frames(&widget, &QOpenGLWidget::frameSwapped);
-    QTest::qWait(600);
-    EXPECT_EQ(frames.count(), 0);
     QTest::mouseRelease(&widget, Qt::LeftButton, {}, {20, 20});
+    EXPECT_FALSE(clickTimer().isActive());
+    EXPECT_FALSE(paintsSource(widget));
 }
 
 TEST_F(GLWidgetTest, TakesTheKeyboard)
@@ -40,7 +60,7 @@ TEST_F(GLWidgetTest, DraggingPansAgainstTheMouse)
     showPictureAtOneToOne();
     QTest::mousePress(&widget, Qt::LeftButton, {}, {100, 80});
     QTest::mouseMove(&widget, {112, 74});
-    QTest::qWait(300);
+    EXPECT_FALSE(clickTimer().isActive());
     const int dx = static_cast<int>(12 * ratio());
     const int dy = static_cast<int>(-6 * ratio());
     const BytePixels expected = placed(redAsGrey(picture), (pixelSize().width() - pictureWidth) / 2 - dx,
@@ -143,15 +163,19 @@ TEST_F(GLWidgetTest, AnUnknownFitIsToldAndShowsOneToOne)
     EXPECT_FLOAT_EQ(widget.scale(), 1);
 }
 
-TEST_F(GLWidgetTest, AResizeFitsAgainAfterAMoment)
+TEST_F(GLWidgetTest, AResizeFitsAgainAfterATenthOfASecond)
 {
     show();
     load(picture);
     widget.slotZoomIn();
+    const float zoomed = widget.scale();
     widget.setGeometry(0, 0, 300, 160);
-    EXPECT_TRUE(QTest::qWaitFor([this] {
-        return qFuzzyCompare(widget.scale(), 0.99F * static_cast<float>(pixelSize().height()) / pictureHeight);
-    }));
+    EXPECT_TRUE(resizeTimer().isActive());
+    EXPECT_EQ(resizeTimer().interval(), 100);
+    EXPECT_EQ(widget.scale(), zoomed);
+    timeOutNow(resizeTimer());
+    EXPECT_FALSE(resizeTimer().isActive());
+    EXPECT_FLOAT_EQ(widget.scale(), 0.99F * static_cast<float>(pixelSize().height()) / pictureHeight);
     EXPECT_EQ(widget.offset(), QPointF(pixelSize().width() / 2.0, pixelSize().height() / 2.0));
 }
 

@@ -4,11 +4,13 @@
 #include "ui/preview/GLWidget.h"
 
 #include "tests/support/GlPresence.h"
+#include "tests/support/GuiTest.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/Screen.h"
 
 #include <gtest/gtest.h>
 
+#include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -48,7 +50,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
         ASSERT_TRUE(widget.isValid()) << "no OpenGL on this display";
         // The fit that follows a resize would come in between.
-        QTest::qWait(150);
+        timeOutNow(resizeTimer());
     }
 
     void load(const BytePixels &pixels)
@@ -62,6 +64,9 @@ protected:
         load(picture);
         widget.slotActualPixels();
     }
+
+    QTimer &clickTimer() { return child<QTimer>(widget, "clickTimer"); }
+    QTimer &resizeTimer() { return child<QTimer>(widget, "resizeTimer"); }
 
     /// Device pixels per unit of the toolkit.
     double ratio() const { return widget.devicePixelRatioF(); }
@@ -90,6 +95,14 @@ protected:
     testing::AssertionResult screenShows(const BytePixels &expected) const
     {
         return picturesNear("screen", onScreenOnceLike(widget, expected), expected);
+    }
+
+    /// Asks for a paint and waits until it is on the screen.
+    bool paintsAgain()
+    {
+        QSignalSpy frames(&widget, &QOpenGLWidget::frameSwapped);
+        widget.update();
+        return frames.wait();
     }
 
     void wheel(int delta)

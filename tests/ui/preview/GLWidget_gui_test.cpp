@@ -63,8 +63,7 @@ TEST_F(GLWidgetTest, ThePreviewIsSeenAfterTheGrain)
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
     BytePixels full = rampPicture<std::uint8_t>(9, 7);
     EXPECT_TRUE(widget.renderFinal(full.values.data(), 9, 7, false, false));
-    widget.update();
-    QTest::qWait(50);
+    ASSERT_TRUE(paintsAgain());
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
