@@ -250,6 +250,30 @@ TEST_F(MainWindowActions, LoadingPixelsPutsAllParametersBack)
     EXPECT_EQ(now.curve, initial.curve);
 }
 
+TEST_F(MainWindowActions, PanelsAreResetInTheirOrder)
+{
+    start();
+    QStringList senders;
+    const QObject listener;
+    const auto record = [&](auto &sender, auto signal) {
+        const QString name = QString::fromLatin1(sender.metaObject()->className());
+        QObject::connect(&sender, signal, &listener, [&senders, name] { senders << name; });
+    };
+    record(panel<Mixer>(), &Mixer::signalMixer);
+    record(panel<Vignette>(), &Vignette::signalVignette);
+    record(panel<SplitTone>(), &SplitTone::signalSplit);
+    record(panel<Grain>(), &Grain::signalGrain);
+    record(panel<Curves>(), &Curves::signalCurves);
+    const QStringList order{QStringLiteral("Mixer"), QStringLiteral("Vignette"), QStringLiteral("SplitTone"),
+                            QStringLiteral("Grain"), QStringLiteral("Curves")};
+    window.slotResetFilters();
+    EXPECT_EQ(senders, order);
+    senders.clear();
+    const std::uint8_t white[3] = {255, 255, 255};
+    window.loadBuffer(white, 1, 1, false);
+    EXPECT_EQ(senders, order);
+}
+
 TEST_F(MainWindowActions, LoadingNoPixelsIsToldAndChangesNothing)
 {
     start();

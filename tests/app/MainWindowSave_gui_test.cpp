@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QMenu>
+#include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
@@ -28,6 +29,24 @@ struct Weights {
 constexpr double level = 257;
 
 constexpr Weights triX{64 / 255.0, 89 / 255.0, 102 / 255.0};
+
+/// The quantisation tables of a JPEG file, one behind the other.
+QByteArray quantisationTables(const QString &path)
+{
+    constexpr char table = '\xdb';
+    constexpr char startOfScan = '\xda';
+    const QByteArray file = contentsOf(path);
+    QByteArray tables;
+    // A segment is 0xff, its kind, a length that counts itself, and its contents.
+    for (qsizetype segment = 2; segment + 4 <= file.size() && file[segment + 1] != startOfScan;) {
+        const qsizetype length = qFromBigEndian<quint16>(file.constData() + segment + 2);
+        if (file[segment + 1] == table) {
+            tables += file.mid(segment + 4, length - 2);
+        }
+        segment += 2 + length;
+    }
+    return tables;
+}
 
 class MainWindowSave : public FilesTest
 {
@@ -98,6 +117,26 @@ TEST_F(MainWindowSave, TheSavedPictureHasTheSizeOfTheSource)
     ASSERT_TRUE(saved.read(inHome(QStringLiteral("b.jpg"))));
     EXPECT_EQ(saved.width(), width);
     EXPECT_EQ(saved.height(), height);
+}
+
+TEST_F(MainWindowSave, AJpegIsWrittenWithQuality90)
+{
+    start();
+    window.openImage(makePicture(QStringLiteral("a.jpg"), width, height));
+    const QString saved = inHome(QStringLiteral("b.jpg"));
+    window.saveImage(saved);
+    const auto tablesOfQuality = [&](unsigned quality) {
+        const QString again = inHome(QStringLiteral("again.jpg"));
+        Magick::Image image(saved.toStdString());
+        image.quality(quality);
+        image.write(again.toStdString());
+        return quantisationTables(again);
+    };
+    const QByteArray tables = quantisationTables(saved);
+    EXPECT_FALSE(tables.isEmpty());
+    EXPECT_EQ(tables, tablesOfQuality(90));
+    EXPECT_NE(tables, tablesOfQuality(89));
+    EXPECT_NE(tables, tablesOfQuality(91));
 }
 
 TEST_F(MainWindowSave, SavingWithoutAPictureIsTold)
@@ -185,6 +224,24 @@ TEST_F(MainWindowSave, SaveAsksForThePathOfTheLastDialog)
     MessageBoxAnswer box(QMessageBox::Cancel);
     trigger(window, "actionSave");
     EXPECT_EQ(box.text, QStringLiteral("File b already exists.\n Do you want to replace it?"));
+}
+
+TEST_F(MainWindowSave, SaveWritesThePictureShownToThePathOfTheLastDialog)
+{
+    start();
+    const QString shown = makePicture(QStringLiteral("a.png"), width, height);
+    const QString chosen = makePicture(QStringLiteral("b.png"), height, width, 8, fine);
+    const Words source = samplesOf(shown);
+    const QByteArray before = contentsOf(shown);
+    openWithDialog(shown);
+    openWithDialog(chosen);
+    child<QMenu>(window, "menuRecent").actions()[1]->trigger();
+    ASSERT_EQ(title(), QStringLiteral("Lumio Grisal (Alpha) - a.png %1x%2").arg(width).arg(height).toStdString());
+    chooseTriX();
+    const MessageBoxAnswer box(QMessageBox::Ok);
+    trigger(window, "actionSave");
+    EXPECT_EQ(contentsOf(shown), before);
+    EXPECT_LE(distanceFromGrey(samplesOf(chosen), source, triX), level);
 }
 
 // The file dialog has asked already.
