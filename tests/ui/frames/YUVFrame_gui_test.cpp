@@ -258,13 +258,16 @@ TEST_F(YUVFrameTest, DrawingOnNothingIsTold)
 class DrawnWheel
 {
 public:
-    DrawnWheel(const ChromaPlane &plane, float luma, QSize size)
-        : m_plane(plane), m_size(size), m_image(size, QImage::Format_ARGB32_Premultiplied), m_painter(&m_image)
+    DrawnWheel(const ChromaPlane &plane, float luma, const QWidget &wheel)
+        : m_plane(plane), m_size(wheel.size()),
+          m_image(wheelImageOf(plane, luma)
+                      .scaled(m_size * wheel.devicePixelRatio(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                      .convertToFormat(QImage::Format_ARGB32_Premultiplied)),
+          m_grey(luma <= 84 ? 255 : 0)
     {
+        m_image.setDevicePixelRatio(wheel.devicePixelRatio());
+        m_painter.begin(&m_image);
         m_painter.setRenderHint(QPainter::Antialiasing);
-        m_painter.drawImage(0, 0,
-                            wheelImageOf(plane, luma).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-        m_grey = luma <= 84 ? 255 : 0;
     }
 
     QImage image(double markerX, double markerY)
@@ -306,8 +309,8 @@ private:
     ChromaPlane m_plane;
     QSize m_size;
     QImage m_image;
+    int m_grey;
     QPainter m_painter;
-    int m_grey = 0;
 };
 
 TEST_F(YUVFrameTest, ThePictureIsPlaneOutlinesAxesAndMarker)
@@ -319,8 +322,7 @@ TEST_F(YUVFrameTest, ThePictureIsPlaneOutlinesAxesAndMarker)
             frame.slotSetRGB({level + 40, level, level - 40});
             frame.slotSetLuma(level);
             const QImage shown = frame.grab().toImage().convertToFormat(QImage::Format_RGB32);
-            const QImage expected =
-                DrawnWheel(frame.plane(), level, frame.size()).image(frame.markerX(), frame.markerY());
+            const QImage expected = DrawnWheel(frame.plane(), level, frame).image(frame.markerX(), frame.markerY());
             EXPECT_EQ(shown, expected) << "mode " << mode << ", level " << level;
         }
     }
@@ -329,7 +331,10 @@ TEST_F(YUVFrameTest, ThePictureIsPlaneOutlinesAxesAndMarker)
 TEST_F(YUVFrameTest, LinesAreWhiteOnDarkLevelsAndBlackOnOthers)
 {
     frame.slotSetRGB({84, 84, 84});
-    const auto inTheMiddle = [this] { return QColor(frame.grab().toImage().pixel(100, 50)).red(); };
+    const auto inTheMiddle = [this] {
+        const QImage shown = frame.grab().toImage();
+        return shown.pixelColor(shown.width() / 2, shown.height() / 2).red();
+    };
     frame.slotSetLuma(84);
     EXPECT_EQ(inTheMiddle(), 255);
     frame.slotSetLuma(84.1F);
