@@ -15,6 +15,7 @@
 #include "ui/panels/Vignette.h"
 #include "ui_MainWindow.h"
 
+#include <QAbstractSpinBox>
 #include <QDesktopServices>
 #include <QProgressBar>
 #include <QStackedLayout>
@@ -169,10 +170,24 @@ void MainWindow::slotResetActions()
     }
 }
 
+// A shortcut leaves the focus in the spin box, which holds the text back until it is complete.
+void MainWindow::takeTypedNumber()
+{
+    if (auto *spinBox = qobject_cast<QAbstractSpinBox *>(focusWidget())) {
+        spinBox->interpretText();
+    }
+}
+
+void MainWindow::showPanel(QWidget *panel)
+{
+    takeTypedNumber();
+    m_panels->setCurrentWidget(panel);
+}
+
 bool MainWindow::togglePanel(QWidget *panel, QAction *action)
 {
     const bool on = m_panels->currentWidget() != panel;
-    m_panels->setCurrentWidget(on ? panel : m_mixer);
+    showPanel(on ? panel : m_mixer);
     action->setChecked(on);
     return on;
 }
@@ -194,7 +209,7 @@ void MainWindow::toggleFilter(QWidget *panel, QAction *action, graphics::IFilter
 
 void MainWindow::on_actionMixer_triggered()
 {
-    m_panels->setCurrentWidget(m_mixer);
+    showPanel(m_mixer);
 }
 
 void MainWindow::on_actionVignette_triggered()
@@ -231,6 +246,7 @@ void MainWindow::on_actionSharpen_triggered()
 
 void MainWindow::on_actionQuit_triggered()
 {
+    takeTypedNumber();
     qWarning("Bye bye...\n\n\n");
     emit signalFinished();
     close();

@@ -91,6 +91,9 @@ private:
     void connectPanels();
     void showGuide();
     void showPreferences();
+    /// Has the number that is being typed into a panel take effect. Comes first wherever the numbers count.
+    void takeTypedNumber();
+    void showPanel(QWidget *panel);
     bool togglePanel(QWidget *panel, QAction *action);
     void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem);
     void showPreviewOf(const graphics::Image &image);

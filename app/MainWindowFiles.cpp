@@ -37,12 +37,14 @@ QString titleFor(const QString &path, const graphics::Image &image)
 
 void MainWindow::on_actionOpen_triggered()
 {
+    takeTypedNumber();
     openImage(m_fileDealer.openDialog());
     activateWindow();
 }
 
 void MainWindow::openImage(QString filename)
 {
+    takeTypedNumber();
     if (filename.isEmpty()) {
         return;
     }
@@ -137,6 +139,7 @@ void MainWindow::slotFinalRendering()
 
 std::optional<graphics::Image> MainWindow::renderOutput(BusyNotice &notice)
 {
+    takeTypedNumber();
     try {
         return renderImage(notice);
     } catch (const std::exception &problem) {
@@ -180,6 +183,7 @@ void MainWindow::showRenderFailed(const QString &reason)
 
 void MainWindow::on_actionSave_triggered()
 {
+    takeTypedNumber();
     const QFileInfo file(m_fileDealer.currentPath());
     if (file.exists()) {
         const QString question = tr("File %1 already exists.\n Do you want to replace it?").arg(file.baseName());
@@ -195,6 +199,7 @@ void MainWindow::on_actionSave_triggered()
 
 void MainWindow::on_actionSave_As_triggered()
 {
+    takeTypedNumber();
     saveImage(m_fileDealer.saveDialog());
     activateWindow();
 }
