@@ -175,6 +175,14 @@ TEST_F(UserGuideTest, AllLanguagesHaveTheSameChapters)
     }
 }
 
+TEST_F(UserGuideTest, EveryLanguageTellsWhatTheLumaMakesOfATypedWeight)
+{
+    for (const QString &guide : guides()) {
+        const QRegularExpression example(QStringLiteral("\\b200\\b.+\\b256\\b.+\\b162, 47 .+ 47\\b"));
+        EXPECT_TRUE(example.match(sourceOf(guide).simplified()).hasMatch()) << guide.toStdString();
+    }
+}
+
 TEST_F(ShownUserGuide, StartsAtTheTopWithTheContents)
 {
     EXPECT_EQ(guide.windowTitle(), QStringLiteral("Grisal User Guide"));

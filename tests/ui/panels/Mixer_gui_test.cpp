@@ -204,22 +204,6 @@ TEST_F(MixerTest, TheSpinBoxOfTheSumDoesTheSame)
     EXPECT_EQ(slider("sliderLuma").value(), 300);
 }
 
-// A number counts when it is complete: the sum is shared out anew and written back at every change, which would get in
-// the way of the next digit.
-TEST_F(MixerTest, ATypedSumCountsOnceItIsEntered)
-{
-    choose("Luma");
-    emitted.clear();
-    panel.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
-    QSpinBox &sum = spinBox("spinBoxLuma");
-    sum.selectAll();
-    QTest::keyClicks(&sum, QStringLiteral("300"));
-    EXPECT_EQ(emitted.count(), 0);
-    QTest::keyClick(&sum, Qt::Key_Return);
-    expectEmitted(92, 165, 43);
-}
-
 // A third of 256 is no whole weight: the controls show 85 each, and their sum, while the picture gets the fraction.
 TEST_F(MixerTest, ASumOfFractionsShowsTheSumOfItsWholeWeights)
 {
@@ -247,6 +231,44 @@ TEST_F(MixerTest, TheSumCommitsWhatTheChannelSlidersTry)
     setChannels({100, 85, 70});
     slider("sliderLuma").setValue(285);
     expectEmitted(110, 95, 80);
+}
+
+// The example of the user guide, in all its languages.
+TEST_F(MixerTest, TheSumMovesATypedWeightWithTheOthers)
+{
+    spinBox("spinBoxR").setValue(200);
+    spinBox("spinBoxLuma").setValue(256);
+    expectEmitted(162, 47, 47);
+    EXPECT_EQ(spinBoxes(), (Triple{162, 47, 47}));
+}
+
+TEST_F(MixerTest, ALookReplacesTypedWeights)
+{
+    spinBox("spinBoxR").setValue(200);
+    choose("Luma");
+    expectEmitted(77, 150, 28);
+}
+
+TEST_F(MixerTest, AClickOnTheWheelReplacesTypedWeights)
+{
+    wheel.resize(200, 200);
+    spinBox("spinBoxR").setValue(200);
+    QTest::mouseClick(&wheel, Qt::LeftButton, {}, QPoint(100, 100));
+    expectEmitted(370 / 3.0F, 370 / 3.0F, 370 / 3.0F);
+}
+
+// What the user guide advises who wants the weights as they are typed.
+TEST_F(MixerTest, ANotchForwardsAndOneBackOnTheWheelEmitTypedWeights)
+{
+    for (const Triple &typed : {Triple{200, 85, 85}, Triple{200, -20, 75}, Triple{511, 400, -512}, Triple{1, 2, 3}}) {
+        setChannels(typed);
+        QTest::keyClick(&wheel, Qt::Key_PageUp);
+        QTest::keyClick(&wheel, Qt::Key_PageDown);
+        for (std::size_t c = 0; c < typed.size(); ++c) {
+            EXPECT_NEAR(emitted.last()[static_cast<int>(c)].toDouble() * 255, typed[c], 1e-3);
+            EXPECT_NEAR(spinBoxes()[c], typed[c], 1);
+        }
+    }
 }
 
 TEST_F(MixerTest, WeightsFromOutsideAreShownAndEmittedAsTheyAre)
