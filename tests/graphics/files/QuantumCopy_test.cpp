@@ -119,14 +119,14 @@ TEST_P(QuantumCopy, BytesOutAreHighBytesAndTheLowByteOfTheOpacity)
         const Quanta quanta = quantaOf(pixels[i]);
         return c < 3 ? quanta[c] >> 8 : quanta[c] & 0xff;
     };
-    EXPECT_EQ(copiedOut<Bytes>(pixels, copyBytesOut), expected<Bytes>(components(), byte));
+    EXPECT_EQ(copiedOut<Bytes>(pixels, copySamples8Out), expected<Bytes>(components(), byte));
 }
 
 TEST_P(QuantumCopy, SamplesOutAreTheQuanta)
 {
     const auto pixels = mixedPixels(count());
     const auto sample = [&](std::size_t c, std::size_t i) { return quantaOf(pixels[i])[c]; };
-    EXPECT_EQ(copiedOut<Samples>(pixels, copyWordsOut), expected<Samples>(components(), sample));
+    EXPECT_EQ(copiedOut<Samples>(pixels, copySamples16Out), expected<Samples>(components(), sample));
 }
 
 TEST_P(QuantumCopy, SamplesInAreTheQuanta)
@@ -135,40 +135,40 @@ TEST_P(QuantumCopy, SamplesInAreTheQuanta)
     const auto quantum = [&](std::size_t c, std::size_t i) {
         return c < components() ? samples[i * components() + c] : 65535;
     };
-    EXPECT_EQ(copiedIn(samples, copyWordsIn), expected<Samples>(4, quantum));
+    EXPECT_EQ(copiedIn(samples, copySamples16In), expected<Samples>(4, quantum));
 }
 
 TEST_P(QuantumCopy, SamplesComeOutAsTheyWentIn)
 {
     const auto samples = mixed<Samples>(count() * components());
     std::vector<Magick::PixelPacket> pixels(count());
-    copyWordsIn(samples.data(), count(), pixels.data(), alpha());
-    EXPECT_EQ(copiedOut<Samples>(pixels, copyWordsOut), samples);
+    copySamples16In(samples.data(), count(), pixels.data(), alpha());
+    EXPECT_EQ(copiedOut<Samples>(pixels, copySamples16Out), samples);
 }
 
 TEST_P(QuantumCopy, BytesComeOutAsTheyWentIn)
 {
     const auto bytes = mixed<Bytes>(count() * components());
     std::vector<Magick::PixelPacket> pixels(count());
-    copyBytesIn(bytes.data(), count(), pixels.data(), alpha());
-    EXPECT_EQ(copiedOut<Bytes>(pixels, copyBytesOut), bytes);
+    copySamples8In(bytes.data(), count(), pixels.data(), alpha());
+    EXPECT_EQ(copiedOut<Bytes>(pixels, copySamples8Out), bytes);
 }
 
 TEST(QuantumCopyTest, CopiesTwoPixelsOut)
 {
     Bytes bytes(8);
-    copyBytesOut(twoPixels.data(), 2, bytes.data(), true);
+    copySamples8Out(twoPixels.data(), 2, bytes.data(), true);
     EXPECT_EQ(bytes, (Bytes{0x12, 0xfe, 0x00, 0x43, 0xff, 0x01, 0x80, 0xff}));
 
     Samples samples(6);
-    copyWordsOut(twoPixels.data(), 2, samples.data(), false);
+    copySamples16Out(twoPixels.data(), 2, samples.data(), false);
     EXPECT_EQ(samples, (Samples{0x12ff, 0xfe00, 0x00ff, 0xffff, 0x0100, 0x8080}));
 }
 
 TEST(QuantumCopyTest, SpreadsTheHighBytesOfTheColoursAlone)
 {
     std::vector<Magick::PixelPacket> pixels = twoPixels;
-    spreadBytes(pixels.data(), 2);
+    spreadHighBytes(pixels.data(), 2);
     EXPECT_EQ(quantaOf(pixels[0]), (Quanta{0x1212, 0xfefe, 0x0000, 0x8143}));
     EXPECT_EQ(quantaOf(pixels[1]), (Quanta{0xffff, 0x0101, 0x8080, 0x00ff}));
 }
@@ -178,7 +178,7 @@ TEST(QuantumCopyTest, SpreadsEveryByteToItsMultipleOf257)
     for (unsigned byte = 0; byte < 256; ++byte) {
         const auto high = static_cast<Magick::Quantum>(byte << 8);
         Magick::PixelPacket pixel = packet({high, high, high, 0});
-        spreadBytes(&pixel, 1);
+        spreadHighBytes(&pixel, 1);
         const auto spread = static_cast<Magick::Quantum>(byte * 257);
         EXPECT_EQ(quantaOf(pixel), (Quanta{spread, spread, spread, 0})) << byte;
     }
@@ -187,9 +187,9 @@ TEST(QuantumCopyTest, SpreadsEveryByteToItsMultipleOf257)
 TEST(QuantumCopyTest, SpreadsOnlyAsManyPixelsAsAsked)
 {
     std::vector<Magick::PixelPacket> pixels = twoPixels;
-    spreadBytes(pixels.data(), 1);
+    spreadHighBytes(pixels.data(), 1);
     EXPECT_EQ(quantaOf(pixels[1]), quantaOf(twoPixels[1]));
-    spreadBytes(pixels.data(), 0);
+    spreadHighBytes(pixels.data(), 0);
     EXPECT_EQ(quantaOf(pixels[1]), quantaOf(twoPixels[1]));
 }
 
