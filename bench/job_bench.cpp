@@ -5,7 +5,6 @@
 //   passes          the bare passes of a final render, of a frame of the preview
 //   transfers       upload and read-back of the same bytes
 //   firstFrame      upload of the preview and its first frame
-#include "app/Memory.h"
 #include "bench/ScreenWindow.h"
 #include "bench/Yardsticks.h"
 #include "graphics/gl/OffscreenContext.h"
@@ -195,7 +194,6 @@ BENCHMARK(zoomStep)->Apply(inMilliseconds<50>);
 int main(int argc, char **argv)
 {
     qInstallMessageHandler(ignoreMessage);
-    memory::keepFreedBlocks();
     setDefaultSurfaceFormat();
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
