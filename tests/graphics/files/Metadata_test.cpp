@@ -49,7 +49,7 @@ struct MetadataTest : testing::Test {
         testing::internal::CaptureStderr();
         EXPECT_TRUE(output.save(target, quality)) << output.problem().toStdString();
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-        return (image.warning() + output.warning()).toStdString();
+        return (image.warning().english() + output.warning().english()).toStdString();
     }
 };
 
