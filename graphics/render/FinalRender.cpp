@@ -71,8 +71,8 @@ void logValueRange(const FinalPicture &picture)
 bool renderInPlace(const FinalPicture &picture, FilterSet &filters, DocumentView &view, const TileSide &horizontal,
                    const TileSide &vertical, const GlFaultWatch &watch, const TileProgress &progress)
 {
-    const TileFormats formats = picture.sixteenBit ? TileFormats{GL_RGB, GL_UNSIGNED_SHORT, GL_RGB16F}
-                                                   : TileFormats{GL_RGB, GL_UNSIGNED_BYTE, GL_RGB8};
+    const TileFormats formats =
+        tileFormatsFor(picture.sixteenBit, GLEW_VERSION_3_0 == GL_TRUE, GLEW_ARB_half_float_pixel == GL_TRUE);
     const ImageBuffer source{picture.pixels, static_cast<std::uint32_t>(picture.width),
                              static_cast<std::uint32_t>(picture.height), 1, 1};
     DocumentFilterQueue queue;

@@ -32,48 +32,68 @@ private:
 
 } // namespace
 
+TileFormats tileFormatsFor(bool sixteenBit, bool version30, bool halfFloatPixel)
+{
+    return sixteenBit ? TileFormats{GL_RGB, GL_UNSIGNED_SHORT, GL_RGB16F, version30 || halfFloatPixel}
+                      : TileFormats{GL_RGB, GL_UNSIGNED_BYTE, GL_RGB8};
+}
+
 template <typename T>
 bool TileTransfer<T>::isWithin(const TileArea &area) const
 {
     return area.x + area.width <= m_width && area.y + area.height <= m_height;
 }
 
+template <typename T>
+Texture TileTransfer<T>::makeTexture(const TileArea &area, GLenum type, const void *pixels) const
+{
+    return Texture(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height),
+                                 m_formats.internalFormat, m_formats.pixelFormat, type, pixels));
+}
+
+template <typename T>
+Texture TileTransfer<T>::sendAsTheyAre(const T *pixels, std::size_t rowLength, const TileArea &area) const
+{
+    const RowLength length(GL_UNPACK_ROW_LENGTH, rowLength);
+    return makeTexture(area, m_formats.pixelType, pixels);
+}
+
 template <>
 Texture TileTransfer<std::uint8_t>::send(const std::uint8_t *pixels, std::size_t rowLength, const TileArea &area)
 {
-    const RowLength length(GL_UNPACK_ROW_LENGTH, rowLength);
-    return Texture(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height),
-                                 m_formats.internalFormat, m_formats.pixelFormat, m_formats.pixelType, pixels));
+    return sendAsTheyAre(pixels, rowLength, area);
 }
 
 template <>
 Texture TileTransfer<std::uint16_t>::send(const std::uint16_t *pixels, std::size_t rowLength, const TileArea &area)
 {
+    if (!m_formats.halfFloatTransfers) {
+        return sendAsTheyAre(pixels, rowLength, area);
+    }
     const std::size_t row = area.width * tileComponents;
-    m_halves.resize(row * area.height);
+    m_halfFloats.resize(row * area.height);
     inBands(area.height, smallestBand, [&](std::size_t first, std::size_t end) {
         for (std::size_t y = first; y < end; ++y) {
-            halvesOfWords(pixels + y * rowLength * tileComponents, row, m_halves.data() + y * row);
+            halvesOfWords(pixels + y * rowLength * tileComponents, row, m_halfFloats.data() + y * row);
         }
     });
-    return Texture(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height),
-                                 m_formats.internalFormat, m_formats.pixelFormat, GL_HALF_FLOAT, m_halves.data()));
+    return makeTexture(area, GL_HALF_FLOAT, m_halfFloats.data());
 }
 
 template <typename T>
-Texture TileTransfer<T>::upload(const T *picture, const TileArea &area)
+Texture TileTransfer<T>::upload(const T *image, const TileArea &area)
 {
     const bool direct = m_components == tileComponents && isWithin(area);
     if (!direct) {
-        cutTile(picture, m_width, m_height, m_components, area, m_tile);
+        cutTile(image, m_width, m_height, m_components, area, m_tile);
     }
-    const T *pixels = direct ? picture + (area.y * m_width + area.x) * tileComponents : m_tile.data();
+    const T *pixels = direct ? image + (area.y * m_width + area.x) * tileComponents : m_tile.data();
     return send(pixels, direct ? m_width : area.width, area);
 }
 
-template <>
-void TileTransfer<std::uint8_t>::read(const FramebufferObject &target, const TileArea &seen, std::uint8_t *pixels,
-                                      std::size_t rowLength)
+template <typename T>
+void TileTransfer<T>::readAsTheyAre(const FramebufferObject &target, const TileArea &seen, T *pixels,
+                                    std::size_t rowLength) const
 {
     const RowLength length(GL_PACK_ROW_LENGTH, rowLength);
     readPixels(target, static_cast<std::int32_t>(seen.width), static_cast<std::int32_t>(seen.height),
@@ -81,22 +101,33 @@ void TileTransfer<std::uint8_t>::read(const FramebufferObject &target, const Til
 }
 
 template <>
+void TileTransfer<std::uint8_t>::read(const FramebufferObject &target, const TileArea &seen, std::uint8_t *pixels,
+                                      std::size_t rowLength)
+{
+    readAsTheyAre(target, seen, pixels, rowLength);
+}
+
+template <>
 void TileTransfer<std::uint16_t>::read(const FramebufferObject &target, const TileArea &seen, std::uint16_t *pixels,
                                        std::size_t rowLength)
 {
+    if (!m_formats.halfFloatTransfers) {
+        readAsTheyAre(target, seen, pixels, rowLength);
+        return;
+    }
     const std::size_t row = seen.width * tileComponents;
-    m_halves.resize(row * seen.height);
+    m_halfFloats.resize(row * seen.height);
     readPixels(target, static_cast<std::int32_t>(seen.width), static_cast<std::int32_t>(seen.height), GL_RGB,
-               GL_HALF_FLOAT, m_halves.data());
+               GL_HALF_FLOAT, m_halfFloats.data());
     inBands(seen.height, smallestBand, [&](std::size_t first, std::size_t end) {
         for (std::size_t y = first; y < end; ++y) {
-            wordsOfHalves(m_halves.data() + y * row, row, pixels + y * rowLength * tileComponents);
+            wordsOfHalves(m_halfFloats.data() + y * row, row, pixels + y * rowLength * tileComponents);
         }
     });
 }
 
 template <typename T>
-void TileTransfer<T>::download(const FramebufferObject &target, const TileArea &area, T *picture)
+void TileTransfer<T>::download(const FramebufferObject &target, const TileArea &area, T *image)
 {
     if (area.x >= m_width || area.y >= m_height) {
         return;
@@ -104,12 +135,12 @@ void TileTransfer<T>::download(const FramebufferObject &target, const TileArea &
     const TileArea seen{area.x, area.y, std::min(area.width, m_width - area.x),
                         std::min(area.height, m_height - area.y)};
     if (m_components == tileComponents) {
-        read(target, seen, picture + (seen.y * m_width + seen.x) * tileComponents, m_width);
+        read(target, seen, image + (seen.y * m_width + seen.x) * tileComponents, m_width);
         return;
     }
     m_tile.resize(seen.width * seen.height * tileComponents);
     read(target, seen, m_tile.data(), seen.width);
-    placeTile(m_tile, seen, picture, m_width, m_height, m_components);
+    placeTile(m_tile, seen, image, m_width, m_height, m_components);
 }
 
 template class TileTransfer<std::uint8_t>;

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+//
+// The final render on a driver of OpenGL 2.1 whose transfers have no half floats.
+#include "graphics/document/FlexibleDocumentView.h"
+#include "graphics/filters/FilterSet.h"
+#include "graphics/render/FinalRender.h"
+#include "tests/support/GlTest.h"
+#include "tests/support/HalfFloats.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/PictureCompare.h"
+
+#include <dlfcn.h>
+
+#include <memory>
+#include <utility>
+
+namespace
+{
+
+bool refusesHalfFloats = false;
+
+/// The driver under the tests answers an unknown type with GL_INVALID_ENUM.
+GLenum typeForTheOldDriver(GLenum type)
+{
+    return refusesHalfFloats && type == GL_HALF_FLOAT ? GL_NONE : type;
+}
+
+template <typename Function>
+Function *theDrivers(const char *name)
+{
+    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
+}
+
+} // namespace
+
+/// Stand in for the driver's.
+extern "C" void GLAPIENTRY glTexImage2D(GLenum target, GLint level, GLint internalFormat, GLsizei width, GLsizei height,
+                                        GLint border, GLenum format, GLenum type, const void *pixels)
+{
+    static auto *const real = theDrivers<decltype(glTexImage2D)>("glTexImage2D");
+    real(target, level, internalFormat, width, height, border, format, typeForTheOldDriver(type), pixels);
+}
+
+extern "C" void GLAPIENTRY glReadPixels(GLint x, GLint y, GLsizei width, GLsizei height, GLenum format, GLenum type,
+                                        void *pixels)
+{
+    static auto *const real = theDrivers<decltype(glReadPixels)>("glReadPixels");
+    real(x, y, width, height, format, typeForTheOldDriver(type), pixels);
+}
+
+namespace
+{
+
+using namespace grisal::graphics;
+using namespace grisal::test;
+
+class OldDriver : public GlTest
+{
+protected:
+    void SetUp() override
+    {
+        GlTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        view = std::make_unique<FlexibleDocumentView>(8, 8, 8, 8, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE);
+        filters = std::make_unique<FilterSet>();
+        filters->mixer.enabled = true;
+        filters->curve.enabled = true;
+        filters->vignette.enabled = true;
+        parameters.mixerWeights = {0.3F, 0.5F, 0.2F};
+    }
+
+    void TearDown() override
+    {
+        view.reset();
+        filters.reset();
+        GlTest::TearDown();
+    }
+
+    /// What is rendered with these flags of the driver; no pixels where that fails.
+    WordPixels render(bool version30, bool halfFloatPixel, int components)
+    {
+        const bool hasVersion = std::exchange(__GLEW_VERSION_3_0, version30 ? GL_TRUE : GL_FALSE) == GL_TRUE;
+        const bool hasExtension =
+            std::exchange(__GLEW_ARB_half_float_pixel, halfFloatPixel ? GL_TRUE : GL_FALSE) == GL_TRUE;
+        auto picture = rampPicture<std::uint16_t>(2055, 5, components);
+        const bool rendered = renderFinalPicture(
+            {picture.values.data(), picture.width, picture.height, true, components == 4}, parameters, *filters, *view);
+        __GLEW_VERSION_3_0 = hasVersion ? GL_TRUE : GL_FALSE;
+        __GLEW_ARB_half_float_pixel = hasExtension ? GL_TRUE : GL_FALSE;
+        return rendered ? picture : WordPixels();
+    }
+
+    WordPixels renderOnTheOldDriver(bool version30, bool halfFloatPixel, int components)
+    {
+        refusesHalfFloats = true;
+        const WordPixels picture = render(version30, halfFloatPixel, components);
+        refusesHalfFloats = false;
+        return picture;
+    }
+
+    LogCapture log;
+    std::unique_ptr<FlexibleDocumentView> view;
+    std::unique_ptr<FilterSet> filters;
+    FilterParameters parameters;
+};
+
+TEST_F(OldDriver, RendersSixteenBitPicturesAsAnyOther)
+{
+    // At the upload llvmpipe rounds to the nearest half float; another driver may be one half float away.
+    const double limit = isLlvmpipe() ? 0 : halfFloatStep;
+    for (const int components : {3, 4}) {
+        const WordPixels expected = render(true, true, components);
+
+        const WordPixels actual = renderOnTheOldDriver(false, false, components);
+
+        EXPECT_TRUE(picturesNear("old driver", actual, expected, {limit, 0}));
+    }
+}
+
+TEST_F(OldDriver, RefusesHalfFloatsWhereItsFlagsSayOtherwise)
+{
+    EXPECT_TRUE(renderOnTheOldDriver(true, false, 3).values.empty());
+    EXPECT_TRUE(renderOnTheOldDriver(false, true, 3).values.empty());
+}
+
+} // namespace
