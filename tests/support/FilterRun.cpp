@@ -2,6 +2,7 @@
 #include "tests/support/FilterRun.h"
 
 #include "graphics/gl/Textures.h"
+#include "tests/support/GlState.h"
 
 namespace grisal::test
 {
@@ -10,6 +11,18 @@ using graphics::createTexture;
 using graphics::RenderTarget;
 using graphics::Texture;
 
+namespace
+{
+
+/// One pass, and what every pass leaves behind: reading the target would hide it.
+void runPassOf(graphics::IFilter &filter, GLuint texture, const RenderTarget &target)
+{
+    filter.apply(texture, target.record());
+    expectPassIsOver();
+}
+
+} // namespace
+
 FloatPixels runFilter(graphics::IFilter &filter, const FloatPixels &source)
 {
     const Texture texture(
@@ -17,7 +30,7 @@ FloatPixels runFilter(graphics::IFilter &filter, const FloatPixels &source)
     const RenderTarget target(source.width, source.height, GL_RGBA, GL_RGBA32F, GL_FLOAT);
     filter.width = source.width;
     filter.height = source.height;
-    filter.apply(texture.name(), target.record());
+    runPassOf(filter, texture.name(), target);
 
     FloatPixels result(source.width, source.height, 4);
     graphics::readPixels(target.record(), source.width, source.height, GL_RGBA, GL_FLOAT, result.values.data());
@@ -31,7 +44,7 @@ BytePixels runFilter(graphics::IFilter &filter, const BytePixels &source)
     const RenderTarget target(source.width, source.height, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     filter.width = source.width;
     filter.height = source.height;
-    filter.apply(texture.name(), target.record());
+    runPassOf(filter, texture.name(), target);
     return readBytes(target.record(), source.width, source.height);
 }
 

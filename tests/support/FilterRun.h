@@ -8,7 +8,8 @@ namespace grisal::test
 {
 
 /// Array in, filter, array out: one pass over float pixels of 3 components, the result with alpha in 4, unrounded and
-/// unclamped. Sets the filter's size.
+/// unclamped. Sets the filter's size, and expects of the pass that it leaves no program, no framebuffer and no source
+/// texture bound.
 FloatPixels runFilter(graphics::IFilter &filter, const FloatPixels &source);
 
 /// The same with bytes: RGB8 in, RGB8 out.

@@ -140,6 +140,7 @@ TEST_F(FinalVignetteFilterTest, DrawsAPartAsTheWholeHasIt)
 
     filter.applyPart(47, 30, 20, 11, target.record());
 
+    expectPassIsOver();
     FloatPixels part(20, 11, 1);
     graphics::readPixels(target.record(), 20, 11, GL_RED, GL_FLOAT, part.values.data());
     FloatPixels expected(20, 11, 1);

@@ -276,4 +276,14 @@ TEST_F(FramebuffersTest, ReadingBackLeavesFramebufferZeroBound)
     EXPECT_EQ(glInteger(GL_FRAMEBUFFER_BINDING), 0);
 }
 
+TEST_F(FramebuffersTest, AskingForCompletenessLeavesFramebufferZeroBound)
+{
+    const RenderTarget target(1, 1, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
+    glBindFramebuffer(GL_FRAMEBUFFER, target.record().framebuffer);
+
+    EXPECT_TRUE(target.isComplete());
+
+    EXPECT_EQ(glInteger(GL_FRAMEBUFFER_BINDING), 0);
+}
+
 } // namespace grisal::test
