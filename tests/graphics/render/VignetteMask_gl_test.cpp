@@ -1,15 +1,36 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/render/VignetteMask.h"
 
+#include "graphics/document/FlexibleDocumentView.h"
+#include "graphics/filters/FilterSet.h"
+#include "graphics/render/FinalRender.h"
 #include "tests/support/GlState.h"
 #include "tests/support/GlTest.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferenceFilters.h"
 
+#include <dlfcn.h>
+
 #include <algorithm>
 #include <cmath>
 #include <ostream>
+
+namespace
+{
+
+int masks = 0;
+
+} // namespace
+
+/// Stands in for the driver's and counts the textures of masks, drawn or computed: no other one has their format.
+extern "C" void GLAPIENTRY glTexImage2D(GLenum target, GLint level, GLint internalFormat, GLsizei width, GLsizei height,
+                                        GLint border, GLenum format, GLenum type, const void *pixels)
+{
+    static auto *const real = reinterpret_cast<decltype(&glTexImage2D)>(dlsym(RTLD_NEXT, "glTexImage2D"));
+    masks += internalFormat == GL_R32F ? 1 : 0;
+    real(target, level, internalFormat, width, height, border, format, type, pixels);
+}
 
 namespace grisal::test
 {
@@ -222,6 +243,25 @@ INSTANTIATE_TEST_SUITE_P(Masks, DrawnPieces,
                                          Case{"Large", 6000, 4000, {{37, 12, 0}, 55, 80}},
                                          Case{"SmallRadius", 2052, 2052, {{30, 80, 0}, 100, 1}}),
                          [](const auto &test) { return test.param.name; });
+
+TEST_F(VignetteMaskTest, IsMadeOnlyWhileTheVignetteIsOn)
+{
+    graphics::FlexibleDocumentView view(8, 8, 8, 8, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE);
+    graphics::FilterSet filters;
+    filters.mixer.enabled = true;
+    filters.curve.enabled = true;
+    const auto masksOfARender = [&](bool vignette) {
+        filters.vignette.enabled = vignette;
+        BytePixels picture = rampPicture<std::uint8_t>(2049, 3);
+        const int before = masks;
+        EXPECT_TRUE(graphics::renderFinalPicture({picture.values.data(), picture.width, picture.height, false, false},
+                                                 {}, filters, view));
+        return masks - before;
+    };
+
+    EXPECT_EQ(masksOfARender(false), 0);
+    EXPECT_EQ(masksOfARender(true), 4) << "one for each tile";
+}
 
 TEST_F(VignetteMaskTest, LeavesNothingBound)
 {
