@@ -129,6 +129,16 @@ TEST_P(QuantumCopy, SamplesOutAreTheQuanta)
     EXPECT_EQ(copiedOut<Samples>(pixels, copySamples16Out), expected<Samples>(components(), sample));
 }
 
+TEST_P(QuantumCopy, BytesInAreTheHighBytesAndTheOpacityAsItIs)
+{
+    const auto bytes = mixed<Bytes>(count() * components());
+    const auto quantum = [&](std::size_t c, std::size_t i) {
+        const int byte = c < components() ? bytes[i * components() + c] : 255;
+        return c < 3 ? byte << 8 : byte;
+    };
+    EXPECT_EQ(copiedIn(bytes, copyBytesIn), expected<Samples>(4, quantum));
+}
+
 TEST_P(QuantumCopy, SamplesInAreTheQuanta)
 {
     const auto samples = mixed<Samples>(count() * components());
