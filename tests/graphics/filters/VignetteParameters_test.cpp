@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace grisal::graphics
 {
 
@@ -55,6 +57,16 @@ TEST(VignetteParametersTest, IsNothingWithoutStrength)
 TEST(VignetteParametersTest, IsNothingWithoutStrengthOrRadius)
 {
     EXPECT_EQ(vignetteValue(centred(0, 0), 100, 100, 50, 50), 0);
+}
+
+TEST(VignetteParametersTest, IsNothingWithAStrengthThatIsNoNumber)
+{
+    EXPECT_EQ(vignetteValue(centred(std::numeric_limits<float>::quiet_NaN(), 50), 100, 100, 0, 0), 0);
+}
+
+TEST(VignetteParametersTest, IsNegativeWithANegativeRadius)
+{
+    EXPECT_FLOAT_EQ(vignetteValue(centred(80, -25), 300, 100, 150 + 30, 50 + 40), -0.8F);
 }
 
 } // namespace grisal::graphics

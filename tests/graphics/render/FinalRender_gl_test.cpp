@@ -7,6 +7,7 @@
 #include "graphics/filters/NoiseMap.h"
 #include "tests/support/FilterRun.h"
 #include "tests/support/GlTest.h"
+#include "tests/support/InvalidParameters.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
 
@@ -42,6 +43,33 @@ protected:
     static BytePixels noiseOf(const GrainFilter &grain)
     {
         return readBytes(grain.blurredNoise()->record(), noiseMapSide, noiseMapSide);
+    }
+
+    template <typename T>
+    Pixels<T> rendered(Pixels<T> image, const FilterParameters &with)
+    {
+        EXPECT_TRUE(
+            renderFinalPicture({image.values.data(), image.width, image.height, sizeof(T) == 2, image.components == 4},
+                               with, *filters, *view));
+        return image;
+    }
+
+    /// Renders an image of four tiles with invalid parameters, and with valid ones before and after.
+    template <typename T>
+    void expectInvalidParametersToLeaveAlphaAndTheNextRender()
+    {
+        filters->curve.enabled = filters->splitTone.enabled = true;
+        filters->grain.enabled = filters->vignette.enabled = true;
+        parameters.grainWeights = QVector<float>(256, 0.5F);
+        const auto source = rampPicture<T>(2055, 6, 4);
+        const Pixels<T> before = rendered(source, parameters);
+        for (const FilterParameters &invalid : invalidParameters()) {
+            const Pixels<T> result = rendered(source, invalid);
+            for (std::size_t i = 3; i < source.values.size(); i += 4) {
+                ASSERT_EQ(result.values[i], source.values[i]) << "alpha " << i;
+            }
+            EXPECT_TRUE(picturesNear("after invalid parameters", rendered(source, parameters), before));
+        }
     }
 
     std::unique_ptr<FlexibleDocumentView> view;
@@ -158,6 +186,44 @@ TEST_F(FinalRenderTest, BlursTheNoiseWithTheRadiusOfThePanel)
     renderFinalPicture({picture.values.data(), 1, 1, false, false}, parameters, *filters, *view);
     EXPECT_EQ(filters->grain.sigma(), 2.5F);
     EXPECT_EQ(noiseOf(filters->grain).values, noiseOf(expected).values);
+}
+
+TEST_F(FinalRenderTest, InvalidParametersLeaveAlphaAndTheNextRenderOfBytes)
+{
+    expectInvalidParametersToLeaveAlphaAndTheNextRender<std::uint8_t>();
+}
+
+TEST_F(FinalRenderTest, InvalidParametersLeaveAlphaAndTheNextRenderOf16Bits)
+{
+    expectInvalidParametersToLeaveAlphaAndTheNextRender<std::uint16_t>();
+}
+
+TEST_F(FinalRenderTest, NegativeMixerWeightsGiveBlack)
+{
+    parameters.mixerWeights = {-1, -0.5F, -0.01F};
+    EXPECT_TRUE(
+        picturesNear("negative bytes", rendered(rampPicture<std::uint8_t>(12, 8), parameters), BytePixels(12, 8)));
+    EXPECT_TRUE(
+        picturesNear("negative 16 bits", rendered(rampPicture<std::uint16_t>(12, 8), parameters), WordPixels(12, 8)));
+}
+
+TEST_F(FinalRenderTest, VignetteWithoutRadiusIsBlack)
+{
+    filters->vignette.enabled = true;
+    parameters.vignetteRadius = 0;
+    EXPECT_TRUE(picturesNear("bytes", rendered(rampPicture<std::uint8_t>(12, 8), parameters), BytePixels(12, 8)));
+    EXPECT_TRUE(picturesNear("16 bits", rendered(rampPicture<std::uint16_t>(12, 8), parameters), WordPixels(12, 8)));
+}
+
+// Half floats hold values beyond the scale, infinite ones included.
+TEST_F(FinalRenderTest, CurveSamplesBeyondTheScaleAreClampedIn16Bits)
+{
+    filters->curve.enabled = true;
+    parameters.mixerWeights = {1, 0, 0};
+    parameters.curve = {-1, 2, infinity, -infinity};
+    const WordPixels reds(4, 1, 3, {8000, 0, 0, 24000, 0, 0, 40000, 0, 0, 56000, 0, 0});
+    EXPECT_EQ(rendered(reds, parameters).values,
+              (std::vector<std::uint16_t>{0, 0, 0, 65535, 65535, 65535, 65535, 65535, 65535, 0, 0, 0}));
 }
 
 } // namespace
