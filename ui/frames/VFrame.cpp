@@ -23,13 +23,13 @@ VFrame::VFrame(QWidget *parent) : QFrame(parent)
 void VFrame::slotSetX(float x)
 {
     m_posX = x;
-    showChange();
+    update();
 }
 
 void VFrame::slotSetY(float y)
 {
     m_posY = y;
-    showChange();
+    update();
 }
 
 void VFrame::slotSetRadius(float radius)
@@ -39,7 +39,7 @@ void VFrame::slotSetRadius(float radius)
     }
     m_radius = radius;
     emit signalRadius(m_radius);
-    showChange();
+    update();
 }
 
 void VFrame::slotSetStrength(float strength)
@@ -49,7 +49,7 @@ void VFrame::slotSetStrength(float strength)
     }
     m_strength = strength;
     emit signalStrength(m_strength);
-    showChange();
+    update();
 }
 
 void VFrame::mousePressEvent(QMouseEvent *event)
@@ -90,7 +90,7 @@ void VFrame::choose(double x, double y)
     m_posX = x;
     m_posY = y;
     emit signalPosition({m_posX, m_posY});
-    showChange();
+    update();
 }
 
 void VFrame::wheelEvent(QWheelEvent *event)
@@ -111,7 +111,8 @@ void VFrame::keyPressEvent(QKeyEvent *event)
 {
     const QPoint arrow = arrowOf(*event);
     if (!arrow.isNull()) {
-        choose(fractionAfterStep(m_posX, arrow.x()), fractionAfterStep(m_posY, arrow.y()));
+        choose(fractionAfterStep(m_posX, m_percents.x, arrow.x()),
+               fractionAfterStep(m_posY, m_percents.y, arrow.y()));
     } else if (const int turn = wheelTurnOf(*event); turn != 0) {
         turnWheel(turn, event->modifiers().testFlag(Qt::ControlModifier));
     } else {
@@ -121,19 +122,19 @@ void VFrame::keyPressEvent(QKeyEvent *event)
     m_focusMark.useKey();
 }
 
-void VFrame::showChange()
+void VFrame::setPercents(const VignettePercents &percents)
 {
-    update();
+    m_percents = percents;
     sayValue();
 }
 
 QString VFrame::spokenValue() const
 {
     return tr("Centre %1 % from the left and %2 % from the top, radius %3 %, strength %4 %")
-        .arg(shownPercent(m_posX))
-        .arg(shownPercent(m_posY))
-        .arg(shownPercent(m_radius))
-        .arg(shownPercent(m_strength));
+        .arg(m_percents.x)
+        .arg(m_percents.y)
+        .arg(m_percents.radius)
+        .arg(m_percents.strength);
 }
 
 // A centre beyond the edge is shown at the edge: that is where the picture gets it.

@@ -7,11 +7,19 @@
 
 #include <QFrame>
 
+/// The values of a vignette as numbers to be read: whole percents.
+struct VignettePercents {
+    int x = 50;
+    int y = 50;
+    int radius = 50;
+    int strength = 50;
+};
+
 /// The vignette at a glance: a grey picture of 3:2 under the vignette, with marks at its centre and at its radius. A
 /// press or a drag moves the centre, also beyond the frame's edge; the mouse wheel changes the radius, with the Control
 /// key the strength. The arrow keys and Page Up and Page Down do the same.
 ///
-/// All values are fractions: the centre of the contents' width and height, from the top left corner; radius and
+/// Its values are fractions: the centre of the contents' width and height, from the top left corner; radius and
 /// strength of their fullest, 0..1.
 class VFrame : public QFrame, public Spoken
 {
@@ -30,6 +38,10 @@ public:
 
     /// 3:2, where there is room.
     int heightForWidth(int width) const override { return width * 2 / 3; }
+
+    /// Takes the numbers that are shown beside the frame. They are what is spoken and where steps by key start: the
+    /// fractions do not tell them, since 0.29 shows as 28 where the mouse chose it and as 29 where a slider did.
+    void setPercents(const VignettePercents &percents);
 
 signals:
     /// The centre that the user chose, below 0 or above 1 beyond the edge.
@@ -58,7 +70,6 @@ private:
     void pick(const QMouseEvent *event);
     void choose(double x, double y);
     void turnWheel(int delta, bool strength);
-    void showChange();
     grisal::graphics::VignetteParameters shownVignette() const;
     QPainterPath marks() const;
 
@@ -67,5 +78,6 @@ private:
     double m_posY = 0.5;
     float m_radius = 0.5F;
     float m_strength = 0.5F;
+    VignettePercents m_percents;
     FocusMark m_focusMark{this};
 };

@@ -54,19 +54,13 @@ int wholePercent(double percent, int lowest, int highest)
     return percent < highest ? static_cast<int>(percent) : highest;
 }
 
-int shownPercent(double fraction)
+double fractionAfterStep(double fraction, int shown, int step)
 {
-    constexpr double singlePrecision = 1e-4;
-    return wholePercent(fraction * hundred + singlePrecision, 0, static_cast<int>(hundred));
-}
-
-double fractionAfterStep(double fraction, int percents)
-{
-    const int shown = shownPercent(fraction);
-    if (percents == 0 && (fraction * hundred >= shown || fraction < 0)) {
+    const bool isBeyond = fraction < 0 || fraction >= 1;
+    if (step == 0 && (isBeyond || static_cast<int>(fraction * hundred) == shown)) {
         return fraction;
     }
-    const int wanted = std::clamp(shown + percents, 0, static_cast<int>(hundred));
+    const int wanted = std::clamp(shown + step, 0, static_cast<int>(hundred));
     const double moved = wanted / hundred;
     return moved * hundred < wanted ? std::nextafter(moved, 1.0) : moved;
 }

@@ -19,13 +19,9 @@ float fractionAfterWheel(float fraction, int delta);
 /// A percentage cut to a whole number within lowest..highest; the lowest for what is no number.
 int wholePercent(double percent, int lowest, int highest);
 
-/// The percents of a fraction, cut to a whole number as above, but for fractions that only single precision has made a
-/// little too small: 0.57 are 57. A fraction beyond 0..1 counts as the nearest within.
-int shownPercent(double fraction);
-
-/// A fraction 0..1 moved by a number of whole percents, from the ones that it shows and within 0..1. None of them
-/// leaves it. Cut as above, it gives the percents that it shows.
-double fractionAfterStep(double place, int percents);
+/// The fraction that lies `step` whole percents from a fraction that is shown as `shown` percents, within 0..1. Cut as
+/// above, it shows as `shown + step`. A step of 0 leaves the fraction as it is, beyond 0..1 too, if it shows so.
+double fractionAfterStep(double fraction, int shown, int step);
 
 /// How far the radius of a vignette reaches in a picture of 3:2, as fractions of the picture's width and height.
 /// The radius is in percent.

@@ -38,9 +38,11 @@ Vignette::~Vignette() = default;
 
 void Vignette::emitVignette()
 {
-    emit signalVignette(static_cast<float>(m_form->spinBoxX->value()), static_cast<float>(m_form->spinBoxY->value()),
-                        static_cast<float>(m_form->spinBoxRadius->value()),
-                        static_cast<float>(m_form->spinBoxStrength->value()), m_form->checkBoxBlur->isChecked());
+    const VignettePercents shown{m_form->spinBoxX->value(), m_form->spinBoxY->value(), m_form->spinBoxRadius->value(),
+                                 m_form->spinBoxStrength->value()};
+    m_form->frame->setPercents(shown);
+    emit signalVignette(static_cast<float>(shown.x), static_cast<float>(shown.y), static_cast<float>(shown.radius),
+                        static_cast<float>(shown.strength), m_form->checkBoxBlur->isChecked());
 }
 
 void Vignette::on_sliderX_valueChanged(int value)

@@ -132,9 +132,17 @@ TEST_F(WheelKeys, TheFocusIsSeen)
     expectFocusSeen();
 }
 
+/// The frame with somebody who shows its centre in numbers.
 class VignetteKeys : public KeysTest<VFrame>
 {
 protected:
+    VignetteKeys()
+    {
+        QObject::connect(frame, &VFrame::signalPosition, frame, [this](QPointF centre) {
+            frame->setPercents({static_cast<int>(centre.x() * 100), static_cast<int>(centre.y() * 100), 50, 50});
+        });
+    }
+
     QSignalSpy position{frame, &VFrame::signalPosition};
     QSignalSpy radius{frame, &VFrame::signalRadius};
     QSignalSpy strength{frame, &VFrame::signalStrength};
@@ -161,6 +169,7 @@ TEST_F(VignetteKeys, ArrowsEndAtTheEdge)
 {
     frame->slotSetX(0.015F);
     frame->slotSetY(1.7F);
+    frame->setPercents({1, 99, 50, 50});
     press(Qt::Key_Left);
     press(Qt::Key_Left);
     press(Qt::Key_Left);

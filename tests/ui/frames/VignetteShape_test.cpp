@@ -138,43 +138,40 @@ TEST(VignettePicture, IsBlackWithoutRadius)
     EXPECT_EQ(vignettePicture({{50, 50, 0}, 50, 0}, QSize(31, 21)), black);
 }
 
-TEST(VignetteShape, PercentsShowWhatSinglePrecisionMeans)
+// A slider hands its percents over in single precision, which makes some of them a little too small.
+TEST(VignetteShape, AStepByKeyShowsAsTheNextPercent)
 {
-    for (int percents = 0; percents <= 100; ++percents) {
-        EXPECT_EQ(shownPercent(static_cast<float>(percents) / 100.0F), percents);
+    for (int shown = 0; shown < 100; ++shown) {
+        const double fraction = static_cast<float>(shown) / 100.0F;
+        EXPECT_EQ(wholePercent(fractionAfterStep(fraction, shown, 1) * 100, 0, 100), shown + 1);
+        EXPECT_EQ(wholePercent(fractionAfterStep(fraction, shown, 0) * 100, 0, 100), shown);
+        EXPECT_EQ(wholePercent(fractionAfterStep(fraction, shown, -1) * 100, 0, 100), std::max(shown - 1, 0));
     }
-    EXPECT_EQ(shownPercent(0.579), 57);
-    EXPECT_EQ(shownPercent(1.5), 100);
-    EXPECT_EQ(shownPercent(-0.5), 0);
-    EXPECT_EQ(shownPercent(notANumber), 0);
-}
-
-// The panel hands every place back in single precision.
-TEST(VignetteShape, StepsByKeyAreWholePercentsInThePanelToo)
-{
-    double place = 0;
-    for (int percents = 1; percents <= 100; ++percents) {
-        place = static_cast<float>(fractionAfterStep(place, 1));
-        EXPECT_EQ(wholePercent(fractionAfterStep(place, 0) * 100, 0, 100), percents);
-    }
-    EXPECT_EQ(fractionAfterStep(place, 1), 1);
-    for (int percents = 99; percents >= 0; --percents) {
-        const double moved = fractionAfterStep(place, -1);
-        EXPECT_EQ(wholePercent(moved * 100, 0, 100), percents);
-        place = static_cast<float>(moved);
-    }
-    EXPECT_EQ(fractionAfterStep(place, -1), 0);
 }
 
 TEST(VignetteShape, StepsStartFromThePercentsThatAreShown)
 {
-    EXPECT_DOUBLE_EQ(fractionAfterStep(0.456, 1), 0.46);
-    EXPECT_DOUBLE_EQ(fractionAfterStep(0.456, -1), 0.44);
-    EXPECT_EQ(fractionAfterStep(0.456, 0), 0.456);
-    EXPECT_EQ(fractionAfterStep(1.5, 0), 1.5);
-    EXPECT_EQ(fractionAfterStep(-0.5, 0), -0.5);
-    EXPECT_DOUBLE_EQ(fractionAfterStep(1.5, -1), 0.99);
-    EXPECT_DOUBLE_EQ(fractionAfterStep(-0.5, 1), 0.01);
+    EXPECT_DOUBLE_EQ(fractionAfterStep(0.456, 45, 1), 0.46);
+    EXPECT_DOUBLE_EQ(fractionAfterStep(0.456, 45, -1), 0.44);
+    EXPECT_DOUBLE_EQ(fractionAfterStep(0.29, 28, 1), 0.29);
+    EXPECT_DOUBLE_EQ(fractionAfterStep(1.5, 99, -1), 0.98);
+    EXPECT_DOUBLE_EQ(fractionAfterStep(-0.5, 0, 1), 0.01);
+}
+
+TEST(VignetteShape, AStepEndsAtTheEdge)
+{
+    EXPECT_EQ(fractionAfterStep(0.995, 99, 1), 1);
+    EXPECT_EQ(fractionAfterStep(1.5, 100, 1), 1);
+    EXPECT_EQ(fractionAfterStep(0.001, 0, -1), 0);
+}
+
+TEST(VignetteShape, AStepOfZeroLeavesAFractionThatShowsSo)
+{
+    EXPECT_EQ(fractionAfterStep(0.456, 45, 0), 0.456);
+    EXPECT_EQ(fractionAfterStep(0.29, 28, 0), 0.29);
+    EXPECT_EQ(fractionAfterStep(1, 99, 0), 1);
+    EXPECT_EQ(fractionAfterStep(1.5, 99, 0), 1.5);
+    EXPECT_EQ(fractionAfterStep(-0.5, 0, 0), -0.5);
 }
 
 } // namespace
