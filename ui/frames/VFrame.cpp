@@ -111,8 +111,7 @@ void VFrame::keyPressEvent(QKeyEvent *event)
 {
     const QPoint arrow = arrowOf(*event);
     if (!arrow.isNull()) {
-        choose(fractionAfterStep(m_posX, m_percents.x, arrow.x()),
-               fractionAfterStep(m_posY, m_percents.y, arrow.y()));
+        choose(fractionAfterStep(m_posX, m_percents.x, arrow.x()), fractionAfterStep(m_posY, m_percents.y, arrow.y()));
     } else if (const int turn = wheelTurnOf(*event); turn != 0) {
         turnWheel(turn, event->modifiers().testFlag(Qt::ControlModifier));
     } else {

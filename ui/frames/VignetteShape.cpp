@@ -56,11 +56,11 @@ int wholePercent(double percent, int lowest, int highest)
 
 double fractionAfterStep(double fraction, int shown, int step)
 {
-    const bool isBeyond = fraction < 0 || fraction >= 1;
-    if (step == 0 && (isBeyond || static_cast<int>(fraction * hundred) == shown)) {
+    constexpr int whole = 100;
+    if (step == 0 && (fraction >= 1 || wholePercent(fraction * hundred, 0, whole) == shown)) {
         return fraction;
     }
-    const int wanted = std::clamp(shown + step, 0, static_cast<int>(hundred));
+    const int wanted = std::clamp(shown + step, 0, whole);
     const double moved = wanted / hundred;
     return moved * hundred < wanted ? std::nextafter(moved, 1.0) : moved;
 }
