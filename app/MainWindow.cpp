@@ -5,7 +5,6 @@
 #include "app/Preferences.h"
 #include "app/Product.h"
 #include "app/UserGuide.h"
-#include "graphics/filters/IFilter.h"
 #include "graphics/image/ToneHistogram.h"
 #include "ui/panels/Curves.h"
 #include "ui/panels/Grain.h"
@@ -214,25 +213,25 @@ void MainWindow::on_actionMixer_triggered()
 
 void MainWindow::on_actionVignette_triggered()
 {
-    graphics::IFilter *filter = m_form->glWidgetPreview->vignetteFilter();
+    graphics::IFilter *filter = m_form->glWidgetPreview->filter<graphics::VignetteFilter>();
     toggleFilter(m_vignette, m_form->actionVignette, filter, "vignette filter is invalid");
 }
 
 void MainWindow::on_actionSplitTone_triggered()
 {
-    graphics::IFilter *filter = m_form->glWidgetPreview->splitToneFilter();
+    graphics::IFilter *filter = m_form->glWidgetPreview->filter<graphics::HalfToneFilter>();
     toggleFilter(m_splitTone, m_form->actionSplitTone, filter, "split tone filter is invalid");
 }
 
 void MainWindow::on_actionGrain_triggered()
 {
-    graphics::IFilter *filter = m_form->glWidgetPreview->grainFilter();
+    graphics::IFilter *filter = m_form->glWidgetPreview->filter<graphics::GrainFilter>();
     toggleFilter(m_grain, m_form->actionGrain, filter, "grain filter is invalid");
 }
 
 void MainWindow::on_actionCurves_triggered()
 {
-    graphics::IFilter *filter = m_form->glWidgetPreview->curveFilter();
+    graphics::IFilter *filter = m_form->glWidgetPreview->filter<graphics::CurveFilter>();
     toggleFilter(m_curves, m_form->actionCurves, filter, "curve filter is invalid");
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/Yardsticks.h"
 
-#include "graphics/filters/FilterParameters.h"
+#include "graphics/filters/Look.h"
 
 namespace grisal::bench
 {
@@ -25,15 +25,15 @@ FinalPasses::FinalPasses(std::uint32_t width, std::uint32_t height, GLenum inter
       m_first(length(m_horizontal.tile), length(m_vertical.tile), GL_RGB, internalFormat, type),
       m_second(length(m_horizontal.tile), length(m_vertical.tile), GL_RGB, internalFormat, type)
 {
-    FilterParameters parameters;
-    parameters.grainWeights.fill(0.5F);
-    m_filters.setParameters(parameters);
-    m_filters.grain.setSigma(1.5F);
+    Look parameters;
+    parameters.get<GrainFilter>().weights.fill(0.5F);
+    m_filters.setLook(parameters);
+    m_filters.get<GrainFilter>().setSigma(1.5F);
     m_filters.setSize(length(m_horizontal.tile), length(m_vertical.tile));
     m_overlay.width = length(m_horizontal.tile);
     m_overlay.height = length(m_vertical.tile);
     m_overlay.overlayTexture = m_tileMask.record().texture;
-    m_vignette.parameters = m_filters.vignette.parameters;
+    m_vignette.parameters = m_filters.get<VignetteFilter>().parameters;
     m_vignette.width = length(m_horizontal.padded);
     m_vignette.height = length(m_vertical.padded);
 }
@@ -44,10 +44,10 @@ void FinalPasses::run()
     const std::uint32_t tiles = tileCount(m_horizontal) * tileCount(m_vertical);
     for (std::uint32_t tile = 0; tile < tiles; ++tile) {
         m_vignette.applyPart(0, 0, m_overlay.width, m_overlay.height, m_tileMask.record());
-        m_filters.mixer.apply(m_tile.record().texture, m_first.record());
-        m_filters.curve.apply(m_first.record().texture, m_second.record());
-        m_filters.splitTone.apply(m_second.record().texture, m_first.record());
-        m_filters.grain.apply(m_first.record().texture, m_second.record());
+        m_filters.get<MixerFilter>().apply(m_tile.record().texture, m_first.record());
+        m_filters.get<CurveFilter>().apply(m_first.record().texture, m_second.record());
+        m_filters.get<HalfToneFilter>().apply(m_second.record().texture, m_first.record());
+        m_filters.get<GrainFilter>().apply(m_first.record().texture, m_second.record());
         m_overlay.apply(m_second.record().texture, m_first.record());
     }
     glFinish();

@@ -63,8 +63,9 @@ void transfers(benchmark::State &state)
 
 void enableAll(FilterSet &filters)
 {
-    filters.mixer.enabled = filters.curve.enabled = filters.vignette.enabled = true;
-    filters.splitTone.enabled = filters.grain.enabled = true;
+    filters.get<MixerFilter>().enabled = filters.get<CurveFilter>().enabled = filters.get<VignetteFilter>().enabled =
+        true;
+    filters.get<HalfToneFilter>().enabled = filters.get<GrainFilter>().enabled = true;
 }
 
 std::vector<std::uint8_t> greyBytes(int columns, int rows)
@@ -79,7 +80,7 @@ void finalRender(benchmark::State &state)
     const std::vector<std::uint8_t> grey = greyBytes(400, 300);
     stage.load(makePreviewPixels(grey.data(), 400, 300, false, false), pixelFormatsFor(false, false), 400, 300);
     enableAll(*stage.filters());
-    stage.setGrain(QVector<float>(256, 0.5F), 1.5F);
+    stage.setGrain({QVector<float>(256, 0.5F), 1.5F});
     std::vector<std::uint16_t> pixels(std::size_t{width} * height * 3 / (words ? 1 : 2), 100);
     for ([[maybe_unused]] auto _ : state) {
         stage.renderFinal({pixels.data(), width, height, words, false});
@@ -96,20 +97,20 @@ void previewPasses(benchmark::State &state)
     const RenderTarget first(previewWidth, previewHeight, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     const RenderTarget second(previewWidth, previewHeight, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     FilterSet filters;
-    FilterParameters parameters;
-    parameters.grainWeights.fill(0.5F);
-    filters.setParameters(parameters);
+    Look parameters;
+    parameters.get<GrainFilter>().weights.fill(0.5F);
+    filters.setLook(parameters);
     filters.setSize(previewWidth, previewHeight);
-    filters.setPictureSize(previewWidth, previewHeight);
-    filters.grain.setSigma(1.5F);
+    filters.setImageSize(previewWidth, previewHeight);
+    filters.get<GrainFilter>().setSigma(1.5F);
     for ([[maybe_unused]] auto _ : state) {
         glEnable(GL_TEXTURE_2D);
-        filters.mixer.apply(source.record().texture, first.record());
-        filters.mixer.apply(first.record().texture, second.record());
-        filters.curve.apply(second.record().texture, first.record());
-        filters.grain.apply(first.record().texture, second.record());
-        filters.splitTone.apply(second.record().texture, first.record());
-        filters.vignette.apply(first.record().texture, second.record());
+        filters.get<MixerFilter>().apply(source.record().texture, first.record());
+        filters.get<MixerFilter>().apply(first.record().texture, second.record());
+        filters.get<CurveFilter>().apply(second.record().texture, first.record());
+        filters.get<GrainFilter>().apply(first.record().texture, second.record());
+        filters.get<HalfToneFilter>().apply(second.record().texture, first.record());
+        filters.get<VignetteFilter>().apply(first.record().texture, second.record());
         glFinish();
     }
 }
@@ -121,9 +122,9 @@ void previewFrame(benchmark::State &state)
     stage.load(makePreviewPixels(grey.data(), previewWidth, previewHeight, false, false), pixelFormatsFor(false, false),
                1000, 700);
     enableAll(*stage.filters());
-    stage.setGrain(QVector<float>(256, 0.5F), 1.5F);
+    stage.setGrain({QVector<float>(256, 0.5F), 1.5F});
     for ([[maybe_unused]] auto _ : state) {
-        stage.setMixer({0.3F, 0.5F, 0.2F});
+        stage.set<MixerFilter>({{0.3F, 0.5F, 0.2F}});
         stage.preview()->render();
         glFinish();
     }
@@ -144,8 +145,8 @@ void firstFrame(benchmark::State &state)
         glEnable(GL_TEXTURE_2D);
         glBindTexture(GL_TEXTURE_2D, source.record().texture);
         glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, columns, rows, GL_RGB, GL_UNSIGNED_BYTE, grey.data());
-        filters.mixer.apply(source.record().texture, first.record());
-        filters.mixer.apply(first.record().texture, second.record());
+        filters.get<MixerFilter>().apply(source.record().texture, first.record());
+        filters.get<MixerFilter>().apply(first.record().texture, second.record());
         glFinish();
     }
 }

@@ -4,16 +4,41 @@
 namespace grisal::graphics
 {
 
-CurveFilter::CurveFilter() : IFilter("CurveFilter"), m_program("CurveFilter", "CurveFilter") {}
+QVector<float> CurveFilter::Parameters::identity()
+{
+    constexpr int samples = 256;
+    QVector<float> curve(samples);
+    for (int i = 0; i < samples; ++i) {
+        curve[i] = static_cast<float>(i) / samples;
+    }
+    return curve;
+}
+
+const FilterDeclaration<CurveFilter::Parameters> &CurveFilter::declaration()
+{
+    static const FilterDeclaration<Parameters> declared{
+        .name = "CurveFilter",
+        .parameters = {{"curve", "1", 0, 1, std::nullopt, [](Parameters &p) { return std::span(p.curve); }}}};
+    return declared;
+}
+
+CurveFilter::CurveFilter() : IFilter(declaration().name), m_program("CurveFilter", "CurveFilter") {}
 
 void CurveFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
 {
-    setUniform1f(m_program, "Width", static_cast<float>(width));
-    setUniform1f(m_program, "Height", static_cast<float>(height));
-    setUniform1f(m_program, "MaxPixel", maxPixel);
-    bindTexture1D(m_program, "Curve", m_curveTexture.name(), unit::extra);
-    runPass(m_program, width, height, sourceTexture, target);
+    setUniform1f(program(), "Width", static_cast<float>(width));
+    setUniform1f(program(), "Height", static_cast<float>(height));
+    setUniform1f(program(), "MaxPixel", maxPixel);
+    bindTexture1D(program(), "Curve", m_curveTexture.name(), unit::extra);
+    runPass(program(), width, height, sourceTexture, target);
     glActiveTexture(GL_TEXTURE0);
+}
+
+void CurveFilter::setParameters(const Parameters &wanted)
+{
+    if (m_curve != wanted.curve) {
+        setCurve(wanted.curve);
+    }
 }
 
 void CurveFilter::setCurve(const QVector<float> &values)

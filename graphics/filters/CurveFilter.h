@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/filters/FilterDeclaration.h"
 #include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
 #include "graphics/gl/Textures.h"
@@ -15,12 +16,22 @@ namespace grisal::graphics
 class CurveFilter : public IFilter
 {
 public:
+    struct Parameters {
+        QVector<float> curve = identity(); ///< 256 samples 0..1, sample i the output for the grey i / 256
+
+        static QVector<float> identity();
+    };
+    static const FilterDeclaration<Parameters> &declaration();
+
     CurveFilter();
 
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
+    /// Sends the curve if it differs from the current one. The context must be current.
+    void setParameters(const Parameters &wanted);
+
     /// The program of the pass, compiled at its first use. The context must be current.
-    const ShaderProgram &program() const { return m_program; }
+    const ShaderProgram &program() const { return m_program.get(); }
 
     /// Takes the outputs 0..1 for evenly spaced greys, 256 of them from the curves panel. The straight curve is
     /// i / 256: an 8-bit target stores the greys above 128 one level darker. The context must be current.

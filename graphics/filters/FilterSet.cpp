@@ -1,59 +1,50 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/filters/FilterSet.h"
 
+#include <type_traits>
+
 namespace grisal::graphics
 {
 
 void FilterSet::setSize(int width, int height)
 {
-    for (IFilter *filter : std::initializer_list<IFilter *>{&mixer, &curve, &vignette, &splitTone, &grain}) {
-        filter->width = width;
-        filter->height = height;
-    }
+    forEach([=](IFilter &filter) {
+        filter.width = width;
+        filter.height = height;
+    });
 }
 
-void FilterSet::setPictureSize(int width, int height)
+void FilterSet::setImageSize(int width, int height)
 {
-    vignette.maxWidth = static_cast<float>(width);
-    vignette.maxHeight = static_cast<float>(height);
+    forEach([=](auto &filter) {
+        if constexpr (requires { filter.maxWidth; }) {
+            filter.maxWidth = static_cast<float>(width);
+            filter.maxHeight = static_cast<float>(height);
+        }
+    });
 }
 
-void FilterSet::setParameters(const FilterParameters &parameters)
+void FilterSet::resetEnabled()
 {
-    setMixer(parameters);
-    setCurve(parameters);
-    setGrainWeights(parameters);
-    setVignette(parameters);
-    setSplitTone(parameters);
+    forEach([](auto &filter) { filter.enabled = filter.declaration().enabledAtLoad; });
 }
 
-void FilterSet::setMixer(const FilterParameters &parameters)
+void FilterSet::setLook(const Look &look)
 {
-    mixer.weights = parameters.mixerWeights;
+    forEach([&](auto &filter) { filter.setParameters(look.get<std::decay_t<decltype(filter)>>()); });
 }
 
-void FilterSet::setCurve(const FilterParameters &parameters)
+void FilterSet::addToPreview(DocumentFilterQueue &queue)
 {
-    curve.setCurve(parameters.curve);
+    forEach([&](IFilter &filter) { queue.add(&filter); });
 }
 
-void FilterSet::setVignette(const FilterParameters &parameters)
+void FilterSet::addToFinalRender(DocumentFilterQueue &queue)
 {
-    vignette.parameters.center = {parameters.vignetteX, parameters.vignetteY, 0};
-    vignette.parameters.radius = parameters.vignetteRadius;
-    vignette.parameters.strength = parameters.vignetteStrength;
-}
-
-void FilterSet::setSplitTone(const FilterParameters &parameters)
-{
-    splitTone.weight = parameters.splitWeight;
-    splitTone.firstColor = parameters.highlightTint;
-    splitTone.secondColor = parameters.shadowTint;
-}
-
-void FilterSet::setGrainWeights(const FilterParameters &parameters)
-{
-    grain.setWeights(parameters.grainWeights);
+    const auto add = [&]<typename... Filters>(std::type_identity<std::tuple<Filters...>>) {
+        (queue.add(&get<Filters>()), ...);
+    };
+    add(std::type_identity<FinalFilters>());
 }
 
 } // namespace grisal::graphics

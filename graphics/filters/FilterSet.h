@@ -1,38 +1,55 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/CurveFilter.h"
-#include "graphics/filters/FilterParameters.h"
-#include "graphics/filters/GrainFilter.h"
-#include "graphics/filters/HalfToneFilter.h"
-#include "graphics/filters/MixerFilter.h"
-#include "graphics/filters/VignetteFilter.h"
+#include "FilterList.h"
+#include "graphics/document/DocumentFilterQueue.h"
+#include "graphics/filters/Look.h"
 
 namespace grisal::graphics
 {
 
-/// The five filters of a picture, shared by its preview and its final render. Made, used and destroyed with the
-/// context current.
-struct FilterSet {
-    MixerFilter mixer;
-    CurveFilter curve;
-    VignetteFilter vignette;
-    HalfToneFilter splitTone;
-    GrainFilter grain;
+/// The filters of an image, one of each kind of the list, shared by its preview and its final render. Made, used and
+/// destroyed with the context current.
+class FilterSet
+{
+public:
+    template <typename Filter>
+    Filter &get()
+    {
+        return std::get<Filter>(m_filters);
+    }
+    template <typename Filter>
+    const Filter &get() const
+    {
+        return std::get<Filter>(m_filters);
+    }
 
-    /// Sets the size of the passes of all five filters, in pixels.
+    /// Calls `visit` with every filter, in the order of the preview.
+    template <typename Visit>
+    void forEach(Visit visit)
+    {
+        std::apply([&](auto &...filters) { (visit(filters), ...); }, m_filters);
+    }
+
+    /// Sets the size of the passes of all filters, in pixels.
     void setSize(int width, int height);
 
-    /// Tells the vignette the size of the whole picture, in pixels.
-    void setPictureSize(int width, int height);
+    /// Sets the size of the whole image, in pixels, for the filters that depend on the position in it.
+    void setImageSize(int width, int height);
 
-    /// Copies parameters into the filters they belong to. The grain's radius is not among them: setting it renders.
-    void setParameters(const FilterParameters &parameters);
-    void setMixer(const FilterParameters &parameters);
-    void setCurve(const FilterParameters &parameters);
-    void setVignette(const FilterParameters &parameters);
-    void setSplitTone(const FilterParameters &parameters);
-    void setGrainWeights(const FilterParameters &parameters);
+    /// Switches on the filters that are enabled when an image is opened, and all others off.
+    void resetEnabled();
+
+    /// Sends the parameters to their filters, those with a texture only if they have changed. The grain's radius is not
+    /// sent: setting it renders.
+    void setLook(const Look &look);
+
+    /// Appends the filters to a queue, in the order of the preview or of the final render.
+    void addToPreview(DocumentFilterQueue &queue);
+    void addToFinalRender(DocumentFilterQueue &queue);
+
+private:
+    PreviewFilters m_filters;
 };
 
 } // namespace grisal::graphics

@@ -36,9 +36,8 @@ void FinalVignetteFilter::applyPart(int x, int y, int partWidth, int partHeight,
     VignetteParameters moved = parameters;
     moved.center.x = movedCentre(parameters.center.x, x, width);
     moved.center.y = movedCentre(parameters.center.y, y, height);
-    const ShaderProgram &program = m_program;
-    setVignetteUniforms(program, moved, width, height, maxWidth, maxHeight);
-    renderToFramebuffer(partWidth, partHeight, program.program, target);
+    setVignetteUniforms(program(), moved, width, height, maxWidth, maxHeight);
+    renderToFramebuffer(partWidth, partHeight, program().program, target);
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
 }
 

@@ -20,7 +20,7 @@ public:
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
     /// The program of the pass, compiled at its first use. The context must be current.
-    const ShaderProgram &program() const { return m_program; }
+    const ShaderProgram &program() const { return m_program.get(); }
 
     /// The partWidth x partHeight pixels of the mask whose first is (x, y), in pixels: the whole mask with its centre
     /// moved, `width` and `height` being the size of the whole. The moved centre is rounded to a float, so that some

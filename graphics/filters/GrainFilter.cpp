@@ -7,10 +7,27 @@
 namespace grisal::graphics
 {
 
-GrainFilter::GrainFilter() : IFilter("GrainFilter"), m_program("GrainFilter", "GrainFilter") {}
+const FilterDeclaration<GrainFilter::Parameters> &GrainFilter::declaration()
+{
+    static const FilterDeclaration<Parameters> declared{
+        .name = "GrainFilter",
+        .parameters = {{"weights", "1", 0, 1, 0.0F, [](Parameters &p) { return std::span(p.weights); }},
+                       {"radius", "px", 0, 3, std::nullopt, [](Parameters &p) { return std::span(&p.radius, 1); }}}};
+    return declared;
+}
+
+GrainFilter::GrainFilter() : IFilter(declaration().name), m_program("GrainFilter", "GrainFilter") {}
+
+void GrainFilter::setParameters(const Parameters &wanted)
+{
+    if (m_weights != wanted.weights) {
+        setWeights(wanted.weights);
+    }
+}
 
 void GrainFilter::setWeights(const QVector<float> &values)
 {
+    m_weights = values;
     m_weightsTexture =
         Texture(create1DTexture(static_cast<std::int32_t>(values.size()), GL_R32F, GL_RED, GL_FLOAT, values.data()));
 }
@@ -57,14 +74,14 @@ void GrainFilter::blurNoise()
 
 void GrainFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
 {
-    setUniform1f(m_program, "Width", static_cast<float>(width));
-    setUniform1f(m_program, "Height", static_cast<float>(height));
-    setUniform1f(m_program, "Sigma", m_sigma);
-    setUniform1f(m_program, "MaxPixel", maxPixel);
+    setUniform1f(program(), "Width", static_cast<float>(width));
+    setUniform1f(program(), "Height", static_cast<float>(height));
+    setUniform1f(program(), "Sigma", m_sigma);
+    setUniform1f(program(), "MaxPixel", maxPixel);
     const GLuint noise = m_blurredNoise ? m_blurredNoise->record().texture : 0;
-    bindTexture2D(m_program, "NoiseMap", noise, unit::extra);
-    bindTexture1D(m_program, "Weights", m_weightsTexture.name(), unit::weights);
-    runPass(m_program, width, height, sourceTexture, target);
+    bindTexture2D(program(), "NoiseMap", noise, unit::extra);
+    bindTexture1D(program(), "Weights", m_weightsTexture.name(), unit::weights);
+    runPass(program(), width, height, sourceTexture, target);
 
     glActiveTexture(GL_TEXTURE0 + unit::source);
     glBindTexture(GL_TEXTURE_2D, 0);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/filters/FilterDeclaration.h"
 #include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/GaussianBlurFilter.h"
 #include "graphics/filters/IFilter.h"
@@ -21,12 +22,22 @@ namespace grisal::graphics
 class GrainFilter : public IFilter
 {
 public:
+    struct Parameters {
+        QVector<float> weights = QVector<float>(256, 0.0F); ///< 256 samples 0..1, the strength for the grey i / 256
+        float radius = 1.5F;                                ///< blur of the noise in pixels: the coarseness
+    };
+    static const FilterDeclaration<Parameters> &declaration();
+
     GrainFilter();
 
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
+    /// Sends the weights if they differ from the current ones. The context must be current. The radius is set by
+    /// setSigma(), which renders.
+    void setParameters(const Parameters &wanted);
+
     /// The program of the pass, compiled at its first use. The context must be current.
-    const ShaderProgram &program() const { return m_program; }
+    const ShaderProgram &program() const { return m_program.get(); }
 
     /// Takes the strengths 0..1 for evenly spaced greys, 256 of them from the grain panel. The context must be
     /// current.
@@ -54,6 +65,7 @@ private:
     float m_sigma = 0;
     Texture m_noiseTexture;
     Texture m_weightsTexture;
+    QVector<float> m_weights;
     std::unique_ptr<GaussianBlurFilter> m_blur;
     std::unique_ptr<RenderTarget> m_blurredNoise;
 };

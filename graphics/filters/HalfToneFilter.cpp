@@ -4,17 +4,35 @@
 namespace grisal::graphics
 {
 
-HalfToneFilter::HalfToneFilter() : IFilter("HalfToneFilter"), m_program("HalfTone", "HalfToneFilter") {}
+const FilterDeclaration<HalfToneFilter::Parameters> &HalfToneFilter::declaration()
+{
+    static const FilterDeclaration<Parameters> declared{
+        .name = "HalfToneFilter",
+        .parameters = {
+            {"weight", "1", 0.75F, 1.25F, std::nullopt, [](Parameters &p) { return std::span(&p.weight, 1); }},
+            {"highlights", "1", 0, 1, std::nullopt, [](Parameters &p) { return std::span(&p.highlights.r, 3); }},
+            {"shadows", "1", 0, 1, std::nullopt, [](Parameters &p) { return std::span(&p.shadows.r, 3); }}}};
+    return declared;
+}
+
+HalfToneFilter::HalfToneFilter() : IFilter(declaration().name), m_program("HalfTone", "HalfToneFilter") {}
+
+void HalfToneFilter::setParameters(const Parameters &wanted)
+{
+    weight = wanted.weight;
+    firstColor = wanted.highlights;
+    secondColor = wanted.shadows;
+}
 
 void HalfToneFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
 {
-    setUniform1f(m_program, "Width", static_cast<float>(width));
-    setUniform1f(m_program, "Height", static_cast<float>(height));
-    setUniform1f(m_program, "Weight", weight);
-    setUniform1f(m_program, "MaxPixel", maxPixel);
-    setUniform3f(m_program, "FirstColor", firstColor.r, firstColor.g, firstColor.b);
-    setUniform3f(m_program, "SecondColor", secondColor.r, secondColor.g, secondColor.b);
-    runPass(m_program, width, height, sourceTexture, target);
+    setUniform1f(program(), "Width", static_cast<float>(width));
+    setUniform1f(program(), "Height", static_cast<float>(height));
+    setUniform1f(program(), "Weight", weight);
+    setUniform1f(program(), "MaxPixel", maxPixel);
+    setUniform3f(program(), "FirstColor", firstColor.r, firstColor.g, firstColor.b);
+    setUniform3f(program(), "SecondColor", secondColor.r, secondColor.g, secondColor.b);
+    runPass(program(), width, height, sourceTexture, target);
 }
 
 } // namespace grisal::graphics

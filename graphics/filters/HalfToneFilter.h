@@ -2,6 +2,7 @@
 #pragma once
 
 #include "graphics/filters/ColorRGB.h"
+#include "graphics/filters/FilterDeclaration.h"
 #include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
 
@@ -14,12 +15,21 @@ namespace grisal::graphics
 class HalfToneFilter : public IFilter
 {
 public:
+    struct Parameters {
+        float weight = 1;                                                    ///< share of the highlights
+        ColorRGB<float> highlights{190 / 255.0F, 156 / 255.0F, 54 / 255.0F}; ///< tint, 0..1
+        ColorRGB<float> shadows{110 / 255.0F, 148 / 255.0F, 198 / 255.0F};   ///< tint, 0..1
+    };
+    static const FilterDeclaration<Parameters> &declaration();
+
     HalfToneFilter();
 
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
+    void setParameters(const Parameters &wanted);
+
     /// The program of the pass, compiled at its first use. The context must be current.
-    const ShaderProgram &program() const { return m_program; }
+    const ShaderProgram &program() const { return m_program.get(); }
 
     float weight = 1;            ///< share of the highlights; 0 tints everything with secondColor
     ColorRGB<float> firstColor;  ///< tint of the highlights, 0..1

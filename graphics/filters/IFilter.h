@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/filters/IPositionMask.h"
 #include "graphics/gl/Framebuffers.h"
 
+#include <cstdint>
+#include <functional>
+#include <memory>
 #include <string>
 
 namespace grisal::graphics
@@ -24,8 +28,12 @@ public:
     /// Draws one pass of the 2D texture `sourceTexture` into `target`.
     virtual void apply(GLuint sourceTexture, const FramebufferObject &target) = 0;
 
-    /// The class name of the filter, by which renderers find it.
+    /// The class name of the filter, for logs and tests.
     std::string getName() const { return m_name; }
+
+    /// Makes the filter's mask for an image of width x height pixels, with its present parameters. Set by a filter that
+    /// depends on the position in the image: in a tile, an overlay with this mask takes its place. Empty otherwise.
+    std::function<std::unique_ptr<IPositionMask>(std::uint32_t, std::uint32_t)> makePositionMask;
 
     bool enabled = false; ///< whether renderers count the filter in
     int width = 0;        ///< width of the pass in pixels

@@ -4,15 +4,25 @@
 namespace grisal::graphics
 {
 
-MixerFilter::MixerFilter() : IFilter("MixerFilter"), m_program("BWConversionMixer", "MixerFilter") {}
+const FilterDeclaration<MixerFilter::Parameters> &MixerFilter::declaration()
+{
+    static const FilterDeclaration<Parameters> declared{
+        .name = "MixerFilter",
+        .enabledAtLoad = true,
+        .parameters = {{"weights", "1", -512.0F / 255, 512.0F / 255, std::nullopt,
+                        [](Parameters &p) { return std::span(&p.weights.r, 3); }}}};
+    return declared;
+}
+
+MixerFilter::MixerFilter() : IFilter(declaration().name), m_program("BWConversionMixer", "MixerFilter") {}
 
 void MixerFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
 {
-    setUniform1f(m_program, "Width", static_cast<float>(width));
-    setUniform1f(m_program, "Height", static_cast<float>(height));
-    setUniform1f(m_program, "MaxPixel", maxPixel);
-    setUniform3f(m_program, "Weights", weights.r, weights.g, weights.b);
-    runPass(m_program, width, height, sourceTexture, target);
+    setUniform1f(program(), "Width", static_cast<float>(width));
+    setUniform1f(program(), "Height", static_cast<float>(height));
+    setUniform1f(program(), "MaxPixel", maxPixel);
+    setUniform3f(program(), "Weights", weights.r, weights.g, weights.b);
+    runPass(program(), width, height, sourceTexture, target);
 }
 
 } // namespace grisal::graphics

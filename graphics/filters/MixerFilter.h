@@ -2,6 +2,7 @@
 #pragma once
 
 #include "graphics/filters/ColorRGB.h"
+#include "graphics/filters/FilterDeclaration.h"
 #include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
 
@@ -12,12 +13,19 @@ namespace grisal::graphics
 class MixerFilter : public IFilter
 {
 public:
+    struct Parameters {
+        ColorRGB<float> weights{1.0F / 3, 1.0F / 3, 1.0F / 3}; ///< multipliers of the channels
+    };
+    static const FilterDeclaration<Parameters> &declaration();
+
     MixerFilter();
 
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
+    void setParameters(const Parameters &wanted) { weights = wanted.weights; }
+
     /// The program of the pass, compiled at its first use. The context must be current.
-    const ShaderProgram &program() const { return m_program; }
+    const ShaderProgram &program() const { return m_program.get(); }
 
     /// Multipliers of the channels, not normalised: a sum above 1 brightens. No neutral value for colour pictures; a
     /// sum of 1 leaves greys as they are.

@@ -9,10 +9,10 @@ OverlayFilter::OverlayFilter() : IFilter("OverlayFilter"), m_program("BWConversi
 
 void OverlayFilter::apply(GLuint sourceTexture, const FramebufferObject &target)
 {
-    setUniform1f(m_program, "Width", static_cast<float>(width));
-    setUniform1f(m_program, "Height", static_cast<float>(height));
-    bindTexture2D(m_program, "OverlayTexture", overlayTexture, unit::extra);
-    runPass(m_program, width, height, sourceTexture, target);
+    setUniform1f(program(), "Width", static_cast<float>(width));
+    setUniform1f(program(), "Height", static_cast<float>(height));
+    bindTexture2D(program(), "OverlayTexture", overlayTexture, unit::extra);
+    runPass(program(), width, height, sourceTexture, target);
 }
 
 } // namespace grisal::graphics

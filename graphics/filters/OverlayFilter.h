@@ -17,7 +17,7 @@ public:
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
     /// The program of the pass, compiled at its first use. The context must be current.
-    const ShaderProgram &program() const { return m_program; }
+    const ShaderProgram &program() const { return m_program.get(); }
 
     GLuint overlayTexture = 0; ///< the mask, in its red channel; owned by whoever sets it
 

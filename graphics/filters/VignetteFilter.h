@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/filters/FilterDeclaration.h"
 #include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
 #include "graphics/filters/VignetteParameters.h"
@@ -9,21 +10,29 @@
 namespace grisal::graphics
 {
 
-/// Darkens a picture I, 0..255, with the distance from a centre: (1 - v) * I + v * I^2 * 0.0039, times 0.0039, v being
-/// vignetteValue(). A strength of 0 or less leaves the picture exactly as it is.
+/// Darkens an image I, 0..255, with the distance from a centre: (1 - v) * I + v * I^2 * 0.0039, times 0.0039, v being
+/// vignetteValue(). A strength of 0 or less leaves the image exactly as it is.
 class VignetteFilter : public IFilter
 {
 public:
+    struct Parameters {
+        VignetteParameters shape{{50, 50, 0}, 50, 50};
+        bool extraBlur = false; ///< kept, used by nothing
+    };
+    static const FilterDeclaration<Parameters> &declaration();
+
     VignetteFilter();
 
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
+    void setParameters(const Parameters &wanted) { parameters = wanted.shape; }
+
     /// The program of the pass, compiled at its first use. The context must be current.
-    const ShaderProgram &program() const { return m_program; }
+    const ShaderProgram &program() const { return m_program.get(); }
 
     VignetteParameters parameters;
-    float maxWidth = 0;  ///< width of the whole picture in pixels
-    float maxHeight = 0; ///< height of the whole picture in pixels
+    float maxWidth = 0;  ///< width of the whole image in pixels
+    float maxHeight = 0; ///< height of the whole image in pixels
 
 private:
     FilterProgram m_program;

@@ -6,7 +6,7 @@
 namespace grisal::graphics
 {
 
-/// Where a vignette sits and how strong it is.
+/// The shape of a vignette.
 struct VignetteParameters {
     struct Center {
         float x = 0; ///< percent of the width from the left

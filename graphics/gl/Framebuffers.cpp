@@ -6,33 +6,11 @@
 
 #include <QtGlobal>
 
-#include <array>
-#include <optional>
-
 namespace grisal::graphics
 {
 
 namespace
 {
-
-struct Rows {
-    std::int32_t first;
-    std::int32_t end;
-};
-
-struct RowsOfTargets {
-    Rows rows;
-    std::array<GLuint, 2> framebuffers;
-};
-
-std::optional<RowsOfTargets> someRows;
-
-std::optional<Rows> rowsOf(const FramebufferObject &target)
-{
-    const bool some = someRows && (someRows->framebuffers[0] == target.framebuffer ||
-                                   someRows->framebuffers[1] == target.framebuffer);
-    return some ? std::optional(someRows->rows) : std::nullopt;
-}
 
 void switchOffPerFragmentTests()
 {
@@ -137,10 +115,8 @@ void renderToFramebuffer(std::int32_t width, std::int32_t height, GLuint program
     switchOffPerFragmentTests();
     glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
     glViewport(0, 0, width, height);
-    const std::optional<Rows> some = rowsOf(target);
-    const Rows rows = some.value_or(Rows{0, height});
     // To clear what the quad covers anyway costs a software driver as much as half a pass.
-    if (!some && !isOfSize(target.texture, width, height)) {
+    if (!isOfSize(target.texture, width, height)) {
         glClear(GL_COLOR_BUFFER_BIT);
     }
     setPassMatrices(width, height);
@@ -148,27 +124,17 @@ void renderToFramebuffer(std::int32_t width, std::int32_t height, GLuint program
     glUseProgram(program);
     glBegin(GL_QUADS);
     glTexCoord2i(0, 1);
-    glVertex2i(0, rows.first);
+    glVertex2i(0, 0);
     glTexCoord2i(0, 0);
-    glVertex2i(0, rows.end);
+    glVertex2i(0, height);
     glTexCoord2i(1, 0);
-    glVertex2i(width, rows.end);
+    glVertex2i(width, height);
     glTexCoord2i(1, 1);
-    glVertex2i(width, rows.first);
+    glVertex2i(width, 0);
     glEnd();
     glUseProgram(0);
 
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
-}
-
-PassRows::PassRows(std::int32_t first, std::int32_t count, const FramebufferObject &one, const FramebufferObject &other)
-{
-    someRows = {{first, first + count}, {one.framebuffer, other.framebuffer}};
-}
-
-PassRows::~PassRows()
-{
-    someRows.reset();
 }
 
 void readPixels(const FramebufferObject &target, std::int32_t width, std::int32_t height, GLenum format, GLenum type,

@@ -41,18 +41,6 @@ GLenum depthFormatFor(GLenum internalFormat);
 /// in use and framebuffer 0 is bound.
 void renderToFramebuffer(std::int32_t width, std::int32_t height, GLuint program, const FramebufferObject &target);
 
-/// While it lives, passes into either of two targets draw only these rows of what they cover; nothing is cleared, and
-/// all other rows stay as they are. Passes into other targets are not touched: a filter may have something of its own
-/// to draw first. One at a time.
-class PassRows
-{
-public:
-    PassRows(std::int32_t first, std::int32_t count, const FramebufferObject &one, const FramebufferObject &other);
-    PassRows(const PassRows &) = delete;
-    PassRows &operator=(const PassRows &) = delete;
-    ~PassRows();
-};
-
 /// Reads width x height pixels of `target`, from its first row on, into `pixels` without row padding. The caller
 /// provides width * height * components(format) * sizeof(type) bytes. Framebuffer 0 is bound afterwards.
 void readPixels(const FramebufferObject &target, std::int32_t width, std::int32_t height, GLenum format, GLenum type,

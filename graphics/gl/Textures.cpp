@@ -57,6 +57,13 @@ GLuint create1DTexture(std::int32_t width, GLenum internalFormat, GLenum format,
     return name;
 }
 
+std::uint32_t largestTextureSide()
+{
+    GLint side = 0;
+    glGetIntegerv(GL_MAX_TEXTURE_SIZE, &side);
+    return static_cast<std::uint32_t>(side);
+}
+
 const char *textureErrorText(GLenum error)
 {
     switch (error) {

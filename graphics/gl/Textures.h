@@ -21,6 +21,9 @@ GLuint createTexture(std::int32_t width, std::int32_t height, GLenum internalFor
 /// Errors are not looked at.
 GLuint create1DTexture(std::int32_t width, GLenum internalFormat, GLenum format, GLenum type, const void *data);
 
+/// The largest side of a 2D texture that the driver offers, in texels. The context must be current.
+std::uint32_t largestTextureSide();
+
 /// The log text for the GL error that followed the making of a texture; null where nothing is to be said.
 const char *textureErrorText(GLenum error);
 

@@ -5,10 +5,10 @@
 #include "graphics/filters/FilterSet.h"
 #include "graphics/gl/GlFaults.h"
 #include "graphics/render/TiledDocumentRenderer.h"
-#include "graphics/render/ValueRange.h"
 
 #include <QDebug>
 
+#include <algorithm>
 #include <cstring>
 
 namespace grisal::graphics
@@ -17,30 +17,26 @@ namespace grisal::graphics
 namespace
 {
 
-/// Gives the filters back, at the end of its life, the sizes they had at its beginning.
-class KeptSizes
+/// At the end of its life, gives the filters the sizes back that they had at its beginning.
+class ScopedFilterSizes
 {
 public:
-    explicit KeptSizes(FilterSet &filters)
-        : m_filters(filters), m_width(filters.mixer.width), m_height(filters.mixer.height),
-          m_maxWidth(filters.vignette.maxWidth), m_maxHeight(filters.vignette.maxHeight)
+    explicit ScopedFilterSizes(FilterSet &filters)
+        : m_filters(filters), m_width(filters.get<MixerFilter>().width), m_height(filters.get<MixerFilter>().height)
     {
     }
-    KeptSizes(const KeptSizes &) = delete;
-    KeptSizes &operator=(const KeptSizes &) = delete;
-    ~KeptSizes()
+    ScopedFilterSizes(const ScopedFilterSizes &) = delete;
+    ScopedFilterSizes &operator=(const ScopedFilterSizes &) = delete;
+    ~ScopedFilterSizes()
     {
-        m_filters.vignette.maxWidth = m_maxWidth;
-        m_filters.vignette.maxHeight = m_maxHeight;
         m_filters.setSize(m_width, m_height);
+        m_filters.setImageSize(m_width, m_height);
     }
 
 private:
     FilterSet &m_filters;
     int m_width;
     int m_height;
-    float m_maxWidth;
-    float m_maxHeight;
 };
 
 std::size_t componentCount(const FinalPicture &picture)
@@ -57,19 +53,23 @@ void logPlan(const TileSide &horizontal, const TileSide &vertical)
     qDebug() << "(INFO) Tile Height: " << vertical.tile;
 }
 
+template <typename Sample>
 void logValueRange(const FinalPicture &picture)
 {
+    const auto *samples = static_cast<const Sample *>(picture.pixels);
+    unsigned smallest = 65535;
+    unsigned largest = 0;
     const std::size_t components = picture.hasAlpha ? 4 : 3;
-    const std::size_t count = componentCount(picture) / components;
-    const auto [smallest, largest] =
-        picture.sixteenBit ? valueRange(static_cast<const std::uint16_t *>(picture.pixels), count, components)
-                           : valueRange(static_cast<const std::uint8_t *>(picture.pixels), count, components);
+    for (std::size_t i = 0; i < componentCount(picture); i += components) {
+        smallest = std::min<unsigned>(smallest, samples[i]);
+        largest = std::max<unsigned>(largest, samples[i]);
+    }
     qDebug() << "Final vmin: " << smallest;
     qDebug() << "Final vmax: " << largest;
 }
 
-bool renderInPlace(const FinalPicture &picture, FilterSet &filters, DocumentView &view, const TileSide &horizontal,
-                   const TileSide &vertical, const GlFaultWatch &watch, const TileProgress &progress)
+bool renderTiles(const FinalPicture &picture, FilterSet &filters, DocumentView &view, const TileSide &horizontal,
+                 const TileSide &vertical, const GlFaultWatch &watch, const TileProgress &progress)
 {
     const TileFormats formats =
         tileFormatsFor(picture.sixteenBit, GLEW_VERSION_3_0 == GL_TRUE, GLEW_ARB_half_float_pixel == GL_TRUE);
@@ -78,12 +78,9 @@ bool renderInPlace(const FinalPicture &picture, FilterSet &filters, DocumentView
     DocumentFilterQueue queue;
     TiledDocumentRenderer renderer(picture.hasAlpha, horizontal, vertical, formats, source);
     renderer.setProgress(progress);
-    if (picture.expendable) {
-        renderer.setInPlace();
-    }
     Document document(0, &queue);
     document.setView(&view);
-    addFinalFilters(queue, filters);
+    filters.addToFinalRender(queue);
 
     glEnable(GL_TEXTURE_2D);
     renderer.render(document);
@@ -93,49 +90,42 @@ bool renderInPlace(const FinalPicture &picture, FilterSet &filters, DocumentView
         qWarning("OpenGL could not render the picture");
         return false;
     }
-    if (!picture.expendable) {
-        const std::size_t componentSize = picture.sixteenBit ? sizeof(std::uint16_t) : sizeof(std::uint8_t);
-        std::memcpy(picture.pixels, renderer.output()->pixels, componentCount(picture) * componentSize);
-    }
+    const std::size_t sampleSize = picture.sixteenBit ? sizeof(std::uint16_t) : sizeof(std::uint8_t);
+    std::memcpy(picture.pixels, renderer.output()->pixels, componentCount(picture) * sampleSize);
     return true;
 }
 
 } // namespace
 
-void addFinalFilters(DocumentFilterQueue &queue, FilterSet &filters)
-{
-    queue.add(&filters.mixer);
-    queue.add(&filters.curve);
-    queue.add(&filters.splitTone);
-    queue.add(&filters.grain);
-    queue.add(&filters.vignette);
-}
-
-bool renderFinalPicture(const FinalPicture &picture, const FilterParameters &parameters, FilterSet &filters,
-                        DocumentView &view, const TileProgress &progress)
+bool renderFinalPicture(const FinalPicture &picture, const Look &look, FilterSet &filters, DocumentView &view,
+                        const TileProgress &progress)
 {
     const GlFaultWatch watch;
     // The grain leaves another unit active, on which it would be enabled for nothing.
     glActiveTexture(GL_TEXTURE0);
     glEnable(GL_TEXTURE_2D);
-    filters.grain.setSigma(parameters.grainRadius);
+    filters.get<GrainFilter>().setSigma(look.get<GrainFilter>().radius);
     qDebug() << "X: " << picture.width;
     qDebug() << "Y: " << picture.height;
     const TileSide horizontal = planTileSide(static_cast<std::uint32_t>(picture.width));
     const TileSide vertical = planTileSide(static_cast<std::uint32_t>(picture.height));
     logPlan(horizontal, vertical);
 
-    const KeptSizes sizes(filters);
+    const ScopedFilterSizes sizes(filters);
     filters.setSize(static_cast<int>(horizontal.tile), static_cast<int>(vertical.tile));
-    filters.setPictureSize(picture.width, picture.height);
-    qDebug() << "HalfTone Weight: " << filters.splitTone.weight;
-    filters.setParameters(parameters);
+    filters.setImageSize(picture.width, picture.height);
+    qDebug() << "HalfTone Weight: " << filters.get<HalfToneFilter>().weight;
+    filters.setLook(look);
 
-    const bool rendered = renderInPlace(picture, filters, view, horizontal, vertical, watch, progress);
+    const bool rendered = renderTiles(picture, filters, view, horizontal, vertical, watch, progress);
     if (!rendered) {
-        filters.grain.forgetNoise();
+        filters.get<GrainFilter>().forgetNoise();
     }
-    logValueRange(picture);
+    if (picture.sixteenBit) {
+        logValueRange<std::uint16_t>(picture);
+    } else {
+        logValueRange<std::uint8_t>(picture);
+    }
     return rendered;
 }
 

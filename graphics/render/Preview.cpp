@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/render/Preview.h"
 
-#include "graphics/filters/FilterSet.h"
 #include "graphics/image/PreviewPixels.h"
 
 namespace grisal::graphics
@@ -14,15 +13,6 @@ PixelFormats pixelFormatsFor(bool sixteenBit, bool alpha)
                      : PixelFormats{GL_UNSIGNED_SHORT, GL_RGB16, GL_RGB};
     }
     return alpha ? PixelFormats{GL_UNSIGNED_BYTE, GL_RGBA8, GL_RGBA} : PixelFormats{GL_UNSIGNED_BYTE, GL_RGB8, GL_RGB};
-}
-
-void addPreviewFilters(DocumentFilterQueue &queue, FilterSet &filters)
-{
-    queue.add(&filters.mixer);
-    queue.add(&filters.curve);
-    queue.add(&filters.grain);
-    queue.add(&filters.splitTone);
-    queue.add(&filters.vignette);
 }
 
 // The pixels have three components whatever the formats say: GL_RGB for the upload.

@@ -9,7 +9,6 @@
 namespace grisal::graphics
 {
 
-struct FilterSet;
 struct PreviewPixels;
 
 /// The GL enums that go with the pixels of a picture.
@@ -21,9 +20,6 @@ struct PixelFormats {
 
 /// Bytes go with GL_RGB8, 16-bit words with GL_RGB16; with alpha GL_RGBA8 and GL_RGBA16.
 PixelFormats pixelFormatsFor(bool sixteenBit, bool alpha);
-
-/// Fills a queue in the order of the preview: grain before split toning.
-void addPreviewFilters(DocumentFilterQueue &queue, FilterSet &filters);
 
 /// One picture at preview size and all it takes to show it through filters: its texture, queue, document, view and
 /// renderer. Made, used and destroyed with the context current.

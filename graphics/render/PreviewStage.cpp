@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/render/PreviewStage.h"
 
-#include "graphics/filters/FilterSet.h"
 #include "graphics/image/PreviewPixels.h"
 
 namespace grisal::graphics
@@ -34,14 +33,10 @@ void PreviewStage::prepareFilters(int width, int height)
         m_filters = std::make_unique<FilterSet>();
     }
     m_filters->setSize(width, height);
-    m_filters->setPictureSize(width, height);
-    m_filters->setParameters(m_parameters);
-    blurGrain(firstGrainRadius);
-    m_filters->mixer.enabled = true;
-    m_filters->curve.enabled = false;
-    m_filters->vignette.enabled = false;
-    m_filters->splitTone.enabled = false;
-    m_filters->grain.enabled = false;
+    m_filters->setImageSize(width, height);
+    m_filters->setLook(m_look);
+    m_filters->get<GrainFilter>().setSigma(firstGrainRadius);
+    m_filters->resetEnabled();
 }
 
 void PreviewStage::release()
@@ -54,61 +49,21 @@ void PreviewStage::rebuildQueue()
 {
     if (m_preview) {
         m_preview->queue().clear();
-        addPreviewFilters(m_preview->queue(), *m_filters);
+        m_filters->addToPreview(m_preview->queue());
     }
 }
 
-void PreviewStage::blurGrain(float radius)
+void PreviewStage::setGrain(const GrainFilter::Parameters &parameters)
 {
-    m_filters->grain.setSigma(radius * m_grainScale);
-}
-
-void PreviewStage::setMixer(const ColorRGB<float> &weights)
-{
-    m_parameters.mixerWeights = weights;
+    set<GrainFilter>(parameters);
     if (m_filters) {
-        m_filters->setMixer(m_parameters);
+        blurGrain();
     }
 }
 
-void PreviewStage::setVignette(float x, float y, float radius, float strength, bool extraBlur)
+void PreviewStage::blurGrain()
 {
-    m_parameters.vignetteX = x;
-    m_parameters.vignetteY = y;
-    m_parameters.vignetteRadius = radius;
-    m_parameters.vignetteStrength = strength;
-    m_parameters.extraBlur = extraBlur;
-    if (m_filters) {
-        m_filters->setVignette(m_parameters);
-    }
-}
-
-void PreviewStage::setSplitTone(float weight, const ColorRGB<float> &highlights, const ColorRGB<float> &shadows)
-{
-    m_parameters.splitWeight = weight;
-    m_parameters.highlightTint = highlights;
-    m_parameters.shadowTint = shadows;
-    if (m_filters) {
-        m_filters->setSplitTone(m_parameters);
-    }
-}
-
-void PreviewStage::setGrain(const QVector<float> &weights, float radius)
-{
-    m_parameters.grainWeights = weights;
-    m_parameters.grainRadius = radius;
-    if (m_filters) {
-        m_filters->setGrainWeights(m_parameters);
-        blurGrain(radius);
-    }
-}
-
-void PreviewStage::setCurve(const QVector<float> &curve)
-{
-    m_parameters.curve = curve;
-    if (m_filters) {
-        m_filters->setCurve(m_parameters);
-    }
+    m_filters->get<GrainFilter>().setSigma(m_look.get<GrainFilter>().radius * m_grainScale);
 }
 
 bool PreviewStage::renderFinal(const FinalPicture &picture, const TileProgress &progress)
@@ -117,8 +72,8 @@ bool PreviewStage::renderFinal(const FinalPicture &picture, const TileProgress &
     if (!usable || !m_preview) {
         return false;
     }
-    const bool rendered = renderFinalPicture(picture, m_parameters, *m_filters, m_preview->view(), progress);
-    blurGrain(m_parameters.grainRadius);
+    const bool rendered = renderFinalPicture(picture, m_look, *m_filters, m_preview->view(), progress);
+    blurGrain();
     return rendered;
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/FilterParameters.h"
+#include "graphics/filters/FilterSet.h"
 #include "graphics/render/FinalRender.h"
 #include "graphics/render/Preview.h"
 
@@ -10,11 +10,11 @@
 namespace grisal::graphics
 {
 
-/// The picture that is being worked on: its preview, the filters, and what the panels last said.
+/// The image that is being worked on: its preview, the filters and their parameters.
 ///
-/// Parameters can be set at any time; they reach the filters as soon as there are any, which is from the first load
-/// on. load(), setCurve(), setGrain(), renderFinal() and release() need the context to be current, and so does the
-/// destructor unless release() was called before.
+/// Parameters can be set at any time; they reach the filters once these exist, from the first load on. Everything but
+/// the getters needs the context to be current once there are filters, and so does the destructor unless release() was
+/// called before.
 class PreviewStage
 {
 public:
@@ -34,16 +34,23 @@ public:
     Preview *preview() const { return m_preview.get(); }
     /// The filters; null before the first load.
     FilterSet *filters() const { return m_filters.get(); }
-    const FilterParameters &parameters() const { return m_parameters; }
+    const Look &look() const { return m_look; }
 
     /// Fills the queue of the preview again.
     void rebuildQueue();
 
-    void setMixer(const ColorRGB<float> &weights);
-    void setVignette(float x, float y, float radius, float strength, bool extraBlur);
-    void setSplitTone(float weight, const ColorRGB<float> &highlights, const ColorRGB<float> &shadows);
-    void setGrain(const QVector<float> &weights, float radius);
-    void setCurve(const QVector<float> &curve);
+    /// Sets the parameters of a filter.
+    template <typename Filter>
+    void set(const typename Filter::Parameters &parameters)
+    {
+        m_look.get<Filter>() = parameters;
+        if (m_filters) {
+            m_filters->get<Filter>().setParameters(parameters);
+        }
+    }
+
+    /// Sets the parameters of the grain and blurs its noise.
+    void setGrain(const GrainFilter::Parameters &parameters);
 
     /// Renders a whole picture in place with the filters as they are. False where there is no result or nothing was
     /// loaded yet.
@@ -51,9 +58,9 @@ public:
 
 private:
     void prepareFilters(int width, int height);
-    void blurGrain(float radius);
+    void blurGrain();
 
-    FilterParameters m_parameters;
+    Look m_look;
     std::unique_ptr<FilterSet> m_filters;
     std::unique_ptr<Preview> m_preview;
     float m_grainScale = 1.0F;

@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/image/TileArea.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <vector>
 
 namespace grisal::graphics
 {
-
-/// A rectangle of a picture, in pixels; y counts from the top row.
-struct TileArea {
-    std::size_t x = 0;
-    std::size_t y = 0;
-    std::size_t width = 0;
-    std::size_t height = 0;
-};
 
 /// The colour components that a tile has per pixel, whatever its picture has.
 constexpr std::size_t tileComponents = 3;

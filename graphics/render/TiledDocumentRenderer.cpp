@@ -4,9 +4,7 @@
 #include "graphics/document/Document.h"
 #include "graphics/document/DocumentView.h"
 #include "graphics/filters/OverlayFilter.h"
-#include "graphics/filters/VignetteFilter.h"
 #include "graphics/gl/Textures.h"
-#include "graphics/render/VignetteMask.h"
 
 #include <QDebug>
 
@@ -19,25 +17,9 @@ namespace grisal::graphics
 namespace
 {
 
-bool isVignette(const IFilter *filter)
+bool dependsOnPosition(const IFilter *filter)
 {
-    return filter->getName() == "VignetteFilter";
-}
-
-std::uint32_t largestTextureSide()
-{
-    GLint side = 0;
-    glGetIntegerv(GL_MAX_TEXTURE_SIZE, &side);
-    return static_cast<std::uint32_t>(side);
-}
-
-/// The rows that the filters run over at a time. The targets of a large tile are out of the caches by the time that the
-/// next filter wants them; with a small one it is the passes that count, each of which waits for the one before.
-std::size_t bandOf(const TileArea &area)
-{
-    constexpr std::size_t smallPixels = 2'000'000;
-    constexpr std::size_t bandPixels = 800'000;
-    return area.width * area.height <= smallPixels ? area.height : std::max<std::size_t>(bandPixels / area.width, 1);
+    return filter->makePositionMask != nullptr;
 }
 
 const FramebufferObject &runFilters(const std::vector<IFilter *> &filters, GLuint texture,
@@ -62,7 +44,7 @@ const FramebufferObject &runFilters(const std::vector<IFilter *> &filters, GLuin
 struct TiledDocumentRenderer::Chain {
     std::vector<IFilter *> filters;
     std::unique_ptr<OverlayFilter> overlay;
-    std::unique_ptr<VignetteMask> mask;
+    std::unique_ptr<IPositionMask> mask;
 };
 
 TiledDocumentRenderer::TiledDocumentRenderer(bool hasAlpha, TileSide horizontal, TileSide vertical,
@@ -78,7 +60,7 @@ bool TiledDocumentRenderer::render(Document &document)
     logSizes();
     m_output.reset();
     Chain chain{document.queue()->filters(), nullptr, nullptr};
-    replaceVignette(chain);
+    replaceByOverlay(chain);
 
     if (m_formats.pixelType == GL_UNSIGNED_BYTE) {
         qDebug() << "(INFO) GL_RGB8 output image requested";
@@ -101,23 +83,19 @@ void TiledDocumentRenderer::logSizes() const
     qDebug() << "(INFO) Begin tiled rendering";
 }
 
-void TiledDocumentRenderer::replaceVignette(Chain &chain) const
+void TiledDocumentRenderer::replaceByOverlay(Chain &chain) const
 {
     auto &filters = chain.filters;
-    const auto enabled = std::find_if(filters.begin(), filters.end(),
-                                      [](const IFilter *filter) { return isVignette(filter) && filter->enabled; });
+    const auto enabled = std::find_if(filters.begin(), filters.end(), [](const IFilter *filter) {
+        return dependsOnPosition(filter) && filter->enabled;
+    });
     if (enabled == filters.end()) {
         return;
     }
-    const auto *vignette = dynamic_cast<const VignetteFilter *>(*enabled);
-    if (vignette == nullptr) {
-        return;
-    }
-    chain.mask = std::make_unique<VignetteMask>(vignette->parameters, m_horizontal.padded, m_vertical.padded,
-                                                largestTextureSide());
+    chain.mask = (*enabled)->makePositionMask(m_horizontal.padded, m_vertical.padded);
     chain.overlay = std::make_unique<OverlayFilter>();
     chain.overlay->enabled = true;
-    *std::find_if(filters.begin(), filters.end(), isVignette) = chain.overlay.get();
+    *std::find_if(filters.begin(), filters.end(), dependsOnPosition) = chain.overlay.get();
 }
 
 template <typename T>
@@ -125,11 +103,9 @@ void TiledDocumentRenderer::renderPicture(Document &document, const Chain &chain
 {
     const std::size_t size = std::size_t{m_source.width} * m_source.height * (m_hasAlpha ? 4 : 3);
     const bool anyEnabled = countEnabled(chain.filters) > 0;
-    if (!m_inPlace) {
-        m_pixels = std::make_unique_for_overwrite<std::byte[]>(size * sizeof(T));
-    }
-    auto *pixels = m_inPlace ? static_cast<T *>(m_source.pixels) : reinterpret_cast<T *>(m_pixels.get());
-    if (!m_inPlace && (m_hasAlpha || !anyEnabled)) {
+    m_pixels = std::make_unique_for_overwrite<std::byte[]>(size * sizeof(T));
+    auto *pixels = reinterpret_cast<T *>(m_pixels.get());
+    if (m_hasAlpha || !anyEnabled) {
         // A fourth component stays, and so does everything where no filter is enabled.
         std::copy_n(static_cast<const T *>(m_source.pixels), size, pixels);
     }
@@ -230,14 +206,7 @@ const FramebufferObject &TiledDocumentRenderer::runChain(const Chain &chain, con
         chain.filters.front()->apply(texture, second);
         return second;
     }
-    const FramebufferObject *result = &first;
-    const std::size_t band = bandOf(area);
-    for (std::size_t row = 0; row < area.height; row += band) {
-        const PassRows rows(static_cast<std::int32_t>(row),
-                            static_cast<std::int32_t>(std::min(band, area.height - row)), first, second);
-        result = &runFilters(chain.filters, texture, first, second);
-    }
-    return *result;
+    return runFilters(chain.filters, texture, first, second);
 }
 
 /// The mask is the caller's until the overlay has run.

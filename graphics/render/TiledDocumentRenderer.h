@@ -21,10 +21,10 @@ class OverlayFilter;
 
 /// Renders a picture at full resolution, tile by tile.
 ///
-/// What depends on the place in the whole picture cannot be computed in a tile: of an enabled vignette there is a mask
-/// of the padded size, and inside the tiles an OverlayFilter with its piece of the mask stands in its place.
-/// Unlike in the preview, the first filter of the queue runs once; with exactly one filter enabled it is the first of
-/// the queue that runs, whichever is enabled; with none the source is the result.
+/// A filter that depends on the position in the image cannot be run tile by tile: where it is enabled, it is replaced
+/// by an OverlayFilter with its mask, which has the padded size. Unlike in the preview, the first filter of the queue
+/// runs once; with exactly one filter enabled it is the first of the queue that runs, whichever is enabled; with none
+/// the source is the result.
 class TiledDocumentRenderer : public IRenderer
 {
 public:
@@ -37,23 +37,19 @@ public:
     /// Who is told of each tile; nobody by default.
     void setProgress(TileProgress progress) { m_progress = std::move(progress); }
 
-    /// From now on the result goes where the source is, tile by tile, and output() describes that place. Where there is
-    /// no result, nobody knows what is there.
-    void setInPlace() { m_inPlace = true; }
-
     /// Renders the document's queue over the source and returns true. The queue itself is left as it is.
     bool render(Document &document) override;
 
     /// The result, with size and components of the source and, with alpha, its fourth component. Null before a render,
     /// after one with an unknown pixel type, and where the driver has no targets of the tiles' size. The renderer owns
-    /// it and, unless it renders in place, its pixels.
+    /// it and its pixels.
     const ImageBuffer *output() const { return m_output.get(); }
 
 private:
     struct Chain;
 
     void logSizes() const;
-    void replaceVignette(Chain &chain) const;
+    void replaceByOverlay(Chain &chain) const;
     template <typename T>
     void renderPicture(Document &document, const Chain &chain);
     template <typename T>
@@ -70,7 +66,6 @@ private:
     TileSide m_vertical;
     TileFormats m_formats;
     ImageBuffer m_source;
-    bool m_inPlace = false;
     TileProgress m_progress;
     std::unique_ptr<std::byte[]> m_pixels;
     std::unique_ptr<ImageBuffer> m_output;

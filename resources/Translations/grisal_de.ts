@@ -989,9 +989,5 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <source>Rendering tile %1 of %2</source>
         <translation>Kachel %1 von %2 wird berechnet</translation>
     </message>
-    <message>
-        <source>The part of Grisal that opens pictures cannot be loaded. If starting Grisal again does not help, please install it again.</source>
-        <translation>Der Teil von Grisal, der Bilder öffnet, lässt sich nicht laden. Wenn ein neuer Start von Grisal nicht hilft, installieren Sie es bitte neu.</translation>
-    </message>
 </context>
 </TS>

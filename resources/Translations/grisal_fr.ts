@@ -989,9 +989,5 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <source>Rendering tile %1 of %2</source>
         <translation>Calcul de la tuile %1 sur %2</translation>
     </message>
-    <message>
-        <source>The part of Grisal that opens pictures cannot be loaded. If starting Grisal again does not help, please install it again.</source>
-        <translation>La partie de Grisal qui ouvre les images ne peut pas être chargée. Si redémarrer Grisal n’y change rien, veuillez le réinstaller.</translation>
-    </message>
 </context>
 </TS>

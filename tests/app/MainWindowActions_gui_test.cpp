@@ -28,8 +28,13 @@ namespace
 
 using namespace grisal::test;
 using grisal::graphics::ColorRGB;
-using grisal::graphics::FilterParameters;
+using grisal::graphics::CurveFilter;
+using grisal::graphics::GrainFilter;
+using grisal::graphics::HalfToneFilter;
 using grisal::graphics::IFilter;
+using grisal::graphics::Look;
+using grisal::graphics::MixerFilter;
+using grisal::graphics::VignetteFilter;
 
 /// A panel with a filter that its action switches on and off.
 struct FilterRow {
@@ -41,10 +46,12 @@ struct FilterRow {
 };
 
 constexpr std::array<FilterRow, 4> filterTable{{
-    {"actionCurves", "Curves", Qt::Key_2, &grisal::ui::GLWidget::curveFilter, "curve filter is invalid"},
-    {"actionVignette", "Vignette", Qt::Key_4, &grisal::ui::GLWidget::vignetteFilter, "vignette filter is invalid"},
-    {"actionGrain", "Grain", Qt::Key_5, &grisal::ui::GLWidget::grainFilter, "grain filter is invalid"},
-    {"actionSplitTone", "SplitTone", Qt::Key_6, &grisal::ui::GLWidget::splitToneFilter, "split tone filter is invalid"},
+    {"actionCurves", "Curves", Qt::Key_2, &grisal::ui::GLWidget::filter<CurveFilter>, "curve filter is invalid"},
+    {"actionVignette", "Vignette", Qt::Key_4, &grisal::ui::GLWidget::filter<VignetteFilter>,
+     "vignette filter is invalid"},
+    {"actionGrain", "Grain", Qt::Key_5, &grisal::ui::GLWidget::filter<GrainFilter>, "grain filter is invalid"},
+    {"actionSplitTone", "SplitTone", Qt::Key_6, &grisal::ui::GLWidget::filter<HalfToneFilter>,
+     "split tone filter is invalid"},
 }};
 
 /// Closes the dialog of a class with what was seen in it.
@@ -130,7 +137,7 @@ TEST_F(MainWindowActions, ComingBackToAPanelLeavesItsFilterOn)
     trigger(window, "actionVignette");
     EXPECT_EQ(shownPanel(), "Vignette");
     EXPECT_TRUE(action("actionVignette").isChecked());
-    EXPECT_TRUE(preview().vignetteFilter()->enabled);
+    EXPECT_TRUE(preview().filter<VignetteFilter>()->enabled);
 }
 
 TEST_F(MainWindowActions, SharpenShowsAPanelWithoutAFilter)
@@ -172,44 +179,44 @@ TEST_F(MainWindowActions, TheMixerReachesThePreview)
 {
     start();
     child<QComboBox>(panel<Mixer>(), "comboPresets").setCurrentText(QStringLiteral("Rochester Tri-X"));
-    EXPECT_EQ(preview().parameters().mixerWeights, (ColorRGB<float>{64 / 255.0F, 89 / 255.0F, 102 / 255.0F}));
+    EXPECT_EQ(preview().look().get<MixerFilter>().weights, (ColorRGB<float>{64 / 255.0F, 89 / 255.0F, 102 / 255.0F}));
 }
 
 TEST_F(MainWindowActions, TheVignettePanelReachesThePreview)
 {
     start();
     emit panel<Vignette>().signalVignette(1, 2, 3, 4, true);
-    const FilterParameters &now = preview().parameters();
-    EXPECT_EQ(now.vignetteX, 1);
-    EXPECT_EQ(now.vignetteY, 2);
-    EXPECT_EQ(now.vignetteRadius, 3);
-    EXPECT_EQ(now.vignetteStrength, 4);
-    EXPECT_TRUE(now.extraBlur);
+    const Look &now = preview().look();
+    EXPECT_EQ(now.get<VignetteFilter>().shape.center.x, 1);
+    EXPECT_EQ(now.get<VignetteFilter>().shape.center.y, 2);
+    EXPECT_EQ(now.get<VignetteFilter>().shape.radius, 3);
+    EXPECT_EQ(now.get<VignetteFilter>().shape.strength, 4);
+    EXPECT_TRUE(now.get<VignetteFilter>().extraBlur);
 }
 
 TEST_F(MainWindowActions, TheSplitTonePanelReachesThePreview)
 {
     start();
     emit panel<SplitTone>().signalSplit(0.5F, 0.1F, 0.2F, 0.3F, 0.4F, 0.6F, 0.7F);
-    const FilterParameters &now = preview().parameters();
-    EXPECT_EQ(now.splitWeight, 0.5F);
-    EXPECT_EQ(now.highlightTint, (ColorRGB<float>{0.1F, 0.2F, 0.3F}));
-    EXPECT_EQ(now.shadowTint, (ColorRGB<float>{0.4F, 0.6F, 0.7F}));
+    const Look &now = preview().look();
+    EXPECT_EQ(now.get<HalfToneFilter>().weight, 0.5F);
+    EXPECT_EQ(now.get<HalfToneFilter>().highlights, (ColorRGB<float>{0.1F, 0.2F, 0.3F}));
+    EXPECT_EQ(now.get<HalfToneFilter>().shadows, (ColorRGB<float>{0.4F, 0.6F, 0.7F}));
 }
 
 TEST_F(MainWindowActions, TheGrainPanelReachesThePreview)
 {
     start();
     emit panel<Grain>().signalGrain(QVector<float>(256, 0.25F), 2.5F);
-    EXPECT_EQ(preview().parameters().grainWeights, QVector<float>(256, 0.25F));
-    EXPECT_EQ(preview().parameters().grainRadius, 2.5F);
+    EXPECT_EQ(preview().look().get<GrainFilter>().weights, QVector<float>(256, 0.25F));
+    EXPECT_EQ(preview().look().get<GrainFilter>().radius, 2.5F);
 }
 
 TEST_F(MainWindowActions, TheCurvesPanelReachesThePreview)
 {
     start();
     emit panel<Curves>().signalCurves(QVector<float>(256, 0.75F));
-    EXPECT_EQ(preview().parameters().curve, QVector<float>(256, 0.75F));
+    EXPECT_EQ(preview().look().get<CurveFilter>().curve, QVector<float>(256, 0.75F));
 }
 
 TEST_F(MainWindowActions, LoadingPixelsHandsTheirTonesToTheCurvesPanel)
@@ -233,21 +240,21 @@ TEST_F(MainWindowActions, LoadingPixelsPutsAllParametersBack)
     emit panel<Curves>().signalCurves(QVector<float>(256, 0.75F));
     const std::uint8_t white[3] = {255, 255, 255};
     window.loadBuffer(white, 1, 1, false);
-    const FilterParameters initial;
-    const FilterParameters &now = preview().parameters();
-    EXPECT_EQ(now.mixerWeights, initial.mixerWeights);
-    EXPECT_EQ(now.vignetteX, initial.vignetteX);
-    EXPECT_EQ(now.vignetteStrength, initial.vignetteStrength);
-    EXPECT_FALSE(now.extraBlur);
-    EXPECT_EQ(now.splitWeight, initial.splitWeight);
-    EXPECT_EQ(now.highlightTint, initial.highlightTint);
-    EXPECT_EQ(now.shadowTint, initial.shadowTint);
+    const Look initial;
+    const Look &now = preview().look();
+    EXPECT_EQ(now.get<MixerFilter>().weights, initial.get<MixerFilter>().weights);
+    EXPECT_EQ(now.get<VignetteFilter>().shape.center.x, initial.get<VignetteFilter>().shape.center.x);
+    EXPECT_EQ(now.get<VignetteFilter>().shape.strength, initial.get<VignetteFilter>().shape.strength);
+    EXPECT_FALSE(now.get<VignetteFilter>().extraBlur);
+    EXPECT_EQ(now.get<HalfToneFilter>().weight, initial.get<HalfToneFilter>().weight);
+    EXPECT_EQ(now.get<HalfToneFilter>().highlights, initial.get<HalfToneFilter>().highlights);
+    EXPECT_EQ(now.get<HalfToneFilter>().shadows, initial.get<HalfToneFilter>().shadows);
     // The panel starts with grain in the middle greys; its filter is off.
-    EXPECT_FLOAT_EQ(now.grainWeights[0], 0);
-    EXPECT_FLOAT_EQ(now.grainWeights[128], 0.5F);
-    EXPECT_FLOAT_EQ(now.grainWeights[192], 0.25F);
-    EXPECT_EQ(now.grainRadius, initial.grainRadius);
-    EXPECT_EQ(now.curve, initial.curve);
+    EXPECT_FLOAT_EQ(now.get<GrainFilter>().weights[0], 0);
+    EXPECT_FLOAT_EQ(now.get<GrainFilter>().weights[128], 0.5F);
+    EXPECT_FLOAT_EQ(now.get<GrainFilter>().weights[192], 0.25F);
+    EXPECT_EQ(now.get<GrainFilter>().radius, initial.get<GrainFilter>().radius);
+    EXPECT_EQ(now.get<CurveFilter>().curve, initial.get<CurveFilter>().curve);
 }
 
 TEST_F(MainWindowActions, PanelsAreResetInTheirOrder)
@@ -281,7 +288,7 @@ TEST_F(MainWindowActions, LoadingNoPixelsIsToldAndChangesNothing)
     expectWarning(QStringLiteral("Buffer is invalid!"));
     window.loadBuffer(nullptr, 10, 10, false);
     EXPECT_EQ(preview().previewWidth(), 300);
-    EXPECT_EQ(preview().parameters().mixerWeights, (ColorRGB<float>{1, 0, 0}));
+    EXPECT_EQ(preview().look().get<MixerFilter>().weights, (ColorRGB<float>{1, 0, 0}));
 }
 
 TEST_F(MainWindowActions, LoadingPixelsStartsTheGraphicsAgain)

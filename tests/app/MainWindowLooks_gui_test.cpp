@@ -24,7 +24,11 @@ namespace
 {
 
 using namespace grisal::test;
-using grisal::graphics::FilterParameters;
+using grisal::graphics::CurveFilter;
+using grisal::graphics::GrainFilter;
+using grisal::graphics::HalfToneFilter;
+using grisal::graphics::MixerFilter;
+using grisal::graphics::VignetteFilter;
 using reference::Look;
 
 class MainWindowLooks : public FilesTest
@@ -84,27 +88,27 @@ protected:
     Look look()
     {
         Look now;
-        FilterParameters &p = now.parameters;
+        grisal::graphics::Look &p = now.parameters;
         if (const QVariantList sent = lastOf(mixer); !sent.isEmpty()) {
-            p.mixerWeights = {sent[0].toFloat(), sent[1].toFloat(), sent[2].toFloat()};
+            p.get<MixerFilter>().weights = {sent[0].toFloat(), sent[1].toFloat(), sent[2].toFloat()};
         }
         if (const QVariantList sent = lastOf(curves); !sent.isEmpty()) {
-            p.curve = sent[0].value<QVector<float>>();
+            p.get<CurveFilter>().curve = sent[0].value<QVector<float>>();
         }
         if (const QVariantList sent = lastOf(grain); !sent.isEmpty()) {
-            p.grainWeights = sent[0].value<QVector<float>>();
-            p.grainRadius = sent[1].toFloat();
+            p.get<GrainFilter>().weights = sent[0].value<QVector<float>>();
+            p.get<GrainFilter>().radius = sent[1].toFloat();
         }
         if (const QVariantList sent = lastOf(vignette); !sent.isEmpty()) {
-            p.vignetteX = sent[0].toFloat();
-            p.vignetteY = sent[1].toFloat();
-            p.vignetteRadius = sent[2].toFloat();
-            p.vignetteStrength = sent[3].toFloat();
+            p.get<VignetteFilter>().shape.center.x = sent[0].toFloat();
+            p.get<VignetteFilter>().shape.center.y = sent[1].toFloat();
+            p.get<VignetteFilter>().shape.radius = sent[2].toFloat();
+            p.get<VignetteFilter>().shape.strength = sent[3].toFloat();
         }
         if (const QVariantList sent = lastOf(split); !sent.isEmpty()) {
-            p.splitWeight = sent[0].toFloat();
-            p.highlightTint = {sent[1].toFloat(), sent[2].toFloat(), sent[3].toFloat()};
-            p.shadowTint = {sent[4].toFloat(), sent[5].toFloat(), sent[6].toFloat()};
+            p.get<HalfToneFilter>().weight = sent[0].toFloat();
+            p.get<HalfToneFilter>().highlights = {sent[1].toFloat(), sent[2].toFloat(), sent[3].toFloat()};
+            p.get<HalfToneFilter>().shadows = {sent[4].toFloat(), sent[5].toFloat(), sent[6].toFloat()};
         }
         now.curve = action("actionCurves").isChecked();
         now.grain = action("actionGrain").isChecked();
@@ -116,7 +120,8 @@ protected:
     /// Expects the screen to show the small picture with the look.
     void expectOnScreen(const Look &wanted)
     {
-        const BytePixels noise = reference::blurredNoise(reference::noiseMap(), wanted.parameters.grainRadius);
+        const BytePixels noise =
+            reference::blurredNoise(reference::noiseMap(), wanted.parameters.get<GrainFilter>().radius);
         const BytePixels expected = reference::previewOf(small, wanted, noise);
         BytePixels shown;
         const bool alike = QTest::qWaitFor([&] {
@@ -134,7 +139,8 @@ protected:
     template <typename T>
     void expectInFile(const QString &path, const Pixels<T> &opened, const Look &wanted, const Limits &limits)
     {
-        const BytePixels noise = reference::blurredNoise(reference::noiseMap(), wanted.parameters.grainRadius);
+        const BytePixels noise =
+            reference::blurredNoise(reference::noiseMap(), wanted.parameters.get<GrainFilter>().radius);
         const Pixels<T> expected = reference::fileOf(opened, wanted, noise);
         const Words words = samplesOf(path);
         ASSERT_EQ(words.size(), expected.values.size());
@@ -225,7 +231,7 @@ TEST_F(MainWindowLooks, WeightsArePickedOnTheWheel)
 {
     openSmall();
     drag(child<YUVFrame>(panel<Mixer>(), "frameYUV"), {0.5, 0.5}, {0.5625, 0.4375});
-    EXPECT_GT(look().parameters.mixerWeights.r, 0.35F);
+    EXPECT_GT(look().parameters.get<MixerFilter>().weights.r, 0.35F);
     expectEverywhere();
 }
 
@@ -234,7 +240,7 @@ TEST_F(MainWindowLooks, ACurveIsDrawn)
     openSmall();
     press(Qt::Key_2);
     bendCurve();
-    const QVector<float> curve = look().parameters.curve;
+    const QVector<float> curve = look().parameters.get<CurveFilter>().curve;
     EXPECT_LT(curve[64], 0.2F);
     EXPECT_GT(curve[192], 0.8F);
     expectEverywhere();
@@ -250,7 +256,7 @@ TEST_F(MainWindowLooks, TheGrainPanelShowsTheTonesBehindTheCurve)
     bendCurve();
     const auto &editor = child<CurveFrame>(panel<Curves>(), "frameCurve");
     EXPECT_NE(behind.histogram(), before);
-    EXPECT_EQ(behind.histogram(), histogramBehind(look().parameters.curve, editor.histogram()));
+    EXPECT_EQ(behind.histogram(), histogramBehind(look().parameters.get<CurveFilter>().curve, editor.histogram()));
 }
 
 TEST_F(MainWindowLooks, TheVignetteIsPlacedWithTheMouse)
@@ -258,8 +264,8 @@ TEST_F(MainWindowLooks, TheVignetteIsPlacedWithTheMouse)
     openSmall();
     press(Qt::Key_4);
     drag(child<VFrame>(panel<Vignette>(), "frame"), {0.5, 0.5}, {0.25, 0.625});
-    EXPECT_NEAR(look().parameters.vignetteX, 25, 1);
-    EXPECT_NEAR(look().parameters.vignetteY, 62, 1);
+    EXPECT_NEAR(look().parameters.get<VignetteFilter>().shape.center.x, 25, 1);
+    EXPECT_NEAR(look().parameters.get<VignetteFilter>().shape.center.y, 62, 1);
     expectEverywhere();
 }
 
@@ -270,7 +276,7 @@ TEST_F(MainWindowLooks, TheVignetteIsSetWithTheKeyboard)
     auto &strength = child<QSlider>(panel<Vignette>(), "sliderStrength");
     strength.setFocus();
     QTest::keyClick(&strength, Qt::Key_End);
-    EXPECT_EQ(look().parameters.vignetteStrength, 99);
+    EXPECT_EQ(look().parameters.get<VignetteFilter>().shape.strength, 99);
     expectEverywhere();
 }
 
@@ -282,7 +288,7 @@ TEST_F(MainWindowLooks, GrainIsDrawnAndBlurred)
     auto &blur = child<QSlider>(panel<Grain>(), "sliderBlur");
     blur.setFocus();
     QTest::keyClick(&blur, Qt::Key_Left);
-    EXPECT_FLOAT_EQ(look().parameters.grainRadius, 1.4F);
+    EXPECT_FLOAT_EQ(look().parameters.get<GrainFilter>().radius, 1.4F);
     expectEverywhere();
 }
 

@@ -13,6 +13,7 @@ namespace
 
 using namespace grisal::test;
 using grisal::graphics::ColorRGB;
+using grisal::graphics::MixerFilter;
 
 class MainWindowOpen : public FilesTest
 {
@@ -29,7 +30,7 @@ protected:
         child<QComboBox>(*window.findChild<Mixer *>(), "comboPresets").setCurrentText(QString::fromLatin1(look));
     }
 
-    ColorRGB<float> weights() { return preview().parameters().mixerWeights; }
+    ColorRGB<float> weights() { return preview().look().get<MixerFilter>().weights; }
 
     const ColorRGB<float> neutral{1.0F / 3, 1.0F / 3, 1.0F / 3};
     const ColorRGB<float> luma{77 / 255.0F, 150 / 255.0F, 28 / 255.0F};

@@ -22,7 +22,10 @@ namespace
 {
 
 using namespace grisal::test;
-using grisal::graphics::FilterParameters;
+using grisal::graphics::HalfToneFilter;
+using grisal::graphics::Look;
+using grisal::graphics::MixerFilter;
+using grisal::graphics::VignetteFilter;
 
 constexpr auto control = Qt::ControlModifier;
 
@@ -30,15 +33,18 @@ constexpr auto control = Qt::ControlModifier;
 struct Box {
     const char *action;
     const char *name;
-    float (*value)(const FilterParameters &);
+    float (*value)(const Look &);
     float forSixty; ///< that value where the box holds 60
 };
 
 constexpr std::array<Box, 3> boxes{{
-    {"actionVignette", "spinBoxX", [](const FilterParameters &now) { return now.vignetteX; }, 60},
-    {"actionSplitTone", "spinBoxWeight", [](const FilterParameters &now) { return now.splitWeight; }, 1.05F},
+    {"actionVignette", "spinBoxX", [](const Look &now) { return now.get<VignetteFilter>().shape.center.x; }, 60},
+    {"actionSplitTone", "spinBoxWeight", [](const Look &now) { return now.get<HalfToneFilter>().weight; }, 1.05F},
     {"actionMixer", "spinBoxLuma",
-     [](const FilterParameters &now) { return 255 * (now.mixerWeights.r + now.mixerWeights.g + now.mixerWeights.b); },
+     [](const Look &now) {
+         return 255 * (now.get<MixerFilter>().weights.r + now.get<MixerFilter>().weights.g +
+                       now.get<MixerFilter>().weights.b);
+     },
      60},
 }};
 
@@ -74,6 +80,8 @@ protected:
     void typeSixty(const char *name)
     {
         auto &box = child<QSpinBox>(window, name);
+        // A dialog may just have given the keyboard back.
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
         box.setFocus();
         box.selectAll();
         QTest::keyClick(window.windowHandle(), '6');
@@ -83,7 +91,7 @@ protected:
         ASSERT_NE(box.value(), 60);
     }
 
-    float sumOfWeights() { return boxes.back().value(preview().parameters()); }
+    float sumOfWeights() { return boxes.back().value(preview().look()); }
 
     void expectTaken() { EXPECT_FLOAT_EQ(sumOfWeights(), 60); }
 
@@ -227,8 +235,7 @@ TEST_F(TypedNumbersTaken, ByEveryChangeOfThePanel)
             trigger(window, box.action);
             typeSixty(box.name);
             press(other, control);
-            EXPECT_FLOAT_EQ(box.value(preview().parameters()), box.forSixty)
-                << box.name << " before Ctrl+" << char(other);
+            EXPECT_FLOAT_EQ(box.value(preview().look()), box.forSixty) << box.name << " before Ctrl+" << char(other);
         }
     }
 }

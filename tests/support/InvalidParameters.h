@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/FilterParameters.h"
+#include "graphics/filters/Look.h"
 
 #include <limits>
 #include <vector>
@@ -13,20 +13,24 @@ constexpr float notANumber = std::numeric_limits<float>::quiet_NaN();
 constexpr float infinity = std::numeric_limits<float>::infinity();
 
 /// Parameters that all have this value. The radius of the grain stays finite: the loop of an infinite blur has no end.
-inline graphics::FilterParameters everyParameter(float value)
+inline graphics::Look everyParameter(float value)
 {
-    graphics::FilterParameters parameters;
-    parameters.mixerWeights = parameters.highlightTint = parameters.shadowTint = {value, value, value};
-    parameters.curve = parameters.grainWeights = QVector<float>(256, value);
-    parameters.vignetteX = parameters.vignetteY = value;
-    parameters.vignetteRadius = parameters.vignetteStrength = value;
-    parameters.splitWeight = value;
-    parameters.grainRadius = value == infinity ? 1 : value;
+    graphics::Look parameters;
+    parameters.get<graphics::MixerFilter>().weights = parameters.get<graphics::HalfToneFilter>().highlights =
+        parameters.get<graphics::HalfToneFilter>().shadows = {value, value, value};
+    parameters.get<graphics::CurveFilter>().curve = parameters.get<graphics::GrainFilter>().weights =
+        QVector<float>(256, value);
+    parameters.get<graphics::VignetteFilter>().shape.center.x =
+        parameters.get<graphics::VignetteFilter>().shape.center.y = value;
+    parameters.get<graphics::VignetteFilter>().shape.radius =
+        parameters.get<graphics::VignetteFilter>().shape.strength = value;
+    parameters.get<graphics::HalfToneFilter>().weight = value;
+    parameters.get<graphics::GrainFilter>().radius = value == infinity ? 1 : value;
     return parameters;
 }
 
 /// Parameters that no panel sends.
-inline std::vector<graphics::FilterParameters> invalidParameters()
+inline std::vector<graphics::Look> invalidParameters()
 {
     return {everyParameter(notANumber), everyParameter(infinity), everyParameter(-infinity), everyParameter(-1)};
 }

@@ -24,14 +24,16 @@ std::span<const float> samples(const QVector<float> &values)
     return {values.data(), static_cast<std::size_t>(values.size())};
 }
 
-Vignette vignetteOf(const graphics::FilterParameters &p)
+Vignette vignetteOf(const graphics::Look &p)
 {
-    return {p.vignetteX, p.vignetteY, p.vignetteStrength, p.vignetteRadius};
+    return {p.get<graphics::VignetteFilter>().shape.center.x, p.get<graphics::VignetteFilter>().shape.center.y,
+            p.get<graphics::VignetteFilter>().shape.strength, p.get<graphics::VignetteFilter>().shape.radius};
 }
 
-Rgb splitToned(Rgb c, const graphics::FilterParameters &p)
+Rgb splitToned(Rgb c, const graphics::Look &p)
 {
-    return splitTone(c, p.splitWeight, rgb(p.highlightTint), rgb(p.shadowTint));
+    return splitTone(c, p.get<graphics::HalfToneFilter>().weight, rgb(p.get<graphics::HalfToneFilter>().highlights),
+                     rgb(p.get<graphics::HalfToneFilter>().shadows));
 }
 
 float storedByte(float value)
@@ -72,17 +74,17 @@ public:
 
     Rgb operator()(int x, int y, Rgb colour) const
     {
-        const graphics::FilterParameters &p = m_look.parameters;
-        Rgb c = stored<store>(mixer(colour, rgb(p.mixerWeights)));
+        const graphics::Look &p = m_look.parameters;
+        Rgb c = stored<store>(mixer(colour, rgb(p.get<graphics::MixerFilter>().weights)));
         if (m_look.curve) {
-            c = stored<store>(curve(c, samples(p.curve)));
+            c = stored<store>(curve(c, samples(p.get<graphics::CurveFilter>().curve)));
         }
         if (m_look.splitTone) {
             c = stored<store>(splitToned(c, p));
         }
         if (m_look.grain) {
             const float noise = noiseAt(m_noise, x % m_horizontal.tile, y % m_vertical.tile);
-            c = stored<store>(grain(c, noise, samples(p.grainWeights)));
+            c = stored<store>(grain(c, noise, samples(p.get<graphics::GrainFilter>().weights)));
         }
         if (m_look.vignette) {
             const float mask = vignetteAt(vignetteOf(p), static_cast<float>(m_horizontal.padded),
@@ -131,17 +133,17 @@ BytePixels blurredNoise(const BytePixels &noise, float radius)
 
 BytePixels previewOf(const BytePixels &picture, const Look &look, const BytePixels &noise)
 {
-    const graphics::FilterParameters &p = look.parameters;
+    const graphics::Look &p = look.parameters;
     return asBytes(eachPixel(picture, [&](int x, int y, Rgb colour) {
-        Rgb c = stored<storedByte>(mixer(colour, rgb(p.mixerWeights)));
+        Rgb c = stored<storedByte>(mixer(colour, rgb(p.get<graphics::MixerFilter>().weights)));
         if (look.mixer) {
-            c = stored<storedByte>(mixer(c, rgb(p.mixerWeights)));
+            c = stored<storedByte>(mixer(c, rgb(p.get<graphics::MixerFilter>().weights)));
         }
         if (look.curve) {
-            c = stored<storedByte>(curve(c, samples(p.curve)));
+            c = stored<storedByte>(curve(c, samples(p.get<graphics::CurveFilter>().curve)));
         }
         if (look.grain) {
-            c = stored<storedByte>(grain(c, noiseAt(noise, x, y), samples(p.grainWeights)));
+            c = stored<storedByte>(grain(c, noiseAt(noise, x, y), samples(p.get<graphics::GrainFilter>().weights)));
         }
         if (look.splitTone) {
             c = stored<storedByte>(splitToned(c, p));

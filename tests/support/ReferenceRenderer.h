@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/FilterParameters.h"
+#include "graphics/filters/Look.h"
 #include "tests/support/Pictures.h"
 
 namespace grisal::test::reference
@@ -9,7 +9,7 @@ namespace grisal::test::reference
 
 /// What is done to a picture: the settings and which filters are on.
 struct Look {
-    graphics::FilterParameters parameters;
+    graphics::Look parameters;
     bool mixer = true;
     bool curve = false;
     bool splitTone = false;

@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/Grain.h"
 
+#include "graphics/filters/GrainFilter.h"
 #include "ui/frames/CurveFrameEventFilter.h"
 #include "ui_Grain.h"
 
 #include <QCoreApplication>
+
+using grisal::graphics::GrainFilter;
 
 namespace
 {
 
 constexpr int sampleCount = 256;
 constexpr double tenthsOfAPixel = 10.0;
-constexpr double initialBlur = 1.5;
 
 } // namespace
 
@@ -59,6 +61,6 @@ void Grain::emitAll()
 void Grain::on_buttonReset_clicked()
 {
     m_form->frameCurve->setPoints({0.0F, 0.5F, 1.0F}, {1.0F, 0.5F, 1.0F});
-    m_form->doubleSpinBoxBlur->setValue(initialBlur);
+    m_form->doubleSpinBoxBlur->setValue(double{GrainFilter::Parameters().radius});
     emitAll();
 }

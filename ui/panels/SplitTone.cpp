@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/SplitTone.h"
 
+#include "graphics/filters/HalfToneFilter.h"
 #include "math/OpponentColour.h"
 #include "ui_SplitTone.h"
 
 #include <QSignalBlocker>
 
+#include <cmath>
+
+using grisal::graphics::HalfToneFilter;
 using grisal::math::ChannelWeights;
 
 namespace
@@ -86,6 +90,11 @@ ChannelWeights shiftToLuma(const Tone &tone, int luma)
     const QSignalBlocker blockWheel(tone.wheel);
     tone.wheel->slotSetLuma(static_cast<float>(luma));
     return shifted;
+}
+
+int byteOf(float share)
+{
+    return static_cast<int>(std::lround(share * 255.0F));
 }
 
 float shareOf(const QSpinBox *channel)
@@ -186,8 +195,9 @@ void SplitTone::on_buttonReset_clicked()
     m_form->sliderWeight->setValue(evenWeight);
     const Tone shadows = shadowsOf(*m_form);
     const Tone highlights = highlightsOf(*m_form);
-    setTint(shadows, 110, 148, 198);
-    setTint(highlights, 190, 156, 54);
+    const HalfToneFilter::Parameters defaults;
+    setTint(shadows, byteOf(defaults.shadows.r), byteOf(defaults.shadows.g), byteOf(defaults.shadows.b));
+    setTint(highlights, byteOf(defaults.highlights.r), byteOf(defaults.highlights.g), byteOf(defaults.highlights.b));
     refreshFromTint(shadows);
     refreshFromTint(highlights);
     emitAll();

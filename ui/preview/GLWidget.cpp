@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/preview/GLWidget.h"
 
-#include "graphics/filters/FilterSet.h"
 #include "graphics/image/ImageBuffer.h"
 #include "graphics/image/ImageImporter.h"
 #include "graphics/image/PreviewPixels.h"
@@ -180,35 +179,11 @@ bool GLWidget::renderFinal(void *pixels, int width, int height, bool sixteenBit,
     };
     fitViewToWidget();
     const QScopedValueRollback<bool> rendering(m_renderingFinal, true);
-    const graphics::FinalPicture picture{.pixels = pixels,
-                                         .width = width,
-                                         .height = height,
-                                         .sixteenBit = sixteenBit,
-                                         .hasAlpha = hasAlpha,
-                                         .expendable = true};
+    const graphics::FinalPicture picture{
+        .pixels = pixels, .width = width, .height = height, .sixteenBit = sixteenBit, .hasAlpha = hasAlpha};
     const bool rendered = m_stage.renderFinal(picture, tellAndComeBack);
     update();
     return rendered;
-}
-
-graphics::IFilter *GLWidget::curveFilter() const
-{
-    return m_stage.filters() ? &m_stage.filters()->curve : nullptr;
-}
-
-graphics::IFilter *GLWidget::vignetteFilter() const
-{
-    return m_stage.filters() ? &m_stage.filters()->vignette : nullptr;
-}
-
-graphics::IFilter *GLWidget::splitToneFilter() const
-{
-    return m_stage.filters() ? &m_stage.filters()->splitTone : nullptr;
-}
-
-graphics::IFilter *GLWidget::grainFilter() const
-{
-    return m_stage.filters() ? &m_stage.filters()->grain : nullptr;
 }
 
 void GLWidget::paintGL()
@@ -308,33 +283,33 @@ void GLWidget::renderImage()
 
 void GLWidget::slotChangeMixer(float r, float g, float b)
 {
-    m_stage.setMixer({r, g, b});
+    m_stage.set<graphics::MixerFilter>({{r, g, b}});
     renderImage();
 }
 
 void GLWidget::slotChangeVignette(float x, float y, float radius, float strength, bool extraBlur)
 {
-    m_stage.setVignette(x, y, radius, strength, extraBlur);
+    m_stage.set<graphics::VignetteFilter>({{{x, y, 0}, strength, radius}, extraBlur});
     renderImage();
 }
 
 void GLWidget::slotChangeSplit(float weight, float r1, float g1, float b1, float r2, float g2, float b2)
 {
-    m_stage.setSplitTone(weight, {r1, g1, b1}, {r2, g2, b2});
+    m_stage.set<graphics::HalfToneFilter>({weight, {r1, g1, b1}, {r2, g2, b2}});
     renderImage();
 }
 
 void GLWidget::slotChangeGrain(QVector<float> weights, float radius)
 {
     makeContextCurrent();
-    m_stage.setGrain(weights, radius);
+    m_stage.setGrain({weights, radius});
     renderImage();
 }
 
 void GLWidget::slotChangeCurves(QVector<float> curve)
 {
     makeContextCurrent();
-    m_stage.setCurve(curve);
+    m_stage.set<graphics::CurveFilter>({curve});
     renderImage();
 }
 

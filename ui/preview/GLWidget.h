@@ -18,7 +18,6 @@
 
 namespace grisal::graphics
 {
-class IFilter;
 struct PreviewPixels;
 } // namespace grisal::graphics
 
@@ -70,11 +69,12 @@ public:
     /// Fills the queue of the preview again, in its order.
     void rebuildQueue() { m_stage.rebuildQueue(); }
 
-    /// The filters that the window switches on and off; null before the first picture was loaded.
-    graphics::IFilter *curveFilter() const;
-    graphics::IFilter *vignetteFilter() const;
-    graphics::IFilter *splitToneFilter() const;
-    graphics::IFilter *grainFilter() const;
+    /// A filter, to switch it on and off; null before the first image was loaded.
+    template <typename Filter>
+    graphics::IFilter *filter() const
+    {
+        return m_stage.filters() ? &m_stage.filters()->template get<Filter>() : nullptr;
+    }
 
     /// The fit whose ratio is, at this moment, the one of the width (of the height).
     enumFitTo fitOnWidth() const;
@@ -83,7 +83,7 @@ public:
     /// Why the machine cannot draw the preview; empty while nothing is wrong.
     graphics::Message graphicsProblem() const;
 
-    const graphics::FilterParameters &parameters() const { return m_stage.parameters(); }
+    const graphics::Look &look() const { return m_stage.look(); }
     QAccessible::Role spokenRole() const override { return QAccessible::Canvas; }
     QString spokenValue() const override;
 

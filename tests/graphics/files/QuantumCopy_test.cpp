@@ -136,7 +136,7 @@ TEST_P(QuantumCopy, BytesInAreTheHighBytesAndTheOpacityAsItIs)
         const int byte = c < components() ? bytes[i * components() + c] : 255;
         return c < 3 ? byte << 8 : byte;
     };
-    EXPECT_EQ(copiedIn(bytes, copyBytesIn), expected<Samples>(4, quantum));
+    EXPECT_EQ(copiedIn(bytes, copySamples8In), expected<Samples>(4, quantum));
 }
 
 TEST_P(QuantumCopy, SamplesInAreTheQuanta)

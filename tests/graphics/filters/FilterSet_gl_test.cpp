@@ -10,28 +10,33 @@ namespace
 {
 
 using graphics::ColorRGB;
-using graphics::FilterParameters;
+using graphics::CurveFilter;
 using graphics::FilterSet;
+using graphics::GrainFilter;
+using graphics::HalfToneFilter;
 using graphics::IFilter;
+using graphics::Look;
+using graphics::MixerFilter;
+using graphics::VignetteFilter;
 
 class FilterSetTest : public GlTest
 {
 };
 
-FilterParameters distinctParameters()
+Look distinctParameters()
 {
-    FilterParameters parameters;
-    parameters.mixerWeights = {0.1F, 0.2F, 0.3F};
-    parameters.curve = {0.25F, 0.75F};
-    parameters.vignetteX = 11;
-    parameters.vignetteY = 22;
-    parameters.vignetteRadius = 33;
-    parameters.vignetteStrength = 44;
-    parameters.splitWeight = 0.6F;
-    parameters.highlightTint = {0.4F, 0.5F, 0.6F};
-    parameters.shadowTint = {0.7F, 0.8F, 0.9F};
-    parameters.grainWeights = {0.5F, 0.1F};
-    parameters.grainRadius = 7;
+    Look parameters;
+    parameters.get<MixerFilter>().weights = {0.1F, 0.2F, 0.3F};
+    parameters.get<CurveFilter>().curve = {0.25F, 0.75F};
+    parameters.get<VignetteFilter>().shape.center.x = 11;
+    parameters.get<VignetteFilter>().shape.center.y = 22;
+    parameters.get<VignetteFilter>().shape.radius = 33;
+    parameters.get<VignetteFilter>().shape.strength = 44;
+    parameters.get<HalfToneFilter>().weight = 0.6F;
+    parameters.get<HalfToneFilter>().highlights = {0.4F, 0.5F, 0.6F};
+    parameters.get<HalfToneFilter>().shadows = {0.7F, 0.8F, 0.9F};
+    parameters.get<GrainFilter>().weights = {0.5F, 0.1F};
+    parameters.get<GrainFilter>().radius = 7;
     return parameters;
 }
 
@@ -42,7 +47,8 @@ TEST_F(FilterSetTest, NoFilterIsEnabledAtFirst)
     const FilterSet filters;
 
     for (const IFilter *filter : std::initializer_list<const IFilter *>{
-             &filters.mixer, &filters.curve, &filters.vignette, &filters.splitTone, &filters.grain}) {
+             &filters.get<MixerFilter>(), &filters.get<CurveFilter>(), &filters.get<VignetteFilter>(),
+             &filters.get<HalfToneFilter>(), &filters.get<GrainFilter>()}) {
         EXPECT_FALSE(filter->enabled) << filter->getName();
     }
 }
@@ -54,7 +60,8 @@ TEST_F(FilterSetTest, TheSizeReachesAllFiveFilters)
     filters.setSize(513, 515);
 
     for (const IFilter *filter : std::initializer_list<const IFilter *>{
-             &filters.mixer, &filters.curve, &filters.vignette, &filters.splitTone, &filters.grain}) {
+             &filters.get<MixerFilter>(), &filters.get<CurveFilter>(), &filters.get<VignetteFilter>(),
+             &filters.get<HalfToneFilter>(), &filters.get<GrainFilter>()}) {
         EXPECT_EQ(filter->width, 513) << filter->getName();
         EXPECT_EQ(filter->height, 515) << filter->getName();
     }
@@ -65,49 +72,49 @@ TEST_F(FilterSetTest, ThePictureSizeIsTheVignettesAlone)
     FilterSet filters;
     filters.setSize(513, 515);
 
-    filters.setPictureSize(2049, 2055);
+    filters.setImageSize(2049, 2055);
 
-    EXPECT_EQ(filters.vignette.maxWidth, 2049);
-    EXPECT_EQ(filters.vignette.maxHeight, 2055);
-    EXPECT_EQ(filters.vignette.width, 513);
-    EXPECT_EQ(filters.vignette.height, 515);
+    EXPECT_EQ(filters.get<VignetteFilter>().maxWidth, 2049);
+    EXPECT_EQ(filters.get<VignetteFilter>().maxHeight, 2055);
+    EXPECT_EQ(filters.get<VignetteFilter>().width, 513);
+    EXPECT_EQ(filters.get<VignetteFilter>().height, 515);
 }
 
 TEST_F(FilterSetTest, MixerCurveAndSplitToneGetTheirParameters)
 {
     FilterSet filters;
 
-    filters.setParameters(distinctParameters());
+    filters.setLook(distinctParameters());
 
-    EXPECT_EQ(filters.mixer.weights, (ColorRGB<float>{0.1F, 0.2F, 0.3F}));
-    EXPECT_EQ(filters.curve.curve(), (QVector<float>{0.25F, 0.75F}));
-    EXPECT_EQ(filters.splitTone.weight, 0.6F);
-    EXPECT_EQ(filters.splitTone.firstColor, (ColorRGB<float>{0.4F, 0.5F, 0.6F}));
-    EXPECT_EQ(filters.splitTone.secondColor, (ColorRGB<float>{0.7F, 0.8F, 0.9F}));
+    EXPECT_EQ(filters.get<MixerFilter>().weights, (ColorRGB<float>{0.1F, 0.2F, 0.3F}));
+    EXPECT_EQ(filters.get<CurveFilter>().curve(), (QVector<float>{0.25F, 0.75F}));
+    EXPECT_EQ(filters.get<HalfToneFilter>().weight, 0.6F);
+    EXPECT_EQ(filters.get<HalfToneFilter>().firstColor, (ColorRGB<float>{0.4F, 0.5F, 0.6F}));
+    EXPECT_EQ(filters.get<HalfToneFilter>().secondColor, (ColorRGB<float>{0.7F, 0.8F, 0.9F}));
 }
 
 TEST_F(FilterSetTest, TheVignetteGetsItsParameters)
 {
     FilterSet filters;
-    filters.vignette.parameters.center.z = 9;
+    filters.get<VignetteFilter>().parameters.center.z = 9;
 
-    filters.setParameters(distinctParameters());
+    filters.setLook(distinctParameters());
 
-    EXPECT_EQ(filters.vignette.parameters.center.x, 11);
-    EXPECT_EQ(filters.vignette.parameters.center.y, 22);
-    EXPECT_EQ(filters.vignette.parameters.center.z, 0);
-    EXPECT_EQ(filters.vignette.parameters.radius, 33);
-    EXPECT_EQ(filters.vignette.parameters.strength, 44);
+    EXPECT_EQ(filters.get<VignetteFilter>().parameters.center.x, 11);
+    EXPECT_EQ(filters.get<VignetteFilter>().parameters.center.y, 22);
+    EXPECT_EQ(filters.get<VignetteFilter>().parameters.center.z, 0);
+    EXPECT_EQ(filters.get<VignetteFilter>().parameters.radius, 33);
+    EXPECT_EQ(filters.get<VignetteFilter>().parameters.strength, 44);
 }
 
 TEST_F(FilterSetTest, TheGrainGetsItsWeights)
 {
     FilterSet filters;
 
-    filters.setParameters(distinctParameters());
+    filters.setLook(distinctParameters());
 
     std::vector<float> weights(2);
-    glBindTexture(GL_TEXTURE_1D, filters.grain.weightsTexture());
+    glBindTexture(GL_TEXTURE_1D, filters.get<GrainFilter>().weightsTexture());
     glGetTexImage(GL_TEXTURE_1D, 0, GL_RED, GL_FLOAT, weights.data());
     glBindTexture(GL_TEXTURE_1D, 0);
     EXPECT_EQ(weights, (std::vector<float>{0.5F, 0.1F}));
@@ -117,9 +124,9 @@ TEST_F(FilterSetTest, ParametersAloneBlurNoNoise)
 {
     FilterSet filters;
 
-    filters.setParameters(distinctParameters());
+    filters.setLook(distinctParameters());
 
-    EXPECT_EQ(filters.grain.blur(), nullptr);
+    EXPECT_EQ(filters.get<GrainFilter>().blur(), nullptr);
 }
 
 } // namespace grisal::test

@@ -58,23 +58,24 @@ QVector<float> straight()
     return samples;
 }
 
-FilterParameters usualParameters()
+Look usualParameters()
 {
-    FilterParameters parameters;
-    parameters.mixerWeights = {0.3F, 0.5F, 0.2F};
-    parameters.grainWeights = straight();
+    Look parameters;
+    parameters.get<MixerFilter>().weights = {0.3F, 0.5F, 0.2F};
+    parameters.get<GrainFilter>().weights = straight();
     return parameters;
 }
 
 /// The results of the five filters, each for itself.
-std::vector<BytePixels> resultsOf(FilterSet &filters, const FilterParameters &parameters, const BytePixels &image)
+std::vector<BytePixels> resultsOf(FilterSet &filters, const Look &parameters, const BytePixels &image)
 {
-    filters.setParameters(parameters);
-    filters.grain.setSigma(parameters.grainRadius);
-    filters.setPictureSize(image.width, image.height);
+    filters.setLook(parameters);
+    filters.get<GrainFilter>().setSigma(parameters.get<GrainFilter>().radius);
+    filters.setImageSize(image.width, image.height);
     std::vector<BytePixels> results;
-    for (IFilter *filter : std::initializer_list<IFilter *>{&filters.mixer, &filters.curve, &filters.vignette,
-                                                            &filters.splitTone, &filters.grain}) {
+    for (IFilter *filter : std::initializer_list<IFilter *>{
+             &filters.get<MixerFilter>(), &filters.get<CurveFilter>(), &filters.get<VignetteFilter>(),
+             &filters.get<HalfToneFilter>(), &filters.get<GrainFilter>()}) {
         results.push_back(runFilter(*filter, image));
         expectPassIsOver();
     }
@@ -87,7 +88,7 @@ TEST_F(InvalidParametersTest, NextPassIsUnaffected)
 {
     FilterSet filters;
     const std::vector<BytePixels> before = resultsOf(filters, usualParameters(), colours);
-    for (const FilterParameters &parameters : invalidParameters()) {
+    for (const Look &parameters : invalidParameters()) {
         resultsOf(filters, parameters, colours);
         const std::vector<BytePixels> after = resultsOf(filters, usualParameters(), colours);
         for (std::size_t i = 0; i < before.size(); ++i) {

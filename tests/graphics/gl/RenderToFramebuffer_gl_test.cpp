@@ -93,33 +93,6 @@ TEST_F(RenderToFramebufferTest, ASmallerPassClearsTheRestOfTheTarget)
     EXPECT_TRUE(picturesNear("small-pass", readBytes(target.record(), width, height), expected));
 }
 
-TEST_F(RenderToFramebufferTest, SomeRowsLeaveTheOthersOfTheTarget)
-{
-    const RenderTarget target(width, height, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
-    const ShaderProgram program = fragmentProgram("gl_FragColor = vec4(vec3((gl_FragCoord.y + 0.5) / 255.0), 1.0);");
-    fillWithSentinel(target);
-    {
-        const RenderTarget other(width, height, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
-        const RenderTarget third(width, height, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
-        const graphics::PassRows rows(1, 2, target.record(), other.record());
-        renderToFramebuffer(width, height - 1, program.program, target.record());
-        renderToFramebuffer(width, height, program.program, third.record());
-        EXPECT_EQ(readBytes(third.record(), width, height).at(0, 3, 1), 4) << "it has nothing to do with the rows";
-    }
-    BytePixels expected = flat(255, 0, 255);
-    for (int y = 1; y < 3; ++y) {
-        for (int x = 0; x < width; ++x) {
-            for (int c = 0; c < 3; ++c) {
-                expected.at(x, y, c) = static_cast<std::uint8_t>(y + 1);
-            }
-        }
-    }
-    EXPECT_TRUE(picturesNear("rows", readBytes(target.record(), width, height), expected));
-
-    renderToFramebuffer(width, height, program.program, target.record());
-    EXPECT_EQ(readBytes(target.record(), width, height).at(0, 3, 1), 4) << "the rows outlived their time";
-}
-
 TEST_P(LeftOnTest, AStateThatWouldHideThePassIsSwitchedOff)
 {
     const RenderTarget target(width, height, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);

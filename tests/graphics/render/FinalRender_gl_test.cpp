@@ -30,7 +30,7 @@ protected:
         }
         view = std::make_unique<FlexibleDocumentView>(8, 8, 8, 8, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE);
         filters = std::make_unique<FilterSet>();
-        filters->mixer.enabled = true;
+        filters->get<MixerFilter>().enabled = true;
     }
 
     void TearDown() override
@@ -46,7 +46,7 @@ protected:
     }
 
     template <typename T>
-    Pixels<T> rendered(Pixels<T> image, const FilterParameters &with)
+    Pixels<T> rendered(Pixels<T> image, const Look &with)
     {
         EXPECT_TRUE(
             renderFinalPicture({image.values.data(), image.width, image.height, sizeof(T) == 2, image.components == 4},
@@ -58,12 +58,12 @@ protected:
     template <typename T>
     void expectInvalidParametersToLeaveAlphaAndTheNextRender()
     {
-        filters->curve.enabled = filters->splitTone.enabled = true;
-        filters->grain.enabled = filters->vignette.enabled = true;
-        parameters.grainWeights = QVector<float>(256, 0.5F);
+        filters->get<CurveFilter>().enabled = filters->get<HalfToneFilter>().enabled = true;
+        filters->get<GrainFilter>().enabled = filters->get<VignetteFilter>().enabled = true;
+        parameters.get<GrainFilter>().weights = QVector<float>(256, 0.5F);
         const auto source = rampPicture<T>(2055, 6, 4);
         const Pixels<T> before = rendered(source, parameters);
-        for (const FilterParameters &invalid : invalidParameters()) {
+        for (const Look &invalid : invalidParameters()) {
             const Pixels<T> result = rendered(source, invalid);
             for (std::size_t i = 3; i < source.values.size(); i += 4) {
                 ASSERT_EQ(result.values[i], source.values[i]) << "alpha " << i;
@@ -74,14 +74,14 @@ protected:
 
     std::unique_ptr<FlexibleDocumentView> view;
     std::unique_ptr<FilterSet> filters;
-    FilterParameters parameters;
+    Look parameters;
 };
 
 // Split toning before the grain: the preview has them the other way round, and files have always been made like this.
 TEST_F(FinalRenderTest, QueueHasSplitToningBeforeTheGrain)
 {
     DocumentFilterQueue queue;
-    addFinalFilters(queue, *filters);
+    filters->addToFinalRender(queue);
     std::vector<std::string> names;
     for (const IFilter *filter : queue.filters()) {
         names.push_back(filter->getName());
@@ -93,7 +93,7 @@ TEST_F(FinalRenderTest, QueueHasSplitToningBeforeTheGrain)
 TEST_F(FinalRenderTest, RendersInPlaceWithTheParameters)
 {
     BytePixels picture(2, 1, 3, {200, 0, 0, 0, 100, 0});
-    parameters.mixerWeights = {0.5F, 1, 0};
+    parameters.get<MixerFilter>().weights = {0.5F, 1, 0};
     EXPECT_TRUE(renderFinalPicture({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view));
     EXPECT_EQ(picture.values, (std::vector<std::uint8_t>{100, 100, 100, 100, 100, 100}));
 }
@@ -101,55 +101,36 @@ TEST_F(FinalRenderTest, RendersInPlaceWithTheParameters)
 TEST_F(FinalRenderTest, KeepsTheFourthComponent)
 {
     WordPixels picture(1, 2, 4, {65535, 0, 0, 7, 0, 65535, 0, 60000});
-    parameters.mixerWeights = {1, 0, 0};
+    parameters.get<MixerFilter>().weights = {1, 0, 0};
     EXPECT_TRUE(renderFinalPicture({picture.values.data(), 1, 2, true, true}, parameters, *filters, *view));
     EXPECT_EQ(picture.values, (std::vector<std::uint16_t>{65535, 65535, 65535, 7, 0, 0, 0, 60000}));
 }
 
-// Several tiles and filters: each tile is read before it is written, whatever its neighbours already hold.
-TEST_F(FinalRenderTest, ExpendablePixelsBecomeTheSame)
+TEST_F(FinalRenderTest, WithoutEnabledFilterThePixelsStay)
 {
-    filters->curve.enabled = filters->splitTone.enabled = filters->vignette.enabled = true;
-    parameters.mixerWeights = {0.3F, 0.5F, 0.2F};
-    const auto render = [&](auto picture, bool expendable) {
-        const bool sixteenBit = sizeof(picture.values[0]) == 2;
-        EXPECT_TRUE(renderFinalPicture(
-            {picture.values.data(), picture.width, picture.height, sixteenBit, picture.components == 4, expendable},
-            parameters, *filters, *view));
-        return picture;
-    };
-    const auto bytes = rampPicture<std::uint8_t>(2055, 2053, 4);
-    EXPECT_NE(render(bytes, true).values, bytes.values);
-    EXPECT_TRUE(picturesNear("expendable bytes", render(bytes, true), render(bytes, false)));
-    const auto words = rampPicture<std::uint16_t>(2055, 7, 3);
-    EXPECT_TRUE(picturesNear("expendable words", render(words, true), render(words, false)));
-}
-
-TEST_F(FinalRenderTest, WithoutEnabledFilterExpendablePixelsStay)
-{
-    filters->mixer.enabled = false;
+    filters->get<MixerFilter>().enabled = false;
     BytePixels picture(2, 1, 3, {1, 2, 3, 4, 5, 6});
-    EXPECT_TRUE(renderFinalPicture({picture.values.data(), 2, 1, false, false, true}, parameters, *filters, *view));
+    EXPECT_TRUE(renderFinalPicture({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view));
     EXPECT_EQ(picture.values, (std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6}));
 }
 
 TEST_F(FinalRenderTest, GivesTheFiltersTheirSizesBack)
 {
     filters->setSize(12, 8);
-    filters->setPictureSize(12, 8);
+    filters->setImageSize(12, 8);
     BytePixels picture = rampPicture<std::uint8_t>(2049, 5);
     EXPECT_TRUE(renderFinalPicture({picture.values.data(), 2049, 5, false, false}, parameters, *filters, *view));
-    EXPECT_EQ(filters->mixer.width, 12);
-    EXPECT_EQ(filters->grain.height, 8);
-    EXPECT_EQ(filters->vignette.maxWidth, 12);
-    EXPECT_EQ(filters->vignette.maxHeight, 8);
+    EXPECT_EQ(filters->get<MixerFilter>().width, 12);
+    EXPECT_EQ(filters->get<GrainFilter>().height, 8);
+    EXPECT_EQ(filters->get<VignetteFilter>().maxWidth, 12);
+    EXPECT_EQ(filters->get<VignetteFilter>().maxHeight, 8);
 }
 
 TEST_F(FinalRenderTest, LogsSizesPlanAndValueRange)
 {
     const LogCapture log;
     BytePixels picture(2, 1, 3, {200, 200, 200, 40, 40, 40});
-    parameters.mixerWeights = {1, 0, 0};
+    parameters.get<MixerFilter>().weights = {1, 0, 0};
     renderFinalPicture({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view);
     const QStringList lines = log.debugs();
     EXPECT_EQ(lines.mid(0, 7).join('\n').toStdString(), "X:  2\n"
@@ -165,27 +146,27 @@ TEST_F(FinalRenderTest, LogsSizesPlanAndValueRange)
 // The line stands before the parameters reach the filters: it has the weight of the last picture.
 TEST_F(FinalRenderTest, LogsTheFormerWeightOfTheSplitTone)
 {
-    filters->splitTone.weight = 0.75F;
-    parameters.splitWeight = 1.25F;
+    filters->get<HalfToneFilter>().weight = 0.75F;
+    parameters.get<HalfToneFilter>().weight = 1.25F;
     const LogCapture log;
     BytePixels picture(1, 1, 3, {1, 2, 3});
 
     renderFinalPicture({picture.values.data(), 1, 1, false, false}, parameters, *filters, *view);
 
     EXPECT_EQ(log.debugs().filter("HalfTone"), QStringList{"HalfTone Weight:  0.75"});
-    EXPECT_EQ(filters->splitTone.weight, 1.25F);
+    EXPECT_EQ(filters->get<HalfToneFilter>().weight, 1.25F);
 }
 
 TEST_F(FinalRenderTest, BlursTheNoiseWithTheRadiusOfThePanel)
 {
     GrainFilter expected;
     expected.setSigma(2.5F);
-    filters->grain.setSigma(1);
+    filters->get<GrainFilter>().setSigma(1);
     BytePixels picture(1, 1, 3, {1, 2, 3});
-    parameters.grainRadius = 2.5F;
+    parameters.get<GrainFilter>().radius = 2.5F;
     renderFinalPicture({picture.values.data(), 1, 1, false, false}, parameters, *filters, *view);
-    EXPECT_EQ(filters->grain.sigma(), 2.5F);
-    EXPECT_EQ(noiseOf(filters->grain).values, noiseOf(expected).values);
+    EXPECT_EQ(filters->get<GrainFilter>().sigma(), 2.5F);
+    EXPECT_EQ(noiseOf(filters->get<GrainFilter>()).values, noiseOf(expected).values);
 }
 
 TEST_F(FinalRenderTest, InvalidParametersLeaveAlphaAndTheNextRenderOfBytes)
@@ -200,7 +181,7 @@ TEST_F(FinalRenderTest, InvalidParametersLeaveAlphaAndTheNextRenderOf16Bits)
 
 TEST_F(FinalRenderTest, NegativeMixerWeightsGiveBlack)
 {
-    parameters.mixerWeights = {-1, -0.5F, -0.01F};
+    parameters.get<MixerFilter>().weights = {-1, -0.5F, -0.01F};
     EXPECT_TRUE(
         picturesNear("negative bytes", rendered(rampPicture<std::uint8_t>(12, 8), parameters), BytePixels(12, 8)));
     EXPECT_TRUE(
@@ -209,8 +190,8 @@ TEST_F(FinalRenderTest, NegativeMixerWeightsGiveBlack)
 
 TEST_F(FinalRenderTest, VignetteWithoutRadiusIsBlack)
 {
-    filters->vignette.enabled = true;
-    parameters.vignetteRadius = 0;
+    filters->get<VignetteFilter>().enabled = true;
+    parameters.get<VignetteFilter>().shape.radius = 0;
     EXPECT_TRUE(picturesNear("bytes", rendered(rampPicture<std::uint8_t>(12, 8), parameters), BytePixels(12, 8)));
     EXPECT_TRUE(picturesNear("16 bits", rendered(rampPicture<std::uint16_t>(12, 8), parameters), WordPixels(12, 8)));
 }
@@ -218,9 +199,9 @@ TEST_F(FinalRenderTest, VignetteWithoutRadiusIsBlack)
 // Half floats hold values beyond the scale, infinite ones included.
 TEST_F(FinalRenderTest, CurveSamplesBeyondTheScaleAreClampedIn16Bits)
 {
-    filters->curve.enabled = true;
-    parameters.mixerWeights = {1, 0, 0};
-    parameters.curve = {-1, 2, infinity, -infinity};
+    filters->get<CurveFilter>().enabled = true;
+    parameters.get<MixerFilter>().weights = {1, 0, 0};
+    parameters.get<CurveFilter>().curve = {-1, 2, infinity, -infinity};
     const WordPixels reds(4, 1, 3, {8000, 0, 0, 24000, 0, 0, 40000, 0, 0, 56000, 0, 0});
     EXPECT_EQ(rendered(reds, parameters).values,
               (std::vector<std::uint16_t>{0, 0, 0, 65535, 65535, 65535, 65535, 65535, 65535, 0, 0, 0}));

@@ -65,10 +65,10 @@ protected:
         }
         view = std::make_unique<FlexibleDocumentView>(8, 8, 8, 8, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE);
         filters = std::make_unique<FilterSet>();
-        filters->mixer.enabled = true;
-        filters->curve.enabled = true;
-        filters->vignette.enabled = true;
-        parameters.mixerWeights = {0.3F, 0.5F, 0.2F};
+        filters->get<MixerFilter>().enabled = true;
+        filters->get<CurveFilter>().enabled = true;
+        filters->get<VignetteFilter>().enabled = true;
+        parameters.get<MixerFilter>().weights = {0.3F, 0.5F, 0.2F};
     }
 
     void TearDown() override
@@ -103,7 +103,7 @@ protected:
     LogCapture log;
     std::unique_ptr<FlexibleDocumentView> view;
     std::unique_ptr<FilterSet> filters;
-    FilterParameters parameters;
+    Look parameters;
 };
 
 TEST_F(OldDriver, RendersSixteenBitPicturesAsAnyOther)

@@ -69,39 +69,39 @@ TEST_F(PreviewStageTest, ALoadSwitchesTheMixerOnAndTheOthersOff)
 {
     load(rampPicture<std::uint8_t>(4, 4));
     const FilterSet &filters = *stage->filters();
-    stage->filters()->curve.enabled = true;
-    stage->filters()->mixer.enabled = false;
+    stage->filters()->get<CurveFilter>().enabled = true;
+    stage->filters()->get<MixerFilter>().enabled = false;
     load(rampPicture<std::uint8_t>(8, 4));
-    EXPECT_TRUE(filters.mixer.enabled);
-    EXPECT_FALSE(filters.curve.enabled);
-    EXPECT_FALSE(filters.splitTone.enabled);
-    EXPECT_FALSE(filters.grain.enabled);
-    EXPECT_FALSE(filters.vignette.enabled);
-    EXPECT_EQ(filters.curve.width, 8);
-    EXPECT_EQ(filters.vignette.maxWidth, 8);
+    EXPECT_TRUE(filters.get<MixerFilter>().enabled);
+    EXPECT_FALSE(filters.get<CurveFilter>().enabled);
+    EXPECT_FALSE(filters.get<HalfToneFilter>().enabled);
+    EXPECT_FALSE(filters.get<GrainFilter>().enabled);
+    EXPECT_FALSE(filters.get<VignetteFilter>().enabled);
+    EXPECT_EQ(filters.get<CurveFilter>().width, 8);
+    EXPECT_EQ(filters.get<VignetteFilter>().maxWidth, 8);
 }
 
 TEST_F(PreviewStageTest, ParametersSetBeforeTheFirstLoadReachTheFilters)
 {
-    stage->setMixer({0.1F, 0.2F, 0.3F});
-    stage->setVignette(10, 20, 30, 40, true);
-    stage->setSplitTone(0.8F, {1, 0, 0}, {0, 1, 0});
+    stage->set<MixerFilter>({{0.1F, 0.2F, 0.3F}});
+    stage->set<VignetteFilter>({{{10, 20, 0}, 40, 30}, true});
+    stage->set<HalfToneFilter>({0.8F, {1, 0, 0}, {0, 1, 0}});
     load(rampPicture<std::uint8_t>(4, 4));
     const FilterSet &filters = *stage->filters();
-    EXPECT_EQ(filters.mixer.weights, (ColorRGB<float>{0.1F, 0.2F, 0.3F}));
-    EXPECT_EQ(filters.vignette.parameters.center.y, 20);
-    EXPECT_EQ(filters.vignette.parameters.radius, 30);
-    EXPECT_EQ(filters.vignette.parameters.strength, 40);
-    EXPECT_EQ(filters.splitTone.weight, 0.8F);
-    EXPECT_EQ(filters.splitTone.secondColor, (ColorRGB<float>{0, 1, 0}));
+    EXPECT_EQ(filters.get<MixerFilter>().weights, (ColorRGB<float>{0.1F, 0.2F, 0.3F}));
+    EXPECT_EQ(filters.get<VignetteFilter>().parameters.center.y, 20);
+    EXPECT_EQ(filters.get<VignetteFilter>().parameters.radius, 30);
+    EXPECT_EQ(filters.get<VignetteFilter>().parameters.strength, 40);
+    EXPECT_EQ(filters.get<HalfToneFilter>().weight, 0.8F);
+    EXPECT_EQ(filters.get<HalfToneFilter>().secondColor, (ColorRGB<float>{0, 1, 0}));
 }
 
 TEST_F(PreviewStageTest, NoiseIsBlurredAtThreeAtALoadAndAtThePanelsRadiusAfterwards)
 {
     load(rampPicture<std::uint8_t>(4, 4));
-    EXPECT_EQ(stage->filters()->grain.sigma(), 3.0F);
-    stage->setGrain(QVector<float>(256, 1.0F), 0.5F);
-    EXPECT_EQ(stage->filters()->grain.sigma(), 0.5F);
+    EXPECT_EQ(stage->filters()->get<GrainFilter>().sigma(), 3.0F);
+    stage->setGrain({QVector<float>(256, 1.0F), 0.5F});
+    EXPECT_EQ(stage->filters()->get<GrainFilter>().sigma(), 0.5F);
 }
 
 // The mixer brings the source in and, being enabled, runs over its own result once more: with weights that sum to 1
@@ -110,7 +110,7 @@ TEST_F(PreviewStageTest, TheMixerRunsTwiceInThePreviewAndOnceInTheFile)
 {
     BytePixels white(4, 4, 3, std::vector<std::uint8_t>(48, 255));
     load(white);
-    stage->setMixer({0.5F, 0, 0});
+    stage->set<MixerFilter>({{0.5F, 0, 0}});
     EXPECT_EQ(shown(4, 4).at(0, 0, 0), 64);
     EXPECT_TRUE(stage->renderFinal({white.values.data(), 4, 4, false, false}));
     EXPECT_EQ(white.at(0, 0, 0), 128);
@@ -120,7 +120,7 @@ TEST_F(PreviewStageTest, APreview2250PixelsWideComesOutPixelForPixel)
 {
     const auto picture = rampPicture<std::uint8_t>(2250, 3);
     load(picture);
-    stage->setMixer({1, 0, 0});
+    stage->set<MixerFilter>({{1, 0, 0}});
     BytePixels expected = picture;
     for (int y = 0; y < 3; ++y) {
         for (int x = 0; x < 2250; ++x) {
@@ -134,7 +134,7 @@ TEST_F(PreviewStageTest, SixteenBitPreviewsTakeWords)
 {
     const PreviewPixels pixels{2, 1, {}, {65535, 0, 0, 32896, 0, 0}};
     stage->load(pixels, pixelFormatsFor(true, false), 10, 10);
-    stage->setMixer({1, 0, 0});
+    stage->set<MixerFilter>({{1, 0, 0}});
     EXPECT_EQ(shown(2, 1).values, (std::vector<std::uint8_t>{255, 255, 255, 128, 128, 128}));
 }
 
@@ -157,12 +157,12 @@ int liveObjects()
 TEST_F(PreviewStageTest, AThousandSliderMovesLeaveNothingBehind)
 {
     load(rampPicture<std::uint8_t>(4, 4));
-    stage->setGrain(QVector<float>(256, 0.5F), 0.1F);
+    stage->setGrain({QVector<float>(256, 0.5F), 0.1F});
     const int before = liveObjects();
     const QVector<float> values(256, 0.5F);
     for (int i = 0; i < 1000; ++i) {
-        stage->setCurve(values);
-        stage->filters()->grain.setWeights(values);
+        stage->filters()->get<CurveFilter>().setCurve(values);
+        stage->filters()->get<GrainFilter>().setWeights(values);
     }
     EXPECT_EQ(liveObjects(), before);
 }
@@ -181,7 +181,7 @@ TEST_F(PreviewStageTest, FiftyPicturesLeaveNothingBehind)
 TEST_F(PreviewStageTest, SavingLeavesNothingBehind)
 {
     load(rampPicture<std::uint8_t>(8, 8));
-    stage->filters()->vignette.enabled = true;
+    stage->filters()->get<VignetteFilter>().enabled = true;
     auto picture = rampPicture<std::uint8_t>(9, 7);
     // The first one makes what the filters need and keep.
     EXPECT_TRUE(stage->renderFinal({picture.values.data(), 9, 7, false, false}));

@@ -83,7 +83,7 @@ TEST_F(PreviewTest, ItsFiltersComeInTheOrderOfThePreview)
     FilterSet filters;
     graphics::DocumentFilterQueue queue;
 
-    addPreviewFilters(queue, filters);
+    filters.addToPreview(queue);
 
     EXPECT_EQ(namesIn(queue), (std::vector<std::string>{"MixerFilter", "CurveFilter", "GrainFilter", "HalfToneFilter",
                                                         "VignetteFilter"}));
@@ -142,9 +142,9 @@ TEST_F(PreviewTest, TheQueueRunsOverThePicture)
     Preview preview(previewPixels(picture), pixelFormatsFor(false, false), 80, 60);
     FilterSet filters;
     filters.setSize(12, 8);
-    filters.mixer.weights = {0, 1, 0};
-    filters.mixer.enabled = true;
-    addPreviewFilters(preview.queue(), filters);
+    filters.get<graphics::MixerFilter>().weights = {0, 1, 0};
+    filters.get<graphics::MixerFilter>().enabled = true;
+    filters.addToPreview(preview.queue());
 
     preview.render();
 

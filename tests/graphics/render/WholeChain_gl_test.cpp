@@ -51,19 +51,19 @@ QVector<float> strongestInTheMiddle()
     return weights;
 }
 
-FilterParameters strongParameters()
+grisal::graphics::Look strongParameters()
 {
-    FilterParameters parameters;
+    grisal::graphics::Look parameters;
     // The weights of a look: in 255ths no sum of bytes lies exactly between two levels.
-    parameters.mixerWeights = {64 / 255.0F, 89 / 255.0F, 102 / 255.0F};
-    parameters.curve = sCurve();
-    parameters.grainWeights = strongestInTheMiddle();
-    parameters.grainRadius = 1.5F;
-    parameters.vignetteX = 35;
-    parameters.vignetteY = 60;
-    parameters.vignetteRadius = 80;
-    parameters.vignetteStrength = 55;
-    parameters.splitWeight = 0.9F;
+    parameters.get<MixerFilter>().weights = {64 / 255.0F, 89 / 255.0F, 102 / 255.0F};
+    parameters.get<CurveFilter>().curve = sCurve();
+    parameters.get<GrainFilter>().weights = strongestInTheMiddle();
+    parameters.get<GrainFilter>().radius = 1.5F;
+    parameters.get<VignetteFilter>().shape.center.x = 35;
+    parameters.get<VignetteFilter>().shape.center.y = 60;
+    parameters.get<VignetteFilter>().shape.radius = 80;
+    parameters.get<VignetteFilter>().shape.strength = 55;
+    parameters.get<HalfToneFilter>().weight = 0.9F;
     return parameters;
 }
 
@@ -87,7 +87,7 @@ std::vector<Case> allFiltersAndAllButTheGrain()
 
 const BytePixels &blurredNoiseMap()
 {
-    static const BytePixels blurred = reference::blurredNoise(reference::noiseMap(), strongParameters().grainRadius);
+    static const BytePixels blurred = reference::blurredNoise(reference::noiseMap(), strongParameters().get<GrainFilter>().radius);
     return blurred;
 }
 
@@ -141,18 +141,18 @@ protected:
 
     void apply(const Look &look)
     {
-        const FilterParameters &p = look.parameters;
-        stage->setMixer(p.mixerWeights);
-        stage->setCurve(p.curve);
-        stage->setSplitTone(p.splitWeight, p.highlightTint, p.shadowTint);
-        stage->setGrain(p.grainWeights, p.grainRadius);
-        stage->setVignette(p.vignetteX, p.vignetteY, p.vignetteRadius, p.vignetteStrength, false);
+        const grisal::graphics::Look &p = look.parameters;
+        stage->set<MixerFilter>(p.get<MixerFilter>());
+        stage->set<CurveFilter>(p.get<CurveFilter>());
+        stage->set<HalfToneFilter>(p.get<HalfToneFilter>());
+        stage->setGrain(p.get<GrainFilter>());
+        stage->set<VignetteFilter>(p.get<VignetteFilter>());
         FilterSet &filters = *stage->filters();
-        filters.mixer.enabled = look.mixer;
-        filters.curve.enabled = look.curve;
-        filters.splitTone.enabled = look.splitTone;
-        filters.grain.enabled = look.grain;
-        filters.vignette.enabled = look.vignette;
+        filters.get<MixerFilter>().enabled = look.mixer;
+        filters.get<CurveFilter>().enabled = look.curve;
+        filters.get<HalfToneFilter>().enabled = look.splitTone;
+        filters.get<GrainFilter>().enabled = look.grain;
+        filters.get<VignetteFilter>().enabled = look.vignette;
     }
 
     void load(const BytePixels &picture)

@@ -12,6 +12,9 @@ namespace
 {
 
 using namespace grisal::test;
+using grisal::graphics::CurveFilter;
+using grisal::graphics::GrainFilter;
+using grisal::graphics::VignetteFilter;
 
 /// The pixel that the widget has painted there, counted from the lower left. Its context is current afterwards.
 std::array<GLubyte, 4> paintedAt(GLWidget &widget, int x, int y)
@@ -58,7 +61,7 @@ TEST_F(GLWidgetTest, AResizedWidgetShowsThePicture)
 TEST_F(GLWidgetTest, ThePreviewIsSeenAfterTheGrain)
 {
     showPictureAtOneToOne();
-    widget.grainFilter()->enabled = true;
+    widget.filter<GrainFilter>()->enabled = true;
     widget.renderImage();
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
     BytePixels full = rampPicture<std::uint8_t>(9, 7);
@@ -82,7 +85,7 @@ TEST_F(GLWidgetTest, APictureWithAlphaIsOpaque)
     load(rampPicture<std::uint8_t>(pictureWidth, pictureHeight, 4));
     widget.slotActualPixels();
     widget.slotChangeCurves(QVector<float>(256, 0.6F));
-    widget.curveFilter()->enabled = true;
+    widget.filter<CurveFilter>()->enabled = true;
     widget.grabFramebuffer();
     const QSize middle = pixelSize() / 2;
     EXPECT_EQ(paintedAt(widget, middle.width(), middle.height()), (std::array<GLubyte, 4>{153, 153, 153, 255}));
@@ -163,7 +166,7 @@ TEST_F(GLWidgetTest, WithoutAContextThereIsNoFinalRender)
     std::uint8_t pixel[3] = {1, 2, 3};
     EXPECT_FALSE(widget.renderFinal(pixel, 1, 1, false, false));
     EXPECT_EQ(pixel[1], 2);
-    EXPECT_EQ(widget.vignetteFilter(), nullptr);
+    EXPECT_EQ(widget.filter<VignetteFilter>(), nullptr);
 }
 
 // Curve and grain go into textures at once where there is a context.
@@ -174,10 +177,10 @@ TEST_F(GLWidgetTest, ParametersThatAreSetWithoutAContextAreKept)
     widget.slotChangeCurves(QVector<float>(256, 0.25F));
     widget.slotChangeGrain(QVector<float>(256, 0.75F), 2.5F);
 
-    EXPECT_EQ(widget.grainFilter(), nullptr);
-    EXPECT_EQ(widget.parameters().curve.first(), 0.25F);
-    EXPECT_EQ(widget.parameters().grainWeights.first(), 0.75F);
-    EXPECT_EQ(widget.parameters().grainRadius, 2.5F);
+    EXPECT_EQ(widget.filter<GrainFilter>(), nullptr);
+    EXPECT_EQ(widget.look().get<CurveFilter>().curve.first(), 0.25F);
+    EXPECT_EQ(widget.look().get<GrainFilter>().weights.first(), 0.75F);
+    EXPECT_EQ(widget.look().get<GrainFilter>().radius, 2.5F);
 }
 
 TEST_F(GLWidgetTest, AFinalRenderLeavesThePreviewAsItWas)
@@ -194,8 +197,8 @@ TEST_F(GLWidgetTest, AFinalRenderLeavesThePreviewAsItWas)
 TEST_F(GLWidgetTest, EnabledFiltersAreSeen)
 {
     showPictureAtOneToOne();
-    ASSERT_NE(widget.curveFilter(), nullptr);
-    widget.curveFilter()->enabled = true;
+    ASSERT_NE(widget.filter<CurveFilter>(), nullptr);
+    widget.filter<CurveFilter>()->enabled = true;
     widget.slotChangeCurves(QVector<float>(256, 0.6F));
     const BytePixels expected(pictureWidth, pictureHeight, 3,
                               std::vector<std::uint8_t>(std::size_t{3} * pictureWidth * pictureHeight, 153));

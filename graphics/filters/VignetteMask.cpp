@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/render/VignetteMask.h"
+#include "graphics/filters/VignetteMask.h"
 
 #include "graphics/filters/FinalVignetteFilter.h"
 #include "graphics/gl/Framebuffers.h"
@@ -41,7 +41,7 @@ VignetteMask::VignetteMask(const VignetteParameters &parameters, std::uint32_t w
 
 VignetteMask::~VignetteMask() = default;
 
-Texture VignetteMask::piece(const TileArea &area) const
+Texture VignetteMask::piece(const TileArea &area)
 {
     if (m_filter) {
         Texture texture = drawn(area);

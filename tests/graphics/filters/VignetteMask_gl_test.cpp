@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/render/VignetteMask.h"
+#include "graphics/filters/VignetteMask.h"
 
 #include "graphics/document/FlexibleDocumentView.h"
 #include "graphics/filters/FilterSet.h"
@@ -90,7 +90,7 @@ struct Apart {
     static int levelOf(float value) { return static_cast<int>(std::lround(value * 255)); }
 };
 
-std::vector<float> pieceOf(const VignetteMask &mask, const TileArea &area)
+std::vector<float> pieceOf(VignetteMask &mask, const TileArea &area)
 {
     const graphics::Texture texture = mask.piece(area);
     std::vector<float> values(area.width * area.height);
@@ -105,7 +105,8 @@ std::vector<float> pieceOf(const VignetteMask &mask, const TileArea &area)
 std::vector<float> makeVignetteMask(const VignetteParameters &parameters, std::uint32_t columns, std::uint32_t rows,
                                     std::uint32_t largestSide)
 {
-    return pieceOf(VignetteMask(parameters, columns, rows, largestSide), {0, 0, columns, rows});
+    VignetteMask mask(parameters, columns, rows, largestSide);
+    return pieceOf(mask, {0, 0, columns, rows});
 }
 
 FloatPixels asPicture(std::vector<float> mask)
@@ -204,7 +205,7 @@ TEST_F(VignetteMaskTest, OddRowsComeBackWhole)
 
 TEST_F(VignetteMaskTest, AComputedPieceIsBitForBitThatOfTheWhole)
 {
-    const VignetteMask mask(offCentre, width, height, noRoomForIt);
+    VignetteMask mask(offCentre, width, height, noRoomForIt);
     const std::vector<float> whole = pieceOf(mask, {0, 0, width, height});
     const std::vector<float> piece = pieceOf(mask, {387, 31, 129, 31});
     for (std::size_t i = 0; i < piece.size(); ++i) {
@@ -217,7 +218,7 @@ TEST_F(VignetteMaskTest, AComputedPieceIsBitForBitThatOfTheWhole)
 TEST_P(DrawnPieces, AreLevelForLevelThoseOfTheWhole)
 {
     const Case &mask = GetParam();
-    const VignetteMask drawn(mask.vignette, mask.width, mask.height, std::max(mask.width, mask.height));
+    VignetteMask drawn(mask.vignette, mask.width, mask.height, std::max(mask.width, mask.height));
     const std::vector<float> whole = pieceOf(drawn, {0, 0, mask.width, mask.height});
     Apart apart;
     for (std::size_t x = 0; x < mask.width; x += mask.width / 4) {
@@ -248,10 +249,10 @@ TEST_F(VignetteMaskTest, IsMadeOnlyWhileTheVignetteIsOn)
 {
     graphics::FlexibleDocumentView view(8, 8, 8, 8, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE);
     graphics::FilterSet filters;
-    filters.mixer.enabled = true;
-    filters.curve.enabled = true;
+    filters.get<graphics::MixerFilter>().enabled = true;
+    filters.get<graphics::CurveFilter>().enabled = true;
     const auto masksOfARender = [&](bool vignette) {
-        filters.vignette.enabled = vignette;
+        filters.get<graphics::VignetteFilter>().enabled = vignette;
         BytePixels picture = rampPicture<std::uint8_t>(2049, 3);
         const int before = masks;
         EXPECT_TRUE(graphics::renderFinalPicture({picture.values.data(), picture.width, picture.height, false, false},
