@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/image/PreviewPixels.h"
 
-#include "graphics/image/Bands.h"
-
 #include <algorithm>
 
 namespace grisal::graphics
@@ -12,7 +10,6 @@ namespace
 {
 
 constexpr std::size_t rgb = 3;
-constexpr std::size_t smallestBand = 128; // rows
 
 std::size_t length(int side)
 {
@@ -60,11 +57,9 @@ public:
         }
         const Size size = m_sizes.back();
         std::vector<Component> pixels(size.width * size.height * rgb);
-        inBands(size.height, smallestBand, [&](std::size_t first, std::size_t end) {
-            for (std::size_t y = first; y < end; ++y) {
-                makeRow(m_sizes.size() - 1, y, pixels.data() + y * size.width * rgb);
-            }
-        });
+        for (std::size_t y = 0; y < size.height; ++y) {
+            makeRow(m_sizes.size() - 1, y, pixels.data() + y * size.width * rgb);
+        }
         return pixels;
     }
 

@@ -1,13 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/image/ToneHistogram.h"
 
-#include "graphics/image/Bands.h"
-
-#include <algorithm>
 #include <cstdint>
-#include <functional>
 #include <limits>
-#include <mutex>
 #include <vector>
 
 namespace grisal::graphics
@@ -17,7 +12,6 @@ namespace
 {
 
 constexpr std::size_t outputBins = 256;
-constexpr std::size_t smallestBand = 1'000'000;
 constexpr float fullShare = 30.0F; // a thirtieth of the pixels fills a bin's height
 
 /// Counts the means of the three colours, rounded down. Four counters take turns: neighbours are mostly of one tone,
@@ -40,18 +34,12 @@ template <typename Component>
 std::vector<std::size_t> countTones(const void *pixels, std::size_t count, bool withAlpha)
 {
     std::vector<std::size_t> tones(std::size_t{std::numeric_limits<Component>::max()} + 1);
-    std::mutex adding;
-    inBands(count, smallestBand, [&](std::size_t first, std::size_t end) {
-        std::vector<std::size_t> own(tones.size());
-        const auto *components = static_cast<const Component *>(pixels);
-        if (withAlpha) {
-            addTones<Component, 4>(components + first * 4, end - first, own);
-        } else {
-            addTones<Component, 3>(components + first * 3, end - first, own);
-        }
-        const std::lock_guard lock(adding);
-        std::transform(tones.begin(), tones.end(), own.begin(), tones.begin(), std::plus<>());
-    });
+    const auto *components = static_cast<const Component *>(pixels);
+    if (withAlpha) {
+        addTones<Component, 4>(components, count, tones);
+    } else {
+        addTones<Component, 3>(components, count, tones);
+    }
     return tones;
 }
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/render/TileTransfer.h"
 
-#include "graphics/image/Bands.h"
-#include "graphics/render/HalfWords.h"
+#include "graphics/render/HalfFloats.h"
 
 #include <algorithm>
 
@@ -11,8 +10,6 @@ namespace grisal::graphics
 
 namespace
 {
-
-constexpr std::size_t smallestBand = 128; // rows
 
 /// While it lives, the rows that the driver reads or writes lie `pixels` pixels apart.
 class RowLength
@@ -72,11 +69,9 @@ Texture TileTransfer<std::uint16_t>::send(const std::uint16_t *pixels, std::size
     }
     const std::size_t row = area.width * tileComponents;
     m_halfFloats.resize(row * area.height);
-    inBands(area.height, smallestBand, [&](std::size_t first, std::size_t end) {
-        for (std::size_t y = first; y < end; ++y) {
-            halvesOfWords(pixels + y * rowLength * tileComponents, row, m_halfFloats.data() + y * row);
-        }
-    });
+    for (std::size_t y = 0; y < area.height; ++y) {
+        convertToHalfFloats(pixels + y * rowLength * tileComponents, row, m_halfFloats.data() + y * row);
+    }
     return makeTexture(area, GL_HALF_FLOAT, m_halfFloats.data());
 }
 
@@ -119,11 +114,9 @@ void TileTransfer<std::uint16_t>::read(const FramebufferObject &target, const Ti
     m_halfFloats.resize(row * seen.height);
     readPixels(target, static_cast<std::int32_t>(seen.width), static_cast<std::int32_t>(seen.height), GL_RGB,
                GL_HALF_FLOAT, m_halfFloats.data());
-    inBands(seen.height, smallestBand, [&](std::size_t first, std::size_t end) {
-        for (std::size_t y = first; y < end; ++y) {
-            wordsOfHalves(m_halfFloats.data() + y * row, row, pixels + y * rowLength * tileComponents);
-        }
-    });
+    for (std::size_t y = 0; y < seen.height; ++y) {
+        convertFromHalfFloats(m_halfFloats.data() + y * row, row, pixels + y * rowLength * tileComponents);
+    }
 }
 
 template <typename T>

@@ -5,6 +5,8 @@
 #include "graphics/gl/Textures.h"
 #include "graphics/render/TilePixels.h"
 
+#include <qfloat16.h>
+
 #include <cstdint>
 #include <vector>
 
@@ -58,7 +60,7 @@ private:
     std::size_t m_components;
     TileFormats m_formats;
     std::vector<T> m_tile;
-    std::vector<std::uint16_t> m_halfFloats;
+    std::vector<qfloat16> m_halfFloats;
 };
 
 } // namespace grisal::graphics

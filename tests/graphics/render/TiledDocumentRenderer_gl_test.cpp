@@ -196,19 +196,6 @@ TEST_F(TiledDocumentRendererTest, TheFirstFilterRunsOncePerTile)
     EXPECT_EQ(result.at(0, 0, 0), 64);
 }
 
-TEST_F(TiledDocumentRendererTest, ALargeTileIsRenderedBandByBand)
-{
-    const auto source = rampPicture<std::uint8_t>(2048, 1020);
-    HalvingFilter first;
-    MixerFilter second;
-    for (MixerFilter *filter : {static_cast<MixerFilter *>(&first), &second}) {
-        filter->weights = {1, 0, 0};
-        filter->enabled = true;
-    }
-    EXPECT_TRUE(picturesNear("bands", render(source, {&first, &second}, byteFormats), redAsGrey(source)));
-    EXPECT_EQ(first.passes, 3);
-}
-
 TEST_F(TiledDocumentRendererTest, TheFirstFilterRunsAlsoWhenItIsDisabled)
 {
     HalvingFilter first;
