@@ -61,10 +61,17 @@ protected:
     void SetUp() override
     {
         FilesTest::SetUp();
-        if (!IsSkipped() && corpusFolder().isEmpty()) {
+        if (IsSkipped()) {
+            return;
+        }
+        if (corpusFolder().isEmpty()) {
             GTEST_SKIP() << "GRISAL_CORPUS does not say where the pictures are";
         }
-        expectWarning(QString());
+        expectWarning(QStringLiteral("No JPEG, PNG or TIFF picture in "));
+        for (const char *part : {"Cannot open ", "Magick: ", " holds texts of absurd length",
+                                 " is too small a file for its ", " says about its picture could be read"}) {
+            allowWarning(QString::fromLatin1(part));
+        }
     }
 
     /// Opens a file; returns whether it was refused, which changes nothing but the box.

@@ -111,7 +111,7 @@ TEST_F(MainWindowScreen, AFileThatIsNoPictureLeavesTheScreenAsItIs)
     const BytePixels before = showRamp();
     const QString path = inHome(QStringLiteral("rubbish.jpg"));
     writeFile(path, "no picture at all");
-    expectWarning(QString());
+    expectWarning(QStringLiteral("No JPEG, PNG or TIFF picture in %1").arg(path));
     {
         const MessageBoxAnswer box(QMessageBox::Ok);
         window.openImage(path);

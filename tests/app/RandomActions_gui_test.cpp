@@ -32,8 +32,8 @@ protected:
     void SetUp() override
     {
         FilesTest::SetUp();
-        expectWarning(QString());
         makePictures();
+        allowWarnings();
         QObject::connect(&m_boxes, &QTimer::timeout, &m_boxes, [] {
             if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
                 dialog->accept();
@@ -102,6 +102,16 @@ private:
         writeFile(inHome(QStringLiteral("cut.jpg")), jpeg.left(jpeg.size() / 2));
         writeFile(inHome(QStringLiteral("rubbish.jpg")), "no picture");
         m_pictures << inHome(QStringLiteral("cut.jpg")) << inHome(QStringLiteral("rubbish.jpg"));
+    }
+
+    void allowWarnings()
+    {
+        allowWarning(QStringLiteral("Bye bye..."));
+        allowWarning(QStringLiteral("MainWindow::saveImage(): Image is Null"));
+        allowWarning(QStringLiteral("Cannot open %1").arg(inHome(QStringLiteral("missing.png"))));
+        allowWarning(QStringLiteral("No JPEG, PNG or TIFF picture in %1").arg(inHome(QStringLiteral("rubbish.jpg"))));
+        allowWarning(QStringLiteral("Premature end of JPEG file (%1)").arg(inHome(QStringLiteral("cut.jpg"))));
+        allowWarning(QStringLiteral("Cannot save %1").arg(inHome(QStringLiteral("saved.xyz"))));
     }
 
     void useControl()

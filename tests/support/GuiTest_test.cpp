@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/GuiTest.h"
+
+#include <gtest/gtest-spi.h>
+
+#include <QtGlobal>
+
+namespace
+{
+
+using grisal::test::GuiTest;
+using grisal::test::timeOutNow;
+
+/// A test of windows whose end is called by hand.
+class Ended : public GuiTest
+{
+public:
+    using GuiTest::allowWarning;
+    using GuiTest::expectWarning;
+    using GuiTest::TearDown;
+
+    void TestBody() override {}
+};
+
+TEST(GuiTestTest, FailsForAWarningThatIsNotAnnounced)
+{
+    Ended test;
+    test.expectWarning(QStringLiteral("one"));
+    test.allowWarning(QStringLiteral("two"));
+    qWarning("one");
+    qWarning("three");
+    EXPECT_NONFATAL_FAILURE(test.TearDown(), "unexpected warning: three");
+}
+
+TEST(GuiTestTest, FailsWithoutAWarningThatIsExpected)
+{
+    Ended test;
+    test.expectWarning(QStringLiteral("one"));
+    EXPECT_NONFATAL_FAILURE(test.TearDown(), "missing warning: one");
+}
+
+TEST(GuiTestTest, PassesWithTheAnnouncedWarnings)
+{
+    Ended test;
+    test.expectWarning(QStringLiteral("one"));
+    test.allowWarning(QStringLiteral("two"));
+    test.allowWarning(QStringLiteral("three"));
+    qWarning("one of many");
+    qWarning("one of many");
+    qWarning("two");
+    test.TearDown();
+}
+
+TEST(GuiTestTest, EmptyPartsAreRefused)
+{
+    Ended test;
+    EXPECT_THROW(test.expectWarning(QString()), std::invalid_argument);
+    EXPECT_THROW(test.expectWarning(QStringLiteral("")), std::invalid_argument);
+    EXPECT_THROW(test.allowWarning(QString()), std::invalid_argument);
+}
+
+TEST(GuiTestTest, TimeOutNowEndsOnlyARunningTimer)
+{
+    QTimer timer;
+    timer.setSingleShot(true);
+    int timeouts = 0;
+    QObject::connect(&timer, &QTimer::timeout, [&] { ++timeouts; });
+    timeOutNow(timer);
+    EXPECT_EQ(timeouts, 0);
+    timer.start(1000000);
+    timeOutNow(timer);
+    EXPECT_EQ(timeouts, 1);
+    EXPECT_FALSE(timer.isActive());
+}
+
+} // namespace
