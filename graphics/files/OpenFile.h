@@ -29,6 +29,9 @@ public:
     bool isOpen() const { return m_descriptor >= 0; }
     int descriptor() const { return m_descriptor; }
 
+    /// Leaves the descriptor open for somebody else to close.
+    void release() { m_descriptor = -1; }
+
     /// In bytes; 0 where it cannot be told.
     std::uint64_t size() const;
 

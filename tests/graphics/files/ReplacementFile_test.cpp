@@ -12,6 +12,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 
@@ -128,6 +129,20 @@ TEST_F(ReplacementFileTest, FollowsLinksThroughLinkedFolders)
     EXPECT_FALSE(QFile::exists(path("home/x.png")));
 }
 
+TEST_F(ReplacementFileTest, MakesTheFileThatALinkInALinkedFolderNames)
+{
+    QDir root(directory.path());
+    for (const char *folder : {"home", "home/2019", "data", "data/2019", "data/best"}) {
+        ASSERT_TRUE(root.mkdir(folder));
+    }
+    ASSERT_EQ(symlink("../data/best", QFile::encodeName(path("home/Best")).constData()), 0);
+    ASSERT_EQ(symlink("../2019/a.png", QFile::encodeName(path("data/best/a.png")).constData()), 0);
+    EXPECT_TRUE(replace(path("home/Best/a.png"), "new"));
+    EXPECT_EQ(contentsOf(path("data/2019/a.png")), "new");
+    EXPECT_FALSE(QFile::exists(path("home/2019/a.png")));
+    EXPECT_TRUE(QFileInfo(path("data/best/a.png")).isSymLink());
+}
+
 TEST_F(ReplacementFileTest, NeverGivesMoreAccessThanTheOldFile)
 {
     writeFile(path("a.png"), "old");
@@ -153,6 +168,28 @@ TEST_F(ReplacementFileTest, KeepsWhatIsNotedAboutTheOldFile)
     char note[4] = {};
     EXPECT_EQ(getxattr(name.constData(), "user.comment", note, sizeof note), 4);
     EXPECT_EQ(QByteArray(note, 4), "best");
+}
+
+// The list as the kernel keeps it: version 2, then tag, permissions and id of the owner, user 7, the group, the mask
+// and others.
+TEST_F(ReplacementFileTest, KeepsTheAccessList)
+{
+    const QByteArray list = QByteArray::fromHex("02000000"
+                                                "01000600ffffffff"
+                                                "0200040007000000"
+                                                "04000000ffffffff"
+                                                "10000400ffffffff"
+                                                "20000000ffffffff");
+    constexpr const char *attribute = "system.posix_acl_access";
+    writeFile(path("a.png"), "old");
+    const QByteArray name = QFile::encodeName(path("a.png"));
+    if (setxattr(name.constData(), attribute, list.constData(), static_cast<std::size_t>(list.size()), 0) != 0) {
+        GTEST_SKIP() << "this file system keeps no access lists";
+    }
+    EXPECT_TRUE(replace(path("a.png"), "new"));
+    QByteArray kept(100, '\0');
+    kept.resize(std::max<qsizetype>(0, getxattr(name.constData(), attribute, kept.data(), 100)));
+    EXPECT_EQ(kept, list);
 }
 
 TEST_F(ReplacementFileTest, WorksWithTheLongestOfNames)
