@@ -2,6 +2,7 @@
 #include "graphics/files/Metadata.h"
 
 #include "graphics/files/MetadataBlocks.h"
+#include "graphics/files/PngChunks.h"
 #include "graphics/files/TiffDirectory.h"
 
 #include <QByteArray>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/MetadataBlocks.h"
 
+#include "graphics/files/PngChunks.h"
 #include "graphics/files/TiffMetadata.h"
 
 #include <QByteArrayView>
 #include <QtEndian>
 
-#include <algorithm>
 #include <cstdint>
 
 namespace grisal::graphics
@@ -23,13 +23,9 @@ constexpr QByteArrayView jpegEnd{"\xff\xd9"};
 constexpr int mostSegments = 10'000;
 constexpr std::uint8_t firstApplication = 0xe0;
 
-// A PNG file is a row of chunks: the length of the contents, four letters, the contents, a checksum.
-constexpr int chunkHeadSize = 8;
-constexpr int chunkFrameSize = 12;
-constexpr int mostChunks = 500'000;
 constexpr std::uint32_t largestExif = 1 << 19;
-/// The signature and the first chunk, which tells the size of the picture.
-constexpr qsizetype pngStartSize = signatureLength + chunkFrameSize + 13;
+/// The signature and the first chunk, which contains the size of the image.
+constexpr qsizetype pngStartSize = signatureLength + pngChunkFrameSize + 13;
 
 bool isTableOrFrame(std::uint8_t marker)
 {
@@ -86,67 +82,35 @@ bool insertJpegMetadata(const OpenFile &file, QByteArrayView metadata)
     return file.insert(place, metadata.sliced(jpegStart.size(), metadata.size() - frame));
 }
 
-/// Whether a chunk of this kind, which starts like this, is wanted.
-bool isMetadataChunk(QByteArrayView kind, QByteArrayView start)
+bool isMetadataChunk(const PngChunk &chunk)
 {
-    const bool isText = kind == "tEXt" || kind == "zTXt" || kind == "iTXt";
-    return kind == "eXIf" || kind == "iCCP" ||
-           (isText && (start.startsWith("Raw profile type ") || start.startsWith("XML:com.adobe.xmp")));
+    const bool isText = chunk.kind == "tEXt" || chunk.kind == "zTXt" || chunk.kind == "iTXt";
+    return chunk.kind == "eXIf" || chunk.kind == "iCCP" ||
+           (isText && (chunk.start.startsWith("Raw profile type ") || chunk.start.startsWith("XML:com.adobe.xmp")));
 }
 
 MetadataBlocks pngMetadataOf(const OpenFile &file)
 {
-    constexpr int longestKeyword = 20;
     MetadataBlocks blocks{file.bytesAt(0, pngStartSize)};
-    std::uint64_t place = pngStartSize;
-    for (int i = 0; i < mostChunks; ++i) {
-        const QByteArray head = file.bytesAt(place, chunkHeadSize + longestKeyword);
-        if (head.size() < chunkFrameSize) {
-            break;
-        }
-        const auto length = qFromBigEndian<std::uint32_t>(head.constData());
-        const QByteArrayView kind = QByteArrayView(head).sliced(4, 4);
-        if (kind == "IEND") {
-            break;
-        }
-        const std::uint64_t size = chunkFrameSize + std::uint64_t{length};
-        if (isMetadataChunk(kind, QByteArrayView(head).sliced(chunkHeadSize))) {
-            const std::uint64_t most = kind == "eXIf" ? largestExif : mostMetadata;
-            const bool fits = size + static_cast<std::uint64_t>(blocks.file.size()) <= mostMetadata && size <= most;
-            blocks.file += fits ? file.bytesAt(place, static_cast<qsizetype>(size)) : QByteArray();
+    visitPngChunks(file, [&](const PngChunk &chunk) {
+        if (isMetadataChunk(chunk)) {
+            const std::uint64_t most = chunk.kind == "eXIf" ? largestExif : mostMetadata;
+            const bool fits =
+                chunk.size() + static_cast<std::uint64_t>(blocks.file.size()) <= mostMetadata && chunk.size() <= most;
+            blocks.file += fits ? file.bytesAt(chunk.offset, static_cast<qsizetype>(chunk.size())) : QByteArray();
             blocks.complete = blocks.complete && fits;
         }
-        place += size;
-    }
+        return true;
+    });
     blocks.file += pngChunk("IEND", {});
     return blocks;
 }
 
 bool insertPngMetadata(const OpenFile &file, QByteArrayView metadata)
 {
-    const qsizetype frame = pngStartSize + chunkFrameSize;
+    const qsizetype frame = pngStartSize + pngChunkFrameSize;
     return metadata.size() >= frame && file.size() >= pngStartSize &&
            file.insert(pngStartSize, metadata.sliced(pngStartSize, metadata.size() - frame));
-}
-
-std::uint32_t checksum(QByteArrayView bytes)
-{
-    constexpr std::uint32_t polynomial = 0xedb88320;
-    std::uint32_t sum = 0xffffffff;
-    for (const char byte : bytes) {
-        sum ^= static_cast<std::uint8_t>(byte);
-        for (int bit = 0; bit < 8; ++bit) {
-            sum = (sum >> 1) ^ ((sum & 1) * polynomial);
-        }
-    }
-    return ~sum;
-}
-
-QByteArray bigEndian(std::uint32_t number)
-{
-    QByteArray bytes(sizeof number, '\0');
-    qToBigEndian(number, bytes.data());
-    return bytes;
 }
 
 } // namespace
@@ -175,13 +139,6 @@ bool insertMetadata(const OpenFile &file, PictureFormat format, const QByteArray
         return insertTiffMetadata(file, metadata);
     }
     return false;
-}
-
-QByteArray pngChunk(QByteArrayView kind, QByteArrayView contents)
-{
-    QByteArray checked = kind.toByteArray();
-    checked += contents;
-    return bigEndian(static_cast<std::uint32_t>(contents.size())) + checked + bigEndian(checksum(checked));
 }
 
 QByteArray emptyPicture(PictureFormat format)

@@ -24,9 +24,6 @@ MetadataBlocks metadataOf(const OpenFile &file, PictureFormat format);
 /// does not hold what it should or where there is no room; throws where the file is damaged.
 bool insertMetadata(const OpenFile &file, PictureFormat format, const QByteArray &metadata);
 
-/// A chunk of a PNG file, of a kind of four letters.
-QByteArray pngChunk(QByteArrayView kind, QByteArrayView contents);
-
 /// The smallest file of a format, to be filled by others with metadata. A TIFF file is made without one.
 QByteArray emptyPicture(PictureFormat format);
 

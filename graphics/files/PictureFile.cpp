@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/PictureFile.h"
 
+#include "graphics/files/PngChunks.h"
 #include "graphics/files/TiffUpright.h"
 
-#include <QByteArray>
 #include <QFile>
 #include <QtEndian>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <algorithm>
-#include <array>
 
 namespace grisal::graphics
 {
@@ -23,10 +20,6 @@ namespace
 constexpr std::uint64_t largestTrustedPicture = 90'000'000;
 constexpr std::uint64_t mostPixelsPerByte = 200;
 
-// A PNG file is a row of chunks: the length of the contents, four letters, the contents, a checksum.
-constexpr int chunkHeadLength = 8;
-constexpr int chunkChecksumLength = 4;
-constexpr int mostChunks = 500'000;
 constexpr std::uint32_t longestText = 1 << 20;
 constexpr int mostCompressedTexts = 16;
 
@@ -34,17 +27,6 @@ constexpr int mostCompressedTexts = 16;
 bool isWithin(std::uint32_t directory, std::uint64_t size)
 {
     return directory >= signatureLength && directory < size;
-}
-
-bool isOneOf(QByteArrayView kind, std::initializer_list<const char *> kinds)
-{
-    return std::any_of(kinds.begin(), kinds.end(), [kind](const char *other) { return kind == other; });
-}
-
-bool isChunkKind(QByteArrayView kind)
-{
-    return std::all_of(kind.begin(), kind.end(),
-                       [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); });
 }
 
 } // namespace
@@ -55,7 +37,7 @@ PictureFile::PictureFile(const QString &path)
     if (m_problem.isEmpty()) {
         look(path);
     }
-    if (m_problem.isEmpty() && m_format == PictureFormat::Png && hasAbsurdTexts()) {
+    if (m_problem.isEmpty() && m_format == PictureFormat::Png && hasInvalidTexts()) {
         m_problem = QStringLiteral("%1 holds texts of absurd length").arg(path);
     }
     if (m_problem.isEmpty() && m_format == PictureFormat::Tiff) {
@@ -100,26 +82,16 @@ void PictureFile::standUpright()
     }
 }
 
-// What comes behind something that is no chunk, or behind the end, is nothing the library would look at.
-bool PictureFile::hasAbsurdTexts() const
+// Whatever follows the closing chunk, or bytes that are no chunk, is not read by GraphicsMagick.
+bool PictureFile::hasInvalidTexts() const
 {
     int compressedTexts = 0;
-    std::uint64_t place = signatureLength;
-    for (int chunk = 0; chunk < mostChunks; ++chunk) {
-        const QByteArray head = m_file.bytesAt(place, chunkHeadLength);
-        const QByteArrayView kind = QByteArrayView(head).sliced(std::min<qsizetype>(4, head.size()));
-        if (head.size() < chunkHeadLength || !isChunkKind(kind) || kind == "IEND") {
-            return false;
-        }
-        const auto length = qFromBigEndian<std::uint32_t>(head.constData());
-        compressedTexts += isOneOf(kind, {"zTXt", "iTXt", "iCCP"}) ? 1 : 0;
-        const bool tooLong = length > longestText && isOneOf(kind, {"tEXt", "zTXt", "iTXt", "iCCP"});
-        if (tooLong || compressedTexts > mostCompressedTexts) {
-            return true;
-        }
-        place += chunkHeadLength + std::uint64_t{length} + chunkChecksumLength;
-    }
-    return true;
+    return !visitPngChunks(m_file, [&](const PngChunk &chunk) {
+        const bool isCompressed = chunk.kind == "zTXt" || chunk.kind == "iTXt" || chunk.kind == "iCCP";
+        const bool isText = isCompressed || chunk.kind == "tEXt";
+        compressedTexts += isCompressed ? 1 : 0;
+        return !(isText && chunk.length > longestText) && compressedTexts <= mostCompressedTexts;
+    });
 }
 
 bool PictureFile::canHold(std::uint64_t pixels) const

@@ -42,7 +42,7 @@ public:
 private:
     void open(const QString &path);
     void look(const QString &path);
-    bool hasAbsurdTexts() const;
+    bool hasInvalidTexts() const;
     void standUpright();
 
     OpenFile m_file;

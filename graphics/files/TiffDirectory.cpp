@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/TiffDirectory.h"
 
+#include "graphics/files/PictureFormat.h"
+
 #include <algorithm>
 
 namespace grisal::graphics
@@ -40,11 +42,9 @@ std::uint64_t TiffEntry::size() const
 
 std::optional<TiffOrder> tiffOrderOf(QByteArrayView start)
 {
-    if (start.startsWith(QByteArrayView("II*\0", 4))) {
-        return TiffOrder(false);
-    }
-    if (start.startsWith(QByteArrayView("MM\0*", 4))) {
-        return TiffOrder(true);
+    const bool isBigTiff = start.first(std::min<qsizetype>(4, start.size())).contains('+');
+    if (formatOfContents(start) == PictureFormat::Tiff && !isBigTiff) {
+        return TiffOrder(start.startsWith('M'));
     }
     return std::nullopt;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/graphics/files/MetadataFiles.h"
 
-#include "graphics/files/MetadataBlocks.h"
+#include "graphics/files/PngChunks.h"
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <QFile>
