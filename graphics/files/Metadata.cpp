@@ -49,21 +49,29 @@ const Exiv2::byte *exivBytes(const QByteArray &bytes)
     return reinterpret_cast<const Exiv2::byte *>(bytes.constData());
 }
 
-/// The library's view of a small file in memory, which is not copied and has to live as long. An empty one becomes a
-/// TIFF file.
-Exiv2::Image::AutoPtr opened(const QByteArray &file, PictureFormat format)
+Exiv2::Image::AutoPtr imageOn(Exiv2::BasicIo::AutoPtr io, PictureFormat format, bool create = false)
 {
-    Exiv2::BasicIo::AutoPtr io(file.isEmpty() ? new Exiv2::MemIo
-                                              : new Exiv2::MemIo(exivBytes(file), static_cast<long>(file.size())));
     switch (format) {
     case PictureFormat::Jpeg:
-        return Exiv2::Image::AutoPtr(new Exiv2::JpegImage(io, false));
+        return Exiv2::Image::AutoPtr(new Exiv2::JpegImage(io, create));
     case PictureFormat::Png:
-        return Exiv2::Image::AutoPtr(new Exiv2::PngImage(io, false));
+        return Exiv2::Image::AutoPtr(new Exiv2::PngImage(io, create));
     case PictureFormat::Tiff:
-        return Exiv2::Image::AutoPtr(new Exiv2::TiffImage(io, file.isEmpty()));
+        return Exiv2::Image::AutoPtr(new Exiv2::TiffImage(io, create));
     }
     throw std::invalid_argument("No such format");
+}
+
+/// A small file in memory, which is not copied and has to live as long.
+Exiv2::Image::AutoPtr imageIn(const QByteArray &file, PictureFormat format)
+{
+    return imageOn(Exiv2::BasicIo::AutoPtr(new Exiv2::MemIo(exivBytes(file), static_cast<long>(file.size()))), format);
+}
+
+/// The file itself; Exiv2 reads no more of a JPEG file than its metadata, and not all at once.
+Exiv2::Image::AutoPtr imageIn(const OpenFile &file, PictureFormat format)
+{
+    return imageOn(Exiv2::BasicIo::AutoPtr(new Exiv2::FileIo(nameOfOpenFile(file.descriptor()))), format);
 }
 
 template <typename Data, typename Predicate>
@@ -175,9 +183,12 @@ bool fitsSegment(const Exiv2::XmpData &xmp)
     return Exiv2::XmpParser::encode(text, xmp) == 0 && text.size() <= most;
 }
 
+/// `file` is what emptyPicture() returns, and has to live as long.
 Exiv2::Image::AutoPtr emptyImage(const QByteArray &file, PictureFormat format)
 {
-    Exiv2::Image::AutoPtr image = opened(file, format);
+    Exiv2::Image::AutoPtr image = format == PictureFormat::Tiff
+                                      ? imageOn(Exiv2::BasicIo::AutoPtr(new Exiv2::MemIo), format, true)
+                                      : imageIn(file, format);
     image->setByteOrder(Exiv2::littleEndian);
     return image;
 }
@@ -208,12 +219,18 @@ Metadata::Metadata(const OpenFile &file, PictureFormat format)
 {
     try {
         initializeMetadataLibrary();
-        const MetadataBlocks blocks = metadataOf(file, format);
-        m_complete = blocks.complete;
-        if (blocks.file.isEmpty()) {
-            return;
+        MetadataBlocks blocks;
+        Exiv2::Image::AutoPtr image;
+        if (format == PictureFormat::Jpeg) {
+            image = imageIn(file, format);
+        } else {
+            blocks = extractMetadata(file, format);
+            m_complete = blocks.complete;
+            if (blocks.file.isEmpty()) {
+                return;
+            }
+            image = imageIn(blocks.file, format);
         }
-        const Exiv2::Image::AutoPtr image = opened(blocks.file, format);
         image->readMetadata();
         m_complete = m_complete && (image->xmpPacket().empty() || !image->xmpData().empty());
         auto contents = std::make_shared<Contents>();

@@ -20,53 +20,10 @@ constexpr qsizetype mostMetadata = 16 << 20;
 // A JPEG file is a row of segments: two bytes of marker, the length of the rest, the contents.
 constexpr QByteArrayView jpegStart{"\xff\xd8"};
 constexpr QByteArrayView jpegEnd{"\xff\xd9"};
-constexpr int mostSegments = 10'000;
-constexpr std::uint8_t firstApplication = 0xe0;
 
 constexpr std::uint32_t largestExif = 1 << 19;
 /// The signature and the first chunk, which contains the size of the image.
 constexpr qsizetype pngStartSize = signatureLength + pngChunkFrameSize + 13;
-
-bool isTableOrFrame(std::uint8_t marker)
-{
-    return marker >= 0xc0 && marker < 0xff && !(marker >= 0xd0 && marker <= 0xda);
-}
-
-bool isMetadataSegment(QByteArrayView segment)
-{
-    const auto kind = static_cast<std::uint8_t>(segment[1] - static_cast<char>(firstApplication));
-    const QByteArrayView contents = segment.sliced(4);
-    return (kind == 1 || kind == 13) || (kind == 2 && contents.startsWith("ICC_PROFILE"));
-}
-
-MetadataBlocks jpegMetadataOf(const OpenFile &file)
-{
-    MetadataBlocks blocks{jpegStart.toByteArray()};
-    std::uint64_t place = jpegStart.size();
-    for (int i = 0; i < mostSegments; ++i) {
-        const QByteArray head = file.bytesAt(place, 4);
-        if (head.size() < 4 || head[0] != '\xff') {
-            break;
-        }
-        const auto marker = static_cast<std::uint8_t>(head[1]);
-        if (marker == 0xff) { // padding
-            ++place;
-            continue;
-        }
-        const auto length = qFromBigEndian<std::uint16_t>(head.constData() + 2);
-        if (!isTableOrFrame(marker) || length < 2) {
-            break;
-        }
-        const QByteArray segment = file.bytesAt(place, 2 + length);
-        if (segment.size() == 2 + length && isMetadataSegment(segment)) {
-            blocks.complete = blocks.complete && blocks.file.size() + segment.size() <= mostMetadata;
-            blocks.file += blocks.complete ? segment : QByteArray();
-        }
-        place += 2 + std::uint64_t{length};
-    }
-    blocks.file += jpegEnd;
-    return blocks;
-}
 
 bool insertJpegMetadata(const OpenFile &file, QByteArrayView metadata)
 {
@@ -89,7 +46,7 @@ bool isMetadataChunk(const PngChunk &chunk)
            (isText && (chunk.start.startsWith("Raw profile type ") || chunk.start.startsWith("XML:com.adobe.xmp")));
 }
 
-MetadataBlocks pngMetadataOf(const OpenFile &file)
+MetadataBlocks extractPngMetadata(const OpenFile &file)
 {
     MetadataBlocks blocks{file.bytesAt(0, pngStartSize)};
     visitPngChunks(file, [&](const PngChunk &chunk) {
@@ -115,15 +72,15 @@ bool insertPngMetadata(const OpenFile &file, QByteArrayView metadata)
 
 } // namespace
 
-MetadataBlocks metadataOf(const OpenFile &file, PictureFormat format)
+MetadataBlocks extractMetadata(const OpenFile &file, PictureFormat format)
 {
     switch (format) {
     case PictureFormat::Jpeg:
-        return jpegMetadataOf(file);
+        break;
     case PictureFormat::Png:
-        return pngMetadataOf(file);
+        return extractPngMetadata(file);
     case PictureFormat::Tiff:
-        return tiffMetadataOf(file);
+        return extractTiffMetadata(file);
     }
     return {};
 }

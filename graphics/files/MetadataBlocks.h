@@ -9,15 +9,16 @@
 namespace grisal::graphics
 {
 
-/// What an image file says about its picture: a small file of the same format that holds nothing else.
+/// The metadata of a PNG or TIFF file: a small file of the same format that contains nothing else.
 struct MetadataBlocks {
-    QByteArray file; ///< empty where there is no telling
-    /// False where something was left out for its size: what others make of it is to fit into the memory, too.
+    QByteArray file; ///< empty where there is none to be found
+    /// False where something was left out for its size: what Exiv2 makes of it has to fit into the memory, too.
     bool complete = true;
 };
 
-/// Takes what a picture file says about its picture out of it. Only the places where it stands are read.
-MetadataBlocks metadataOf(const OpenFile &file, PictureFormat format);
+/// Extracts the metadata of a PNG or TIFF file. Nothing else of the file is read. JPEG files need no extraction: Exiv2
+/// itself reads no more of them than that.
+MetadataBlocks extractMetadata(const OpenFile &file, PictureFormat format);
 
 /// Puts what such a small file holds into a picture file that was just written and holds nothing of that kind. The
 /// pixels are moved within the file, and nothing but a block of them is held. False, with the file as it was, where it

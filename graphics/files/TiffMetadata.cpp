@@ -220,7 +220,7 @@ QByteArray frontOf(const OpenFile &file, TiffOrder order, const QByteArray &head
 
 } // namespace
 
-MetadataBlocks tiffMetadataOf(const OpenFile &file)
+MetadataBlocks extractTiffMetadata(const OpenFile &file)
 {
     const std::optional<TiffOrder> order = tiffOrderOf(file.bytesAt(0, signatureLength));
     if (!order) {

@@ -6,8 +6,8 @@
 namespace grisal::graphics
 {
 
-/// What metadataOf() and insertMetadata() do for TIFF files.
-MetadataBlocks tiffMetadataOf(const OpenFile &file);
+/// What extractMetadata() and insertMetadata() do for TIFF files.
+MetadataBlocks extractTiffMetadata(const OpenFile &file);
 bool insertTiffMetadata(const OpenFile &file, const QByteArray &metadata);
 
 } // namespace grisal::graphics

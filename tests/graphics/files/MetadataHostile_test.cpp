@@ -221,7 +221,7 @@ TEST_F(MetadataHostileTest, DirectoriesThatMultiplyStaySmall)
     }
     writeFile(path("a.tif"), contents + words({0, 0}));
     const OpenFile file(open(path("a.tif").toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC));
-    const grisal::graphics::MetadataBlocks blocks = metadataOf(file, PictureFormat::Tiff);
+    const grisal::graphics::MetadataBlocks blocks = extractMetadata(file, PictureFormat::Tiff);
     EXPECT_FALSE(blocks.complete);
     EXPECT_LT(blocks.file.size(), 10 << 20);
     image.read(path("a.tif"));
