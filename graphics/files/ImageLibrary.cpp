@@ -13,8 +13,8 @@ namespace grisal::graphics
 namespace
 {
 
-constexpr MagickLib::magick_int64_t longestSide = 65'500;
-constexpr MagickLib::magick_int64_t mostPixels = 1'000'000'000;
+constexpr MagickLib::magick_int64_t maxSide = 65'500;
+constexpr MagickLib::magick_int64_t maxPixels = 1'000'000'000;
 
 /// Three quarters of the machine's memory, in bytes.
 MagickLib::magick_int64_t memoryShare()
@@ -25,9 +25,9 @@ MagickLib::magick_int64_t memoryShare()
 void setLimits()
 {
     using namespace MagickLib;
-    SetMagickResourceLimit(WidthResource, longestSide);
-    SetMagickResourceLimit(HeightResource, longestSide);
-    SetMagickResourceLimit(PixelsResource, mostPixels);
+    SetMagickResourceLimit(WidthResource, maxSide);
+    SetMagickResourceLimit(HeightResource, maxSide);
+    SetMagickResourceLimit(PixelsResource, maxPixels);
     SetMagickResourceLimit(MemoryResource, memoryShare());
     SetMagickResourceLimit(MapResource, 0);
     SetMagickResourceLimit(DiskResource, 0);

@@ -4,8 +4,8 @@
 namespace grisal::graphics
 {
 
-/// The names under which the log shows values of the image library's enumerations, by their numbers. A number that
-/// is not in the table gives the table's undefined text. All texts live as long as the program.
+/// Names of values of GraphicsMagick's enumerations for the log, by their numbers. A number that is not in the table
+/// gives the table's undefined text. The texts are static.
 
 /// 1 is RGB, 2 is grey.
 const char *colorSpaceName(int colorSpace);

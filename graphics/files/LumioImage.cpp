@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/LumioImage.h"
 
+#include "graphics/files/ImageFile.h"
 #include "graphics/files/ImageLibrary.h"
 #include "graphics/files/ImageNames.h"
 #include "graphics/files/Orientation.h"
-#include "graphics/files/PictureFile.h"
 #include "graphics/files/QuantumCopy.h"
 #include "graphics/files/ReplacementFile.h"
 
@@ -27,8 +27,8 @@ bool opensForReading(const QString &path)
     return std::ifstream(QFile::encodeName(path).toStdString()).is_open();
 }
 
-/// To be read into: the first picture of a file that holds several, without a look at the others.
-Magick::Image firstPicture()
+/// To be read into: only the first image of a file that contains several.
+Magick::Image firstImage()
 {
     Magick::Image image;
     image.subImage(0);
@@ -41,11 +41,11 @@ Magick::ImageType typeOf(const Magick::Image &image)
     try {
         return image.type();
     } catch (const std::exception &) {
-        return Magick::UndefinedType; // the pixels cannot be reached
+        return Magick::UndefinedType; // the pixels cannot be accessed
     }
 }
 
-// A warning leaves the result of the call standing, so the text is kept and all goes on.
+// After a warning the result of the call is valid.
 template <typename Call>
 Message warningOf(Call call)
 {
@@ -57,15 +57,15 @@ Message warningOf(Call call)
     return {};
 }
 
-/// Whether what was written would be taken for a picture again.
-bool opensAsPicture(const OpenFile &written)
+/// Whether a file that was just written could be opened again.
+bool opensAsImage(const OpenFile &written)
 {
-    const PictureFile file(QString::fromStdString(nameOfOpenFile(written.descriptor())));
+    const ImageFile file(QString::fromStdString(pathOfOpenFile(written.descriptor())));
     if (!file.problem().isEmpty()) {
         return false;
     }
     try {
-        Magick::Image head = firstPicture();
+        Magick::Image head = firstImage();
         warningOf([&] { head.ping(file.name()); });
         return head.columns() > 0;
     } catch (const std::exception &) {
@@ -73,7 +73,7 @@ bool opensAsPicture(const OpenFile &written)
     }
 }
 
-// A TIFF may have 12 bits, say: more than a byte keeps.
+// A TIFF file may have 12 bits a channel.
 void raiseDepth(Magick::Image &image)
 {
     if (image.depth() > 8) {
@@ -87,8 +87,8 @@ Magick::Image emptyImage()
     return {};
 }
 
-// GraphicsMagick would write its own share of it beside ours.
-void forgetMetadata(Magick::Image &image)
+// Otherwise GraphicsMagick would write some of the metadata a second time.
+void removeMetadata(Magick::Image &image)
 {
     image.profile("*", Magick::Blob());
     image.orientation(Magick::UndefinedOrientation);
@@ -155,8 +155,8 @@ bool LumioImage::setPixels(const void *buffer, bool alpha, bool sixteenBit)
     });
 }
 
-// Only true colour images are written with the depth asked for: GraphicsMagick gives grey and palette images as few or
-// as many bits as it likes. And an image that was read from a JPEG would go into a TIFF with JPEG compression.
+// Only true colour images are written with the requested depth: GraphicsMagick chooses that of grey and palette images
+// itself. And an image that was read from a JPEG would go into a TIFF with JPEG compression.
 bool LumioImage::prepareForWriting()
 {
     return attemptWithPixels([&](Magick::PixelPacket *pixels, std::size_t count) {
@@ -169,28 +169,28 @@ bool LumioImage::prepareForWriting()
 
 bool LumioImage::read(const QString &path)
 {
-    const PictureFile file(path);
+    const ImageFile file(path);
     const bool good = attempt([&] {
         m_problem = file.problem();
         if (m_problem.isEmpty()) {
             readFrom(file, path);
         }
     });
-    nameInMessages(file.descriptor(), path);
+    replaceNameInMessages(file.descriptor(), path);
     return good;
 }
 
-// The library knows an open file by another name than the user does.
-void LumioImage::nameInMessages(int descriptor, const QString &path)
+// GraphicsMagick's messages contain the path of the open file, not the one that the user knows.
+void LumioImage::replaceNameInMessages(int descriptor, const QString &path)
 {
-    const QString name = QString::fromStdString(nameOfOpenFile(descriptor));
+    const QString name = QString::fromStdString(pathOfOpenFile(descriptor));
     m_problem.replace(name, path);
     m_warning.replaceInDetail(name, path);
 }
 
-void LumioImage::readFrom(const PictureFile &file, const QString &path)
+void LumioImage::readFrom(const ImageFile &file, const QString &path)
 {
-    Magick::Image head = firstPicture();
+    Magick::Image head = firstImage();
     warningOf([&] { head.ping(file.name()); });
     if (!file.canHold(std::uint64_t{head.columns()} * head.rows())) {
         m_problem = QStringLiteral("%1 is too small a file for its %2 x %3 pixels")
@@ -198,7 +198,7 @@ void LumioImage::readFrom(const PictureFile &file, const QString &path)
         return;
     }
     const Metadata metadata(file.file(), file.format());
-    Magick::Image fresh = firstPicture();
+    Magick::Image fresh = firstImage();
     m_warning = warningOf([&] { fresh.read(file.name()); });
     if (!fresh.isValid()) {
         m_problem = m_warning.isEmpty() ? QStringLiteral("No picture in %1").arg(path) : m_warning.english();
@@ -209,8 +209,8 @@ void LumioImage::readFrom(const PictureFile &file, const QString &path)
     }
     fresh.fileName(QFile::encodeName(path).toStdString());
     raiseDepth(fresh);
-    forgetMetadata(fresh);
-    turnUpright(fresh, metadata.orientation());
+    removeMetadata(fresh);
+    normaliseOrientation(fresh, metadata.orientation());
     m_image = fresh;
     m_metadata = metadata;
 }
@@ -225,13 +225,13 @@ bool LumioImage::save(const QString &path, int quality)
     }
     ReplacementFile target(path);
     const bool good = attempt([&] { writeTo(target, path, quality); });
-    nameInMessages(target.file().descriptor(), path);
+    replaceNameInMessages(target.file().descriptor(), path);
     return good;
 }
 
 void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quality)
 {
-    const std::optional<PictureFormat> format = formatOfName(path);
+    const std::optional<ImageFormat> format = formatOfName(path);
     if (!format) {
         m_problem = QStringLiteral("The name ends in none of .jpg, .jpeg, .png, .tif and .tiff");
         return;
@@ -242,13 +242,13 @@ void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quali
     }
     m_image.matte(false);
     m_image.quality(static_cast<unsigned>(quality));
-    const std::string name = libraryName(*format, nameOfOpenFile(target.file().descriptor()));
+    const std::string name = magickName(*format, pathOfOpenFile(target.file().descriptor()));
     m_warning = writePixels(name);
     if (!m_metadata.isEmpty()) {
         writeMetadata(target.file(), *format, name);
     }
     m_image.fileName(QFile::encodeName(path).toStdString());
-    if (!endsAsItShould(target.file(), *format)) {
+    if (!hasCompleteEnd(target.file(), *format)) {
         m_problem = QStringLiteral("Not all of the picture could be written");
     } else if (!target.commit()) {
         m_problem = target.problem();
@@ -259,27 +259,27 @@ void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quali
 
 Message LumioImage::writePixels(const std::string &name)
 {
-    // Left by an earlier PNG; the library would add to it and complain on standard error.
+    // Left from writing a PNG before; GraphicsMagick would append to it and report that on standard error.
     MagickLib::SetImageAttribute(m_image.image(), "[png:bit-depth-written]", nullptr);
-    // Left by an earlier JPEG, whose resolution the library makes up.
+    // Left from writing a JPEG before: GraphicsMagick sets a default resolution.
     m_image.image()->x_resolution = 0;
     m_image.image()->y_resolution = 0;
     m_image.resolutionUnits(Magick::UndefinedResolution);
-    // A second look at all of a JPEG would save 3 to 10 hundredths of its size, more of a smooth picture's, and takes
-    // longer than writing itself and almost as much memory as the picture's own.
+    // Optimised coding would save 3 to 10 percent of the size, more for smooth images, but takes longer than writing
+    // itself and almost as much memory as the pixels.
     m_image.defineValue("jpeg", "optimize-coding", "false");
     return warningOf([&] { m_image.write(name); });
 }
 
-// What other programs have said about a picture may keep the library from reading it again: the picture goes first.
-void LumioImage::writeMetadata(const OpenFile &file, PictureFormat format, const std::string &name)
+// Invalid metadata from other programs may prevent GraphicsMagick from reading the file again: then it is left out.
+void LumioImage::writeMetadata(const OpenFile &file, ImageFormat format, const std::string &name)
 {
-    bool allSaid = m_metadata.writeInto(file, format, width(), height());
-    if (!opensAsPicture(file)) {
+    bool complete = m_metadata.writeInto(file, format, width(), height());
+    if (!opensAsImage(file)) {
         writePixels(name);
-        allSaid = false;
+        complete = false;
     }
-    if (!allSaid && m_warning.isEmpty()) {
+    if (!complete && m_warning.isEmpty()) {
         m_warning =
             Message(QT_TRANSLATE_NOOP("Message", "Not all that was said about the picture could be saved with it"));
     }

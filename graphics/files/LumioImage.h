@@ -15,7 +15,7 @@
 namespace grisal::graphics
 {
 
-class PictureFile;
+class ImageFile;
 class ReplacementFile;
 
 /// An image file in memory, as GraphicsMagick holds it. The only class that reads and writes image files.
@@ -38,7 +38,7 @@ public:
     /// Reads a JPEG, PNG or TIFF file, whatever its name, and of several images in it the first, in normalised
     /// orientation, together with its metadata. The image is replaced only when the new one is good. A file that
     /// GraphicsMagick reads with a warning, such as one cut short, counts as good; warning() then contains the warning.
-    /// A file that PictureFile rejects is not passed to GraphicsMagick at all.
+    /// A file that ImageFile rejects is not passed to GraphicsMagick at all.
     bool read(const QString &path);
 
     /// Writes the image, without alpha, as true colour of its own depth, 8 or 16 bits a channel (JPEG always 8), with
@@ -92,12 +92,12 @@ private:
     }
     template <typename Step>
     bool attemptWithPixels(Step step);
-    void readFrom(const PictureFile &file, const QString &path);
+    void readFrom(const ImageFile &file, const QString &path);
     bool prepareForWriting();
     void writeTo(ReplacementFile &target, const QString &path, int quality);
     Message writePixels(const std::string &name);
-    void writeMetadata(const OpenFile &file, PictureFormat format, const std::string &name);
-    void nameInMessages(int descriptor, const QString &path);
+    void writeMetadata(const OpenFile &file, ImageFormat format, const std::string &name);
+    void replaceNameInMessages(int descriptor, const QString &path);
 
     Magick::Image m_image;
     Metadata m_metadata;

@@ -30,17 +30,17 @@ struct Metadata::Contents {
 namespace
 {
 
-// The library tells standard error all that it finds odd.
-void keepQuiet(int /*level*/, const char * /*message*/) {}
+// By default Exiv2 writes its warnings to standard error.
+void discardMessage(int /*level*/, const char * /*message*/) {}
 
-void initializeMetadataLibrary()
+void initializeExiv2()
 {
     static const bool initialized = [] {
-        Exiv2::LogMsg::setHandler(keepQuiet);
+        Exiv2::LogMsg::setHandler(discardMessage);
         return Exiv2::XmpParser::initialize();
     }();
     if (!initialized) {
-        throw std::runtime_error("XMP cannot be had");
+        throw std::runtime_error("XMP cannot be initialised");
     }
 }
 
@@ -49,29 +49,29 @@ const Exiv2::byte *exivBytes(const QByteArray &bytes)
     return reinterpret_cast<const Exiv2::byte *>(bytes.constData());
 }
 
-Exiv2::Image::AutoPtr imageOn(Exiv2::BasicIo::AutoPtr io, PictureFormat format, bool create = false)
+Exiv2::Image::AutoPtr imageOn(Exiv2::BasicIo::AutoPtr io, ImageFormat format, bool create = false)
 {
     switch (format) {
-    case PictureFormat::Jpeg:
+    case ImageFormat::Jpeg:
         return Exiv2::Image::AutoPtr(new Exiv2::JpegImage(io, create));
-    case PictureFormat::Png:
+    case ImageFormat::Png:
         return Exiv2::Image::AutoPtr(new Exiv2::PngImage(io, create));
-    case PictureFormat::Tiff:
+    case ImageFormat::Tiff:
         return Exiv2::Image::AutoPtr(new Exiv2::TiffImage(io, create));
     }
     throw std::invalid_argument("No such format");
 }
 
 /// A small file in memory, which is not copied and has to live as long.
-Exiv2::Image::AutoPtr imageIn(const QByteArray &file, PictureFormat format)
+Exiv2::Image::AutoPtr imageIn(const QByteArray &file, ImageFormat format)
 {
     return imageOn(Exiv2::BasicIo::AutoPtr(new Exiv2::MemIo(exivBytes(file), static_cast<long>(file.size()))), format);
 }
 
 /// The file itself; Exiv2 reads no more of a JPEG file than its metadata, and not all at once.
-Exiv2::Image::AutoPtr imageIn(const OpenFile &file, PictureFormat format)
+Exiv2::Image::AutoPtr imageIn(const OpenFile &file, ImageFormat format)
 {
-    return imageOn(Exiv2::BasicIo::AutoPtr(new Exiv2::FileIo(nameOfOpenFile(file.descriptor()))), format);
+    return imageOn(Exiv2::BasicIo::AutoPtr(new Exiv2::FileIo(pathOfOpenFile(file.descriptor()))), format);
 }
 
 template <typename Data, typename Predicate>
@@ -87,27 +87,27 @@ bool isOneOf(const std::string &text, std::initializer_list<const char *> others
     return std::any_of(others.begin(), others.end(), [&](const char *other) { return text == other; });
 }
 
-bool holds(const std::string &text, const char *part)
+bool contains(const std::string &text, const char *part)
 {
     return text.find(part) != std::string::npos;
 }
 
-/// Whether it is about other pictures than the one, smaller ones mostly: groups besides these are of makers.
-bool isOfOtherPictures(const Exiv2::Exifdatum &datum)
+/// Whether it describes another image than the main one, such as a thumbnail; groups not named here are maker's notes.
+bool describesOtherImages(const Exiv2::Exifdatum &datum)
 {
     const std::string group = datum.groupName();
     return group == "Thumbnail" || group == "MpfInfo" || (group.starts_with("Image") && group != "Image") ||
-           group.starts_with("SubImage") || holds(group, "Preview") || holds(datum.tagName(), "Thumbnail") ||
-           holds(datum.tagName(), "PreviewImage");
+           group.starts_with("SubImage") || contains(group, "Preview") || contains(datum.tagName(), "Thumbnail") ||
+           contains(datum.tagName(), "PreviewImage");
 }
 
-bool isOfFile(const Exiv2::Exifdatum &datum)
+bool describesFile(const Exiv2::Exifdatum &datum)
 {
     return datum.groupName() == "Image" &&
            (describesPixels(datum.tag()) || isOneOf(datum.tagName(), {"XMLPacket", "IPTCNAA", "InterColorProfile"}));
 }
 
-bool isOfFile(const Exiv2::Xmpdatum &datum)
+bool describesFile(const Exiv2::Xmpdatum &datum)
 {
     const std::string key = datum.key();
     return key.starts_with("Xmp.xmp.Thumbnails") ||
@@ -116,8 +116,8 @@ bool isOfFile(const Exiv2::Xmpdatum &datum)
                          "Xmp.tiff.YCbCrPositioning", "Xmp.photoshop.ColorMode"});
 }
 
-/// Takes the orientation out.
-int takeOrientation(Exiv2::ExifData &exif)
+/// Removes the orientation and returns it.
+int extractOrientation(Exiv2::ExifData &exif)
 {
     const auto found = exif.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
     if (found == exif.end()) {
@@ -128,8 +128,8 @@ int takeOrientation(Exiv2::ExifData &exif)
     return orientation >= 1 && orientation <= 8 ? static_cast<int>(orientation) : 1;
 }
 
-/// Whether a colour profile is one for red, green and blue, and not for a device pair.
-bool fitsColours(const QByteArray &profile)
+/// Whether a colour profile is for RGB colours and no device link.
+bool isRgbProfile(const QByteArray &profile)
 {
     constexpr qsizetype headSize = 128;
     return profile.size() >= headSize && profile.mid(36, 4) == "acsp" && profile.mid(16, 4) == "RGB " &&
@@ -140,7 +140,7 @@ QByteArray profileOf(Exiv2::Image &image)
 {
     const Exiv2::DataBuf *profile = image.iccProfile();
     QByteArray bytes(reinterpret_cast<const char *>(profile->pData_), profile->size_);
-    return fitsColours(bytes) ? bytes : QByteArray();
+    return isRgbProfile(bytes) ? bytes : QByteArray();
 }
 
 template <typename Data, typename Value>
@@ -175,18 +175,18 @@ void setSize(Exiv2::XmpData &xmp, int width, int height)
     }
 }
 
-/// Whether a text of XMP fits into the one segment of a JPEG file that it may take.
+/// Whether XMP fits into the single segment of a JPEG file that it may occupy.
 bool fitsSegment(const Exiv2::XmpData &xmp)
 {
-    constexpr std::size_t most = 65'000;
+    constexpr std::size_t maxSize = 65'000;
     std::string text;
-    return Exiv2::XmpParser::encode(text, xmp) == 0 && text.size() <= most;
+    return Exiv2::XmpParser::encode(text, xmp) == 0 && text.size() <= maxSize;
 }
 
-/// `file` is what emptyPicture() returns, and has to live as long.
-Exiv2::Image::AutoPtr emptyImage(const QByteArray &file, PictureFormat format)
+/// `file` is what emptyImageFile() returns, and has to live as long.
+Exiv2::Image::AutoPtr emptyImage(const QByteArray &file, ImageFormat format)
 {
-    Exiv2::Image::AutoPtr image = format == PictureFormat::Tiff
+    Exiv2::Image::AutoPtr image = format == ImageFormat::Tiff
                                       ? imageOn(Exiv2::BasicIo::AutoPtr(new Exiv2::MemIo), format, true)
                                       : imageIn(file, format);
     image->setByteOrder(Exiv2::littleEndian);
@@ -215,13 +215,13 @@ QByteArray profileChunk(const QByteArray &profile)
 
 } // namespace
 
-Metadata::Metadata(const OpenFile &file, PictureFormat format)
+Metadata::Metadata(const OpenFile &file, ImageFormat format)
 {
     try {
-        initializeMetadataLibrary();
+        initializeExiv2();
         MetadataBlocks blocks;
         Exiv2::Image::AutoPtr image;
-        if (format == PictureFormat::Jpeg) {
+        if (format == ImageFormat::Jpeg) {
             image = imageIn(file, format);
         } else {
             blocks = extractMetadata(file, format);
@@ -238,9 +238,9 @@ Metadata::Metadata(const OpenFile &file, PictureFormat format)
         contents->iptc = image->iptcData();
         contents->xmp = image->xmpData();
         contents->profile = profileOf(*image);
-        m_orientation = takeOrientation(contents->exif);
-        eraseIf(contents->exif, [](const auto &datum) { return isOfFile(datum) || isOfOtherPictures(datum); });
-        eraseIf(contents->xmp, [](const auto &datum) { return isOfFile(datum); });
+        m_orientation = extractOrientation(contents->exif);
+        eraseIf(contents->exif, [](const auto &datum) { return describesFile(datum) || describesOtherImages(datum); });
+        eraseIf(contents->xmp, [](const auto &datum) { return describesFile(datum); });
         if (!contents->isEmpty()) {
             m_contents = std::move(contents);
         }
@@ -249,12 +249,12 @@ Metadata::Metadata(const OpenFile &file, PictureFormat format)
     }
 }
 
-// The library would put Exif into a text, where few look for it, and a profile into a chunk without a name, which many
-// refuse.
+// Exiv2 would write Exif as a text chunk, which few programs read, and the profile into a chunk without a name, which
+// many programs reject.
 QByteArray Metadata::pngOf(const Contents &contents)
 {
-    const QByteArray empty = emptyPicture(PictureFormat::Png);
-    const Exiv2::Image::AutoPtr image = emptyImage(empty, PictureFormat::Png);
+    const QByteArray empty = emptyImageFile(ImageFormat::Png);
+    const Exiv2::Image::AutoPtr image = emptyImage(empty, ImageFormat::Png);
     image->setIptcData(contents.iptc);
     image->setXmpData(contents.xmp);
     const QByteArray end = pngChunk("IEND", {});
@@ -264,12 +264,12 @@ QByteArray Metadata::pngOf(const Contents &contents)
     return file + end;
 }
 
-QByteArray Metadata::fileOf(const Contents &contents, PictureFormat format)
+QByteArray Metadata::fileOf(const Contents &contents, ImageFormat format)
 {
-    if (format == PictureFormat::Png) {
+    if (format == ImageFormat::Png) {
         return pngOf(contents);
     }
-    const QByteArray empty = emptyPicture(format);
+    const QByteArray empty = emptyImageFile(format);
     const Exiv2::Image::AutoPtr image = emptyImage(empty, format);
     image->setExifData(contents.exif);
     image->setIptcData(contents.iptc);
@@ -281,7 +281,7 @@ QByteArray Metadata::fileOf(const Contents &contents, PictureFormat format)
     return writtenBy(*image);
 }
 
-bool Metadata::writeInto(const OpenFile &file, PictureFormat format, int width, int height) const
+bool Metadata::writeInto(const OpenFile &file, ImageFormat format, int width, int height) const
 {
     if (!m_contents) {
         return true;
@@ -292,7 +292,7 @@ bool Metadata::writeInto(const OpenFile &file, PictureFormat format, int width, 
         Contents contents = *m_contents;
         setSize(contents.exif, width, height);
         setSize(contents.xmp, width, height);
-        if (format == PictureFormat::Jpeg && !fitsSegment(contents.xmp)) {
+        if (format == ImageFormat::Jpeg && !fitsSegment(contents.xmp)) {
             contents.xmp.clear();
             complete = false;
         }

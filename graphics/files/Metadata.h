@@ -1,51 +1,49 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/files/ImageFormat.h"
 #include "graphics/files/OpenFile.h"
-#include "graphics/files/PictureFormat.h"
 
 #include <memory>
 
 namespace grisal::graphics
 {
 
-/// What an image file says about its picture besides the pixels: Exif with the maker's note, IPTC, XMP, and the colour
-/// profile if it is one for red, green and blue. What the file says about how its pixels are kept, and thumbnails, do
-/// not belong to it.
+/// The metadata of an image file: Exif with the maker's note, IPTC, XMP, and the colour profile if it is an RGB
+/// profile. Entries that describe the encoding of the pixels, and thumbnails, are not included.
 ///
-/// Copies share their contents, which never change. To be used from one thread. Nothing here throws, unless told, nor
-/// writes to standard error.
+/// Copies share their contents, which are immutable. For use from one thread. Functions do not throw unless documented,
+/// and write nothing to standard error.
 class Metadata
 {
 public:
-    /// Says nothing.
+    /// No metadata.
     Metadata() = default;
 
-    /// What a picture file says. Only the file itself is looked at.
-    Metadata(const OpenFile &file, PictureFormat format);
+    /// Reads the metadata of an image file.
+    Metadata(const OpenFile &file, ImageFormat format);
 
-    /// Whether there is nothing to say.
     bool isEmpty() const { return m_contents == nullptr; }
 
-    /// Whether all of it was understood, and not too large.
+    /// Whether all metadata of the file could be decoded and was within the limits.
     bool isComplete() const { return m_complete; }
 
-    /// How the pixels of the file that was read are turned, 1 to 8 as turnUpright() has it; 1 where the file does not
-    /// tell, or something impossible.
+    /// The orientation of the pixels in the file that was read, 1 to 8 as in normaliseOrientation(); 1 where it is
+    /// absent or invalid.
     int orientation() const { return m_orientation; }
 
-    /// Puts all of it into a picture file of a format that was just written and has nothing of the kind, with the size
-    /// of its picture, which stands upright. False where not all of it got in, with a file that is whole all the same;
-    /// throws std::exception where the file is damaged.
-    bool writeInto(const OpenFile &file, PictureFormat format, int width, int height) const;
+    /// Inserts the metadata into an image file that was just written without any, with the size of its image and
+    /// orientation 1. Returns false where not all of it could be inserted and the file is valid all the same; throws
+    /// std::exception where the file is damaged.
+    bool writeInto(const OpenFile &file, ImageFormat format, int width, int height) const;
 
 private:
     struct Contents;
 
     static QByteArray pngOf(const Contents &contents);
-    static QByteArray fileOf(const Contents &contents, PictureFormat format);
+    static QByteArray fileOf(const Contents &contents, ImageFormat format);
 
-    std::shared_ptr<const Contents> m_contents; ///< null where there is nothing to say
+    std::shared_ptr<const Contents> m_contents; ///< null if there is no metadata
     int m_orientation = 1;
     bool m_complete = true;
 };

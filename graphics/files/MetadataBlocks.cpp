@@ -15,13 +15,13 @@ namespace grisal::graphics
 namespace
 {
 
-constexpr qsizetype mostMetadata = 16 << 20;
+constexpr qsizetype maxMetadata = 16 << 20;
 
-// A JPEG file is a row of segments: two bytes of marker, the length of the rest, the contents.
+// A JPEG file consists of segments: two bytes of marker, the length of the rest, the contents.
 constexpr QByteArrayView jpegStart{"\xff\xd8"};
 constexpr QByteArrayView jpegEnd{"\xff\xd9"};
 
-constexpr std::uint32_t largestExif = 1 << 19;
+constexpr std::uint32_t maxExif = 1 << 19;
 /// The signature and the first chunk, which contains the size of the image.
 constexpr qsizetype pngStartSize = signatureLength + pngChunkFrameSize + 13;
 
@@ -32,11 +32,11 @@ bool insertJpegMetadata(const OpenFile &file, QByteArrayView metadata)
     if (head.size() < 6 || metadata.size() < frame) {
         return false;
     }
-    // What makes the file a JFIF file has to come first.
+    // The JFIF segment has to be the first one.
     const bool isJfif = head.mid(2, 2) == "\xff\xe0";
-    const std::uint64_t place =
+    const std::uint64_t offset =
         isJfif ? std::uint64_t{4} + qFromBigEndian<std::uint16_t>(head.constData() + 4) : jpegStart.size();
-    return file.insert(place, metadata.sliced(jpegStart.size(), metadata.size() - frame));
+    return file.insert(offset, metadata.sliced(jpegStart.size(), metadata.size() - frame));
 }
 
 bool isMetadataChunk(const PngChunk &chunk)
@@ -51,9 +51,9 @@ MetadataBlocks extractPngMetadata(const OpenFile &file)
     MetadataBlocks blocks{file.bytesAt(0, pngStartSize)};
     visitPngChunks(file, [&](const PngChunk &chunk) {
         if (isMetadataChunk(chunk)) {
-            const std::uint64_t most = chunk.kind == "eXIf" ? largestExif : mostMetadata;
+            const std::uint64_t most = chunk.kind == "eXIf" ? maxExif : maxMetadata;
             const bool fits =
-                chunk.size() + static_cast<std::uint64_t>(blocks.file.size()) <= mostMetadata && chunk.size() <= most;
+                chunk.size() + static_cast<std::uint64_t>(blocks.file.size()) <= maxMetadata && chunk.size() <= most;
             blocks.file += fits ? file.bytesAt(chunk.offset, static_cast<qsizetype>(chunk.size())) : QByteArray();
             blocks.complete = blocks.complete && fits;
         }
@@ -72,42 +72,42 @@ bool insertPngMetadata(const OpenFile &file, QByteArrayView metadata)
 
 } // namespace
 
-MetadataBlocks extractMetadata(const OpenFile &file, PictureFormat format)
+MetadataBlocks extractMetadata(const OpenFile &file, ImageFormat format)
 {
     switch (format) {
-    case PictureFormat::Jpeg:
+    case ImageFormat::Jpeg:
         break;
-    case PictureFormat::Png:
+    case ImageFormat::Png:
         return extractPngMetadata(file);
-    case PictureFormat::Tiff:
+    case ImageFormat::Tiff:
         return extractTiffMetadata(file);
     }
     return {};
 }
 
-bool insertMetadata(const OpenFile &file, PictureFormat format, const QByteArray &metadata)
+bool insertMetadata(const OpenFile &file, ImageFormat format, const QByteArray &metadata)
 {
     switch (format) {
-    case PictureFormat::Jpeg:
+    case ImageFormat::Jpeg:
         return insertJpegMetadata(file, metadata);
-    case PictureFormat::Png:
+    case ImageFormat::Png:
         return insertPngMetadata(file, metadata);
-    case PictureFormat::Tiff:
+    case ImageFormat::Tiff:
         return insertTiffMetadata(file, metadata);
     }
     return false;
 }
 
-QByteArray emptyPicture(PictureFormat format)
+QByteArray emptyImageFile(ImageFormat format)
 {
     switch (format) {
-    case PictureFormat::Jpeg:
+    case ImageFormat::Jpeg:
         return jpegStart.toByteArray() + jpegEnd.toByteArray();
-    case PictureFormat::Png:
+    case ImageFormat::Png:
         // One pixel, 8 bits of grey.
         return QByteArray("\x89PNG\r\n\x1a\n") + pngChunk("IHDR", QByteArray("\0\0\0\1\0\0\0\1\x08\0\0\0\0", 13)) +
                pngChunk("IEND", {});
-    case PictureFormat::Tiff:
+    case ImageFormat::Tiff:
         return {};
     }
     return {};

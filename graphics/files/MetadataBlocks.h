@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/files/ImageFormat.h"
 #include "graphics/files/OpenFile.h"
-#include "graphics/files/PictureFormat.h"
 
 #include <QByteArray>
 
@@ -11,21 +11,21 @@ namespace grisal::graphics
 
 /// The metadata of a PNG or TIFF file: a small file of the same format that contains nothing else.
 struct MetadataBlocks {
-    QByteArray file; ///< empty where there is none to be found
-    /// False where something was left out for its size: what Exiv2 makes of it has to fit into the memory, too.
+    QByteArray file; ///< empty if there is no metadata
+    /// False where metadata was left out for its size: it has to fit into the memory once more, decoded by Exiv2.
     bool complete = true;
 };
 
 /// Extracts the metadata of a PNG or TIFF file. Nothing else of the file is read. JPEG files need no extraction: Exiv2
 /// itself reads no more of them than that.
-MetadataBlocks extractMetadata(const OpenFile &file, PictureFormat format);
+MetadataBlocks extractMetadata(const OpenFile &file, ImageFormat format);
 
-/// Puts what such a small file holds into a picture file that was just written and holds nothing of that kind. The
-/// pixels are moved within the file, and nothing but a block of them is held. False, with the file as it was, where it
-/// does not hold what it should or where there is no room; throws where the file is damaged.
-bool insertMetadata(const OpenFile &file, PictureFormat format, const QByteArray &metadata);
+/// Inserts the metadata of such a small file into an image file that was just written and has none. The pixels are
+/// moved within the file, block by block. Returns false and leaves the file unchanged where it is invalid or the disk
+/// has no space; throws where the file is damaged afterwards.
+bool insertMetadata(const OpenFile &file, ImageFormat format, const QByteArray &metadata);
 
-/// The smallest file of a format, to be filled by others with metadata. A TIFF file is made without one.
-QByteArray emptyPicture(PictureFormat format);
+/// The smallest file of a format, for Exiv2 to add metadata to. Empty for TIFF, which Exiv2 creates itself.
+QByteArray emptyImageFile(ImageFormat format);
 
 } // namespace grisal::graphics

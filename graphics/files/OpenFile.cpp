@@ -15,7 +15,7 @@ namespace grisal::graphics
 namespace
 {
 
-/// What is moved at once: large enough for the drive, small enough for the memory.
+/// Bytes moved at once.
 constexpr std::uint64_t blockSize = 1 << 22;
 
 } // namespace
@@ -34,26 +34,26 @@ std::uint64_t OpenFile::size() const
     return fstat(m_descriptor, &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
 }
 
-QByteArray OpenFile::bytesAt(std::uint64_t place, qsizetype count) const
+QByteArray OpenFile::bytesAt(std::uint64_t offset, qsizetype count) const
 {
     QByteArray bytes(count, '\0');
     qsizetype done = 0;
     ssize_t got = 1;
     while (done < count && got > 0) {
         got = pread(m_descriptor, bytes.data() + done, static_cast<std::size_t>(count - done),
-                    static_cast<off_t>(place) + done);
+                    static_cast<off_t>(offset) + done);
         done += std::max<ssize_t>(got, 0);
     }
     bytes.truncate(done);
     return bytes;
 }
 
-void OpenFile::overwrite(std::uint64_t place, QByteArrayView bytes) const
+void OpenFile::overwrite(std::uint64_t offset, QByteArrayView bytes) const
 {
     qsizetype done = 0;
     while (done < bytes.size()) {
         const ssize_t written = pwrite(m_descriptor, bytes.data() + done, static_cast<std::size_t>(bytes.size() - done),
-                                       static_cast<off_t>(place) + done);
+                                       static_cast<off_t>(offset) + done);
         if (written <= 0) {
             throw std::system_error(errno, std::generic_category(), "The file cannot be completed");
         }
@@ -61,8 +61,8 @@ void OpenFile::overwrite(std::uint64_t place, QByteArrayView bytes) const
     }
 }
 
-// The last block moves first, since each goes where the one behind it was.
-bool OpenFile::insert(std::uint64_t place, QByteArrayView bytes) const
+// The last block is moved first, since each block overwrites the one behind it.
+bool OpenFile::insert(std::uint64_t offset, QByteArrayView bytes) const
 {
     const std::uint64_t end = size();
     if (posix_fallocate(m_descriptor, static_cast<off_t>(end), bytes.size()) != 0) {
@@ -70,8 +70,8 @@ bool OpenFile::insert(std::uint64_t place, QByteArrayView bytes) const
         return false;
     }
     const auto distance = static_cast<std::uint64_t>(bytes.size());
-    for (std::uint64_t behind = end; behind > place;) {
-        const std::uint64_t length = std::min(blockSize, behind - place);
+    for (std::uint64_t behind = end; behind > offset;) {
+        const std::uint64_t length = std::min(blockSize, behind - offset);
         behind -= length;
         const QByteArray block = bytesAt(behind, static_cast<qsizetype>(length));
         if (block.size() != static_cast<qsizetype>(length)) {
@@ -79,7 +79,7 @@ bool OpenFile::insert(std::uint64_t place, QByteArrayView bytes) const
         }
         overwrite(behind + distance, block);
     }
-    overwrite(place, bytes);
+    overwrite(offset, bytes);
     return true;
 }
 

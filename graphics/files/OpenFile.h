@@ -14,7 +14,7 @@ namespace grisal::graphics
 class OpenFile
 {
 public:
-    /// Takes over a descriptor; a negative one stands for no file.
+    /// Takes ownership of a descriptor; a negative one means no file.
     explicit OpenFile(int descriptor = -1) : m_descriptor(descriptor) {}
     OpenFile(OpenFile &&other) noexcept : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
     OpenFile &operator=(OpenFile &&other) noexcept
@@ -29,21 +29,21 @@ public:
     bool isOpen() const { return m_descriptor >= 0; }
     int descriptor() const { return m_descriptor; }
 
-    /// Leaves the descriptor open for somebody else to close.
+    /// Gives up ownership: the descriptor stays open.
     void release() { m_descriptor = -1; }
 
-    /// In bytes; 0 where it cannot be told.
+    /// In bytes; 0 if it is unknown.
     std::uint64_t size() const;
 
-    /// `count` bytes from a place in the file, or as many as there are.
-    QByteArray bytesAt(std::uint64_t place, qsizetype count) const;
+    /// `count` bytes from an offset in the file, or as many as there are.
+    QByteArray bytesAt(std::uint64_t offset, qsizetype count) const;
 
-    /// Puts bytes between those before a place and those from there on. Where there is no room for them, returns false
-    /// and leaves the file as it is; throws where it fails later and leaves it damaged.
-    bool insert(std::uint64_t place, QByteArrayView bytes) const;
+    /// Inserts bytes at an offset. Returns false and leaves the file unchanged where the disk has no space for them;
+    /// throws where it fails later and leaves the file damaged.
+    bool insert(std::uint64_t offset, QByteArrayView bytes) const;
 
-    /// Writes over what is at a place. Throws where it fails.
-    void overwrite(std::uint64_t place, QByteArrayView bytes) const;
+    /// Overwrites the bytes at an offset. Throws where it fails.
+    void overwrite(std::uint64_t offset, QByteArrayView bytes) const;
 
 private:
     int m_descriptor;

@@ -4,7 +4,7 @@
 namespace grisal::graphics
 {
 
-void turnUpright(Magick::Image &image, int orientation)
+void normaliseOrientation(Magick::Image &image, int orientation)
 {
     constexpr double quarter = 90;
     switch (orientation) {

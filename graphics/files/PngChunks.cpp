@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/PngChunks.h"
 
-#include "graphics/files/PictureFormat.h"
+#include "graphics/files/ImageFormat.h"
 
 #include <QtEndian>
 

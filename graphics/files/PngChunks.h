@@ -18,7 +18,7 @@ constexpr int pngChunkFrameSize = 12;
 /// A chunk of a PNG file.
 struct PngChunk {
     std::uint64_t offset = 0; ///< from the start of the file
-    std::uint32_t length = 0; ///< of the contents, as the file states it
+    std::uint32_t length = 0; ///< of the contents, as declared in the file
     QByteArray kind;          ///< four letters
     QByteArray start;         ///< the first bytes of the contents, enough for the keywords of metadata
 

@@ -16,9 +16,9 @@ namespace grisal::graphics
 void copySamples8Out(const Magick::PixelPacket *pixels, std::size_t count, std::uint8_t *target, bool alpha);
 void copySamples16Out(const Magick::PixelPacket *pixels, std::size_t count, std::uint16_t *target, bool alpha);
 
-/// An 8-bit sample b becomes b << 8. The opacity is the fourth component as it is, without one 255.
+/// An 8-bit sample b becomes b << 8. The opacity is the fourth component unscaled, or 255 without alpha.
 void copySamples8In(const std::uint8_t *source, std::size_t count, Magick::PixelPacket *pixels, bool alpha);
-/// The opacity is the fourth component, without one 65535.
+/// The opacity is the fourth component, or 65535 without alpha.
 void copySamples16In(const std::uint16_t *source, std::size_t count, Magick::PixelPacket *pixels, bool alpha);
 
 /// Makes every colour sample with the high byte b the value b * 257, which GraphicsMagick writes as b to files with 8

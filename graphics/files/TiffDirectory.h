@@ -13,7 +13,7 @@
 namespace grisal::graphics
 {
 
-/// What the tags of TIFF directories are called that somebody has to know here.
+/// Tags of TIFF directories that are handled here.
 enum class TiffTag : std::uint16_t {
     Orientation = 274,
     StripOffsets = 273,
@@ -23,15 +23,15 @@ enum class TiffTag : std::uint16_t {
     InteroperabilityDirectory = 40965,
 };
 
-/// Whether a tag of a picture's own directory tells how its pixels are kept, or where, in the very file: of no use in
-/// another one.
+/// Whether a tag of the first directory describes the encoding or the location of the pixels in the file itself, and
+/// therefore is no metadata.
 bool describesPixels(std::uint16_t tag);
 
-/// The bytes of numbers in a TIFF file, whose first two letters tell their order.
-class TiffOrder
+/// Decodes and encodes numbers in the byte order of a TIFF file, which its first two letters define.
+class TiffByteOrder
 {
 public:
-    explicit TiffOrder(bool bigEndian) : m_bigEndian(bigEndian) {}
+    explicit TiffByteOrder(bool bigEndian) : m_bigEndian(bigEndian) {}
 
     template <typename Number>
     Number get(const char *bytes) const
@@ -55,37 +55,37 @@ private:
     bool m_bigEndian;
 };
 
-/// A line of a directory: the tag, the type of its values, how many there are, and then the values, or their place in
-/// the file where four bytes do not hold them.
+/// An entry of a directory: the tag, the type and the number of its values, and the values themselves or, where they
+/// take more than four bytes, their offset in the file.
 struct TiffEntry {
     std::uint16_t tag = 0;
     std::uint16_t type = 0;
     std::uint32_t count = 0;
-    QByteArray content;     ///< four bytes
-    std::uint32_t line = 0; ///< where it was found, from the start of the directory
+    QByteArray content;       ///< four bytes
+    std::uint32_t offset = 0; ///< of the entry, from the start of the directory
 
-    /// The size of the values in bytes; 0 where the type is none that is known.
+    /// The size of the values in bytes; 0 for an unknown type.
     std::uint64_t size() const;
-    bool isInPlace() const { return size() <= 4; }
+    bool isInline() const { return size() <= 4; }
 };
 
 constexpr int tiffHeaderSize = 8;
 
-/// The order of a TIFF file that starts like this; none where it is no TIFF file, or one of the big kind.
-std::optional<TiffOrder> tiffOrderOf(QByteArrayView start);
+/// The byte order of a file that starts like this; none if it is no TIFF file, or a BigTIFF file.
+std::optional<TiffByteOrder> tiffByteOrderOf(QByteArrayView start);
 
-/// Directories of more entries are absurd.
-constexpr int mostTiffEntries = 256;
+/// Directories of more entries are invalid.
+constexpr int maxTiffEntries = 256;
 constexpr int tiffEntrySize = 12;
-constexpr int largestTiffDirectory = 2 + mostTiffEntries * tiffEntrySize;
+constexpr int maxTiffDirectorySize = 2 + maxTiffEntries * tiffEntrySize;
 
-/// The entries of the directory that some bytes of a file start with, without those of unknown types; empty where it is
-/// absurd.
-std::vector<TiffEntry> tiffDirectory(const QByteArray &bytes, TiffOrder order);
+/// The entries of the directory at the start of `bytes`, without those of unknown types; those that are complete where
+/// `bytes` are cut short, none where the directory is invalid.
+std::vector<TiffEntry> decodeDirectory(const QByteArray &bytes, TiffByteOrder order);
 
-QByteArray tiffLine(const TiffEntry &entry, TiffOrder order);
+QByteArray encodeEntry(const TiffEntry &entry, TiffByteOrder order);
 
-/// The bytes of a directory that no other one follows.
-QByteArray tiffBytes(const std::vector<TiffEntry> &directory, TiffOrder order);
+/// A directory without a next one.
+QByteArray encodeDirectory(const std::vector<TiffEntry> &directory, TiffByteOrder order);
 
 } // namespace grisal::graphics

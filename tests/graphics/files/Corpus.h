@@ -11,11 +11,11 @@ namespace grisal::test
 /// are too many and too large to come with the sources: a test that needs them is skipped where they are missing.
 QString corpusFolder();
 
-/// The real pictures that the image library is known to read, if with a warning.
+/// The real images that GraphicsMagick is known to read, some with a warning.
 QStringList realPictures();
 
 /// The hostile files, those of the folder and those that its own program writes into `folder`: broken and malicious
-/// files, pipes, sockets, links to devices, files with odd names.
+/// files, pipes, sockets, links to devices, files with unusual names.
 QStringList hostileFiles(const QString &folder);
 
 } // namespace grisal::test

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Hundreds of files from elsewhere, and made to do harm, each read in a process of its own.
+// Hundreds of real and hostile files, each read in a process of its own.
 #include "graphics/files/ImageLibrary.h"
 #include "graphics/files/LumioImage.h"
 #include "tests/graphics/files/Corpus.h"
@@ -28,7 +28,7 @@ const char *connectionLog = nullptr;
 
 } // namespace
 
-/// Stands in for the system's: whatever tries to reach another program or machine leaves a line.
+/// Replaces the system's function and records each attempt to connect to another program or machine.
 extern "C" int connect(int, const sockaddr *, socklen_t) noexcept
 {
     if (connectionLog != nullptr) {
@@ -48,7 +48,7 @@ using grisal::graphics::LumioImage;
 
 enum Outcome { Refused = 0, Opened = 10, Incomplete = 11 };
 
-/// What became of a process that read one file.
+/// The result of a process that read one file.
 struct Reading {
     int status = 0; ///< as wait() tells it
     qint64 milliseconds = 0;
@@ -59,7 +59,7 @@ struct Reading {
     bool refused() const { return ended() && WEXITSTATUS(status) == Refused; }
 };
 
-/// Reads a file and looks at everything that a picture has.
+/// Reads a file and calls every function that reads the image.
 Outcome look(const QString &path)
 {
     LumioImage image;
@@ -116,7 +116,8 @@ protected:
         }
     }
 
-    /// Puts programs of the names that the image library knows in front of the path: they only tell that they ran.
+    /// Puts stubs of the programs that GraphicsMagick may start in front of the path; they record that they were
+    /// started.
     void putStubsOnPath()
     {
         m_pathBefore = qgetenv("PATH");
@@ -155,7 +156,7 @@ private:
     QString m_folderBefore;
 };
 
-TEST_F(Corpus, TheStubsWouldTell)
+TEST_F(Corpus, StubsRecordCallsAndConnections)
 {
     EXPECT_EQ(inAProcess([] { return std::system("gs -dSAFER"); }).status, 0);
     EXPECT_TRUE(startedPrograms().contains("gs -dSAFER"));
@@ -163,7 +164,7 @@ TEST_F(Corpus, TheStubsWouldTell)
     EXPECT_TRUE(connectionsWereMade());
 }
 
-TEST_F(Corpus, HostileFilesEndSoonAndDoNothing)
+TEST_F(Corpus, HostileFilesAreReadOrRejectedQuicklyWithoutSideEffects)
 {
     constexpr int mostSeconds = 10;
     constexpr long mostKilobytes = 1024 * 1024;
@@ -186,7 +187,7 @@ TEST_F(Corpus, HostileFilesEndSoonAndDoNothing)
     std::cout << files.size() << " files, the slowest " << slowest << " ms, the largest " << largest / 1024 << " MiB\n";
 }
 
-TEST_F(Corpus, FilesWithOddNamesOpen)
+TEST_F(Corpus, FilesWithUnusualNamesOpen)
 {
     int odd = 0;
     for (const QString &path : hostileFiles(hostile.path())) {
@@ -198,7 +199,7 @@ TEST_F(Corpus, FilesWithOddNamesOpen)
     EXPECT_GT(odd, 20);
 }
 
-TEST_F(Corpus, RealPicturesOpen)
+TEST_F(Corpus, RealImagesOpen)
 {
     const QStringList files = realPictures();
     ASSERT_GT(files.size(), 100);

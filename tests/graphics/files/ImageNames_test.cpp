@@ -10,13 +10,13 @@ using namespace grisal::graphics;
 namespace
 {
 
-TEST(ImageNamesTest, KnowsTwoColorSpaces)
+TEST(ImageNamesTest, NamesTwoColorSpaces)
 {
     EXPECT_STREQ(colorSpaceName(1), "RGBColorspace");
     EXPECT_STREQ(colorSpaceName(2), "GRAYColorspace");
 }
 
-TEST(ImageNamesTest, KnowsFourIntents)
+TEST(ImageNamesTest, NamesFourIntents)
 {
     EXPECT_STREQ(renderingIntentName(1), "SaturationIntent");
     EXPECT_STREQ(renderingIntentName(2), "PerceptualIntent");
@@ -24,7 +24,7 @@ TEST(ImageNamesTest, KnowsFourIntents)
     EXPECT_STREQ(renderingIntentName(4), "RelativeIntent");
 }
 
-TEST(ImageNamesTest, KnowsTenTypes)
+TEST(ImageNamesTest, NamesTenTypes)
 {
     EXPECT_STREQ(imageTypeName(1), "BilevelType");
     EXPECT_STREQ(imageTypeName(2), "GrayscaleType");
@@ -38,7 +38,7 @@ TEST(ImageNamesTest, KnowsTenTypes)
     EXPECT_STREQ(imageTypeName(10), "OptimizeType");
 }
 
-// The library knows more colour spaces than the log: CMYK (10) and sRGB (11) are undefined there.
+// GraphicsMagick has more colour spaces than the log: CMYK (10) and sRGB (11) are undefined there.
 TEST(ImageNamesTest, CallsEveryOtherColorSpaceUndefined)
 {
     for (const int value : {INT_MIN, -1, 0, 3, 10, 11, INT_MAX}) {

@@ -19,7 +19,7 @@ namespace
 {
 
 #ifdef __SANITIZE_ADDRESS__
-/// The image library keeps what it had ready for a file that it cannot write.
+/// GraphicsMagick leaks memory when it cannot write a file.
 using LeakyLibrary = __lsan::ScopedDisabler;
 #else
 struct LeakyLibrary {
@@ -27,8 +27,8 @@ struct LeakyLibrary {
 };
 #endif
 
-// A limit of the file size stands for a full disk.
-TEST(LumioImageFullDisk, LeavesTheOldFile)
+// A limit of the file size simulates a full disk.
+TEST(LumioImageFullDisk, KeepsTheOldFile)
 {
     Bytes noise(std::size_t{100} * 100 * 3);
     std::uint32_t state = 1;

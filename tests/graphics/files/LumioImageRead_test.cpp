@@ -45,7 +45,7 @@ struct LumioImageReadTest : testing::Test {
         return path(name);
     }
 
-    /// A JPEG of 64 x 48 pixels of which the first half of the file is left.
+    /// A JPEG file of 64 x 48 pixels, truncated to its first half.
     QString cutJpeg() const
     {
         const QString whole = written(painted(64, 48, 8, noise), "whole.jpg");
@@ -54,12 +54,12 @@ struct LumioImageReadTest : testing::Test {
         return path("cut.jpg");
     }
 
-    /// Holds a picture of one pixel, to be seen whether it stays.
+    /// Contains an image of one pixel before each test.
     void hold() { image = pictureOf(Bytes{11, 22, 33}, 1, 1); }
     bool isHeld() { return image.width() == 1 && image.height() == 1 && bytesOf(image) == Bytes{11, 22, 33}; }
 };
 
-TEST_F(LumioImageReadTest, ReadsAPicture)
+TEST_F(LumioImageReadTest, ReadsAnImage)
 {
     const QString file = written(painted(6, 4, 8, fewColours), "a.png");
     ASSERT_TRUE(image.read(file));
@@ -70,7 +70,7 @@ TEST_F(LumioImageReadTest, ReadsAPicture)
     EXPECT_TRUE(image.warning().isEmpty());
 }
 
-TEST_F(LumioImageReadTest, RefusesAMissingFileAndKeepsThePicture)
+TEST_F(LumioImageReadTest, FailsForAMissingFileAndKeepsTheImage)
 {
     hold();
     EXPECT_FALSE(image.read(path("missing.png")));
@@ -78,35 +78,35 @@ TEST_F(LumioImageReadTest, RefusesAMissingFileAndKeepsThePicture)
     EXPECT_TRUE(isHeld());
 }
 
-TEST_F(LumioImageReadTest, RefusesAnEmptyPath)
+TEST_F(LumioImageReadTest, FailsForAnEmptyPath)
 {
     EXPECT_FALSE(image.read(QString()));
     EXPECT_TRUE(image.isNull());
 }
 
-// The library would make a picture of such names without any file.
-TEST_F(LumioImageReadTest, KnowsNoBuiltInPictures)
+// GraphicsMagick creates images for such names without any file.
+TEST_F(LumioImageReadTest, FailsForNamesOfBuiltInImages)
 {
     EXPECT_FALSE(image.read("xc:red"));
     EXPECT_FALSE(image.read("logo:"));
     EXPECT_TRUE(image.isNull());
 }
 
-TEST_F(LumioImageReadTest, RefusesADirectory)
+TEST_F(LumioImageReadTest, FailsForADirectory)
 {
     hold();
     EXPECT_FALSE(image.read(directory.path()));
     EXPECT_TRUE(isHeld());
 }
 
-TEST_F(LumioImageReadTest, DoesNotWaitForAPipe)
+TEST_F(LumioImageReadTest, DoesNotBlockOnAPipe)
 {
     const QString pipe = path("pipe.jpg");
     ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
     EXPECT_FALSE(image.read(pipe));
 }
 
-TEST_F(LumioImageReadTest, RefusesUnreadableContentsAndKeepsThePicture)
+TEST_F(LumioImageReadTest, FailsForInvalidContentsAndKeepsTheImage)
 {
     hold();
     for (const QByteArray &contents : {QByteArray(), QByteArray("no picture"), QByteArray(5000, '\0')}) {
@@ -119,7 +119,7 @@ TEST_F(LumioImageReadTest, RefusesUnreadableContentsAndKeepsThePicture)
     }
 }
 
-TEST_F(LumioImageReadTest, RefusesAPngCutShort)
+TEST_F(LumioImageReadTest, FailsForATruncatedPng)
 {
     hold();
     const QByteArray contents = contentsOf(written(painted(64, 48, 8, noise), "whole.png"));
@@ -128,7 +128,7 @@ TEST_F(LumioImageReadTest, RefusesAPngCutShort)
     EXPECT_TRUE(isHeld());
 }
 
-TEST_F(LumioImageReadTest, OpensAJpegCutShortWithAWarning)
+TEST_F(LumioImageReadTest, OpensATruncatedJpegWithAWarning)
 {
     ASSERT_TRUE(image.read(cutJpeg()));
     EXPECT_EQ(image.width(), 64);
@@ -137,7 +137,7 @@ TEST_F(LumioImageReadTest, OpensAJpegCutShortWithAWarning)
     EXPECT_TRUE(image.problem().isEmpty());
 }
 
-TEST_F(LumioImageReadTest, SpeaksOfFilesByTheirNames)
+TEST_F(LumioImageReadTest, MessagesContainThePathOfTheFile)
 {
     const QString jpeg = cutJpeg();
     ASSERT_TRUE(image.read(jpeg));
@@ -151,8 +151,8 @@ TEST_F(LumioImageReadTest, SpeaksOfFilesByTheirNames)
     EXPECT_FALSE(image.problem().contains("/proc"));
 }
 
-// It would fill the memory with what it promises and does not hold.
-TEST_F(LumioImageReadTest, RefusesAFileThatIsTooSmallForItsPixels)
+// It declares more pixels than it can contain, which would exhaust the memory.
+TEST_F(LumioImageReadTest, FailsForAFileThatIsTooSmallForItsPixels)
 {
     hold();
     QByteArray jpeg = contentsOf(written(painted(64, 48, 8, fewColours), "a.jpg"));
@@ -167,7 +167,7 @@ TEST_F(LumioImageReadTest, RefusesAFileThatIsTooSmallForItsPixels)
     EXPECT_TRUE(isHeld());
 }
 
-TEST_F(LumioImageReadTest, ForgetsAWarningAtTheNextOperation)
+TEST_F(LumioImageReadTest, ClearsTheWarningAtTheNextOperation)
 {
     ASSERT_TRUE(image.read(cutJpeg()));
     ASSERT_FALSE(image.warning().isEmpty());
@@ -175,14 +175,14 @@ TEST_F(LumioImageReadTest, ForgetsAWarningAtTheNextOperation)
     EXPECT_TRUE(image.warning().isEmpty());
 }
 
-TEST_F(LumioImageReadTest, ForgetsAProblemAtTheNextOperation)
+TEST_F(LumioImageReadTest, ClearsTheProblemAtTheNextOperation)
 {
     ASSERT_FALSE(image.read(path("missing.png")));
     ASSERT_TRUE(image.read(written(painted(6, 4, 8, fewColours), "a.png")));
     EXPECT_TRUE(image.problem().isEmpty());
 }
 
-TEST_F(LumioImageReadTest, GoesByTheContentsAndNotByTheName)
+TEST_F(LumioImageReadTest, DetectsTheFormatByTheContents)
 {
     const QString jpeg = written(painted(6, 4, 8, fewColours), "a.jpg");
     writeFile(path("a.png"), contentsOf(jpeg));
@@ -191,7 +191,7 @@ TEST_F(LumioImageReadTest, GoesByTheContentsAndNotByTheName)
     EXPECT_TRUE(image.read(path("a")));
 }
 
-TEST_F(LumioImageReadTest, OpensFilesWithOddNames)
+TEST_F(LumioImageReadTest, OpensFilesWithUnusualNames)
 {
     const QByteArray png = contentsOf(written(painted(6, 4, 8, fewColours), "a.png"));
     for (const QString &name : {QStringLiteral("Bäume und Höfe.png"), QStringLiteral("scan[0].png"),
@@ -248,7 +248,7 @@ TEST_F(LumioImageReadTest, GivesAOneBitFileBlackAndWhite)
     }
 }
 
-TEST_F(LumioImageReadTest, TurnsCmykIntoRgb)
+TEST_F(LumioImageReadTest, ConvertsCmykToRgb)
 {
     Magick::Image cmyk = painted(2, 1, 8, [](int x, int) -> Samples {
         return {0xffff, static_cast<std::uint16_t>(x * 0xffff), 0};
@@ -262,7 +262,7 @@ TEST_F(LumioImageReadTest, TurnsCmykIntoRgb)
     EXPECT_EQ(bytesOf(image), (Bytes{255, 0, 0, 255, 255, 0}));
 }
 
-TEST_F(LumioImageReadTest, TakesTheColoursOfTransparentPixelsAsTheyAre)
+TEST_F(LumioImageReadTest, KeepsTheColoursOfTransparentPixels)
 {
     for (const char *name : {"clear.png", "clear.tif"}) {
         Magick::Image clear = painted(2, 1, 8, fewColours);
@@ -280,7 +280,7 @@ TEST_F(LumioImageReadTest, TakesTheColoursOfTransparentPixelsAsTheyAre)
     }
 }
 
-TEST_F(LumioImageReadTest, KnowsTheDepthOfAFile)
+TEST_F(LumioImageReadTest, ReportsTheDepthOfAFile)
 {
     for (const char *name : {"deep.png", "deep.tif"}) {
         ASSERT_TRUE(image.read(written(painted(8, 8, 16, noise), name)));
@@ -290,7 +290,7 @@ TEST_F(LumioImageReadTest, KnowsTheDepthOfAFile)
     }
 }
 
-TEST_F(LumioImageReadTest, ReadsTheExactWordsOf16Bits)
+TEST_F(LumioImageReadTest, ReadsTheExactSamplesOf16Bits)
 {
     for (const char *name : {"deep.png", "deep.tif"}) {
         ASSERT_TRUE(image.read(written(painted(3, 1, 16, noise), name)));
@@ -303,8 +303,8 @@ TEST_F(LumioImageReadTest, ReadsTheExactWordsOf16Bits)
     }
 }
 
-// What has more than 8 bits is worked on with 16.
-TEST_F(LumioImageReadTest, TakesTwelveBitsForSixteen)
+// More than 8 bits are processed as 16.
+TEST_F(LumioImageReadTest, ReadsTwelveBitsAsSixteen)
 {
     Magick::Image twelve = painted(8, 8, 16, noise);
     twelve.defineValue("tiff", "bits-per-sample", "12");

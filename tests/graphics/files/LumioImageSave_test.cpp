@@ -43,7 +43,7 @@ struct LumioImageSaveTest : testing::Test {
     QString path(const QString &name) const { return directory.filePath(name); }
 };
 
-TEST_F(LumioImageSaveTest, ReportsANullPictureOnStandardOutput)
+TEST_F(LumioImageSaveTest, ReportsANullImageOnStandardOutput)
 {
     LumioImage image;
     testing::internal::CaptureStdout();
@@ -66,7 +66,7 @@ TEST_F(LumioImageSaveTest, WritesTheFormatOfTheExtension)
     EXPECT_TRUE(starts("a.JPEG", "\xff\xd8"));
 }
 
-TEST_F(LumioImageSaveTest, RefusesAnUnknownExtension)
+TEST_F(LumioImageSaveTest, FailsForAnUnknownExtension)
 {
     LumioImage image = pictureOf(countedBytes(12), 2, 2);
     EXPECT_FALSE(image.save(path("a.unknown"), quality));
@@ -74,14 +74,14 @@ TEST_F(LumioImageSaveTest, RefusesAnUnknownExtension)
     EXPECT_EQ(bytesOf(image), countedBytes(12));
 }
 
-TEST_F(LumioImageSaveTest, RefusesAFolderThatIsNotThere)
+TEST_F(LumioImageSaveTest, FailsForAMissingFolder)
 {
     LumioImage image = pictureOf(countedBytes(12), 2, 2);
     EXPECT_FALSE(image.save(path("nowhere/a.png"), quality));
     EXPECT_FALSE(image.problem().isEmpty());
 }
 
-TEST_F(LumioImageSaveTest, TellsThatTheDiskIsFull)
+TEST_F(LumioImageSaveTest, FailsOnAFullDisk)
 {
     LumioImage image = pictureOf(countedBytes(12), 2, 2);
     for (const char *name : {"full.png", "full.jpg", "full.tif"}) {
@@ -91,8 +91,8 @@ TEST_F(LumioImageSaveTest, TellsThatTheDiskIsFull)
     }
 }
 
-// The library would take the format from the front of such a name and write another file than the one asked for.
-TEST_F(LumioImageSaveTest, TakesNoFormatFromTheFrontOfAName)
+// GraphicsMagick would read such a prefix as the format and write to another file.
+TEST_F(LumioImageSaveTest, IgnoresAFormatPrefixInTheName)
 {
     LumioImage image = pictureOf(countedBytes(12), 2, 2);
     EXPECT_FALSE(image.save("png:" + path("a.png"), quality));
@@ -102,8 +102,8 @@ TEST_F(LumioImageSaveTest, TakesNoFormatFromTheFrontOfAName)
     EXPECT_TRUE(contentsOf(path("png:a.jpg")).startsWith("\xff\xd8"));
 }
 
-// Nor does it get to see the folders a picture lies in: it would write them into a TIFF.
-TEST_F(LumioImageSaveTest, KeepsFolderNamesToItself)
+// GraphicsMagick writes the name of the file that it is given into TIFF files.
+TEST_F(LumioImageSaveTest, WritesNoFolderNamesIntoTheFile)
 {
     LumioImage image = pictureOf(countedBytes(12), 2, 2);
     for (const char *name : {"a.tif", "a.png", "a.jpg"}) {
@@ -112,7 +112,7 @@ TEST_F(LumioImageSaveTest, KeepsFolderNamesToItself)
     }
 }
 
-TEST_F(LumioImageSaveTest, ForgetsAProblemAtTheNextSave)
+TEST_F(LumioImageSaveTest, ClearsTheProblemAtTheNextSave)
 {
     LumioImage image = pictureOf(countedBytes(12), 2, 2);
     ASSERT_FALSE(image.save(path("nowhere/a.png"), quality));
@@ -128,7 +128,7 @@ TEST_F(LumioImageSaveTest, ReplacesAnExistingFile)
     EXPECT_EQ(samplesOf(path("a.png")), spread(countedBytes(12)));
 }
 
-TEST_F(LumioImageSaveTest, SaysNothingWhenAPictureIsSavedAgain)
+TEST_F(LumioImageSaveTest, WritesNothingToStandardErrorWhenSavedAgain)
 {
     LumioImage image = pictureOf(countedBytes(12), 2, 2);
     testing::internal::CaptureStderr();
@@ -137,8 +137,8 @@ TEST_F(LumioImageSaveTest, SaysNothingWhenAPictureIsSavedAgain)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
-// The library would make up a resolution for the first and remember it.
-TEST_F(LumioImageSaveTest, LeavesNothingOfAJpegInTheNextFile)
+// GraphicsMagick sets a default resolution when it writes a JPEG file.
+TEST_F(LumioImageSaveTest, KeepsNoResolutionFromAJpegForTheNextFile)
 {
     LumioImage image = pictureOf(countedBytes(12), 2, 2);
     ASSERT_TRUE(image.save(path("first.png"), quality));
@@ -147,7 +147,7 @@ TEST_F(LumioImageSaveTest, LeavesNothingOfAJpegInTheNextFile)
     EXPECT_EQ(contentsOf(path("second.png")).size(), contentsOf(path("first.png")).size());
 }
 
-TEST_F(LumioImageSaveTest, WritesToOddNames)
+TEST_F(LumioImageSaveTest, WritesToUnusualNames)
 {
     LumioImage image = pictureOf(countedBytes(12), 2, 2);
     for (const QString &name : {QStringLiteral("Bäume.png"), QStringLiteral("100%d.png"), QStringLiteral("a[1].png")}) {
@@ -165,8 +165,8 @@ TEST_F(LumioImageSaveTest, WritesSmallerFilesAtALowerQuality)
     EXPECT_LT(contentsOf(path("coarse.jpg")).size(), contentsOf(path("fine.jpg")).size());
 }
 
-// Tables made for the picture would need its coefficients in memory, all at once.
-TEST_F(LumioImageSaveTest, WritesAJpegWithTheTablesThatFitAll)
+// Optimised tables would need all coefficients of the image in memory.
+TEST_F(LumioImageSaveTest, WritesAJpegWithStandardHuffmanTables)
 {
     ASSERT_TRUE(pictureOf(countedBytes(std::size_t{16} * 16 * 3), 16, 16).save(path("a.jpg"), quality));
     const QByteArray file = contentsOf(path("a.jpg"));
@@ -206,7 +206,7 @@ TEST_F(LumioImageSaveTest, KeepsThePixels)
     EXPECT_EQ(wordsOf(wordImage), words);
 }
 
-// Only images of 8 bits are spread: 16 bits are saved as they are.
+// Only samples of 8-bit images are spread.
 TEST_F(LumioImageSaveTest, Writes8BitSamplesOfA16BitImageAsHighBytes)
 {
     LumioImage image(2, 1, true);
@@ -236,8 +236,8 @@ TEST_F(LumioImageSaveTest, DropsTheAlphaOfItsSource)
     }
 }
 
-// Left alone, the library hands the compression of the source on, which in this case loses detail.
-TEST_F(LumioImageSaveTest, LosesNothingFromAJpegToATiff)
+// By default GraphicsMagick keeps the compression of the source, which here is lossy.
+TEST_F(LumioImageSaveTest, SavesAJpegWithoutLossAsTiff)
 {
     LumioImage image = pictureOf(countedBytes(48), 4, 4);
     ASSERT_TRUE(image.save(path("a.jpg"), quality));
@@ -247,7 +247,7 @@ TEST_F(LumioImageSaveTest, LosesNothingFromAJpegToATiff)
     EXPECT_EQ(samplesOf(path("a.tif")), spread(bytes));
 }
 
-/// Contents that tempt the library to write fewer or more bits, or fewer channels, than it was asked for.
+/// Contents for which GraphicsMagick would by default write fewer or more bits, or fewer channels, than requested.
 struct Tempting {
     const char *name;
     Samples (*painter)(int x, int y);
@@ -306,7 +306,7 @@ protected:
     QTemporaryDir directory;
 };
 
-TEST_P(TemptingContents, AreWrittenWithTheDepthOfThePicture)
+TEST_P(TemptingContents, AreWrittenWithTheDepthOfTheImage)
 {
     ASSERT_TRUE(picture().save(fileName("a"), quality));
     EXPECT_EQ(bitsPerChannel(fileName("a")), depth());
@@ -326,7 +326,7 @@ TEST_P(TemptingContents, StayTheSameFromFileToFile)
     EXPECT_EQ(samplesOf(fileName("3")), words());
 }
 
-TEST_P(TemptingContents, StayTheSameThroughAnOutputPicture)
+TEST_P(TemptingContents, StayTheSameThroughAnOutputImage)
 {
     ASSERT_TRUE(picture().save(fileName("0"), quality));
     for (int i = 0; i < 3; ++i) {
@@ -349,7 +349,7 @@ INSTANTIATE_TEST_SUITE_P(LumioImageSaveTest, TemptingContents,
                                     "_" + std::to_string(std::get<2>(test.param));
                          });
 
-/// Sources of other kinds, written at once: palettes, grey and line art of the library's own making.
+/// Sources of other types: palette, grey and bilevel images.
 class OtherSources : public testing::TestWithParam<std::tuple<Magick::ImageType, const char *, const char *>>
 {
 };
@@ -383,7 +383,7 @@ class SavedWidths : public testing::TestWithParam<int>
 {
 };
 
-TEST_P(SavedWidths, ComeBackPixelForPixel)
+TEST_P(SavedWidths, AreReadBackUnchanged)
 {
     const int width = GetParam();
     const QTemporaryDir directory;

@@ -18,7 +18,7 @@ using grisal::graphics::LumioImage;
 namespace
 {
 
-TEST(ImageLibraryTest, LeavesTheSignalsAlone)
+TEST(ImageLibraryTest, InstallsNoSignalHandlers)
 {
     initializeImageLibrary("/usr/bin/grisal");
     initializeImageLibrary(nullptr);
@@ -29,8 +29,8 @@ TEST(ImageLibraryTest, LeavesTheSignalsAlone)
     }
 }
 
-// A save that grows beyond a limit must fail and tell so; by default the signal would end the program.
-TEST(ImageLibraryTest, LetsWritesBeyondALimitFail)
+// By default the signal would end the process.
+TEST(ImageLibraryTest, WritesBeyondALimitFail)
 {
     initializeImageLibrary(nullptr);
     struct sigaction action = {};
@@ -38,7 +38,7 @@ TEST(ImageLibraryTest, LetsWritesBeyondALimitFail)
     EXPECT_EQ(action.sa_handler, SIG_IGN);
 }
 
-TEST(ImageLibraryTest, HasItsLimits)
+TEST(ImageLibraryTest, SetsLimits)
 {
     initializeImageLibrary(nullptr);
     EXPECT_EQ(MagickLib::GetMagickResourceLimit(MagickLib::WidthResource), 65500);
@@ -57,7 +57,7 @@ TEST(LumioImageTest, IsNullAtFirst)
     EXPECT_TRUE(image.problem().isEmpty());
 }
 
-TEST(LumioImageTest, RefusesToCopyPixelsOfANullPicture)
+TEST(LumioImageTest, FailsToCopyPixelsOfANullImage)
 {
     LumioImage image;
     std::uint8_t untouched = 77;
@@ -77,7 +77,7 @@ TEST(LumioImageTest, IsMadeWithItsSizeAndDepth)
     EXPECT_TRUE(LumioImage(7, 5, true).is16Bit());
 }
 
-TEST(LumioImageTest, IsBlackUntilPixelsArePutIn)
+TEST(LumioImageTest, IsBlackUntilPixelsAreSet)
 {
     for (const bool sixteenBit : {false, true}) {
         LumioImage image(5, 3, sixteenBit);
@@ -123,7 +123,7 @@ TEST(LumioImageTest, KeepsAByteInTheHighByteOfASample)
     EXPECT_EQ(wordsOf(image), words);
 }
 
-TEST(LumioImageTest, GivesEveryByteBack)
+TEST(LumioImageTest, ReturnsEveryByteUnchanged)
 {
     Bytes bytes(256 * 3);
     std::iota(bytes.begin(), bytes.end(), std::uint8_t{0});
@@ -131,7 +131,7 @@ TEST(LumioImageTest, GivesEveryByteBack)
     EXPECT_EQ(bytesOf(image), bytes);
 }
 
-TEST(LumioImageTest, GivesEveryWordBack)
+TEST(LumioImageTest, ReturnsEvery16BitSampleUnchanged)
 {
     Words words(std::size_t{65536} * 3);
     std::iota(words.begin(), words.end(), std::uint16_t{0});
@@ -139,7 +139,7 @@ TEST(LumioImageTest, GivesEveryWordBack)
     EXPECT_EQ(wordsOf(image), words);
 }
 
-TEST(LumioImageTest, GivesTheHighBytesOfWords)
+TEST(LumioImageTest, ReturnsTheHighBytesOf16BitSamples)
 {
     LumioImage image = pictureOf(Words{0x00ff, 0x1234, 0xffff}, 1, 1);
     EXPECT_EQ(bytesOf(image), (Bytes{0x00, 0x12, 0xff}));
@@ -159,7 +159,7 @@ TEST(LumioImageTest, CopiesTheOpacityByteUnscaled)
     EXPECT_EQ(words, (Words{256, 512, 768, 4, 1280, 1536, 1792, 8}));
 }
 
-TEST(LumioImageTest, CopiesTheOpacityWordWhole)
+TEST(LumioImageTest, CopiesThe16BitOpacityUnscaled)
 {
     LumioImage image(1, 1, true);
     ASSERT_TRUE(image.setPixels(Words{1, 2, 3, 0x1234}.data(), true, true));
@@ -169,8 +169,8 @@ TEST(LumioImageTest, CopiesTheOpacityWordWhole)
     EXPECT_EQ(words, (Words{1, 2, 3, 0x1234}));
 }
 
-// Not the high byte, as with the colours.
-TEST(LumioImageTest, GivesTheLowByteOfTheOpacity)
+// Unlike the high byte of the colours.
+TEST(LumioImageTest, ReturnsTheLowByteOfTheOpacity)
 {
     LumioImage image(1, 1, true);
     ASSERT_TRUE(image.setPixels(Words{0x1122, 0x3344, 0x5566, 0x7788}.data(), true, true));
@@ -205,7 +205,7 @@ TEST(LumioImageTest, WritesNothingBehindTheLastPixel)
     EXPECT_EQ(words[7], 999);
 }
 
-TEST(LumioImageTest, CopiesAreChangedApart)
+TEST(LumioImageTest, CopiesAreIndependent)
 {
     const LumioImage original = pictureOf(Bytes{1, 2, 3}, 1, 1);
     LumioImage copy = original;
@@ -214,11 +214,11 @@ TEST(LumioImageTest, CopiesAreChangedApart)
     EXPECT_EQ(bytesOf(again), (Bytes{1, 2, 3}));
 }
 
-class OddWidths : public testing::TestWithParam<int>
+class UnalignedWidths : public testing::TestWithParam<int>
 {
 };
 
-TEST_P(OddWidths, RowsFollowEachOtherWithoutPadding)
+TEST_P(UnalignedWidths, RowsFollowEachOtherWithoutPadding)
 {
     const int width = GetParam();
     Words words(static_cast<std::size_t>(width) * 3 * 3);
@@ -231,7 +231,7 @@ TEST_P(OddWidths, RowsFollowEachOtherWithoutPadding)
     EXPECT_EQ(bytesOf(byteImage), bytes);
 }
 
-INSTANTIATE_TEST_SUITE_P(LumioImageTest, OddWidths, testing::Values(1, 3, 5, 1001));
+INSTANTIATE_TEST_SUITE_P(LumioImageTest, UnalignedWidths, testing::Values(1, 3, 5, 1001));
 
 TEST(LumioImageInfoTest, DescribesAFile)
 {
@@ -259,7 +259,7 @@ TEST(LumioImageInfoTest, DescribesAFile)
                                 "\n");
 }
 
-TEST(LumioImageInfoTest, TellsAGreyPictureOf16Bits)
+TEST(LumioImageInfoTest, DescribesAGreyImageOf16Bits)
 {
     const QTemporaryDir directory;
     const QString path = directory.filePath("grey.tif");
@@ -276,7 +276,7 @@ TEST(LumioImageInfoTest, TellsAGreyPictureOf16Bits)
     EXPECT_NE(image.info().find("  type:       GrayscaleType\n"), std::string::npos);
 }
 
-TEST(LumioImageInfoTest, DescribesANullPicture)
+TEST(LumioImageInfoTest, DescribesANullImage)
 {
     EXPECT_NE(LumioImage().info().find("  width :     0\n  height:     0\n"), std::string::npos);
 }

@@ -9,14 +9,14 @@
 namespace grisal::test
 {
 
-/// What a file says about its picture, as the metadata library itself has it.
+/// The metadata of a file as Exiv2 reads it.
 struct Metadata {
     Exiv2::ExifData exif;
     Exiv2::IptcData iptc;
     Exiv2::XmpData xmp;
     QByteArray profile;
 
-    /// The text of a value; empty where there is none.
+    /// The text of a value; empty if there is none.
     std::string operator[](const char *key) const;
 
     bool isEmpty() const { return exif.empty() && iptc.empty() && xmp.empty() && profile.isEmpty(); }
@@ -24,13 +24,13 @@ struct Metadata {
 
 Metadata metadataIn(const QString &path);
 
-/// Makes a picture file say so, without the program's own code.
+/// Writes metadata into an image file with Exiv2 alone.
 void setMetadata(const QString &path, const Metadata &metadata);
 
-/// Of each kind something, with a thumbnail, the size of the picture and an orientation of 6.
+/// Some metadata of each kind, with a thumbnail, the size of the image and orientation 6.
 Metadata fullMetadata();
 
-/// A colour profile that says nothing but what colours it is for, in four letters.
+/// A colour profile without tags for a colour space, named by four letters.
 QByteArray profileFor(const char *colours, int size = 600);
 
 /// Adds a chunk behind the first one of a PNG file.

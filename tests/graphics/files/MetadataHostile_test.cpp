@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Files that say nonsense about their pictures, too much, or what others have no room for.
+// Metadata that is invalid, too large, or too large for another format.
 #include "graphics/files/LumioImage.h"
 #include "graphics/files/MetadataBlocks.h"
 #include "tests/graphics/files/MetadataFiles.h"
@@ -17,9 +17,9 @@
 #include <string>
 
 using namespace grisal::test;
+using grisal::graphics::ImageFormat;
 using grisal::graphics::LumioImage;
 using grisal::graphics::OpenFile;
-using grisal::graphics::PictureFormat;
 
 namespace
 {
@@ -43,7 +43,7 @@ struct MetadataHostileTest : testing::Test {
         return path(name);
     }
 
-    /// A file with all of fullMetadata(), which is kept turned by a quarter.
+    /// A file with all of fullMetadata(), with orientation 6.
     QString full(const QString &name) const
     {
         QString file = written(name);
@@ -51,7 +51,7 @@ struct MetadataHostileTest : testing::Test {
         return file;
     }
 
-    /// Reads without a word on standard error.
+    /// Reads, and expects nothing on standard error.
     bool reads(const QString &file)
     {
         testing::internal::CaptureStderr();
@@ -62,7 +62,7 @@ struct MetadataHostileTest : testing::Test {
     std::string make(const QString &file) const { return metadataIn(file)["Exif.Image.Make"]; }
 };
 
-/// Puts a segment behind the first two bytes of a JPEG file.
+/// Inserts a segment behind the first two bytes of a JPEG file.
 void addSegment(const QString &path, char marker, const QByteArray &contents)
 {
     QByteArray segment = QByteArray("\xff") + marker + QByteArray(2, '\0') + contents;
@@ -71,7 +71,7 @@ void addSegment(const QString &path, char marker, const QByteArray &contents)
     writeFile(path, file.insert(2, segment));
 }
 
-TEST_F(MetadataHostileTest, BrokenExifDoesNotKeepAPictureFromBeingRead)
+TEST_F(MetadataHostileTest, ImagesWithInvalidExifAreRead)
 {
     const QByteArray good = exifBlock(fullMetadata().exif);
     QByteArray everyOther = good;
@@ -94,7 +94,7 @@ TEST_F(MetadataHostileTest, BrokenExifDoesNotKeepAPictureFromBeingRead)
     }
 }
 
-TEST_F(MetadataHostileTest, BrokenXmpIsToldAndTheRestIsKept)
+TEST_F(MetadataHostileTest, InvalidXmpGivesAWarningAndTheRestIsKept)
 {
     const QString jpeg = full("a.jpg");
     addSegment(jpeg, '\xe1', QByteArray("http://ns.adobe.com/xap/1.0/\0<x:xmpmeta xmlns:x='adobe", 54));
@@ -104,8 +104,7 @@ TEST_F(MetadataHostileTest, BrokenXmpIsToldAndTheRestIsKept)
     EXPECT_EQ(make(path("b.png")), "Acme");
 }
 
-// Any byte of it may be any other one.
-TEST_F(MetadataHostileTest, FilesWithBytesChangedAtRandomAreReadOrRefused)
+TEST_F(MetadataHostileTest, FilesWithBytesChangedAtRandomAreReadOrRejected)
 {
     std::srand(1);
     for (const char *name : {"a.jpg", "a.png", "a.tif"}) {
@@ -127,8 +126,8 @@ TEST_F(MetadataHostileTest, FilesWithBytesChangedAtRandomAreReadOrRefused)
     }
 }
 
-// The library reads no TIFF file with such a unit: a picture that cannot be opened again would be lost.
-TEST_F(MetadataHostileTest, WhatWouldMakeATiffUnreadableIsLeftOut)
+// GraphicsMagick reads no TIFF file with this unit.
+TEST_F(MetadataHostileTest, MetadataThatMakesATiffUnreadableIsLeftOut)
 {
     const QString jpeg = written("a.jpg");
     Metadata impossible = fullMetadata();
@@ -141,8 +140,8 @@ TEST_F(MetadataHostileTest, WhatWouldMakeATiffUnreadableIsLeftOut)
     EXPECT_TRUE(again.read(path("b.tif"))) << again.problem().toStdString();
 }
 
-// Nor does this program open a PNG file with texts of that length.
-TEST_F(MetadataHostileTest, WhatWouldMakeAPngUnreadableIsLeftOut)
+// ImageFile rejects PNG files with texts of that length.
+TEST_F(MetadataHostileTest, MetadataThatMakesAPngUnreadableIsLeftOut)
 {
     const QString tiff = written("a.tif");
     Metadata large;
@@ -172,7 +171,7 @@ TEST_F(MetadataHostileTest, TooLargeValuesOfATiffAreLeftOut)
     EXPECT_LT(contentsOf(path("b.tif")).size(), 100'000);
 }
 
-TEST_F(MetadataHostileTest, TooLargeAnExifChunkIsLeftOut)
+TEST_F(MetadataHostileTest, ATooLargeExifChunkIsLeftOut)
 {
     const QString png = written("a.png");
     addChunk(png, "eXIf", exifBlock(fullMetadata().exif) + QByteArray(1 << 20, 'x'));
@@ -181,8 +180,7 @@ TEST_F(MetadataHostileTest, TooLargeAnExifChunkIsLeftOut)
     EXPECT_EQ(image.width(), 24);
 }
 
-// A directory that names itself as its inner one.
-TEST_F(MetadataHostileTest, DirectoriesInACircleComeToAnEnd)
+TEST_F(MetadataHostileTest, ATiffDirectoryThatContainsItselfIsRead)
 {
     const QString tiff = full("a.tif");
     QByteArray contents = contentsOf(tiff);
@@ -201,8 +199,8 @@ TEST_F(MetadataHostileTest, DirectoriesInACircleComeToAnEnd)
     EXPECT_TRUE(reads(tiff)) << image.problem().toStdString();
 }
 
-// Each of 200 inner directories is the outer one again.
-TEST_F(MetadataHostileTest, DirectoriesThatMultiplyStaySmall)
+// Each of 200 inner directories is the outer one.
+TEST_F(MetadataHostileTest, CopiesOfRecursiveDirectoriesAreLimited)
 {
     const auto words = [](std::initializer_list<quint16> numbers) {
         QByteArray bytes;
@@ -221,13 +219,13 @@ TEST_F(MetadataHostileTest, DirectoriesThatMultiplyStaySmall)
     }
     writeFile(path("a.tif"), contents + words({0, 0}));
     const OpenFile file(open(path("a.tif").toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC));
-    const grisal::graphics::MetadataBlocks blocks = extractMetadata(file, PictureFormat::Tiff);
+    const grisal::graphics::MetadataBlocks blocks = extractMetadata(file, ImageFormat::Tiff);
     EXPECT_FALSE(blocks.complete);
     EXPECT_LT(blocks.file.size(), 10 << 20);
     image.read(path("a.tif"));
 }
 
-TEST_F(MetadataHostileTest, AManyTimesPaddedJpegIsRead)
+TEST_F(MetadataHostileTest, AJpegWithExcessivePaddingIsRead)
 {
     const QString jpeg = full("a.jpg");
     QByteArray contents = contentsOf(jpeg);
@@ -235,8 +233,7 @@ TEST_F(MetadataHostileTest, AManyTimesPaddedJpegIsRead)
     EXPECT_TRUE(reads(jpeg));
 }
 
-// Where there is room for the picture only.
-TEST_F(MetadataHostileTest, AFullDiskCostsTheMetadataAndNotThePicture)
+TEST_F(MetadataHostileTest, OnAFullDiskTheImageIsSavedWithoutMetadata)
 {
     ASSERT_TRUE(image.read(full("a.jpg")));
     LumioImage plain = pictureOf(bytesOf(image), image.width(), image.height());
@@ -260,9 +257,9 @@ TEST_F(MetadataHostileTest, AFullDiskCostsTheMetadataAndNotThePicture)
     EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files | QDir::Hidden).size(), 4);
 }
 
-TEST_F(MetadataHostileTest, NothingIsInsertedIntoAFileThatHasNoRoomForIt)
+TEST_F(MetadataHostileTest, NothingIsInsertedIntoAnInvalidFile)
 {
-    for (const PictureFormat format : {PictureFormat::Jpeg, PictureFormat::Png, PictureFormat::Tiff}) {
+    for (const ImageFormat format : {ImageFormat::Jpeg, ImageFormat::Png, ImageFormat::Tiff}) {
         for (const QByteArray &contents :
              {QByteArray(), QByteArray("II*\0\x08", 5), QByteArray("II*\0\x08\0\0\0", 8)}) {
             writeFile(path("short"), contents);

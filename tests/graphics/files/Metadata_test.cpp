@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a picture file says about its picture, from file to file.
+// Metadata from file to file.
 #include "graphics/files/LumioImage.h"
 #include "tests/graphics/files/MetadataFiles.h"
 #include "tests/graphics/files/PictureFiles.h"
@@ -29,7 +29,7 @@ struct MetadataTest : testing::Test {
 
     QString path(const QString &name) const { return directory.filePath(name); }
 
-    /// A picture file of 24 x 16 pixels.
+    /// An image file of 24 x 16 pixels.
     QString written(const QString &name, Magick::ImageType type = Magick::TrueColorType, int depth = 8) const
     {
         Magick::Image picture = painted(24, 16, depth, colours);
@@ -38,7 +38,7 @@ struct MetadataTest : testing::Test {
         return path(name);
     }
 
-    /// Saves the picture of a file, as the window does it: through a picture of its own.
+    /// Saves the image of a file as the window does: through an output image.
     static std::string savedAs(const QString &source, const QString &target)
     {
         LumioImage image;
@@ -70,7 +70,7 @@ protected:
     }
 };
 
-TEST_P(FromFormatToFormat, CarriesAll)
+TEST_P(FromFormatToFormat, KeepsAllMetadata)
 {
     const Said all = carried();
     EXPECT_EQ(all["Exif.Image.Make"], "Acme");
@@ -86,8 +86,8 @@ TEST_P(FromFormatToFormat, CarriesAll)
     EXPECT_EQ(all.profile, profileFor("RGB "));
 }
 
-// The source is kept turned by a quarter.
-TEST_P(FromFormatToFormat, PutsOrientationAndSizeRight)
+// The source is rotated by 90 degrees.
+TEST_P(FromFormatToFormat, UpdatesOrientationAndSize)
 {
     const Said all = carried();
     EXPECT_EQ(all["Exif.Image.Orientation"], "1");
@@ -106,8 +106,8 @@ TEST_P(FromFormatToFormat, DropsTheThumbnail)
     EXPECT_FALSE(contentsOf(target()).contains("a small picture"));
 }
 
-// It counts places from the start of the file or of itself.
-TEST_P(FromFormatToFormat, CarriesTheNoteOfTheMaker)
+// It contains offsets from the start of the file or of itself.
+TEST_P(FromFormatToFormat, KeepsTheMakersNote)
 {
     const QString from = written(source(), Magick::TrueColorType, depth());
     Said note;
@@ -122,8 +122,8 @@ TEST_P(FromFormatToFormat, CarriesTheNoteOfTheMaker)
     EXPECT_EQ(metadataIn(path("once.more.jpg"))["Exif.Canon.FirmwareVersion"], "Firmware 1.2.3");
 }
 
-// Others look at the first, or at the last.
-TEST_P(FromFormatToFormat, SaysEachThingOnce)
+// Of several blocks, some programs read the first and others the last.
+TEST_P(FromFormatToFormat, WritesEachBlockOnce)
 {
     carried();
     const QByteArray contents = contentsOf(target());
@@ -139,7 +139,7 @@ TEST_P(FromFormatToFormat, SaysEachThingOnce)
     }
 }
 
-TEST_P(FromFormatToFormat, LeavesThePixelsAlone)
+TEST_P(FromFormatToFormat, DoesNotChangePixels)
 {
     carried();
     LumioImage image;
@@ -151,8 +151,8 @@ TEST_P(FromFormatToFormat, LeavesThePixelsAlone)
     EXPECT_EQ(bitsPerChannel(target()), bitsPerChannel(without));
 }
 
-// Saved by itself, the library has more at hand to write.
-TEST_P(FromFormatToFormat, IsTheSameWithoutAnOutputPicture)
+// An image that GraphicsMagick has read itself still contains profiles and attributes.
+TEST_P(FromFormatToFormat, IsTheSameWithoutAnOutputImage)
 {
     const Said all = carried();
     LumioImage image;
@@ -174,7 +174,7 @@ INSTANTIATE_TEST_SUITE_P(SixteenBits, FromFormatToFormat,
                          testing::Combine(testing::Values("png", "tif"), testing::Values("png", "tif"),
                                           testing::Values(16)));
 
-TEST_F(MetadataTest, IsNotMadeUp)
+TEST_F(MetadataTest, IsAbsentWithoutMetadataInTheSource)
 {
     for (const char *from : {"a.jpg", "a.png"}) {
         for (const char *to : {"b.jpg", "b.png"}) {
@@ -184,7 +184,7 @@ TEST_F(MetadataTest, IsNotMadeUp)
     }
 }
 
-TEST_F(MetadataTest, GoesWithThePictureThatIsReadLast)
+TEST_F(MetadataTest, BelongsToTheImageThatIsReadLast)
 {
     const QString full = written(QStringLiteral("full.jpg"));
     setMetadata(full, fullMetadata());
@@ -210,7 +210,7 @@ TEST_F(MetadataTest, KeepsTheExifChunkOfAPng)
     }
 }
 
-// Grey and separated pictures are saved in red, green and blue.
+// Grey and CMYK images are saved as RGB.
 TEST_F(MetadataTest, DropsAProfileForOtherColours)
 {
     for (const char *name : {"a.jpg", "a.png", "a.tif"}) {
@@ -227,7 +227,7 @@ TEST_F(MetadataTest, DropsAProfileForOtherColours)
     }
 }
 
-TEST_F(MetadataTest, DropsAProfileForSeparations)
+TEST_F(MetadataTest, DropsAProfileForCmyk)
 {
     for (const char *name : {"a.jpg", "a.tif"}) {
         Magick::Image picture = painted(24, 16, 8, colours);
@@ -246,7 +246,7 @@ TEST_F(MetadataTest, DropsAProfileForSeparations)
     }
 }
 
-TEST_F(MetadataTest, CarriesAProfileOfSeveralSegments)
+TEST_F(MetadataTest, KeepsAProfileOfSeveralSegments)
 {
     const QString source = written(QStringLiteral("a.tif"));
     Said all;
@@ -260,8 +260,8 @@ TEST_F(MetadataTest, CarriesAProfileOfSeveralSegments)
     EXPECT_EQ(metadataIn(path(QStringLiteral("d.tif"))).profile, all.profile);
 }
 
-// A JPEG file has room for 64 KB of it.
-TEST_F(MetadataTest, LeavesAnXmpOutThatTheFormatHasNoRoomFor)
+// XMP has to fit into one segment of a JPEG file, 64 KB.
+TEST_F(MetadataTest, LeavesOutXmpThatIsTooLargeForTheFormat)
 {
     const QString source = written(QStringLiteral("a.tif"));
     Said all = fullMetadata();

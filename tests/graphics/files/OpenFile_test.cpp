@@ -28,7 +28,7 @@ struct OpenFileTest : testing::Test {
     }
 };
 
-/// Bytes that do not repeat soon.
+/// Bytes with a long period.
 QByteArray counted(qsizetype size)
 {
     QByteArray bytes(size, '\0');
@@ -38,7 +38,7 @@ QByteArray counted(qsizetype size)
     return bytes;
 }
 
-TEST_F(OpenFileTest, GivesTheBytesThatAreThere)
+TEST_F(OpenFileTest, ReturnsTheBytesWithinTheFile)
 {
     const OpenFile file = opened("abcdef");
     EXPECT_EQ(file.size(), 6U);
@@ -49,7 +49,7 @@ TEST_F(OpenFileTest, GivesTheBytesThatAreThere)
     EXPECT_EQ(OpenFile().size(), 0U);
 }
 
-TEST_F(OpenFileTest, InsertsBytesAnywhere)
+TEST_F(OpenFileTest, InsertsBytesAtAnyOffset)
 {
     for (const qsizetype place : {0, 2, 6}) {
         const OpenFile file = opened("abcdef");
@@ -68,7 +68,7 @@ TEST_F(OpenFileTest, InsertsBytesBeforeManyBlocks)
     }
 }
 
-TEST_F(OpenFileTest, StaysAsItIsWhereThereIsNoRoom)
+TEST_F(OpenFileTest, StaysUnchangedOnAFullDisk)
 {
     const QByteArray contents = counted(10'000);
     const OpenFile file = opened(contents);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Pictures that are kept turned or mirrored stand upright when they have been read.
+// Images that are stored rotated or mirrored have orientation 1 after reading.
 #include "graphics/files/LumioImage.h"
 #include "tests/graphics/files/MetadataFiles.h"
 #include "tests/graphics/files/PictureFiles.h"
@@ -18,7 +18,7 @@ using grisal::graphics::LumioImage;
 namespace
 {
 
-/// How a picture of two rows, ABC and DEF, is kept.
+/// How an image of two rows, ABC and DEF, is stored.
 struct Kept {
     int orientation;
     std::vector<std::string> rows;
@@ -35,7 +35,7 @@ const Kept allKept[] = {
     {0, {"ABC", "DEF"}},     {9, {"ABC", "DEF"}},     {300, {"ABC", "DEF"}},   {65535, {"ABC", "DEF"}},
 };
 
-/// A letter is a square of this side: what JPEG works on at once.
+/// A letter is a square of this side, a JPEG block with subsampled chroma.
 constexpr int side = 16;
 constexpr std::size_t uprightWidth = std::size_t{3} * side;
 
@@ -59,7 +59,7 @@ std::uint8_t lumaOf(char letter)
     return static_cast<std::uint8_t>(20 + (letter - 'A') * 40);
 }
 
-/// Numbers of 16 bits, little end first.
+/// Numbers of 16 bits in little-endian order.
 QByteArray words(const std::vector<int> &numbers)
 {
     QByteArray bytes;
@@ -70,7 +70,7 @@ QByteArray words(const std::vector<int> &numbers)
     return bytes;
 }
 
-/// A TIFF file of greys that are kept as luma and chroma.
+/// A TIFF file of grey values in luma and chroma.
 QByteArray lumaTiff(const Kept &kept, int rowsPerStrip)
 {
     const int width = static_cast<int>(kept.rows[0].size()) * side;
@@ -108,7 +108,7 @@ Exiv2::ExifData exifOf(int orientation)
     return exif;
 }
 
-/// Looks whether a picture is ABC over DEF, within a distance of a byte's levels.
+/// Expects an image of ABC over DEF, within a tolerance in 8-bit levels.
 void expectUpright(LumioImage &image, int tolerance)
 {
     const std::vector<std::string> upright{"ABC", "DEF"};
@@ -120,7 +120,7 @@ void expectUpright(LumioImage &image, int tolerance)
         const std::size_t x = i / 3 % uprightWidth;
         const std::size_t y = i / 3 / uprightWidth;
         const Samples wanted = colourOf(upright[y / side][x / side]);
-        // At the edges JPEG mixes colours.
+        // JPEG mixes the colours along the edges.
         const bool inside = std::min(x % side, y % side) >= margin && std::max(x % side, y % side) < side - margin;
         ASSERT_TRUE((tolerance > 0 && !inside) || std::abs(bytes[i] - wanted[i % 3] / 257) <= tolerance)
             << "at " << x << ", " << y;
@@ -150,27 +150,27 @@ protected:
     LumioImage image;
 };
 
-TEST_P(Orientation, TurnsAJpegUpright)
+TEST_P(Orientation, NormalisesAJpeg)
 {
     ASSERT_TRUE(image.read(kept("a.jpg"))) << image.problem().toStdString();
     expectUpright(image, 4);
     EXPECT_TRUE(image.warning().isEmpty());
 }
 
-TEST_P(Orientation, TurnsATiffUpright)
+TEST_P(Orientation, NormalisesATiff)
 {
     ASSERT_TRUE(image.read(kept("a.tif"))) << image.problem().toStdString();
     expectUpright(image, 0);
 }
 
-TEST_P(Orientation, TurnsADeepTiffUpright)
+TEST_P(Orientation, NormalisesATiffOf16Bits)
 {
     ASSERT_TRUE(image.read(kept("a.tif", 16))) << image.problem().toStdString();
     EXPECT_TRUE(image.is16Bit());
     expectUpright(image, 0);
 }
 
-TEST_P(Orientation, TurnsAPngWithAnExifChunkUpright)
+TEST_P(Orientation, NormalisesAPngWithAnExifChunk)
 {
     const QString path = written("a.png", pictureOf(GetParam().rows));
     addChunk(path, "eXIf", exifBlock(exifOf(GetParam().orientation)));
@@ -178,14 +178,14 @@ TEST_P(Orientation, TurnsAPngWithAnExifChunkUpright)
     expectUpright(image, 0);
 }
 
-TEST_P(Orientation, TurnsAPngWithExifInATextUpright)
+TEST_P(Orientation, NormalisesAPngWithExifInAText)
 {
     ASSERT_TRUE(image.read(kept("a.png"))) << image.problem().toStdString();
     EXPECT_TRUE(contentsOf(directory.filePath("a.png")).contains("Raw profile type exif"));
     expectUpright(image, 0);
 }
 
-TEST_P(Orientation, TurnsPicturesOfAPaletteUpright)
+TEST_P(Orientation, NormalisesPaletteImages)
 {
     for (const char *name : {"a.png", "a.tif"}) {
         Magick::Image picture = pictureOf(GetParam().rows);
@@ -200,7 +200,7 @@ TEST_P(Orientation, TurnsPicturesOfAPaletteUpright)
     }
 }
 
-TEST_P(Orientation, TurnsATiffWithJpegInsideUpright)
+TEST_P(Orientation, NormalisesATiffWithJpegCompression)
 {
     Magick::Image picture = pictureOf(GetParam().rows);
     picture.compressType(Magick::JPEGCompression);
@@ -212,8 +212,8 @@ TEST_P(Orientation, TurnsATiffWithJpegInsideUpright)
     expectUpright(image, 8);
 }
 
-// The library for TIFF mirrors such pictures in part itself, each strip for itself.
-TEST_P(Orientation, TurnsATiffOfLumaAndChromaUpright)
+// libtiff mirrors some of these images itself, strip by strip.
+TEST_P(Orientation, NormalisesATiffOfLumaAndChroma)
 {
     for (const int rowsPerStrip : {1, 8, 48}) {
         const QString path = directory.filePath(QStringLiteral("a%1.tif").arg(rowsPerStrip));
@@ -230,7 +230,7 @@ TEST_P(Orientation, TurnsATiffOfLumaAndChromaUpright)
     }
 }
 
-TEST_P(Orientation, IsTheFirstOnceThePictureIsSaved)
+TEST_P(Orientation, IsNormalInSavedFiles)
 {
     for (const char *name : {"b.jpg", "b.png", "b.tif"}) {
         ASSERT_TRUE(image.read(kept("a.tif"))) << image.problem().toStdString();
@@ -244,7 +244,7 @@ TEST_P(Orientation, IsTheFirstOnceThePictureIsSaved)
 
 INSTANTIATE_TEST_SUITE_P(All, Orientation, testing::ValuesIn(allKept));
 
-TEST(OrientationInfo, TellsTheUprightSize)
+TEST(OrientationInfo, ReportsTheSizeInNormalisedOrientation)
 {
     const QTemporaryDir directory;
     const QString path = directory.filePath("a.jpg");

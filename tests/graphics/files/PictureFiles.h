@@ -21,13 +21,13 @@ using Bytes = std::vector<std::uint8_t>;
 using Samples = std::array<std::uint16_t, 3>;
 using Painter = std::function<Samples(int x, int y)>;
 
-/// A picture of the image library itself, made without LumioImage, for files that tests open.
+/// GraphicsMagick's own image, made without LumioImage, for files that tests open.
 Magick::Image painted(int width, int height, int depth, const Painter &painter);
 
-/// The samples of a file as the image library reads them, R, G, B per pixel, without LumioImage.
+/// The samples of a file as GraphicsMagick reads them, R, G, B per pixel, without LumioImage.
 Words samplesOf(const QString &path);
 
-/// The depth of a PNG or TIFF file, from its own header: bits per channel. 0 if it is neither, or cut short.
+/// The depth of a PNG or TIFF file, from its own header: bits per channel. 0 if it is neither, or truncated.
 int bitsPerChannel(const QString &path);
 
 /// The channels per pixel of a PNG or TIFF file, from its own header; palettes count as one.
@@ -36,11 +36,11 @@ int channelsPerPixel(const QString &path);
 QByteArray contentsOf(const QString &path);
 void writeFile(const QString &path, const QByteArray &contents);
 
-/// A blank picture filled from `bytes` or `words`, R, G, B per pixel.
+/// An image filled from `bytes` or `words`, R, G, B per pixel.
 graphics::LumioImage pictureOf(const Bytes &bytes, int width, int height);
 graphics::LumioImage pictureOf(const Words &words, int width, int height);
 
-/// All pixels of a picture, R, G, B.
+/// All samples of an image, R, G, B.
 Bytes bytesOf(graphics::LumioImage &image);
 Words wordsOf(graphics::LumioImage &image);
 

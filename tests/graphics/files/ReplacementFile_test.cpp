@@ -58,7 +58,7 @@ protected:
     QTemporaryDir directory;
 };
 
-TEST_F(ReplacementFileTest, MakesAFile)
+TEST_F(ReplacementFileTest, CreatesAFile)
 {
     const mode_t before = umask(022);
     EXPECT_TRUE(replace(path("a.png"), "new"));
@@ -68,7 +68,7 @@ TEST_F(ReplacementFileTest, MakesAFile)
     EXPECT_EQ(names(), QStringList("a.png"));
 }
 
-TEST_F(ReplacementFileTest, TakesThePlaceAndThePermissionsOfAnother)
+TEST_F(ReplacementFileTest, ReplacesAFileAndKeepsItsPermissions)
 {
     writeFile(path("a.png"), "old");
     ASSERT_EQ(chmod(QFile::encodeName(path("a.png")).constData(), 0640), 0);
@@ -78,7 +78,7 @@ TEST_F(ReplacementFileTest, TakesThePlaceAndThePermissionsOfAnother)
     EXPECT_EQ(names(), QStringList("a.png"));
 }
 
-TEST_F(ReplacementFileTest, LeavesTheOldFileUntilItIsCommitted)
+TEST_F(ReplacementFileTest, KeepsTheOldFileUntilCommit)
 {
     writeFile(path("a.png"), "old");
     {
@@ -102,7 +102,7 @@ TEST_F(ReplacementFileTest, FollowsALinkAndLeavesItALink)
     EXPECT_TRUE(QFileInfo(path("b.png")).isSymLink());
 }
 
-TEST_F(ReplacementFileTest, MakesTheFileThatALinkWaitsFor)
+TEST_F(ReplacementFileTest, CreatesTheMissingTargetOfALink)
 {
     ASSERT_TRUE(QFile::link("a.png", path("b.png")));
     EXPECT_TRUE(replace(path("b.png"), "new"));
@@ -110,7 +110,7 @@ TEST_F(ReplacementFileTest, MakesTheFileThatALinkWaitsFor)
     EXPECT_TRUE(QFileInfo(path("b.png")).isSymLink());
 }
 
-// A link's way upwards starts where the link lies, not where the path that leads there says.
+// A relative link starts in the folder that contains the link, not in the path that leads there.
 TEST_F(ReplacementFileTest, FollowsLinksThroughLinkedFolders)
 {
     QDir root(directory.path());
@@ -129,7 +129,7 @@ TEST_F(ReplacementFileTest, FollowsLinksThroughLinkedFolders)
     EXPECT_FALSE(QFile::exists(path("home/x.png")));
 }
 
-TEST_F(ReplacementFileTest, MakesTheFileThatALinkInALinkedFolderNames)
+TEST_F(ReplacementFileTest, CreatesTheMissingTargetOfALinkInALinkedFolder)
 {
     QDir root(directory.path());
     for (const char *folder : {"home", "home/2019", "data", "data/2019", "data/best"}) {
@@ -157,7 +157,7 @@ TEST_F(ReplacementFileTest, NeverGivesMoreAccessThanTheOldFile)
     EXPECT_EQ(modeOf(path("a.png")), 0755U);
 }
 
-TEST_F(ReplacementFileTest, KeepsWhatIsNotedAboutTheOldFile)
+TEST_F(ReplacementFileTest, KeepsUserAttributes)
 {
     writeFile(path("a.png"), "old");
     const QByteArray name = QFile::encodeName(path("a.png"));
@@ -192,7 +192,7 @@ TEST_F(ReplacementFileTest, KeepsTheAccessList)
     EXPECT_EQ(kept, list);
 }
 
-TEST_F(ReplacementFileTest, WorksWithTheLongestOfNames)
+TEST_F(ReplacementFileTest, ReplacesAFileWithTheLongestName)
 {
     const QString name = QString(251, QLatin1Char('x')) + ".png";
     EXPECT_TRUE(replace(path(name), "old"));
@@ -201,7 +201,7 @@ TEST_F(ReplacementFileTest, WorksWithTheLongestOfNames)
     EXPECT_EQ(names(), QStringList(name));
 }
 
-TEST_F(ReplacementFileTest, RefusesWhatIsNoFile)
+TEST_F(ReplacementFileTest, FailsForWhatIsNoFile)
 {
     ASSERT_TRUE(QFile::link("/dev/full", path("full.png")));
     ASSERT_TRUE(QFile::link("loop-a.png", path("loop-b.png")));
@@ -215,7 +215,7 @@ TEST_F(ReplacementFileTest, RefusesWhatIsNoFile)
     EXPECT_EQ(names(), before);
 }
 
-TEST_F(ReplacementFileTest, TellsThatItsFolderIsGone)
+TEST_F(ReplacementFileTest, FailsWhenTheFolderIsRemoved)
 {
     ASSERT_TRUE(QDir(directory.path()).mkdir("folder"));
     ReplacementFile file(path("folder/a.png"));
@@ -226,7 +226,7 @@ TEST_F(ReplacementFileTest, TellsThatItsFolderIsGone)
     EXPECT_FALSE(file.problem().isEmpty());
 }
 
-/// Runs something in a process of its own that is no administrator's; returns what it returned.
+/// Runs a step as an ordinary user in a process of its own; returns its result.
 template <typename Step>
 bool asAnybody(Step step)
 {
@@ -241,7 +241,7 @@ bool asAnybody(Step step)
     return WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS;
 }
 
-TEST_F(ReplacementFileTest, LeavesFilesThatAreNotToBeWritten)
+TEST_F(ReplacementFileTest, DoesNotReplaceReadOnlyFiles)
 {
     writeFile(path("a.png"), "old");
     ASSERT_EQ(chmod(QFile::encodeName(path("a.png")).constData(), 0444), 0);
@@ -251,7 +251,7 @@ TEST_F(ReplacementFileTest, LeavesFilesThatAreNotToBeWritten)
     EXPECT_EQ(contentsOf(path("b.png")), "new");
 }
 
-TEST_F(ReplacementFileTest, LeavesFilesInFoldersThatAreNotToBeWritten)
+TEST_F(ReplacementFileTest, DoesNotReplaceFilesInReadOnlyFolders)
 {
     writeFile(path("a.png"), "old");
     ASSERT_EQ(chmod(QFile::encodeName(path("a.png")).constData(), 0666), 0);
@@ -262,8 +262,7 @@ TEST_F(ReplacementFileTest, LeavesFilesInFoldersThatAreNotToBeWritten)
     EXPECT_EQ(names(), QStringList("a.png"));
 }
 
-// Whenever it is killed, the file is the old one or the new one, and whole.
-TEST_F(ReplacementFileTest, IsWholeWheneverTheProcessIsKilled)
+TEST_F(ReplacementFileTest, IsCompleteWheneverTheProcessIsKilled)
 {
     constexpr int rounds = 60;
     constexpr int size = 1 << 20;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/files/PictureFile.h"
+#include "graphics/files/ImageFile.h"
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ namespace
 using namespace grisal::test;
 using namespace grisal::graphics;
 
-class PictureFileTest : public testing::Test
+class ImageFileTest : public testing::Test
 {
 protected:
     QString path(const QString &name) const { return directory.filePath(name); }
@@ -29,7 +29,7 @@ protected:
         return path(name);
     }
 
-    static bool passes(const QString &file) { return PictureFile(file).problem().isEmpty(); }
+    static bool passes(const QString &file) { return ImageFile(file).problem().isEmpty(); }
 
     static QByteArray pngChunk(const char *kind, quint32 length, const QByteArray &contents)
     {
@@ -45,14 +45,14 @@ protected:
     const QByteArray jpeg = "\xff\xd8\xff\xe0 and so on";
 };
 
-TEST_F(PictureFileTest, PassesByItsContentsWhateverItsName)
+TEST_F(ImageFileTest, AcceptsAFileByItsContentsWhateverItsName)
 {
     EXPECT_TRUE(passes(fileOf("a.txt", jpeg)));
     EXPECT_TRUE(passes(fileOf("png:a", png)));
     EXPECT_TRUE(passes(fileOf(QString(251, QLatin1Char('x')) + ".jpg", jpeg)));
 }
 
-TEST_F(PictureFileTest, TurnsOtherContentsAway)
+TEST_F(ImageFileTest, RejectsOtherContents)
 {
     for (const char *contents : {"", "\xff", "%!PS-Adobe-3.0\n", "<svg xmlns=\"http://www.w3.org/2000/svg\"/>",
                                  "push graphic-context", "GIF89a", "#!/bin/sh\n"}) {
@@ -60,7 +60,7 @@ TEST_F(PictureFileTest, TurnsOtherContentsAway)
     }
 }
 
-TEST_F(PictureFileTest, TurnsWhatIsNoFileAwayAtOnce)
+TEST_F(ImageFileTest, RejectsWhatIsNoFileWithoutBlocking)
 {
     ASSERT_EQ(mkfifo(path("pipe.jpg").toLocal8Bit().constData(), 0600), 0);
     ASSERT_TRUE(QFile::link("/dev/zero", path("endless.png")));
@@ -68,12 +68,12 @@ TEST_F(PictureFileTest, TurnsWhatIsNoFileAwayAtOnce)
     ASSERT_TRUE(QFile::link("loop-b.jpg", path("loop-a.jpg")));
     ASSERT_TRUE(QFile::link("nowhere.jpg", path("dangling.jpg")));
     for (const char *name : {"pipe.jpg", "endless.png", "loop-a.jpg", "dangling.jpg", "missing.jpg", "."}) {
-        const PictureFile file(path(name));
+        const ImageFile file(path(name));
         EXPECT_EQ(file.problem(), QStringLiteral("Cannot open %1").arg(path(name)));
     }
 }
 
-TEST_F(PictureFileTest, TurnsASocketAway)
+TEST_F(ImageFileTest, RejectsASocket)
 {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
@@ -86,7 +86,7 @@ TEST_F(PictureFileTest, TurnsASocketAway)
     close(descriptor);
 }
 
-TEST_F(PictureFileTest, FollowsLinksToFiles)
+TEST_F(ImageFileTest, FollowsLinksToFiles)
 {
     fileOf("a.jpg", jpeg);
     ASSERT_TRUE(QFile::link("a.jpg", path("b.jpg")));
@@ -94,16 +94,16 @@ TEST_F(PictureFileTest, FollowsLinksToFiles)
     EXPECT_TRUE(passes(path("c d.jpg")));
 }
 
-TEST_F(PictureFileTest, IsTheOneThatWasLookedAtWhateverHappensToItsName)
+TEST_F(ImageFileTest, StaysTheCheckedFileWhenItsNameIsReplaced)
 {
-    const PictureFile file(fileOf("a.jpg", jpeg));
+    const ImageFile file(fileOf("a.jpg", jpeg));
     fileOf("b.jpg", "%!PS-Adobe-3.0\n");
     ASSERT_EQ(rename(path("b.jpg").toLocal8Bit().constData(), path("a.jpg").toLocal8Bit().constData()), 0);
     EXPECT_EQ(contentsOf(QString::fromStdString(file.name().substr(5))), jpeg);
     EXPECT_EQ(file.name().substr(0, 5), "JPEG:");
 }
 
-TEST_F(PictureFileTest, TurnsAPngWithAbsurdTextsAway)
+TEST_F(ImageFileTest, RejectsAPngWithTooLongTexts)
 {
     for (const char *kind : {"tEXt", "zTXt", "iTXt"}) {
         EXPECT_FALSE(passes(
@@ -114,7 +114,7 @@ TEST_F(PictureFileTest, TurnsAPngWithAbsurdTextsAway)
     EXPECT_TRUE(passes(fileOf("c.png", png + pngChunk("IDAT", 0x40000000, "pixels"))));
 }
 
-TEST_F(PictureFileTest, TurnsAPngWithManyCompressedTextsAway)
+TEST_F(ImageFileTest, RejectsAPngWithTooManyCompressedTexts)
 {
     EXPECT_TRUE(passes(fileOf("a.png", png + pngChunk("zTXt", 4, "text").repeated(16))));
     EXPECT_FALSE(passes(fileOf("b.png", png + pngChunk("zTXt", 4, "text").repeated(17))));
@@ -122,45 +122,45 @@ TEST_F(PictureFileTest, TurnsAPngWithManyCompressedTextsAway)
     EXPECT_TRUE(passes(fileOf("d.png", png + pngChunk("IEND", 0, {}) + pngChunk("zTXt", 4, "text").repeated(17))));
 }
 
-// A download that was cut short may be nothing but zeros behind its start, and gigabytes long.
-TEST_F(PictureFileTest, IsNotHeldUpByZeros)
+// An incomplete download may consist of gigabytes of zeros behind its start.
+TEST_F(ImageFileTest, AcceptsZerosBehindTheSignatureQuickly)
 {
     QFile file(fileOf("a.png", png));
     ASSERT_TRUE(file.resize(qint64{1} << 40));
     EXPECT_TRUE(passes(path("a.png")));
 }
 
-TEST_F(PictureFileTest, TurnsAPngOfTooManyPiecesAway)
+TEST_F(ImageFileTest, RejectsAPngOfTooManyChunks)
 {
     EXPECT_TRUE(passes(fileOf("a.png", png + pngChunk("IDAT", 0, {}).repeated(10'000))));
     EXPECT_FALSE(passes(fileOf("b.png", png + pngChunk("IDAT", 0, {}).repeated(500'001))));
 }
 
-TEST_F(PictureFileTest, MayHoldAsManyPixelsAsAPhotographOfItsSize)
+TEST_F(ImageFileTest, LimitsPixelsByTheSizeOfTheFile)
 {
-    const PictureFile small(fileOf("a.jpg", jpeg));
+    const ImageFile small(fileOf("a.jpg", jpeg));
     EXPECT_TRUE(small.canHold(90'000'000));
     EXPECT_FALSE(small.canHold(90'000'001));
-    const PictureFile large(fileOf("b.jpg", jpeg + QByteArray(1'000'000, '\0')));
+    const ImageFile large(fileOf("b.jpg", jpeg + QByteArray(1'000'000, '\0')));
     EXPECT_TRUE(large.canHold(200'000'000));
     EXPECT_FALSE(large.canHold(300'000'000));
 }
 
-TEST_F(PictureFileTest, EndsAsItsFormatDoesWhenItIsWhole)
+TEST_F(ImageFileTest, HasACompleteEndOnlyWhenComplete)
 {
-    const auto ends = [this](PictureFormat format, const QByteArray &contents) {
-        const PictureFile file(fileOf("a", contents));
+    const auto ends = [this](ImageFormat format, const QByteArray &contents) {
+        const ImageFile file(fileOf("a", contents));
         const QByteArray name = QFile::encodeName(path("a"));
-        return endsAsItShould(OpenFile(open(name.constData(), O_RDONLY)), format);
+        return hasCompleteEnd(OpenFile(open(name.constData(), O_RDONLY)), format);
     };
-    EXPECT_TRUE(ends(PictureFormat::Jpeg, jpeg + "\xff\xd9"));
-    EXPECT_FALSE(ends(PictureFormat::Jpeg, jpeg));
-    EXPECT_TRUE(ends(PictureFormat::Png, png + pngChunk("IEND", 0, {})));
-    EXPECT_FALSE(ends(PictureFormat::Png, png + pngChunk("IDAT", 0, {})));
-    EXPECT_TRUE(ends(PictureFormat::Tiff, QByteArray("II*\0\x09\0\0\0 directory", 18)));
-    EXPECT_FALSE(ends(PictureFormat::Tiff, QByteArray("II*\0\x20\0\0\0 pixels", 15)));
-    EXPECT_FALSE(ends(PictureFormat::Tiff, QByteArray("II*\0\0\0\0\0 pixels", 15)));
-    EXPECT_FALSE(ends(PictureFormat::Tiff, {}));
+    EXPECT_TRUE(ends(ImageFormat::Jpeg, jpeg + "\xff\xd9"));
+    EXPECT_FALSE(ends(ImageFormat::Jpeg, jpeg));
+    EXPECT_TRUE(ends(ImageFormat::Png, png + pngChunk("IEND", 0, {})));
+    EXPECT_FALSE(ends(ImageFormat::Png, png + pngChunk("IDAT", 0, {})));
+    EXPECT_TRUE(ends(ImageFormat::Tiff, QByteArray("II*\0\x09\0\0\0 directory", 18)));
+    EXPECT_FALSE(ends(ImageFormat::Tiff, QByteArray("II*\0\x20\0\0\0 pixels", 15)));
+    EXPECT_FALSE(ends(ImageFormat::Tiff, QByteArray("II*\0\0\0\0\0 pixels", 15)));
+    EXPECT_FALSE(ends(ImageFormat::Tiff, {}));
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/files/TiffUpright.h"
+#include "graphics/files/TiffOrientation.h"
 
 #include "graphics/files/TiffDirectory.h"
 
@@ -18,14 +18,14 @@ namespace
 
 constexpr std::uint16_t shortType = 3;
 
-bool isFirst(const TiffEntry &entry, TiffOrder order)
+bool isNormal(const TiffEntry &entry, TiffByteOrder order)
 {
     return entry.type == shortType && entry.count == 1 && order.get<std::uint16_t>(entry.content.constData()) == 1;
 }
 
 OpenFile copyInMemory(const OpenFile &file)
 {
-    OpenFile copy(memfd_create("picture", MFD_CLOEXEC));
+    OpenFile copy(memfd_create("image", MFD_CLOEXEC));
     const std::uint64_t size = file.size();
     off_t done = 0;
     ssize_t sent = 1;
@@ -40,19 +40,19 @@ OpenFile copyInMemory(const OpenFile &file)
 
 } // namespace
 
-OpenFile uprightTiff(const OpenFile &file)
+OpenFile copyWithNormalOrientation(const OpenFile &file)
 {
     const QByteArray header = file.bytesAt(0, tiffHeaderSize);
-    const std::optional<TiffOrder> order = header.size() == tiffHeaderSize ? tiffOrderOf(header) : std::nullopt;
+    const std::optional<TiffByteOrder> order = header.size() == tiffHeaderSize ? tiffByteOrderOf(header) : std::nullopt;
     if (!order) {
         return OpenFile();
     }
     const auto start = order->get<std::uint32_t>(header.constData() + 4);
-    for (const TiffEntry &entry : tiffDirectory(file.bytesAt(start, largestTiffDirectory), *order)) {
-        if (entry.tag == static_cast<std::uint16_t>(TiffTag::Orientation) && !isFirst(entry, *order)) {
+    for (const TiffEntry &entry : decodeDirectory(file.bytesAt(start, maxTiffDirectorySize), *order)) {
+        if (entry.tag == static_cast<std::uint16_t>(TiffTag::Orientation) && !isNormal(entry, *order)) {
             OpenFile copy = copyInMemory(file);
             const QByteArray first = order->bytesOf(std::uint16_t{1}) + QByteArray(2, '\0');
-            copy.overwrite(start + entry.line, tiffLine({entry.tag, shortType, 1, first}, *order));
+            copy.overwrite(start + entry.offset, encodeEntry({entry.tag, shortType, 1, first}, *order));
             return copy;
         }
     }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/files/PictureFile.h"
+#include "graphics/files/ImageFile.h"
 
 #include "graphics/files/PngChunks.h"
-#include "graphics/files/TiffUpright.h"
+#include "graphics/files/TiffOrientation.h"
 
 #include <QFile>
 #include <QtEndian>
@@ -17,13 +17,13 @@ namespace grisal::graphics
 namespace
 {
 
-constexpr std::uint64_t largestTrustedPicture = 90'000'000;
-constexpr std::uint64_t mostPixelsPerByte = 200;
+constexpr std::uint64_t maxUncheckedPixels = 90'000'000;
+constexpr std::uint64_t maxPixelsPerByte = 200;
 
-constexpr std::uint32_t longestText = 1 << 20;
-constexpr int mostCompressedTexts = 16;
+constexpr std::uint32_t maxTextLength = 1 << 20;
+constexpr int maxCompressedTexts = 16;
 
-/// Whether a TIFF file of that size may have its directory there: behind its first bytes.
+/// Whether the offset of the directory of a TIFF file lies behind the header and within the file.
 bool isWithin(std::uint32_t directory, std::uint64_t size)
 {
     return directory >= signatureLength && directory < size;
@@ -31,23 +31,23 @@ bool isWithin(std::uint32_t directory, std::uint64_t size)
 
 } // namespace
 
-PictureFile::PictureFile(const QString &path)
+ImageFile::ImageFile(const QString &path)
 {
     open(path);
     if (m_problem.isEmpty()) {
-        look(path);
+        detectFormat(path);
     }
-    if (m_problem.isEmpty() && m_format == PictureFormat::Png && hasInvalidTexts()) {
+    if (m_problem.isEmpty() && m_format == ImageFormat::Png && hasInvalidTexts()) {
         m_problem = QStringLiteral("%1 holds texts of absurd length").arg(path);
     }
-    if (m_problem.isEmpty() && m_format == PictureFormat::Tiff) {
-        standUpright();
+    if (m_problem.isEmpty() && m_format == ImageFormat::Tiff) {
+        normaliseTiff();
     }
 }
 
-// What is there is looked at before it is opened, since opening a device may do something; and once more afterwards,
-// since it may have become something else.
-void PictureFile::open(const QString &path)
+// The type is checked before the file is opened, since opening a device may have side effects, and once more
+// afterwards, since the file may have been replaced.
+void ImageFile::open(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat status {
@@ -63,9 +63,9 @@ void PictureFile::open(const QString &path)
     m_size = static_cast<std::uint64_t>(status.st_size);
 }
 
-void PictureFile::look(const QString &path)
+void ImageFile::detectFormat(const QString &path)
 {
-    const std::optional<PictureFormat> format = formatOfContents(m_file.bytesAt(0, signatureLength));
+    const std::optional<ImageFormat> format = formatOfContents(m_file.bytesAt(0, signatureLength));
     if (!format) {
         m_problem = QStringLiteral("No JPEG, PNG or TIFF picture in %1").arg(path);
         return;
@@ -73,33 +73,33 @@ void PictureFile::look(const QString &path)
     m_format = *format;
 }
 
-void PictureFile::standUpright()
+void ImageFile::normaliseTiff()
 {
     try {
-        m_upright = uprightTiff(m_file);
+        m_normalised = copyWithNormalOrientation(m_file);
     } catch (const std::exception &exception) {
         m_problem = QString::fromLocal8Bit(exception.what());
     }
 }
 
 // Whatever follows the closing chunk, or bytes that are no chunk, is not read by GraphicsMagick.
-bool PictureFile::hasInvalidTexts() const
+bool ImageFile::hasInvalidTexts() const
 {
     int compressedTexts = 0;
     return !visitPngChunks(m_file, [&](const PngChunk &chunk) {
         const bool isCompressed = chunk.kind == "zTXt" || chunk.kind == "iTXt" || chunk.kind == "iCCP";
         const bool isText = isCompressed || chunk.kind == "tEXt";
         compressedTexts += isCompressed ? 1 : 0;
-        return !(isText && chunk.length > longestText) && compressedTexts <= mostCompressedTexts;
+        return !(isText && chunk.length > maxTextLength) && compressedTexts <= maxCompressedTexts;
     });
 }
 
-bool PictureFile::canHold(std::uint64_t pixels) const
+bool ImageFile::canHold(std::uint64_t pixels) const
 {
-    return pixels <= largestTrustedPicture || pixels / mostPixelsPerByte <= m_size;
+    return pixels <= maxUncheckedPixels || pixels / maxPixelsPerByte <= m_size;
 }
 
-bool endsAsItShould(const OpenFile &file, PictureFormat format)
+bool hasCompleteEnd(const OpenFile &file, ImageFormat format)
 {
     struct stat status {
     };
@@ -108,11 +108,11 @@ bool endsAsItShould(const OpenFile &file, PictureFormat format)
     }
     const auto size = static_cast<std::uint64_t>(status.st_size);
     switch (format) {
-    case PictureFormat::Jpeg:
+    case ImageFormat::Jpeg:
         return file.bytesAt(size - 2, 2) == "\xff\xd9";
-    case PictureFormat::Png:
+    case ImageFormat::Png:
         return file.bytesAt(size - 8, 4) == "IEND";
-    case PictureFormat::Tiff:
+    case ImageFormat::Tiff:
         return isWithin(qFromLittleEndian<std::uint32_t>(file.bytesAt(4, 4).constData()), size);
     }
     return false;

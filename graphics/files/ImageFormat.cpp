@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/files/PictureFormat.h"
+#include "graphics/files/ImageFormat.h"
 
 #include <QFileInfo>
 
@@ -12,40 +12,40 @@ namespace
 {
 
 struct Signature {
-    PictureFormat format;
+    ImageFormat format;
     QByteArrayView start;
 };
 
 constexpr std::array<Signature, 6> signatures{{
-    {PictureFormat::Jpeg, "\xff\xd8\xff"},
-    {PictureFormat::Png, "\x89PNG\r\n\x1a\n"},
-    {PictureFormat::Tiff, QByteArrayView("II*\0", 4)},
-    {PictureFormat::Tiff, QByteArrayView("MM\0*", 4)},
-    {PictureFormat::Tiff, QByteArrayView("II+\0", 4)},
-    {PictureFormat::Tiff, QByteArrayView("MM\0+", 4)},
+    {ImageFormat::Jpeg, "\xff\xd8\xff"},
+    {ImageFormat::Png, "\x89PNG\r\n\x1a\n"},
+    {ImageFormat::Tiff, QByteArrayView("II*\0", 4)},
+    {ImageFormat::Tiff, QByteArrayView("MM\0*", 4)},
+    {ImageFormat::Tiff, QByteArrayView("II+\0", 4)},
+    {ImageFormat::Tiff, QByteArrayView("MM\0+", 4)},
 }};
 
 struct Extension {
     const char *text;
-    PictureFormat format;
+    ImageFormat format;
 };
 
 constexpr std::array<Extension, 5> extensions{{
-    {"jpg", PictureFormat::Jpeg},
-    {"jpeg", PictureFormat::Jpeg},
-    {"png", PictureFormat::Png},
-    {"tif", PictureFormat::Tiff},
-    {"tiff", PictureFormat::Tiff},
+    {"jpg", ImageFormat::Jpeg},
+    {"jpeg", ImageFormat::Jpeg},
+    {"png", ImageFormat::Png},
+    {"tif", ImageFormat::Tiff},
+    {"tiff", ImageFormat::Tiff},
 }};
 
-const char *prefixOf(PictureFormat format)
+const char *prefixOf(ImageFormat format)
 {
     switch (format) {
-    case PictureFormat::Jpeg:
+    case ImageFormat::Jpeg:
         return "JPEG:";
-    case PictureFormat::Png:
+    case ImageFormat::Png:
         return "PNG:";
-    case PictureFormat::Tiff:
+    case ImageFormat::Tiff:
         return "TIFF:";
     }
     return "";
@@ -53,7 +53,7 @@ const char *prefixOf(PictureFormat format)
 
 } // namespace
 
-std::optional<PictureFormat> formatOfContents(QByteArrayView start)
+std::optional<ImageFormat> formatOfContents(QByteArrayView start)
 {
     for (const Signature &signature : signatures) {
         if (start.startsWith(signature.start)) {
@@ -63,7 +63,7 @@ std::optional<PictureFormat> formatOfContents(QByteArrayView start)
     return std::nullopt;
 }
 
-std::optional<PictureFormat> formatOfName(const QString &path)
+std::optional<ImageFormat> formatOfName(const QString &path)
 {
     const QString suffix = QFileInfo(path).suffix();
     for (const Extension &extension : extensions) {
@@ -74,12 +74,12 @@ std::optional<PictureFormat> formatOfName(const QString &path)
     return std::nullopt;
 }
 
-std::string libraryName(PictureFormat format, const std::string &file)
+std::string magickName(ImageFormat format, const std::string &file)
 {
     return prefixOf(format) + file;
 }
 
-std::string nameOfOpenFile(int descriptor)
+std::string pathOfOpenFile(int descriptor)
 {
     return "/proc/self/fd/" + std::to_string(descriptor);
 }
