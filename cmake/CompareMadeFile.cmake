@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Fails unless PROGRAM, given the path MADE, writes there the very bytes of the file KEPT.
+# Runs PROGRAM with the path MADE as its argument, and fails unless the file that it writes there is identical to the
+# file KEPT.
 execute_process(COMMAND "${PROGRAM}" "${MADE}" COMMAND_ERROR_IS_FATAL ANY)
 file(SHA256 "${MADE}" made)
 file(SHA256 "${KEPT}" kept)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# What every target of the project has in common.
+# Settings that all targets of the project share.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -10,7 +10,8 @@ add_library(grisal_options INTERFACE)
 target_include_directories(grisal_options INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_options(grisal_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
 
-# grisal_add_library(NAME sources...): one of the program's libraries, headers included by their path from the root.
+# grisal_add_library(NAME sources...): adds a static library of the program. Headers are included by their path from the
+# project root.
 function(grisal_add_library name)
   add_library(${name} STATIC ${ARGN})
   target_link_libraries(${name} PUBLIC grisal_options)
