@@ -35,7 +35,7 @@ void Message::replaceInDetail(const QString &before, const QString &after)
     m_detail.replace(before, after);
 }
 
-// Not every text has a place for a detail, which arg() would complain of.
+// QString::arg() would log a warning for a text without %1.
 QString Message::complete(QString text) const
 {
     return text.replace(QStringLiteral("%1"), m_detail);

@@ -6,23 +6,23 @@
 namespace grisal::graphics
 {
 
-/// A sentence for the user and for the log: the user reads it in the language of the program, the log stays English.
+/// A message for the user, in the language of the program, and for the log, in English.
 class Message
 {
 public:
-    /// Nothing to tell.
+    /// An empty message.
     Message() = default;
-    /// The text, marked by QT_TRANSLATE_NOOP("Message", ...), and what stands in it for %1: a path, a number. It is
-    /// not copied.
+    /// A message that the program translates. `text` is marked by QT_TRANSLATE_NOOP("Message", ...) and is not copied;
+    /// `detail`, for example a path or a number, replaces %1 in it.
     explicit Message(const char *text, QString detail = {});
-    /// What somebody else said, the image library, say: the same in every language.
+    /// A message that consists of a text from elsewhere, for example from GraphicsMagick. It is not translated.
     static Message quoting(const QString &words);
 
     bool isEmpty() const;
     QString english() const;
     QString translated() const;
 
-    /// Puts one word for another in what is not ours: the detail, or the words that are quoted.
+    /// Replaces a substring of the detail or of the quoted text, the parts that are not translated.
     void replaceInDetail(const QString &before, const QString &after);
 
 private:
