@@ -9,11 +9,12 @@ namespace grisal::graphics
 
 class DocumentView;
 
-/// A rendering job: which texture, through which filters, seen how. Owns nothing of it.
+/// A rendering job: a source texture, the filters that process it and the view that displays the result. Owns none of
+/// them.
 class Document
 {
 public:
-    /// `source` is the name of the texture to be processed; 0 where a renderer brings its own pixels.
+    /// `source` is the name of the texture to be processed; 0 if the renderer has its own source pixels.
     Document(GLuint source, DocumentFilterQueue *queue) : m_source(source), m_queue(queue) {}
 
     GLuint source() const { return m_source; }
@@ -25,7 +26,7 @@ public:
     DocumentView *view() const { return m_view; }
     void setView(DocumentView *view) { m_view = view; }
 
-    /// While set, the source is shown as it is: the user compares.
+    /// If set, the source is displayed without filters, so that the user can compare.
     bool bypass() const { return m_bypass; }
     void setBypass(bool bypass) { m_bypass = bypass; }
 

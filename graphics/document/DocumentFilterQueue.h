@@ -8,8 +8,8 @@ namespace grisal::graphics
 
 class IFilter;
 
-/// The filters to run, in order. Owns none of them; the same filter added twice runs twice; an empty queue is legal
-/// and leaves a picture as it is.
+/// The filters to run, in order. Owns none of them. A filter that is added twice runs twice; an empty queue is valid
+/// and leaves the image unchanged.
 class DocumentFilterQueue
 {
 public:
@@ -18,23 +18,23 @@ public:
     DocumentFilterQueue &operator=(const DocumentFilterQueue &) = delete;
     virtual ~DocumentFilterQueue() = default;
 
-    /// Appends a filter, which has to outlive the queue.
+    /// Appends a filter, which must outlive the queue.
     void add(IFilter *filter) { m_filters.push_back(filter); }
 
-    /// Takes all filters out.
+    /// Removes all filters.
     void clear() { m_filters.clear(); }
 
-    /// A copy of the filters in the order they were added.
+    /// Returns a copy of the filters in the order in which they were added.
     std::vector<IFilter *> filters() const { return m_filters; }
 
 private:
     std::vector<IFilter *> m_filters;
 };
 
-/// How many of the filters are enabled.
+/// Returns the number of enabled filters.
 int countEnabled(const std::vector<IFilter *> &filters);
 
-/// Whether any filter from position `first` on is enabled.
+/// Returns whether any filter from index `first` on is enabled.
 bool anyEnabledFrom(const std::vector<IFilter *> &filters, std::size_t first);
 
 } // namespace grisal::graphics

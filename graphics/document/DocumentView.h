@@ -6,8 +6,8 @@
 namespace grisal::graphics
 {
 
-/// How a document is put on the screen, with a render target of the picture's size. Owns the target: made and
-/// destroyed with the context current.
+/// Defines how a document is displayed, and owns a render target of the image's size. The context must be current when
+/// the view is created and destroyed.
 class DocumentView
 {
 public:
@@ -15,7 +15,7 @@ public:
     DocumentView(const DocumentView &) = delete;
     DocumentView &operator=(const DocumentView &) = delete;
 
-    /// Sets viewport and matrices for drawing the picture on the screen.
+    /// Sets the viewport and the matrices for drawing the image on the screen.
     virtual void setup() = 0;
 
     virtual ~DocumentView() = default;

@@ -9,8 +9,8 @@ namespace grisal::graphics
 namespace
 {
 
-/// The offset at which the image is drawn. At scale 1 its edge lies at a whole device pixel: between two of them,
-/// rows and columns would be drawn twice or not at all.
+/// Returns the offset at which the image is drawn. At scale 1 the edge of the image is aligned to a device pixel:
+/// between two device pixels, some rows and columns would be drawn twice or skipped.
 float drawnOffset(float offset, float scale, int imageSide)
 {
     const float half = static_cast<float>(imageSide) * 0.5F;
@@ -39,7 +39,7 @@ void FlexibleDocumentView::setup()
     glMatrixMode(GL_MODELVIEW);
     glLoadIdentity();
     glTranslatef(drawnOffset(m_offsetX, m_scale, m_imageWidth), drawnOffset(m_offsetY, m_scale, m_imageHeight), 0);
-    // Flat on purpose: the picture has no depth to scale.
+    // The z scale is 0 because the image is flat.
     glScalef(m_scale, m_scale, 0);
     glTranslatef(static_cast<float>(-m_imageWidth) * 0.5F, static_cast<float>(-m_imageHeight) * 0.5F, 0);
 }

@@ -6,14 +6,14 @@
 namespace grisal::graphics
 {
 
-/// A view that pans and zooms. A picture point (x, y), y counted upwards from the bottom of the drawn quad, lands at
-/// offset + scale * (point - picture size / 2), in device pixels from the bottom left of the viewport: the offset is
-/// where the middle of the picture lies, the scale is device pixels per picture pixel. At scale 1 the picture is drawn at
-/// whole device pixels, half a pixel beside the offset at the most.
+/// A view that pans and zooms. An image point (x, y), y counted upwards from the bottom of the drawn quad, is drawn at
+/// offset + scale * (point - image size / 2), in device pixels from the bottom left of the viewport. The offset is the
+/// position of the image's centre; the scale is the number of device pixels per image pixel. At scale 1 the image is
+/// aligned to device pixels, at most half a pixel away from the offset.
 class FlexibleDocumentView : public DocumentView
 {
 public:
-    /// Sizes in pixels; those of the picture are truncated. The picture lies in the middle at scale 1.
+    /// Sizes are in pixels; those of the image are truncated to integers. The image is initially centred, at scale 1.
     FlexibleDocumentView(float viewportWidth, float viewportHeight, float imageWidth, float imageHeight,
                          GLenum internalFormat, GLenum pixelFormat, GLenum pixelType);
 
@@ -30,7 +30,7 @@ public:
     float offsetY() const { return m_offsetY; }
     void setOffset(float x, float y);
 
-    /// Puts the middle of the picture into the middle of the viewport.
+    /// Moves the centre of the image to the centre of the viewport.
     void centre();
 
 private:
