@@ -115,7 +115,8 @@ void renderToFramebuffer(std::int32_t width, std::int32_t height, GLuint program
     switchOffPerFragmentTests();
     glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
     glViewport(0, 0, width, height);
-    // To clear what the quad covers anyway costs a software driver as much as half a pass.
+    // A quad of the target's size covers the whole target, and clearing it first would cost a software driver as much
+    // as half a pass.
     if (!isOfSize(target.texture, width, height)) {
         glClear(GL_COLOR_BUFFER_BIT);
     }

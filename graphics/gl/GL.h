@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// The one way to OpenGL for this code base: GLEW has to come before every other GL header.
+// OpenGL is included only through this header, because GLEW must precede every other OpenGL header.
 // clang-format off
 #include <GL/glew.h>
 #include <GL/glu.h>
@@ -14,16 +14,16 @@ namespace grisal::graphics
 
 /// Result of initialiseGlEntryPoints().
 enum class GlStart {
-    Ready,     ///< OpenGL 2.1 with framebuffer objects is there
-    NoContext, ///< no context is current, or it gives no entry points
+    Ready,     ///< OpenGL 2.1 with framebuffer objects is available
+    NoContext, ///< no context is current, or its entry points cannot be loaded
     TooOld,    ///< the context is older than OpenGL 2.1 or lacks framebuffer objects
 };
 
-/// Loads the GL entry points for the current context. May be called again for the same context.
-/// A GLEW that finds no GLX display (Wayland, EGL) counts as ready if the entry points were found all the same.
+/// Loads the OpenGL entry points for the current context. Repeated calls for the same context are allowed. If GLEW
+/// finds no GLX display (Wayland, EGL), the result is still Ready as long as the entry points were found.
 GlStart initialiseGlEntryPoints();
 
-/// Texture units, fixed for the whole engine.
+/// Texture units, the same in all filters.
 namespace unit
 {
 constexpr std::uint32_t source = 0;  ///< MainTexture of every filter

@@ -9,7 +9,7 @@ namespace
 
 unsigned faults = 0;
 
-// A lost context may report errors without end.
+// The loop is limited because a lost context may report errors endlessly.
 void collectErrors()
 {
     constexpr int most = 16;

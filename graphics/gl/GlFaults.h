@@ -6,24 +6,25 @@
 namespace grisal::graphics
 {
 
-/// Notes what glGetError() returned; no error is no fault. Whoever asks for an error takes it away from everybody else.
+/// Records an error that glGetError() returned; GL_NO_ERROR is ignored. Because glGetError() clears the error, every
+/// caller must record it here.
 void noteGlError(GLenum error);
 
-/// Notes that a framebuffer came out incomplete.
+/// Records that a framebuffer is incomplete.
 void noteIncompleteFramebuffer();
 
-/// Tells whether GL has reported a fault since it was made: what makes textures and framebuffers goes on after a fault,
-/// and whoever needs a right result asks at the end. The context must be current.
+/// Detects OpenGL faults that are recorded after its construction. Functions that create textures and framebuffers
+/// continue after a fault; code that needs a correct result checks isClean() at the end. The context must be current.
 class GlFaultWatch
 {
 public:
-    /// Errors that nobody has asked for yet belong to the time before.
+    /// Collects the errors that are still pending; they count as earlier faults.
     GlFaultWatch();
 
-    /// Whether there was no fault.
+    /// Returns whether no fault has been recorded since the construction.
     bool isClean() const;
 
-    /// Takes back the faults since it was made, where another way to the right result was found.
+    /// Discards the faults since the construction, for callers that obtained the correct result in another way.
     void forgive();
 
 private:

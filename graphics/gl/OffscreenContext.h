@@ -9,8 +9,9 @@ class QOpenGLContext;
 namespace grisal::graphics
 {
 
-/// A GL context without a window, current from its making on, for programs that render without showing anything.
-/// Needs a QGuiApplication. Knows nothing of GLEW, whose header does not go together with the toolkit's.
+/// An OpenGL context without a window, current after its construction, for programs that render without displaying
+/// anything. Requires a QGuiApplication. GLEW is not included here because its header conflicts with Qt's OpenGL
+/// headers.
 class OffscreenContext
 {
 public:
@@ -19,7 +20,7 @@ public:
     OffscreenContext &operator=(const OffscreenContext &) = delete;
     ~OffscreenContext();
 
-    /// Whether there is a context and it could be made current.
+    /// Returns whether the context was created and made current.
     bool isCurrent() const { return m_current; }
 
 private:

@@ -9,7 +9,8 @@ namespace grisal::graphics
 void setDefaultSurfaceFormat()
 {
     QSurfaceFormat format;
-    // Named outright: the default type may turn into OpenGL ES, whose shaders lack what the filters use.
+    // Set explicitly because Qt may otherwise choose OpenGL ES, whose shading language lacks features that the filters
+    // use.
     format.setRenderableType(QSurfaceFormat::OpenGL);
     format.setVersion(2, 1);
     format.setProfile(QSurfaceFormat::CompatibilityProfile);

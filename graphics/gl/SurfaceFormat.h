@@ -4,8 +4,8 @@
 namespace grisal::graphics
 {
 
-/// Asks the toolkit for OpenGL 2.1, compatibility profile, for every window and context made from now on. To be
-/// called before the application object is made.
+/// Makes Qt request OpenGL 2.1, compatibility profile, for every window and context that is created afterwards. Must be
+/// called before the application object is created.
 void setDefaultSurfaceFormat();
 
 } // namespace grisal::graphics

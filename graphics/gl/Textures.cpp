@@ -11,7 +11,7 @@ namespace grisal::graphics
 GLuint createTexture(std::int32_t width, std::int32_t height, GLenum internalFormat, GLenum format, GLenum type,
                      const void *data)
 {
-    // An error left by someone else would be taken for the upload's.
+    // A pending error of an earlier call would otherwise be attributed to the upload.
     noteGlError(glGetError());
 
     glEnable(GL_TEXTURE_2D);

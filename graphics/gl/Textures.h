@@ -8,26 +8,26 @@
 namespace grisal::graphics
 {
 
-/// Makes a 2D texture of width x height texels: nearest filtering, mirrored repeat in both directions.
+/// Creates a 2D texture of width x height texels with nearest filtering and mirrored repeat in both directions.
 ///
-/// The context must be current. Rows of `data` follow each other without padding, whatever their length, first row
-/// first; `data` may be null, then the texels are undefined. The caller owns the name. Unit 0 is active afterwards
-/// and no 2D texture is bound on it. A GL error is written to the log as a warning and the name is returned all the
-/// same.
+/// The context must be current. The rows of `data` are not padded, whatever their length; the first row comes first. If
+/// `data` is null, the texels are undefined. The caller owns the returned name. Afterwards unit 0 is active and no 2D
+/// texture is bound to it. An OpenGL error is logged as a warning, and the name is returned nevertheless.
 GLuint createTexture(std::int32_t width, std::int32_t height, GLenum internalFormat, GLenum format, GLenum type,
                      const void *data);
 
-/// Makes a 1D texture of `width` texels: nearest filtering, repeat. Ownership and context as for createTexture().
-/// Errors are not looked at.
+/// Creates a 1D texture of `width` texels with nearest filtering and repeat. Ownership and context as for
+/// createTexture(). OpenGL errors are not checked.
 GLuint create1DTexture(std::int32_t width, GLenum internalFormat, GLenum format, GLenum type, const void *data);
 
-/// The largest side of a 2D texture that the driver offers, in texels. The context must be current.
+/// Returns the largest width and height of a 2D texture, in texels, that the OpenGL driver supports. The context must
+/// be current.
 std::uint32_t largestTextureSide();
 
-/// The log text for the GL error that followed the making of a texture; null where nothing is to be said.
+/// Returns the log text for an OpenGL error of createTexture(), or null if the error needs no log entry.
 const char *textureErrorText(GLenum error);
 
-/// Owns one texture name; deletes it, with the context current, at the end of its life. Not copyable.
+/// Owns a texture name and deletes it in its destructor; the context must then be current. Not copyable.
 class Texture
 {
 public:
