@@ -9,14 +9,14 @@
 namespace grisal::graphics
 {
 
-/// The components of a pixel in an Image: R, G, B.
+/// The number of components of a pixel in an Image: R, G, B.
 constexpr std::size_t rgbComponents = 3;
 
 /// An image of 8-bit or 16-bit samples, which it owns: interleaved R, G, B, rows from top to bottom without padding.
 template <typename Sample>
 struct Raster {
     Raster() = default;
-    /// A black image of that size in pixels.
+    /// A black image of the given size in pixels.
     Raster(int imageWidth, int imageHeight)
         : width(imageWidth), height(imageHeight), samples(pixelCount() * rgbComponents)
     {
@@ -32,7 +32,7 @@ struct Raster {
 using Image8 = Raster<std::uint8_t>;
 using Image16 = Raster<std::uint16_t>;
 
-/// An image at the depth of its file.
+/// An image with the bit depth of its file.
 using Image = std::variant<Image8, Image16>;
 
 inline bool is16Bit(const Image &image)
@@ -40,7 +40,7 @@ inline bool is16Bit(const Image &image)
     return std::holds_alternative<Image16>(image);
 }
 
-/// The image with 8 bits a sample: the high byte of each.
+/// Returns the image with 8-bit samples, the high bytes of its 16-bit samples.
 Image8 highBytes(const Image16 &image);
 
 } // namespace grisal::graphics

@@ -6,8 +6,8 @@
 namespace grisal::graphics
 {
 
-/// Describes a pixel buffer that someone else owns: interleaved pixels, rows from top to bottom without padding.
-/// Whether a pixel has 3 or 4 components and whether they are bytes or 16-bit words travels beside the buffer.
+/// Describes a pixel buffer that it does not own: interleaved pixels, rows from top to bottom without padding. The
+/// number of components per pixel (3 or 4) and the size of a sample (8 or 16 bits) are passed separately.
 struct ImageBuffer {
     void *pixels = nullptr;   ///< first component of the top left pixel; not owned
     std::uint32_t width = 0;  ///< in pixels

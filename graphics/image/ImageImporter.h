@@ -8,33 +8,33 @@ namespace grisal::graphics
 
 struct ImageBuffer;
 
-/// Whoever wants to be told of an imported buffer.
+/// Receives imported buffers.
 class IImageReceiver
 {
 public:
-    /// Receives a buffer, never null. The buffer belongs to whoever imports it and is only lent for the call.
+    /// Receives a buffer, never null. The buffer belongs to the caller and is valid only during the call.
     virtual void receiveImage(ImageBuffer *buffer) = 0;
 
 protected:
     ~IImageReceiver() = default;
 };
 
-/// Hands buffers on to receivers.
+/// Passes buffers to receivers.
 class IImageImporter
 {
 public:
-    /// Adds a receiver, not owned, at the end of the list. Null is accepted, and the same receiver more than once.
+    /// Appends a receiver, which is not owned. Null is accepted, and so is a receiver that has already been added.
     virtual void addReceiver(IImageReceiver *receiver) = 0;
 
-    /// Hands `buffer` to every receiver that is not null, in the order in which they were added. A null buffer goes
-    /// to nobody. Always false.
+    /// Passes `buffer` to every receiver that is not null, in the order in which they were added. A null buffer is
+    /// ignored. Always returns false.
     virtual bool importImage(ImageBuffer *buffer) = 0;
 
 protected:
     ~IImageImporter() = default;
 };
 
-/// The importer of the program.
+/// The importer that the program uses.
 class ImageImporter final : public IImageImporter
 {
 public:

@@ -37,13 +37,13 @@ Side halfSide(Side side)
     return std::max<Side>(1, side / 2);
 }
 
-/// Halves the top left pixels of a picture row by row as often as it takes, so that nothing between the picture and
-/// the last half is ever whole.
+/// Downscales the top left pixels of an image repeatedly by two. It works row by row, so that no intermediate image is
+/// kept in memory as a whole.
 template <typename Component, std::size_t components>
 class Halves
 {
 public:
-    /// The picture's rows are `fullWidth` pixels long, of which `width` count.
+    /// The rows of the image are `fullWidth` pixels long; the first `width` pixels of each are used.
     Halves(const Component *pixels, int fullWidth, int width, int height)
         : m_pixels(pixels), m_row(length(fullWidth) * components)
     {
@@ -69,11 +69,11 @@ private:
         std::size_t height;
     };
 
-    /// Row y after that many halvings, at least one.
+    /// Computes row y of the image that has been downscaled `halvings` times, at least once.
     void makeRow(std::size_t halvings, std::size_t y, Component *target) const
     {
         const Size whole = m_sizes[halvings - 1];
-        const std::size_t below = whole.height > 1 ? 2 * y + 1 : y; // a side of 1 has no neighbour: it counts twice
+        const std::size_t below = whole.height > 1 ? 2 * y + 1 : y; // a single row is used twice
         if (halvings == 1) {
             join<components>(m_pixels + 2 * y * m_row, m_pixels + below * m_row, whole.width, target);
             return;
@@ -85,7 +85,7 @@ private:
         join<rgb>(rows.data(), lower, whole.width, target);
     }
 
-    /// Two rows of pixels with `step` components each become one of half the width.
+    /// Downscales two rows of pixels with `step` components each to one row of half the width.
     template <std::size_t step>
     static void join(const Component *upper, const Component *lower, std::size_t width, Component *target)
     {
@@ -112,7 +112,7 @@ int halvingsOf(int width, int height)
     return halvings;
 }
 
-/// The top left pixels, three components each.
+/// Returns the top left pixels, downscaled `halvings` times, with three components each.
 template <typename Component>
 std::vector<Component> firstPixels(const void *pixels, int fullWidth, const PreviewPixels &size, int halvings,
                                    bool alpha)

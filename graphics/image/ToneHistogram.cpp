@@ -12,10 +12,11 @@ namespace
 {
 
 constexpr std::size_t outputBins = 256;
-constexpr float fullShare = 30.0F; // a thirtieth of the pixels fills a bin's height
+constexpr float fullShare = 30.0F; // a bin with a thirtieth of the pixels has the value 1
 
-/// Counts the means of the three colours, rounded down. Four counters take turns: neighbours are mostly of one tone,
-/// and a counter that has just been written is slow to read.
+/// Counts the means of the three colour components, rounded down. Four counters per tone are used in turn: neighbouring
+/// pixels mostly have the same tone, and incrementing the counter that was just written would have to wait for that
+/// write.
 template <typename Component, std::size_t components>
 void addTones(const Component *pixels, std::size_t count, std::vector<std::size_t> &tones)
 {

@@ -8,12 +8,13 @@
 namespace grisal::graphics
 {
 
-/// The tone histogram behind the curve: 256 bins over the mean (R + G + B) / 3 of `count` interleaved pixels of 3
-/// components, or 4 with `withAlpha` (the fourth is skipped), bytes or 16-bit words.
+/// Returns the tone histogram that is drawn behind the curve: 256 bins for the means (R + G + B) / 3 of `count`
+/// interleaved pixels. A pixel has 3 components, or 4 with `withAlpha` (the fourth is ignored), of 8 bits, or of 16
+/// bits with `sixteenBit`.
 ///
-/// A bin holds its share of the pixels times 30: a tone that a thirtieth of all pixels has reaches 1; more is
-/// possible. With 16 bits, bin i is the count of the single value i * 255, a sample and not a sum. No pixels give
-/// zeros.
+/// The value of a bin is its share of the pixels times 30: a thirtieth of the pixels gives 1, and larger values are
+/// possible. With 16 bits, bin i counts only the pixels whose mean, rounded down, is i * 255, not a range of means. If
+/// there are no pixels, all bins are 0.
 QVector<float> toneHistogram(const void *pixels, std::size_t count, bool sixteenBit, bool withAlpha);
 
 } // namespace grisal::graphics
