@@ -56,7 +56,7 @@ ShaderProgram::ShaderProgram(std::string label, const std::string &vertexSource,
     const GLuint vertex = compileShader(vertexSource, GL_VERTEX_SHADER).second;
     const GLuint fragment = compileShader(fragmentSource, GL_FRAGMENT_SHADER).second;
     program = linkProgram({vertex, fragment});
-    // A linked program keeps what it needs of its shaders.
+    // OpenGL keeps the shader objects as long as they are attached to the program.
     glDeleteShader(vertex);
     glDeleteShader(fragment);
 }
