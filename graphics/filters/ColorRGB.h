@@ -4,8 +4,8 @@
 namespace grisal::graphics
 {
 
-/// Three channel values in the order r, g, b. Their scale is the owner's business: weights and colours of the filters
-/// are 0..1, the mixer panel counts 0..255.
+/// Three channel values in the order r, g, b. Their range depends on the use: 0..1 for weights and colours of the
+/// filters, 0..255 in the mixer panel.
 template <typename T>
 struct ColorRGB {
     T r{};

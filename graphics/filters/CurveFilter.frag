@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Grey through the tone curve: the nearest sample for the red channel, in all four channels.
-//   MainTexture    the grey picture; only red is read
-//   Curve          the outputs 0..1 for the greys 0..1, evenly spaced
+// Applies the tone curve: writes the curve sample nearest to the red channel to all four channels.
+//   MainTexture    the grey image; only the red channel is read
+//   Curve          output values 0..1 for evenly spaced grey values 0..1
 //   Width, Height  size of the pass in pixels
 //   MaxPixel       1
-// The lookup stops at 0.999: the texture repeats, so that 1.0 would read its first sample.
+// The lookup is clamped to 0.999 because the texture repeats: 1.0 would read its first sample.
 
 uniform float Width;
 uniform float Height;

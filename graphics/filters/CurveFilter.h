@@ -11,13 +11,13 @@
 namespace grisal::graphics
 {
 
-/// Maps grey through a tone curve: the sample nearest to the red channel v, clamped to 0..0.999, goes into all four
-/// channels, alpha included. Before the first setCurve() the pass reads texture 0.
+/// Applies a tone curve to a grey image: the curve sample nearest to the red channel, clamped to 0..0.999, is written
+/// to all four channels, alpha included. Before the first setCurve() the pass reads texture 0.
 class CurveFilter : public IFilter
 {
 public:
     struct Parameters {
-        QVector<float> curve = identity(); ///< 256 samples 0..1, sample i the output for the grey i / 256
+        QVector<float> curve = identity(); ///< 256 samples 0..1; sample i is the output for grey i / 256
 
         static QVector<float> identity();
     };
@@ -27,14 +27,15 @@ public:
 
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
-    /// Sends the curve if it differs from the current one. The context must be current.
+    /// Uploads the curve if it differs from the current one. The context must be current.
     void setParameters(const Parameters &wanted);
 
-    /// The program of the pass, compiled at its first use. The context must be current.
+    /// Returns the program of the pass, which is compiled at its first use. The context must be current.
     const ShaderProgram &program() const { return m_program.get(); }
 
-    /// Takes the outputs 0..1 for evenly spaced greys, 256 of them from the curves panel. The straight curve is
-    /// i / 256: an 8-bit target stores the greys above 128 one level darker. The context must be current.
+    /// Uploads the output values 0..1 for evenly spaced grey values; the curves panel provides 256 of them. Sample i of
+    /// the straight curve is i / 256, so an 8-bit target stores grey levels above 128 one level darker. The context
+    /// must be current.
     void setCurve(const QVector<float> &values);
 
     const QVector<float> &curve() const { return m_curve; }

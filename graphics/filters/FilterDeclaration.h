@@ -8,27 +8,28 @@
 namespace grisal::graphics
 {
 
-/// A parameter of a filter: one or more floats of the same kind. Its default is what a new Parameters contains.
+/// A parameter of a filter: one or more floats of the same kind. Its default is its value in a default-constructed
+/// Parameters object.
 template <typename Parameters>
 struct ParameterDeclaration {
     const char *name;
     const char *unit;
-    float lowest;                 ///< of each value
-    float highest;                ///< of each value
-    std::optional<float> neutral; ///< with this value the filter changes nothing, whatever its other parameters
+    float lowest;                 ///< minimum of each value
+    float highest;                ///< maximum of each value
+    std::optional<float> neutral; ///< at this value the filter has no effect, whatever its other parameters are
 
-    /// The parameter's values within the parameters.
+    /// Returns the values of this parameter in a Parameters object.
     std::span<float> (*values)(Parameters &);
 };
 
-/// What the engine has to know of a filter. Every filter of the queues has a type `Parameters`, whose initial values
-/// are the defaults, a function `declaration()` and a function setParameters().
+/// Declares the properties of a filter that other code depends on. Every filter in the queues has a type `Parameters`,
+/// whose initial values are the defaults, a function declaration() and a function setParameters().
 template <typename Parameters>
 struct FilterDeclaration {
     const char *name;               ///< the name of the filter's class
-    bool enabledAtLoad = false;     ///< whether an image that is opened is shown with it
-    bool dependsOnPosition = false; ///< in a tile it is replaced by an overlay with its mask
-    bool readsNeighbours = false;   ///< it would show a seam at the edge of every tile, which have no border
+    bool enabledAtLoad = false;     ///< whether the filter is enabled when an image is opened
+    bool dependsOnPosition = false; ///< in tiles, an OverlayFilter with its mask replaces it
+    bool readsNeighbours = false;   ///< it causes seams between tiles, because tiles do not overlap
     std::vector<ParameterDeclaration<Parameters>> parameters;
 };
 

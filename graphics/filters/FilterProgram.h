@@ -8,17 +8,18 @@
 namespace grisal::graphics
 {
 
-/// The program of a filter, made of the shared vertex shader and one of the filters' fragment shaders. It is compiled
-/// at its first use: most images need few of the filters, and the window should not wait for all of them.
+/// The shader program of a filter: the shared vertex shader and a fragment shader. It is compiled at its first use,
+/// because most images need only a few filters and compiling all of them would delay the window.
 ///
-/// The context must be current when it is used and at the end of its life.
+/// The context must be current when the program is used and destroyed.
 class FilterProgram
 {
 public:
-    /// `label` identifies the program to people, `stem` is the name of the fragment shader's file.
+    /// `label` is the name of the program, `stem` the file name of the fragment shader without extension. Neither is
+    /// copied.
     FilterProgram(const char *label, const char *stem) : m_label(label), m_stem(stem) {}
 
-    /// The program, compiled at the first call.
+    /// Returns the program, which the first call compiles.
     const ShaderProgram &get() const
     {
         if (!m_program) {

@@ -8,8 +8,8 @@
 namespace grisal::graphics
 {
 
-/// The filters of an image, one of each kind of the list, shared by its preview and its final render. Made, used and
-/// destroyed with the context current.
+/// The filters of an image, one of each type in the filter list, shared by its preview and its final render. The
+/// context must be current when the set is created, used and destroyed.
 class FilterSet
 {
 public:
@@ -24,27 +24,27 @@ public:
         return std::get<Filter>(m_filters);
     }
 
-    /// Calls `visit` with every filter, in the order of the preview.
+    /// Calls `visit` with every filter, in preview order.
     template <typename Visit>
     void forEach(Visit visit)
     {
         std::apply([&](auto &...filters) { (visit(filters), ...); }, m_filters);
     }
 
-    /// Sets the size of the passes of all filters, in pixels.
+    /// Sets the pass size of all filters, in pixels.
     void setSize(int width, int height);
 
-    /// Sets the size of the whole image, in pixels, for the filters that depend on the position in it.
+    /// Sets the size of the whole image, in pixels, in the filters that depend on the position in the image.
     void setImageSize(int width, int height);
 
-    /// Switches on the filters that are enabled when an image is opened, and all others off.
+    /// Enables the filters that are declared as enabled at load, and disables all others.
     void resetEnabled();
 
-    /// Sends the parameters to their filters, those with a texture only if they have changed. The grain's radius is not
-    /// sent: setting it renders.
+    /// Passes the parameters to their filters; those that are stored in textures are uploaded only if they have
+    /// changed. The grain radius is not passed, because setting it renders.
     void setLook(const Look &look);
 
-    /// Appends the filters to a queue, in the order of the preview or of the final render.
+    /// Each appends the filters to a queue, in the order of the preview or of the final render.
     void addToPreview(DocumentFilterQueue &queue);
     void addToFinalRender(DocumentFilterQueue &queue);
 

@@ -7,8 +7,9 @@ namespace grisal::graphics
 namespace
 {
 
-/// A centre in percent of `side` as seen from the pixel `offset`: centre - 100 * offset / side. The shader computes
-/// side * 0.01 * centre in floats; the rounded position that it gets for the whole is the one that is moved.
+/// Converts a centre in percent of `side` into one relative to the pixel `offset`: centre - 100 * offset / side. The
+/// shader computes side * 0.01 * centre in single precision; the same rounded position is computed here before it is
+/// moved.
 float movedCentre(float centre, int offset, int side)
 {
     if (offset == 0) {

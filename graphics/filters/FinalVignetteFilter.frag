@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The vignette alone, as a mask for the whole picture: the value that the vignette would darken each pixel with.
+// Draws only the vignette, as a mask of the whole image: the value by which the vignette darkens each pixel.
 //   VignetteCenter       x and y in percent of Width and Height
-//   Strength             percent; 0 gives an empty mask
-//   Radius               percent of the mean of Width and Height: where the strength is reached
-//   Width, Height        size of the whole mask in pixels, also where a pass draws a piece of it
-//   MaxWidth, MaxHeight  not used
+//   Strength             percent; 0 gives a mask of zeros
+//   Radius               distance at which Strength is reached, in percent of the mean of Width and Height
+//   Width, Height        size of the whole mask in pixels, even if the pass draws only a part of it
+//   MaxWidth, MaxHeight  unused
 
 uniform float Width;
 uniform float Height;

@@ -9,27 +9,27 @@
 namespace grisal::graphics
 {
 
-/// Draws a vignette as a mask of its own: (v, v, v, 0) with v = vignetteValue() for width x height. The source
-/// texture of apply() is not read.
+/// Draws a vignette as a separate mask: (v, v, v, 0) with v = vignetteValue() for an image of width x height pixels.
+/// apply() ignores its source texture.
 class FinalVignetteFilter : public IFilter
 {
 public:
     FinalVignetteFilter();
 
-    /// The whole mask.
+    /// Draws the whole mask.
     void apply(GLuint sourceTexture, const FramebufferObject &target) override;
 
-    /// The program of the pass, compiled at its first use. The context must be current.
+    /// Returns the program of the pass, which is compiled at its first use. The context must be current.
     const ShaderProgram &program() const { return m_program.get(); }
 
-    /// The partWidth x partHeight pixels of the mask whose first is (x, y), in pixels: the whole mask with its centre
-    /// moved, `width` and `height` being the size of the whole. The moved centre is rounded to a float, so that some
-    /// values differ from those of the whole in their last bits.
+    /// Draws partWidth x partHeight pixels of the mask, starting at pixel (x, y). `width` and `height` remain the size
+    /// of the whole mask; its centre is moved instead. The moved centre is rounded to single precision, so some values
+    /// differ from those of the whole mask in their last bits.
     void applyPart(int x, int y, int partWidth, int partHeight, const FramebufferObject &target);
 
     VignetteParameters parameters;
-    float maxWidth = 0;  ///< sent, but the mask goes by width and height
-    float maxHeight = 0; ///< as maxWidth
+    float maxWidth = 0;  ///< passed to the shader, which ignores it and uses width
+    float maxHeight = 0; ///< passed to the shader, which ignores it and uses height
 
 private:
     FilterProgram m_program;

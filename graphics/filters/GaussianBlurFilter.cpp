@@ -4,7 +4,8 @@
 namespace grisal::graphics
 {
 
-// The labels of the two programs are crossed against their directions: they are known by these names.
+// The labels of the two programs are swapped on purpose: the blur along y is known as HorizontalBlurFilter, the blur
+// along x as VerticalBlurFilter.
 GaussianBlurFilter::GaussianBlurFilter(float initialSigma, float initialScale, int passWidth, int passHeight,
                                        GLenum internalFormat, GLenum format, GLenum type)
     : IFilter("GaussianBlurFilter"), sigma(initialSigma), scale(initialScale),

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Film grain: overlays the noise onto the picture, as strongly as the grey under it asks for.
-//   MainTexture    the grey picture
-//   NoiseMap       the noise, blurred; its red channel is used, 0.5 is neutral
-//   Weights        strength 0..1 for the greys 0..1, evenly spaced
+// Film grain: overlays the noise onto the image with a strength that depends on the grey value of the pixel.
+//   MainTexture    the grey image
+//   NoiseMap       the blurred noise in its red channel; 0.5 is neutral
+//   Weights        strengths 0..1 for evenly spaced grey values 0..1
 //   Width, Height  size of the pass in pixels
-//   Strength, Sigma  not used
+//   Strength, Sigma  unused
 
 uniform float Width;
 uniform float Height;

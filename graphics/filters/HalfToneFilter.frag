@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Split toning: one tint for the highlights, another for the shadows.
-//   MainTexture    the grey picture; the tones are taken from red
-//   Weight         share of the highlights, 1 is even; 0 tints everything with SecondColor
+//   MainTexture    the grey image; its red channel determines the share of each tint
+//   Weight         share of the highlights; 1 is balanced, 0 tints everything with SecondColor
 //   FirstColor     tint of the highlights, 0..1
 //   SecondColor    tint of the shadows, 0..1
 //   Width, Height  size of the pass in pixels
-// 0.0039 stands for 1/255 and is part of the look.
+// 0.0039 stands for 1/255 on purpose: the exact quotient would change the result.
 
 uniform float Width;
 uniform float Height;

@@ -9,8 +9,8 @@
 namespace grisal::graphics
 {
 
-/// Split toning of a grey picture i: with h = i * weight, s = (1 - h)^2 and o = 1 - h - s the result is
-/// overlay(i, firstColor) * h + overlay(i, secondColor) * s + i * o,
+/// Split toning of a grey image i. With h = i * weight, s = (1 - h)^2 and o = 1 - h - s the result is
+/// overlay(i, firstColor) * h + overlay(i, secondColor) * s + i * o, where
 /// overlay(I, M) = (I * 0.0039) * (I + (M * 2 * 0.0039) * (255 - I)) * 0.0039 on a scale of 0..255.
 class HalfToneFilter : public IFilter
 {
@@ -28,7 +28,7 @@ public:
 
     void setParameters(const Parameters &wanted);
 
-    /// The program of the pass, compiled at its first use. The context must be current.
+    /// Returns the program of the pass, which is compiled at its first use. The context must be current.
     const ShaderProgram &program() const { return m_program.get(); }
 
     float weight = 1;            ///< share of the highlights; 0 tints everything with secondColor

@@ -12,11 +12,11 @@
 namespace grisal::graphics
 {
 
-/// One image operation: a fragment program that draws a source texture into a render target.
+/// An image operation: a shader program that draws a source texture into a render target.
 ///
-/// A filter is made, run and destroyed with the context current. Its parameters are plain fields, read at every pass.
-/// A fragment reads the source texel under itself, so `width` and `height` must be the size of the target in pixels;
-/// the owner sets them before a pass.
+/// The context must be current when a filter is created, run and destroyed. The parameters are read at every pass. A
+/// fragment reads the source texel at its own position, so `width` and `height` must be the size of the target in
+/// pixels; the owner sets them before a pass.
 class IFilter
 {
 public:
@@ -28,14 +28,15 @@ public:
     /// Draws one pass of the 2D texture `sourceTexture` into `target`.
     virtual void apply(GLuint sourceTexture, const FramebufferObject &target) = 0;
 
-    /// The class name of the filter, for logs and tests.
+    /// Returns the class name of the filter, for logs and tests.
     std::string getName() const { return m_name; }
 
-    /// Makes the filter's mask for an image of width x height pixels, with its present parameters. Set by a filter that
-    /// depends on the position in the image: in a tile, an overlay with this mask takes its place. Empty otherwise.
+    /// Creates the filter's mask for an image of width x height pixels from its current parameters. Set only by a
+    /// filter that depends on the position in the image: in tiles, an OverlayFilter with this mask replaces it.
+    /// Otherwise empty.
     std::function<std::unique_ptr<IPositionMask>(std::uint32_t, std::uint32_t)> makePositionMask;
 
-    bool enabled = false; ///< whether renderers count the filter in
+    bool enabled = false; ///< whether renderers treat the filter as active
     int width = 0;        ///< width of the pass in pixels
     int height = 0;       ///< height of the pass in pixels
 
@@ -43,7 +44,7 @@ private:
     std::string m_name;
 };
 
-/// Sent as MaxPixel by the filters that know this uniform.
+/// The value of the uniform MaxPixel that filters pass to their shaders.
 constexpr float maxPixel = 1.0F;
 
 } // namespace grisal::graphics

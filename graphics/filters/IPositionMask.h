@@ -8,13 +8,13 @@ namespace grisal::graphics
 {
 
 /// The effect of a filter that depends on the position in the image, as a mask of the whole image for an OverlayFilter.
-/// The context must be current throughout its life.
+/// The context must be current when it is created, used and destroyed.
 class IPositionMask
 {
 public:
     virtual ~IPositionMask() = default;
 
-    /// The mask of an area as a texture of the area's size, GL_R32F.
+    /// Returns the mask of an area as a GL_R32F texture of the area's size.
     virtual Texture piece(const TileArea &area) = 0;
 };
 

@@ -8,7 +8,7 @@
 namespace grisal::graphics
 {
 
-/// What the panels set: the parameters of all filters, at first their defaults.
+/// The parameters of all filters, which the panels set; initially the defaults.
 class Look
 {
 public:

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Colour to grey: the weighted sum of the channels in all three channels, alpha 1.
-//   MainTexture    the picture
-//   Weights        multipliers of r, g and b; not normalised, a sum of 1 keeps white white
+// Converts colour to grey: writes the weighted sum of the channels to all three channels; alpha is 1.
+//   MainTexture    the image
+//   Weights        multipliers of r, g and b, not normalised; a sum of 1 preserves white
 //   Width, Height  size of the pass in pixels
 
 uniform sampler2D MainTexture;

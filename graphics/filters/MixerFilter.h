@@ -9,7 +9,7 @@
 namespace grisal::graphics
 {
 
-/// Turns colour into grey: g = r * weights.r + g * weights.g + b * weights.b in all channels, alpha 1.
+/// Converts colour to grey: r * weights.r + g * weights.g + b * weights.b in all three channels, alpha 1.
 class MixerFilter : public IFilter
 {
 public:
@@ -24,11 +24,11 @@ public:
 
     void setParameters(const Parameters &wanted) { weights = wanted.weights; }
 
-    /// The program of the pass, compiled at its first use. The context must be current.
+    /// Returns the program of the pass, which is compiled at its first use. The context must be current.
     const ShaderProgram &program() const { return m_program.get(); }
 
-    /// Multipliers of the channels, not normalised: a sum above 1 brightens. No neutral value for colour pictures; a
-    /// sum of 1 leaves greys as they are.
+    /// Multipliers of the channels, not normalised: a sum above 1 brightens, a sum of 1 leaves grey pixels unchanged.
+    /// Colour images have no neutral value.
     ColorRGB<float> weights;
 
 private:

@@ -24,7 +24,7 @@ GLuint loadRawTexture(const QString &path, int width, int height, int channels)
         qWarning("Error: Filesize doesn't equal width*height*channels!");
     }
 
-    // The texture takes three channels whatever the caller said.
+    // The texture reads three channels whatever `channels` is.
     std::vector<char> samples(std::max(size, texels * 3), '\0');
     if (file.open(QIODevice::ReadOnly)) {
         QDataStream(&file).readRawData(samples.data(), static_cast<int>(size));

@@ -10,12 +10,13 @@ namespace grisal::graphics
 
 constexpr int noiseMapSide = 512; ///< width and height of the noise map in texels
 
-/// Makes an RGB texture of a headerless file of 8-bit samples, R, G, B interleaved, row after row, for which the
-/// caller is the owner. A wrong number of channels or a file of the wrong size is logged and the texture made all the
-/// same; what the file lacks is black.
+/// Creates an RGB texture, which the caller owns, from a headerless file of 8-bit samples: R, G, B interleaved, row
+/// after row. A number of channels other than 3 and a file of the wrong size are logged as warnings, and the texture is
+/// created nevertheless; samples that the file lacks are 0. The context must be current.
 GLuint loadRawTexture(const QString &path, int width, int height, int channels);
 
-/// The noise that comes with the program, 512 x 512.
+/// Creates a texture, which the caller owns, from the noise map in the Qt resources, 512 x 512 texels. The context must
+/// be current.
 GLuint loadNoiseMap();
 
 } // namespace grisal::graphics

@@ -4,7 +4,7 @@
 namespace grisal::graphics
 {
 
-// The label is the mixer's: both programs are listed under it wherever programs are listed.
+// The label is that of the mixer's program on purpose: lists of programs contain both under this name.
 OverlayFilter::OverlayFilter() : IFilter("OverlayFilter"), m_program("BWConversionMixer", "OverlayFilter") {}
 
 void OverlayFilter::apply(GLuint sourceTexture, const FramebufferObject &target)

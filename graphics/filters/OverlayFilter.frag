@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Darkens a picture by a mask: a blend, weighted by the mask, of the picture and its own square.
-//   MainTexture     the picture
-//   OverlayTexture  the mask in its red channel, 0 leaves the pixel (but for 255 * 0.0039 = 0.9945)
+// Darkens an image by a mask: blends the image with its square, weighted by the mask.
+//   MainTexture     the image
+//   OverlayTexture  the mask in its red channel; 0 only multiplies the pixel by 255 * 0.0039 = 0.9945
 //   Width, Height   size of the pass in pixels
 
 uniform float Width;

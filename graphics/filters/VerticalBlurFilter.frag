@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// One half of the separable blur: along x, in spite of the name.
-//   MainTexture    the picture
-//   Radius         pixels; 4 * ceil(Radius) + 1 taps with weights exp(-x * x / (1.141 * Radius)); 0 copies
-//   Sigma          not used
+// One of the two passes of the separable blur: it blurs along x, despite its name.
+//   MainTexture    the image
+//   Radius         in pixels; 4 * ceil(Radius) + 1 taps with weights exp(-x * x / (1.141 * Radius)); 0 copies the image
+//   Sigma          unused
 //   Width, Height  size of the pass in pixels
 
 uniform float Width;

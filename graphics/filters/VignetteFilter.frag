@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Darkens the picture towards its borders, from a centre outwards.
-//   MainTexture          the picture
+// Darkens the image with the distance from a centre.
+//   MainTexture          the image
 //   VignetteCenter       x and y in percent of MaxWidth and MaxHeight; y counts from the first row of the target
-//   Strength             percent; 0 leaves the picture as it is
-//   Radius               percent of the mean of MaxWidth and MaxHeight: where the strength is reached
-//   MaxWidth, MaxHeight  size of the whole picture in pixels
+//   Strength             percent; 0 leaves the image unchanged
+//   Radius               distance at which Strength is reached, in percent of the mean of MaxWidth and MaxHeight
+//   MaxWidth, MaxHeight  size of the whole image in pixels
 //   Width, Height        size of the pass in pixels
-//   NoiseMap             not used
+//   NoiseMap             unused
 
 uniform float Width;
 uniform float Height;

@@ -10,14 +10,14 @@
 namespace grisal::graphics
 {
 
-/// Darkens an image I, 0..255, with the distance from a centre: (1 - v) * I + v * I^2 * 0.0039, times 0.0039, v being
-/// vignetteValue(). A strength of 0 or less leaves the image exactly as it is.
+/// Darkens an image I with the distance from a centre: (1 - v) * I + v * I^2 * 0.0039 on a scale of 0..255, times
+/// 0.0039, with v = vignetteValue(). A strength of 0 or less leaves the image exactly as it is.
 class VignetteFilter : public IFilter
 {
 public:
     struct Parameters {
         VignetteParameters shape{{50, 50, 0}, 50, 50};
-        bool extraBlur = false; ///< kept, used by nothing
+        bool extraBlur = false; ///< stored but unused
     };
     static const FilterDeclaration<Parameters> &declaration();
 
@@ -27,7 +27,7 @@ public:
 
     void setParameters(const Parameters &wanted) { parameters = wanted.shape; }
 
-    /// The program of the pass, compiled at its first use. The context must be current.
+    /// Returns the program of the pass, which is compiled at its first use. The context must be current.
     const ShaderProgram &program() const { return m_program.get(); }
 
     VignetteParameters parameters;

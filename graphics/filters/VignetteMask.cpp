@@ -55,7 +55,7 @@ Texture VignetteMask::piece(const TileArea &area)
                                  GL_RED, GL_FLOAT, computed(area).data()));
 }
 
-/// No texture where the driver has no target of this size or does not get the piece drawn.
+/// Returns no texture if the OpenGL driver fails to create the target or to draw the piece.
 Texture VignetteMask::drawn(const TileArea &area) const
 {
     const auto width = static_cast<std::int32_t>(area.width);

@@ -13,12 +13,12 @@ namespace grisal::graphics
 
 class FinalVignetteFilter;
 
-/// The vignette of a whole image as a mask: for each pixel its vignetteValue() for the image's size.
+/// The vignette of a whole image as a mask: each pixel contains its vignetteValue() for the size of the image.
 ///
-/// It never exists as a whole, which would take as much memory as the image: pieces are drawn when they are asked for.
-/// A mask that is larger than `largestSide`, the driver's largest texture side, or a piece for which the driver has no
-/// target, is computed without the GPU, with the same formula, and the log reports it. A drawn piece is the whole with
-/// its centre moved and differs from it by that centre's rounding.
+/// The whole mask would take as much memory as the image, so pieces are drawn on demand. If the image is larger than
+/// `largestSide`, the largest texture side of the OpenGL driver, or if the driver has no target for a piece, the mask
+/// is computed on the CPU with the same formula, and this is logged. A drawn piece is the whole mask with its centre
+/// moved, and differs from the whole by the rounding of this centre.
 class VignetteMask final : public IPositionMask
 {
 public:
@@ -36,7 +36,7 @@ private:
     std::int32_t m_width;
     std::int32_t m_height;
     std::uint32_t m_largestSide;
-    std::unique_ptr<FinalVignetteFilter> m_filter; ///< null once the driver has failed
+    std::unique_ptr<FinalVignetteFilter> m_filter; ///< null if the mask is computed on the CPU
 };
 
 } // namespace grisal::graphics

@@ -10,19 +10,20 @@ namespace grisal::graphics
 struct VignetteParameters {
     struct Center {
         float x = 0; ///< percent of the width from the left
-        float y = 0; ///< percent of the height from the first row, the picture's top
+        float y = 0; ///< percent of the height from the first row, the top of the image
         float z = 0; ///< always 0
     } center;
     float strength = 0; ///< percent; 0 is neutral
-    float radius = 0;   ///< percent of the mean of width and height: where the strength is reached
+    float radius = 0;   ///< distance at which the strength is reached, in percent of the mean of width and height
 };
 
-/// The darkening at the point (px, py), in pixels, of a picture of width x height pixels: with d the distance from the
-/// centre and dmax = radius * 0.01 * (width + height) / 2 it is strength * 0.01 * d / dmax, not clamped. Pixel centres
-/// lie at halves. 0 for a strength of 0 or less.
+/// Returns the darkening at the point (px, py), in pixels, of an image of width x height pixels. With d the distance
+/// from the centre and dmax = radius * 0.01 * (width + height) / 2 it is strength * 0.01 * d / dmax, not clamped, or 0
+/// if the strength is 0 or less. The first pixel's centre is (0.5, 0.5).
 float vignetteValue(const VignetteParameters &parameters, float width, float height, float px, float py);
 
-/// What both vignette filters send to their programs, in their order, whether a program has the uniform or not.
+/// Sets the uniforms of both vignette filters, always in the same order. Uniforms that the program does not have are
+/// skipped.
 void setVignetteUniforms(const ShaderProgram &program, const VignetteParameters &parameters, int width, int height,
                          float maxWidth, float maxHeight);
 
