@@ -29,8 +29,8 @@ bool DocumentRenderer::render(Document &document)
     FramebufferObject filled = m_target.record();
     FramebufferObject next = document.view()->target();
 
-    // The source is brought in by the first filter whatever its state, so that it runs twice when it is enabled: what
-    // the preview looks like has always come from this.
+    // The first filter reads the source even if it is disabled, and runs a second time if it is enabled. The
+    // established look of the preview depends on this.
     filters.front()->apply(document.source(), filled);
 
     std::size_t last = 0;

@@ -7,18 +7,20 @@
 namespace grisal::graphics
 {
 
-/// Renders a document at preview size into textures, between a target of its own and the one of the document's view.
+/// Renders a document at preview size. The passes alternate between the renderer's own target and the target of the
+/// document's view.
 class DocumentRenderer : public IRenderer
 {
 public:
-    /// Makes its own target; width and height are those of the preview in pixels.
+    /// Creates the renderer's target; width and height are those of the preview in pixels.
     DocumentRenderer(std::uint32_t width, std::uint32_t height, GLenum format, GLenum internalFormat, GLenum type);
 
-    /// Renders and returns true. The first filter of the queue runs over the source even when it is disabled; when it
-    /// is enabled it runs once more, over its own result. With the bypass set or no filter enabled nothing runs.
+    /// Renders and returns true. The first filter of the queue runs on the source even if it is disabled; if it is
+    /// enabled, it runs a second time on its own result. If the bypass is set or no filter is enabled, no filter runs.
     bool render(Document &document) override;
 
-    /// The texture with the result: the source's, the view's or the renderer's own, whichever it came to lie in.
+    /// Returns the texture that contains the result: the source, the texture of the view's target or that of the
+    /// renderer's target.
     GLuint output() const { return m_output; }
 
     const FramebufferObject &target() const { return m_target.record(); }

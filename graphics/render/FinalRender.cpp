@@ -17,7 +17,7 @@ namespace grisal::graphics
 namespace
 {
 
-/// At the end of its life, gives the filters the sizes back that they had at its beginning.
+/// Stores the sizes of the filters and restores them in its destructor.
 class ScopedFilterSizes
 {
 public:
@@ -101,7 +101,7 @@ bool renderFinalPicture(const FinalPicture &picture, const Look &look, FilterSet
                         const TileProgress &progress)
 {
     const GlFaultWatch watch;
-    // The grain leaves another unit active, on which it would be enabled for nothing.
+    // The grain filter leaves another unit active, but GL_TEXTURE_2D must be enabled on unit 0.
     glActiveTexture(GL_TEXTURE0);
     glEnable(GL_TEXTURE_2D);
     filters.get<GrainFilter>().setSigma(look.get<GrainFilter>().radius);

@@ -12,11 +12,11 @@ namespace
 {
 
 constexpr float largestSample = 65535;
-constexpr std::size_t blockSize = 4096; // fits into the processor's first cache
+constexpr std::size_t blockSize = 4096; // the buffer fits into the first-level cache
 
 std::uint16_t sampleOf(float value)
 {
-    // Not a number is not greater than 0.
+    // NaN becomes 0, because the comparison is then false.
     return value > 0 ? static_cast<std::uint16_t>(std::lrint(std::min(value, 1.0F) * largestSample)) : 0;
 }
 

@@ -6,7 +6,7 @@ namespace grisal::graphics
 
 class Document;
 
-/// Runs a document's filters. The context must be current.
+/// Runs the filters of a document. The context must be current.
 class IRenderer
 {
 public:

@@ -15,7 +15,7 @@ PixelFormats pixelFormatsFor(bool sixteenBit, bool alpha)
     return alpha ? PixelFormats{GL_UNSIGNED_BYTE, GL_RGBA8, GL_RGBA} : PixelFormats{GL_UNSIGNED_BYTE, GL_RGB8, GL_RGB};
 }
 
-// The pixels have three components whatever the formats say: GL_RGB for the upload.
+// The preview's pixels always have three components, so they are uploaded as GL_RGB even if the formats have alpha.
 Preview::Preview(const PreviewPixels &pixels, const PixelFormats &formats, float viewportWidth, float viewportHeight)
     : m_source(
           createTexture(pixels.width, pixels.height, formats.internalFormat, GL_RGB, formats.pixelType, pixels.data())),

@@ -11,22 +11,24 @@ namespace grisal::graphics
 
 struct PreviewPixels;
 
-/// The GL enums that go with the pixels of a picture.
+/// The OpenGL formats of an image.
 struct PixelFormats {
     GLenum pixelType = GL_UNSIGNED_BYTE;
     GLenum internalFormat = GL_RGB8;
     GLenum pixelFormat = GL_RGB;
 };
 
-/// Bytes go with GL_RGB8, 16-bit words with GL_RGB16; with alpha GL_RGBA8 and GL_RGBA16.
+/// Returns the formats of an image: GL_RGB8 for 8-bit samples and GL_RGB16 for 16-bit samples; with alpha, GL_RGBA8 and
+/// GL_RGBA16.
 PixelFormats pixelFormatsFor(bool sixteenBit, bool alpha);
 
-/// One picture at preview size and all it takes to show it through filters: its texture, queue, document, view and
-/// renderer. Made, used and destroyed with the context current.
+/// An image at preview size and the objects that display it with filters: its texture, queue, document, view and
+/// renderer. The context must be current when it is created, used and destroyed.
 class Preview
 {
 public:
-    /// Uploads the pixels, which are not needed afterwards. The viewport is the drawing area in device pixels.
+    /// Uploads the pixels, which are not needed afterwards. The viewport size is that of the drawing area in device
+    /// pixels.
     Preview(const PreviewPixels &pixels, const PixelFormats &formats, float viewportWidth, float viewportHeight);
 
     Document &document() { return m_document; }
@@ -34,7 +36,7 @@ public:
     const FlexibleDocumentView &view() const { return m_view; }
     DocumentFilterQueue &queue() { return m_queue; }
 
-    /// Runs the queue; output() is the texture with the result.
+    /// Runs the queue; output() then returns the texture with the result.
     void render() { m_renderer.render(m_document); }
     GLuint output() const { return m_renderer.output(); }
 

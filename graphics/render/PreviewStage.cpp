@@ -19,7 +19,7 @@ PreviewStage::~PreviewStage() = default;
 void PreviewStage::load(const PreviewPixels &pixels, const PixelFormats &formats, float viewportWidth,
                         float viewportHeight)
 {
-    // The former picture goes first: two at a time would need twice the memory of the GPU.
+    // The previous preview is deleted first: two at a time would need twice the GPU memory.
     m_preview.reset();
     m_preview = std::make_unique<Preview>(pixels, formats, viewportWidth, viewportHeight);
     m_grainScale = 1.0F;

@@ -10,11 +10,11 @@
 namespace grisal::graphics
 {
 
-/// The image that is being worked on: its preview, the filters and their parameters.
+/// The image that the user is editing: its preview, the filters and their parameters.
 ///
-/// Parameters can be set at any time; they reach the filters once these exist, from the first load on. Everything but
-/// the getters needs the context to be current once there are filters, and so does the destructor unless release() was
-/// called before.
+/// Parameters can be set at any time; the first load() creates the filters and passes the parameters to them. Once
+/// there are filters, every function except the getters needs the context to be current, and so does the destructor
+/// unless release() was called before.
 class PreviewStage
 {
 public:
@@ -23,20 +23,20 @@ public:
     PreviewStage &operator=(const PreviewStage &) = delete;
     ~PreviewStage();
 
-    /// Takes a picture in place of the former one, seen through a viewport of the given size in device pixels. The
-    /// mixer is switched on and the other filters off, the parameters stay.
+    /// Replaces the image. The viewport has the given size in device pixels. The filters that are declared as enabled
+    /// at load (the mixer) are enabled and the others disabled; the parameters stay the same.
     void load(const PreviewPixels &pixels, const PixelFormats &formats, float viewportWidth, float viewportHeight);
 
-    /// Lets go of everything that belongs to the context.
+    /// Deletes the preview and the filters, which belong to the context.
     void release();
 
-    /// The preview; null before the first load.
+    /// Returns the preview; null before the first load and after release().
     Preview *preview() const { return m_preview.get(); }
-    /// The filters; null before the first load.
+    /// Returns the filters; null before the first load and after release().
     FilterSet *filters() const { return m_filters.get(); }
     const Look &look() const { return m_look; }
 
-    /// Fills the queue of the preview again.
+    /// Clears the queue of the preview and adds all filters again.
     void rebuildQueue();
 
     /// Sets the parameters of a filter.
@@ -49,11 +49,11 @@ public:
         }
     }
 
-    /// Sets the parameters of the grain and blurs its noise.
+    /// Sets the parameters of the grain and blurs its noise with the new radius.
     void setGrain(const GrainFilter::Parameters &parameters);
 
-    /// Renders a whole picture in place with the filters as they are. False where there is no result or nothing was
-    /// loaded yet.
+    /// Renders an image at full size, in place, with the current filters. Returns false if there is no result or no
+    /// image has been loaded.
     bool renderFinal(const FinalPicture &picture, const TileProgress &progress = {});
 
 private:

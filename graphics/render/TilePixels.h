@@ -10,12 +10,12 @@
 namespace grisal::graphics
 {
 
-/// The colour components that a tile has per pixel, whatever its picture has.
+/// The number of components per pixel of a tile: R, G, B, even if the image has alpha.
 constexpr std::size_t tileComponents = 3;
 
-/// Cuts the area out of a picture of width x height pixels with `components` interleaved components each; rows follow
-/// each other without padding. `tile` gets area.width * area.height * 3 values; where the area reaches beyond the
-/// picture it gets zeros.
+/// Copies an area of an image into `tile`. The image has width x height pixels with `components` interleaved components
+/// each, and rows without padding. `tile` is resized to area.width * area.height * 3 values; those outside the image
+/// are 0.
 template <typename T>
 void cutTile(const T *picture, std::size_t width, std::size_t height, std::size_t components, const TileArea &area,
              std::vector<T> &tile)
@@ -32,8 +32,8 @@ void cutTile(const T *picture, std::size_t width, std::size_t height, std::size_
     }
 }
 
-/// Puts a tile back where it was cut, the other way round; what reaches beyond the picture is dropped, a fourth
-/// component of the picture stays.
+/// The inverse of cutTile(): copies a tile into an area of the image. Pixels outside the image are dropped; a fourth
+/// component of the image stays unchanged.
 template <typename T>
 void placeTile(const std::vector<T> &tile, const TileArea &area, T *picture, std::size_t width, std::size_t height,
                std::size_t components)

@@ -6,8 +6,8 @@
 namespace grisal::graphics
 {
 
-/// Is told, before a tile is rendered, which it is, counted from 1, and how many there are. It may leave another GL
-/// context current only if it makes the render's own current again before it returns.
+/// Called before a tile is rendered, with the number of the tile, counted from 1, and the number of tiles. If it makes
+/// another OpenGL context current, it must make the context of the render current again before it returns.
 using TileProgress = std::function<void(int tile, int tiles)>;
 
 } // namespace grisal::graphics

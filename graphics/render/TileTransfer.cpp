@@ -11,7 +11,7 @@ namespace grisal::graphics
 namespace
 {
 
-/// While it lives, the rows that the driver reads or writes lie `pixels` pixels apart.
+/// Sets the row length, in pixels, of the memory that OpenGL reads or writes, and resets it in its destructor.
 class RowLength
 {
 public:

@@ -13,23 +13,24 @@
 namespace grisal::graphics
 {
 
-/// Formats of the tiles and of the targets they are rendered into.
+/// The formats of the tiles and of the targets into which they are rendered.
 struct TileFormats {
     GLenum pixelFormat;    ///< GL_RGB: tiles have three components
-    GLenum pixelType;      ///< GL_UNSIGNED_BYTE, or GL_UNSIGNED_SHORT for 16-bit samples; nothing else renders
-    GLenum internalFormat; ///< GL_RGB8 with bytes, GL_RGB16F with 16-bit samples
-    /// 16-bit samples go to the driver and come back as half floats, converted here, which is several times as fast as
-    /// the driver's conversion. Otherwise they go as they are.
+    GLenum pixelType;      ///< GL_UNSIGNED_BYTE, or GL_UNSIGNED_SHORT for 16-bit samples; others are not rendered
+    GLenum internalFormat; ///< GL_RGB8 for 8-bit samples, GL_RGB16F for 16-bit samples
+    /// If true, TileTransfer converts 16-bit samples to half floats before uploads and back after downloads, which is
+    /// several times as fast as the conversion of the OpenGL driver. Otherwise it transfers 16-bit samples.
     bool halfFloatTransfers = true;
 };
 
-/// The formats for an image of bytes or, with `sixteenBit`, of 16-bit samples. A driver takes half floats as pixels
-/// since OpenGL 3.0 (`version30`), an older one with GL_ARB_half_float_pixel (`halfFloatPixel`).
+/// Returns the formats for an image of 8-bit samples or, with `sixteenBit`, of 16-bit samples. OpenGL accepts half
+/// floats as pixel data since version 3.0 (`version30`), earlier versions with GL_ARB_half_float_pixel
+/// (`halfFloatPixel`).
 TileFormats tileFormatsFor(bool sixteenBit, bool version30, bool halfFloatPixel);
 
-/// Transfers the tiles of one image to the driver and back, with as few copies as possible: bytes (T is std::uint8_t)
-/// or 16-bit samples (std::uint16_t), rows from top to bottom without padding. Its buffers serve all tiles. The context
-/// must be current.
+/// Uploads the tiles of an image to textures and reads the rendered tiles back, with as few copies as possible. T is
+/// the type of a sample, std::uint8_t or std::uint16_t; rows are stored from top to bottom without padding. The buffers
+/// are reused for all tiles. The context must be current.
 template <typename T>
 class TileTransfer
 {
@@ -40,11 +41,11 @@ public:
     {
     }
 
-    /// A new texture with that area of the image; black where the area reaches beyond it.
+    /// Returns a new texture with the given area of the image; texels outside the image are black.
     Texture upload(const T *image, const TileArea &area);
 
-    /// Reads the target, which is as large as the area, into that area of the image. What reaches beyond the image is
-    /// dropped, a fourth component stays.
+    /// Reads the target, which has the size of the area, into this area of the image. Pixels outside the image are
+    /// dropped; a fourth component of the image stays unchanged.
     void download(const FramebufferObject &target, const TileArea &area, T *image);
 
 private:

@@ -40,7 +40,7 @@ const FramebufferObject &runFilters(const std::vector<IFilter *> &filters, GLuin
 
 } // namespace
 
-/// The filters of one render, in order, and what the overlay among them needs.
+/// The filters of one render, in order, and the overlay among them with its mask; both are null if there is none.
 struct TiledDocumentRenderer::Chain {
     std::vector<IFilter *> filters;
     std::unique_ptr<OverlayFilter> overlay;
@@ -106,7 +106,7 @@ void TiledDocumentRenderer::renderPicture(Document &document, const Chain &chain
     m_pixels = std::make_unique_for_overwrite<std::byte[]>(size * sizeof(T));
     auto *pixels = reinterpret_cast<T *>(m_pixels.get());
     if (m_hasAlpha || !anyEnabled) {
-        // A fourth component stays, and so does everything where no filter is enabled.
+        // Rendering overwrites neither a fourth component nor, if no filter is enabled, the other components.
         std::copy_n(static_cast<const T *>(m_source.pixels), size, pixels);
     }
     qDebug() << "(INFO) Copied original image to intermediate buffer";
@@ -141,7 +141,8 @@ bool TiledDocumentRenderer::renderTiles(Document &document, const Chain &chain, 
         return false;
     }
     qDebug() << "(INFO) Buffers initialized";
-    // A string object, unlike its neighbours: it stands in quotes in the log.
+    // A QString, unlike the other texts, because qDebug() writes it in quotes and the log has always contained it in
+    // quotes.
     qDebug() << QStringLiteral("(INFO) Finished all preprocesses");
 
     const std::uint32_t columns = tileCount(m_horizontal);
@@ -158,7 +159,7 @@ bool TiledDocumentRenderer::renderTiles(Document &document, const Chain &chain, 
                 m_progress(static_cast<int>(h * rows + v + 1), static_cast<int>(columns * rows));
             }
             qDebug() << "(INFO) Begin Rendering Loop";
-            // The labels name the other axis; logs have always read like this.
+            // The labels are swapped on purpose: logs have always contained the row as iX and the column as iY.
             qDebug() << "(INFO) iX: " << v;
             qDebug() << "(INFO) iY: " << h;
             const TileArea area{static_cast<std::size_t>(h) * m_horizontal.tile,
@@ -202,14 +203,15 @@ const FramebufferObject &TiledDocumentRenderer::runChain(const Chain &chain, con
 {
     const Texture mask = prepareOverlay(chain, area);
     if (countEnabled(chain.filters) == 1) {
-        // The first filter stands for the one that is enabled: the mixer always is, in this program.
+        // The first filter runs even if another one is enabled. In this program it is the mixer, which is always
+        // enabled.
         chain.filters.front()->apply(texture, second);
         return second;
     }
     return runFilters(chain.filters, texture, first, second);
 }
 
-/// The mask is the caller's until the overlay has run.
+/// The caller must keep the returned mask until the overlay has run.
 Texture TiledDocumentRenderer::prepareOverlay(const Chain &chain, const TileArea &area) const
 {
     if (!chain.overlay) {

@@ -19,30 +19,30 @@ namespace grisal::graphics
 class IFilter;
 class OverlayFilter;
 
-/// Renders a picture at full resolution, tile by tile.
+/// Renders an image at full resolution, tile by tile.
 ///
-/// A filter that depends on the position in the image cannot be run tile by tile: where it is enabled, it is replaced
-/// by an OverlayFilter with its mask, which has the padded size. Unlike in the preview, the first filter of the queue
-/// runs once; with exactly one filter enabled it is the first of the queue that runs, whichever is enabled; with none
-/// the source is the result.
+/// A filter that depends on the position in the image cannot run tile by tile: if it is enabled, an OverlayFilter with
+/// its mask, which has the padded size, replaces it. Unlike in the preview, the first filter of the queue runs only
+/// once. If exactly one filter is enabled, the first filter of the queue runs, even if another one is enabled. If none
+/// is enabled, the source is the result.
 class TiledDocumentRenderer : public IRenderer
 {
 public:
-    /// `source` describes the picture, 3 components a pixel or 4 with `hasAlpha`; its pixels have to outlive the
-    /// render. `horizontal` and `vertical` are the plan for its width and height.
+    /// `source` describes the image, with 3 components per pixel or 4 with `hasAlpha`; its pixels must outlive the
+    /// render. `horizontal` and `vertical` are the plans for its width and height.
     TiledDocumentRenderer(bool hasAlpha, TileSide horizontal, TileSide vertical, const TileFormats &formats,
                           const ImageBuffer &source);
     ~TiledDocumentRenderer() override;
 
-    /// Who is told of each tile; nobody by default.
+    /// Sets the function that is called before each tile; none by default.
     void setProgress(TileProgress progress) { m_progress = std::move(progress); }
 
-    /// Renders the document's queue over the source and returns true. The queue itself is left as it is.
+    /// Renders the source with the filters of the document's queue and returns true. The queue itself is not modified.
     bool render(Document &document) override;
 
-    /// The result, with size and components of the source and, with alpha, its fourth component. Null before a render,
-    /// after one with an unknown pixel type, and where the driver has no targets of the tiles' size. The renderer owns
-    /// it and its pixels.
+    /// Returns the result, with the size and number of components of the source; a fourth component is that of the
+    /// source. Null before a render, after a render with an unknown pixel type, and if the OpenGL driver cannot create
+    /// targets of the tile size. The renderer owns the result and its pixels.
     const ImageBuffer *output() const { return m_output.get(); }
 
 private:
