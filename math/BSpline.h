@@ -8,10 +8,10 @@
 namespace grisal::math
 {
 
-/// A smooth curve through or near given points: the cubic B-spline that minimises the squares of its distances from
-/// the points in y plus alpha times the square of its second derivative (see BSplineBase), about the mean of the y
-/// values. Where the cutoff wavelength is short against the distance of the nodes and no more points than nodes lie
-/// anywhere, it passes through the points. Instantiated for float.
+/// A smooth curve through or near given points. Relative to the mean of the y values, it is the cubic B-spline that
+/// minimises the sum of its squared distances from the points in y plus alpha times the integral of its squared second
+/// derivative (see BSplineBase). It passes through the points if the cutoff wavelength is short compared to the node
+/// spacing and no part of the range has more points than nodes. Instantiated for float.
 ///
 ///     BSpline<float> curve(x, nx, y, 0.005, 2, 50);
 ///     float value = curve.evaluate(0.5F);
@@ -19,12 +19,13 @@ template <typename T>
 class BSpline : public BSplineBase<T>
 {
 public:
-    /// `y` points to `nx` values; it is not kept. The others are those of BSplineBase. ok() is false afterwards if it
-    /// would be for BSplineBase, without y values, or if the solution is not finite; nothing else tells of a failure.
+    /// `y` points to `nx` values, which are not kept. The other parameters are those of BSplineBase. Afterwards ok() is
+    /// false if it would be for BSplineBase, if there are no y values, or if the solution is not finite; failures are
+    /// reported only by ok().
     BSpline(const T *x, int nx, const T *y, double wavelength, int boundaryType, int numNodes);
 
-    /// The curve at `x`; 0 if ok() is false. Beyond the ends the basis functions run out within three intervals, and
-    /// the mean of the y values remains.
+    /// Returns the value of the curve at `x`, or 0 if ok() is false. Beyond the ends the basis functions become 0
+    /// within three intervals, and only the mean of the y values remains.
     T evaluate(T x) const;
 
 private:

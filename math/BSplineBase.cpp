@@ -17,21 +17,22 @@ namespace
 
 constexpr double twoPi = 6.2831854;
 
-// The derivative whose square the penalty integrates.
+// The order of the derivative whose square the penalty integrates.
 constexpr int derivativeDegree = 2;
 
-// Larger matrices are not worth reading.
+// Matrices with this many intervals or more are too large to be read, and are not printed.
 constexpr int printedIntervals = 30;
 
-// Shares of the phantom nodes, by boundary type, of the first two and the last two nodes.
+// The weights of the phantom nodes in the first two and the last two nodes, for each boundary type.
 constexpr std::array<std::array<double, 4>, 3> boundaryWeights = {{
     {-4, -1, -1, -4},
     {0, 1, 1, 0},
     {2, -1, -1, 2},
 }};
 
-// Integrals of the product of two basis functions' derivatives over one interval: by the degree of the derivative, less
-// one, the distance of the two nodes, and the interval, counted from the second before the left one of them.
+// Integrals of the product of two basis functions' derivatives over one interval. The indices are the order of the
+// derivative minus 1, the distance of the two nodes, and the interval, counted from the second one to the left of the
+// left node.
 constexpr std::array<std::array<std::array<double, 4>, 4>, 3> penaltyTable = {{
     {{{0.1125, 0.6375, 0.6375, 0.1125}, {0, 0.13125, -0.54375, 0.13125}, {0, 0, -0.225, -0.225}, {0, 0, 0, -0.01875}}},
     {{{0.75, 2.25, 2.25, 0.75}, {0, -1.125, -1.125, -1.125}, {0, 0, 0, 0}, {0, 0, 0, 0.375}}},
@@ -111,7 +112,9 @@ bool BSplineBase<T>::chooseNodes(int numNodes)
     return true;
 }
 
-// As few intervals as give four nodes a wavelength, at least two where the points allow no more, one point an interval.
+// Returns the smallest number of intervals, at least 10, with four nodes per wavelength. If there are too few points
+// for it, returns the largest number with two nodes per wavelength. Nodes must not outnumber points. Returns 0 if there
+// is no such number or if the wavelength exceeds the span.
 template <typename T>
 int BSplineBase<T>::searchedIntervals() const
 {
