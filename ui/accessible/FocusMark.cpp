@@ -56,8 +56,8 @@ void FocusMark::draw(QPainter &painter, const QRect &area) const
     }
 }
 
-// The widget paints itself anew with every change of its focus. A focus that comes back, from another window or from a
-// menu, is what it was.
+// Qt repaints the widget whenever its focus changes. When the focus returns from another window or a menu, the mark has
+// the same state as before.
 bool FocusMark::eventFilter(QObject *object, QEvent *event)
 {
     if (event->type() == QEvent::FocusIn) {

@@ -5,14 +5,14 @@
 
 class QKeyEvent;
 
-/// Whether a key is pressed without Control and the like, which make a command of the window of it. The Shift key is
-/// none of these.
+/// Whether a key is pressed without Control and other modifiers that turn it into a command of the window. Shift is
+/// allowed.
 bool isPlain(const QKeyEvent &event);
 
-/// Where an arrow key points: one step to the right or to the left, down or up. Nowhere for other keys, and for those
-/// that are not plain.
+/// The direction of an arrow key: one step right, left, down or up. Null for other keys and with modifiers (see
+/// isPlain()).
 QPoint arrowOf(const QKeyEvent &event);
 
-/// What Page Up and Page Down stand for where there is a mouse wheel to be turned: a notch forwards or backwards, in
-/// eighths of a degree. 0 for other keys.
+/// The wheel turn that Page Up and Page Down stand for: one notch forwards or backwards, in eighths of a degree. 0 for
+/// other keys.
 int wheelTurnOf(const QKeyEvent &event);

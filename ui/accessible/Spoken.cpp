@@ -7,7 +7,7 @@
 namespace
 {
 
-/// The toolkit asks it in the place of the widget. It may outlive what makes the widget spoken.
+/// Qt queries it on behalf of the widget. It may outlive the Spoken part of the widget.
 class SpokenInterface final : public QAccessibleWidget
 {
 public:
@@ -40,7 +40,7 @@ QAccessibleInterface *newSpokenInterface(const QString &, QObject *object)
 
 } // namespace
 
-// The toolkit keeps the factory once, however often it gets it.
+// Qt stores the factory only once, even if it is installed repeatedly.
 Spoken::Spoken()
 {
     QAccessible::installFactory(newSpokenInterface);

@@ -4,11 +4,11 @@
 #include <QAccessible>
 #include <QString>
 
-/// What a control of our own tells a screen reader besides the name and the description that every widget has: its
-/// kind, and its value in words.
+/// What a custom control reports to screen readers in addition to the name and the description of every widget: its
+/// role and its value as text.
 ///
-/// The second base of a widget. The value leads the description too, because the screen readers of some desktops ask
-/// nothing but numbers and bars for their values.
+/// To be used as second base class of a widget. The description starts with the value, too, because the screen readers
+/// of some desktops request values only from numeric controls and progress bars.
 class Spoken
 {
 public:
@@ -24,8 +24,8 @@ public:
 protected:
     ~Spoken() = default;
 
-    /// To be called where the value may have changed: tells it to those who listen, if it has and if the widget is
-    /// shown.
+    /// To be called when the value may have changed: notifies screen readers if it has changed and the widget is
+    /// visible.
     void sayValue();
 
 private:

@@ -28,7 +28,7 @@ std::uint8_t greenByte(float luma, int red, int blue)
     return static_cast<std::uint8_t>(std::clamp(green, 0.0, double{largestLevel}));
 }
 
-/// The colours of one row, by their blue byte.
+/// The colours of one row, indexed by their blue value.
 std::array<QRgb, levels> rowColours(float luma, int red)
 {
     std::array<QRgb, levels> colours{};
@@ -68,7 +68,8 @@ double markerAfterStep(double place, double step)
     return std::clamp(place + step, std::min(place, 0.0), std::max(place, 1.0));
 }
 
-// The level adds the same to all channels. Less than half a step of a channel is seen as grey.
+// The level adds the same amount to all channels, so it does not affect the hue. Less than half a step in a channel
+// counts as grey.
 Hue hueOf(const Chroma &chroma)
 {
     constexpr std::array<Hue, 6> circle{Hue::Red, Hue::Yellow, Hue::Green, Hue::Cyan, Hue::Blue, Hue::Magenta};
@@ -103,8 +104,8 @@ float lumaAfterWheel(float luma, int delta)
     return grisal::math::clampedWeight(static_cast<float>(luma + steps * step));
 }
 
-// The image is made anew at every turn of the wheel and at every step of a dragged level. There are no more than 256
-// different rows, and in each no more than 256 different colours.
+// The image is recomputed at every step of the mouse wheel and of the level slider. It has at most 256 different rows,
+// each with at most 256 different colours.
 QImage wheelImageOf(const ChromaPlane &plane, float luma)
 {
     QImage image(plane.width(), plane.height(), QImage::Format_ARGB32);

@@ -32,8 +32,8 @@ CurveFrame::CurveFrame(QWidget *parent) : QFrame(parent), m_histogram(bins, init
     setSizePolicy(square);
 }
 
-// It is x alone that is kept within the frame. A curve that is given may leave it above and below; its values are cut
-// where they are sampled.
+// Only x is clamped. The y values may be outside of the frame; the values of the curve are clamped when they are
+// sampled.
 void CurveFrame::setPoints(QVector<float> xs, const QVector<float> &ys)
 {
     for (float &x : xs) {
@@ -102,7 +102,7 @@ void CurveFrame::deleteSelected()
         return;
     }
     --m_selected;
-    // A drag of the point ends with it.
+    // Deleting the point ends its drag.
     m_pressed = false;
     emitMoved();
     showChange();
@@ -240,7 +240,8 @@ void CurveFrame::drawHistogram(QPainter &painter, const QVector<float> &histogra
     painter.fillPath(tones, histogramColour);
 }
 
-// Sampled anew: the line follows a point while it is dragged, what was sampled for the picture stays.
+// Sampled again, because the line follows a point while it is dragged, whereas m_samples stays as it is until the next
+// sample().
 void CurveFrame::drawCurve(QPainter &painter) const
 {
     const QVector<float> values = curve(bins);

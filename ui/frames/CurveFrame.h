@@ -8,11 +8,11 @@
 #include <QFrame>
 #include <QVector>
 
-/// An editor of a curve in the unit square, over a tone histogram. A press takes the point in whose column it falls, or
-/// adds one; a drag moves it. The curve has changed, signalMoved(), once the button is released.
+/// Edits a curve in the unit square over a tone histogram. A mouse press selects the point at that x position or adds a
+/// point there; a drag moves the selected point. signalMoved() is emitted when the mouse button is released.
 ///
-/// Page Up and Page Down take the point to the left and to the right, the arrow keys move it, Insert adds one between
-/// it and its right neighbour. A key is a press of the mouse and its release in one.
+/// Page Up and Page Down select the previous and the next point, the arrow keys move the selected point, and Insert
+/// adds a point between it and its right neighbour. Each key acts like a mouse press followed by a release.
 class CurveFrame : public QFrame, public Spoken
 {
     Q_OBJECT
@@ -23,47 +23,46 @@ public:
 
     explicit CurveFrame(QWidget *parent = nullptr);
 
-    /// Takes the points' x, from the left to the right, kept within 0..1, and their y, counted from the top. There must
-    /// be as many y as x: otherwise this is told in the log, and y are cut or zeros added. Nothing is selected
-    /// afterwards.
+    /// Sets the points: x from left to right, clamped to 0..1, and y measured from the top. If the numbers of x and y
+    /// values differ, a warning is logged and y is truncated or padded with zeros. Clears the selection.
     void setPoints(QVector<float> xs, const QVector<float> &ys);
 
-    /// `count` values of the curve, 0..1 and counted upwards: value i is the curve at i / count. Kept for
-    /// outputHistogram().
+    /// Returns `count` values of the curve, 0..1 from bottom to top: value i is the curve at i / count. They are stored
+    /// for outputHistogram().
     QVector<float> sample(int count);
 
-    /// The histogram behind the values that were sampled last: see histogramBehind().
+    /// The histogram that results from the values sampled last: see histogramBehind().
     QVector<float> outputHistogram() const;
 
-    /// Takes the 256 bins of a tone histogram, 1 for a bin that fills the frame's height. Another number is told in the
-    /// log and refused.
+    /// Sets the histogram to 256 bins, where 1 fills the height of the frame. Any other number of bins is rejected and
+    /// logged.
     void setHistogram(const QVector<float> &histogram);
 
-    /// Removes the selected point and selects the one to its left. The points at both ends stay.
+    /// Removes the selected point and selects its left neighbour. The first and the last point cannot be removed.
     void deleteSelected();
 
     const CurvePoints &points() const { return m_points; }
     const QVector<float> &histogram() const { return m_histogram; }
     interpolationType interpolation() const { return m_interpolation; }
 
-    /// Index of the selected point, -1 for none.
+    /// Index of the selected point, -1 if no point is selected.
     int selected() const { return m_selected; }
 
     QAccessible::Role spokenRole() const override { return QAccessible::Canvas; }
     QString spokenValue() const override;
 
-    /// As high as wide, where there is room.
+    /// Square if the layout has enough space.
     int heightForWidth(int width) const override { return width; }
 
 signals:
-    /// A point was taken or added.
+    /// A point was selected or added.
     void signalPressed();
-    /// The selected point has come to this place, y counted from the top.
+    /// The new position of the selected point, y measured from the top.
     void signalMoved(float x, float y);
 
 public slots:
     void slotSetInterpolation(CurveFrame::interpolationType interpolation);
-    /// Moves the selected point, within the limits of a drag but for y, which may leave 0..1.
+    /// Moves the selected point with the same limits as a drag, except that y may leave 0..1.
     void slotSetActiveTo(float x, float y);
     void slotSetInactive();
 

@@ -8,7 +8,7 @@ CurveFrameEventFilter::CurveFrameEventFilter(CurveFrame *frame, QObject *parent)
 
 bool CurveFrameEventFilter::eventFilter(QObject *object, QEvent *event)
 {
-    // First of all: other events come while the editor is half gone.
+    // Checked first, because other events arrive while the editor is being destroyed.
     if (event->type() != QEvent::KeyPress) {
         return QObject::eventFilter(object, event);
     }

@@ -6,9 +6,9 @@
 #include <QObject>
 #include <QPointer>
 
-/// Gives a curve editor the Delete key wherever the focus is: installed on the application, it removes the selected
-/// point while the editor is visible and has one, and no dialog or menu stands before it. The editor may be gone before
-/// it.
+/// Lets the Delete key remove the selected point of a curve editor wherever the focus is. To be installed on the
+/// application. Active while the editor is visible, has a selected point, and no modal dialog or menu is open. The
+/// editor may be destroyed first.
 class CurveFrameEventFilter : public QObject
 {
     Q_OBJECT

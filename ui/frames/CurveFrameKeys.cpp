@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// How the keyboard edits the curve. The Delete key is CurveFrameEventFilter's.
+// Editing the curve with the keyboard. The Delete key is handled by CurveFrameEventFilter.
 #include "ui/frames/CurveFrame.h"
 
 #include "ui/accessible/Keys.h"
@@ -52,7 +52,7 @@ void CurveFrame::take(int index)
     showChange();
 }
 
-// Without a point to move, an arrow takes the first one.
+// If no point is selected, an arrow key selects the first one.
 void CurveFrame::step(QPoint arrow)
 {
     constexpr float length = 0.01F;
@@ -65,7 +65,8 @@ void CurveFrame::step(QPoint arrow)
     take(m_selected);
 }
 
-// On the curve, so that it stays as it is, and not so near to a point that the mouse would take that one.
+// The point is added on the curve, so that the curve stays as it is, and only where a mouse press would not select an
+// existing point.
 void CurveFrame::addBehindSelected()
 {
     constexpr int places = 256;

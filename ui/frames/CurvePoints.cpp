@@ -12,7 +12,7 @@ namespace
 constexpr double reach = 0.02;
 constexpr int bins = 256;
 
-// How closely the smooth curve follows its points.
+// These three constants determine how closely the smooth curve follows its points.
 constexpr double cutoffWavelength = 0.005;
 constexpr int straightEnds = 2;
 constexpr int nodeCount = 50;
@@ -112,7 +112,7 @@ QVector<float> smoothCurve(const CurvePoints &points, int count)
     return values;
 }
 
-// For i = 0 the place is not a number, and the bin is left out.
+// For i = 0 the bin position is NaN, which fails the comparison, so that the bin is left out.
 QVector<float> histogramBehind(const QVector<float> &curve, const QVector<float> &histogram)
 {
     if (curve.size() != bins) {

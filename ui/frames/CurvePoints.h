@@ -3,8 +3,8 @@
 
 #include <QVector>
 
-/// The control points of a curve in the unit square, from the left to the right. x and y count 0..1, y from the top
-/// downwards as on the screen; the values of the curve count upwards.
+/// The control points of a curve in the unit square, from left to right. x and y are in 0..1, y measured from the top
+/// as on the screen. The values of the curve are measured from the bottom.
 struct CurvePoints {
     QVector<float> xs{0.0F, 1.0F};
     QVector<float> ys{0.5F, 0.5F};
@@ -13,29 +13,31 @@ struct CurvePoints {
     int last() const { return count() - 1; }
 };
 
-/// The index of the point in whose column `x` lies, less than 0.02 away; -1 where there is none. Of several, the first
-/// pair of neighbours with one of them decides, for its nearer point and for the left one at equal distance.
+/// The index of a point less than 0.02 away from `x`; -1 if there is none. If several points are that close, the first
+/// pair of neighbours that contains one of them is used: the nearer point of the pair, the left one at equal distance.
 int pointAt(const CurvePoints &points, float x);
 
-/// Puts a point between its neighbours and returns its index; -1, and no point, to the right of the last one.
+/// Inserts a point in order of x and returns its index. To the right of the last point, nothing is inserted and -1 is
+/// returned.
 int insertPoint(CurvePoints &points, float x, float y);
 
-/// Moves a point. One at an end goes up and down only, the others sideways too, as long as they stay more than 0.02
-/// away from their neighbours.
+/// Moves a point. The first and the last point move vertically only. The others also move horizontally, as long as they
+/// stay more than 0.02 away from their neighbours.
 void movePoint(CurvePoints &points, int index, float x, float y);
 
-/// Removes a point and returns true, but leaves the ones at both ends.
+/// Removes a point and returns true. The first and the last point cannot be removed.
 bool removePoint(CurvePoints &points, int index);
 
-/// `count` values 0..1 of the straight lines between the points, value i taken at i / count. The first line goes on to
-/// the left; to the right of the last point they stay at its height, as they do everywhere if there is but one.
+/// `count` values 0..1 of the straight lines between the points; value i is taken at i / count. The first line extends
+/// to the left edge. To the right of the last point, or with only one point everywhere, the values have the height of
+/// that point.
 QVector<float> linearCurve(const CurvePoints &points, int count);
 
-/// The same of the smooth curve through the points; of the straight lines where there are too few points for one.
+/// The same for the smooth curve through the points. Straight lines if there are too few points for a smooth curve.
 QVector<float> smoothCurve(const CurvePoints &points, int count);
 
-/// The tone histogram behind a curve: what `histogram` counts in bin i goes to bin i * (curve[i] / (i / 256)), cut to a
-/// whole number. Bin 0 is left out, and tones that the curve makes white fall out of it, but for those that rounding
-/// leaves in the last bin. Both have 256 elements; with another number of curve values the histogram comes back as it
-/// is.
+/// The tone histogram after the curve is applied: the count of bin i goes to bin i * (curve[i] / (i / 256)), truncated
+/// to an integer. Bin 0 is ignored. Tones that the curve turns white are dropped, except for those that rounding puts
+/// into the last bin. Curve and histogram have 256 elements; with another number of curve values, the histogram is
+/// returned unchanged.
 QVector<float> histogramBehind(const QVector<float> &curve, const QVector<float> &histogram);

@@ -28,7 +28,7 @@ QString grainTileFile(float radius)
 
 GrainPreview::GrainPreview(QWidget *parent) : QFrame(parent), m_map(mapWidth, mapHeight, QImage::Format_ARGB32)
 {
-    // Where no tile can be had, weights lay this over the ramp: a grey that overlays to nothing.
+    // Used if no tile can be loaded: with this grey the overlay has no visible effect.
     m_map.fill(qRgba(128, 128, 128, 0));
     slotSetRadius(1.5F);
 }
@@ -106,7 +106,7 @@ void GrainPreview::applyWeights()
 
 void GrainPreview::paintEvent(QPaintEvent *)
 {
-    // Weights that came before the strip had this width have missed their columns.
+    // The weights are applied per column, so they have to be applied again when the size of the strip changes.
     if (m_painted != rect()) {
         m_painted = rect();
         applyWeights();

@@ -7,9 +7,9 @@
 #include <QImage>
 #include <QVector>
 
-/// The strip under the grain curve: a ramp from black to white with the film grain over it, as strong at each grey as
-/// the curve says. The grain comes from tiles that were made beforehand, one for each half pixel of blur radius; they
-/// are 400 x 60 pixels, so that the strip has to be narrower than 400.
+/// The strip below the grain curve: a ramp from black to white with film grain over it, whose strength at each grey is
+/// given by the curve. The grain comes from prerendered tiles, one for every half pixel of blur radius. The tiles are
+/// 400 x 60 pixels, so the strip must be narrower than 400 pixels.
 class GrainPreview : public QFrame, public Spoken
 {
     Q_OBJECT
@@ -25,16 +25,17 @@ public:
     QAccessible::Role spokenRole() const override { return QAccessible::Graphic; }
     QString spokenValue() const override;
 
-    /// The grain: its colours are those of the tiles, its opacity is the strength of the grain.
+    /// The grain: the colours of the tile, with the strength of the grain as opacity.
     const QImage &map() const { return m_map; }
 
 public slots:
-    /// Shows the grain of another blur radius, 0..3 pixels, rounded down to a half. A radius without a tile is told in
-    /// the log, and the grain stays.
+    /// Shows the grain for a blur radius of 0..3 pixels, rounded down to a multiple of 0.5. If there is no tile for the
+    /// radius, a warning is logged and the grain stays as it is.
     void slotSetRadius(float radius);
 
-    /// Shows the grain in the strengths 0..1 for the greys from black to white, 256 of them from the grain panel. None
-    /// means those of the last time. A strip of 400 pixels and more is told in the log, and shows them no more.
+    /// Sets the strengths 0..1 for the greys from black to white; the grain panel passes 256. An empty vector keeps the
+    /// previous strengths. If the strip is 400 pixels wide or more, a warning is logged and the strip does not show
+    /// them.
     void slotAdjustWeights(const QVector<float> &weights);
 
 protected:
@@ -45,9 +46,9 @@ private:
 
     float m_radius = 0;
     QVector<float> m_fulcrums;
-    QRect m_painted; // nothing before the first paint
+    QRect m_painted; // empty before the first paint
     QImage m_map;
 };
 
-/// The file of the tile for a blur radius in pixels.
+/// The path of the tile for a blur radius in pixels.
 QString grainTileFile(float radius);

@@ -136,7 +136,7 @@ QString VFrame::spokenValue() const
         .arg(m_percents.strength);
 }
 
-// A centre beyond the edge is shown at the edge: that is where the picture gets it.
+// A centre beyond the edge is shown at the edge, because the vignette of the photograph is clamped in the same way.
 grisal::graphics::VignetteParameters VFrame::shownVignette() const
 {
     constexpr float percent = 100;
@@ -145,7 +145,7 @@ grisal::graphics::VignetteParameters VFrame::shownVignette() const
     return {{x * percent, y * percent, 0}, m_strength * percent, m_radius * percent};
 }
 
-// Lines of a pixel are sharp at halves.
+// Lines that are one pixel wide are sharp at half-integer coordinates.
 QPainterPath VFrame::marks() const
 {
     constexpr double centreMark = 4;
@@ -162,7 +162,7 @@ QPainterPath VFrame::marks() const
 
 void VFrame::paintEvent(QPaintEvent *)
 {
-    // Finer would cost more than it shows.
+    // A higher resolution takes longer and makes no visible difference.
     constexpr QSize finest(600, 400);
     const QRect contents = contentsRect();
     if (contents.isEmpty()) {
@@ -174,7 +174,7 @@ void VFrame::paintEvent(QPaintEvent *)
     const QSize pixels = (QSizeF(contents.size()) * devicePixelRatioF()).toSize().boundedTo(finest);
     painter.drawImage(contents, vignettePicture(shownVignette(), pixels));
 
-    // Dark lines with a light rim are seen on every grey.
+    // Dark lines with a light outline are visible on every grey.
     const QPainterPath path = marks();
     QPainterPathStroker rim;
     rim.setWidth(3);

@@ -7,7 +7,7 @@
 
 #include <QFrame>
 
-/// The values of a vignette as numbers to be read: whole percents.
+/// The values of a vignette as displayed numbers: whole percents.
 struct VignettePercents {
     int x = 50;
     int y = 50;
@@ -15,12 +15,12 @@ struct VignettePercents {
     int strength = 50;
 };
 
-/// The vignette at a glance: a grey picture of 3:2 under the vignette, with marks at its centre and at its radius. A
-/// press or a drag moves the centre, also beyond the frame's edge; the mouse wheel changes the radius, with the Control
-/// key the strength. The arrow keys and Page Up and Page Down do the same.
+/// A preview of the vignette: a grey 3:2 image with the vignette applied and marks for its centre and radius. A press
+/// or a drag moves the centre, also beyond the edge of the frame; the mouse wheel changes the radius, or with the
+/// Control key the strength. The arrow keys and Page Up and Page Down do the same.
 ///
-/// Its values are fractions: the centre of the contents' width and height, from the top left corner; radius and
-/// strength of their fullest, 0..1.
+/// Its values are fractions: the centre of the width and height of the contents, from the top left corner; radius and
+/// strength 0..1 of their maximum.
 class VFrame : public QFrame, public Spoken
 {
     Q_OBJECT
@@ -36,25 +36,26 @@ public:
     QAccessible::Role spokenRole() const override { return QAccessible::Canvas; }
     QString spokenValue() const override;
 
-    /// 3:2, where there is room.
+    /// 3:2 if the layout has enough space.
     int heightForWidth(int width) const override { return width * 2 / 3; }
 
-    /// Takes the numbers that are shown beside the frame. They are what is spoken and where steps by key start: the
-    /// fractions do not tell them, since 0.29 shows as 28 where the mouse chose it and as 29 where a slider did.
+    /// Sets the numbers that are displayed beside the frame. Screen readers read them, and keyboard steps start from
+    /// them. They cannot be derived from the fractions: 0.29 is displayed as 28 if it was set by the mouse, and as 29
+    /// if it was set by a slider.
     void setPercents(const VignettePercents &percents);
 
 signals:
-    /// The centre that the user chose, below 0 or above 1 beyond the edge.
+    /// The centre that the user selected; below 0 or above 1 beyond the edge.
     void signalPosition(QPointF position);
     void signalRadius(float radius);
     void signalStrength(float strength);
 
 public slots:
-    /// Shows the centre there. Emits nothing.
+    /// Moves the centre. Emits nothing.
     void slotSetX(float x);
     void slotSetY(float y);
 
-    /// Takes the value and emits it; not one beyond 0..1 and not one that is nearly the current.
+    /// Sets and emits the value. A value outside of 0..1 or nearly equal to the current one is ignored.
     void slotSetRadius(float radius);
     void slotSetStrength(float strength);
 

@@ -13,10 +13,10 @@ constexpr float pictureWidth = 3;
 constexpr float pictureHeight = 2;
 constexpr double hundred = 100;
 
-/// The picture's grey: light enough to leave room for the darkening, dark enough for its overlay to bite.
+/// The grey of the image: light enough to be darkened, dark enough for the overlay to have a visible effect.
 constexpr int grey = 160;
 
-/// What the filter makes of the grey where its darkening has this value.
+/// The result of the filter for this grey at the given darkening.
 uchar darkenedGrey(float darkening)
 {
     constexpr float nearly255th = 0.0039F;
@@ -24,7 +24,7 @@ uchar darkenedGrey(float darkening)
     constexpr auto level = static_cast<float>(grey);
     const float overlay = (1 - darkening) * level + darkening * (level * level * nearly255th);
     const float shade = overlay * nearly255th * white;
-    // Without a radius it is no number: black too.
+    // A radius of 0 gives NaN, which becomes black, too.
     return shade > 0 ? static_cast<uchar>(shade + 0.5F) : uchar{0};
 }
 

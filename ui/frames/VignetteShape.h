@@ -7,26 +7,27 @@
 #include <QSize>
 #include <QSizeF>
 
-/// Whether two fractions differ by no more than 0.00001 of the larger one's size.
+/// Whether two fractions differ by at most 0.00001 of the larger magnitude.
 bool nearlyEqualFractions(float a, float b);
 
-/// Whether `wanted` takes the place of `current`: it lies within 0..1 and is not nearly the same.
+/// Whether `wanted` replaces `current`: it is within 0..1 and not nearly equal to it.
 bool replacesFraction(float current, float wanted);
 
-/// A fraction after a turn of the mouse wheel by `delta` eighths of a degree, 0.0001 for each of them. Not clamped.
+/// A fraction after the mouse wheel is turned by `delta` eighths of a degree, 0.0001 for each of them. Not clamped.
 float fractionAfterWheel(float fraction, int delta);
 
-/// A percentage cut to a whole number within lowest..highest; the lowest for what is no number.
+/// A percentage truncated to an integer and clamped to lowest..highest; `lowest` for NaN.
 int wholePercent(double percent, int lowest, int highest);
 
-/// The fraction that lies `step` whole percents from a fraction that is shown as `shown` percents, within 0..1. Cut as
-/// above, it shows as `shown + step`. A step of 0 leaves the fraction as it is, beyond 0..1 too, if it shows so.
+/// The fraction that is `step` whole percents away from a fraction displayed as `shown` percent, clamped to 0..1.
+/// Truncated like wholePercent(), it is displayed as `shown + step`. A step of 0 returns the fraction unchanged, also
+/// outside of 0..1, if it is displayed as `shown`.
 double fractionAfterStep(double fraction, int shown, int step);
 
-/// How far the radius of a vignette reaches in a picture of 3:2, as fractions of the picture's width and height.
-/// The radius is in percent.
+/// The extent of a vignette's radius in a 3:2 image, as fractions of the image's width and height. The radius is in
+/// percent.
 QSizeF vignetteReach(float radius);
 
-/// A picture of 3:2 in plain light grey under the vignette, in shades of grey: `pixels` wide and high, which stretches
-/// it where these are no 3:2. Plain for a strength of 0, otherwise black for a radius of 0.
+/// A 3:2 image in plain light grey with the vignette applied. It has the size `pixels` and is stretched if that is not
+/// 3:2. Unchanged grey for a strength of 0, otherwise black for a radius of 0.
 QImage vignettePicture(const grisal::graphics::VignetteParameters &parameters, QSize pixels);

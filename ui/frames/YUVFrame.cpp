@@ -167,7 +167,7 @@ void YUVFrame::emitWeights()
     update();
 }
 
-// Made when it is looked at: one of the two wheels is mostly hidden.
+// Computed when it is first painted, because usually only one of the two wheels is visible.
 const QImage &YUVFrame::wheelImage() const
 {
     if (m_wheelImageIsOld) {
@@ -215,7 +215,7 @@ void YUVFrame::drawWheel(QPainter *painter)
     drawMarker(*painter);
 }
 
-// The corners are red, yellow, green, cyan, blue and magenta at their full 255.
+// The corners are the fully saturated red, yellow, green, cyan, blue and magenta.
 void YUVFrame::drawHexagon(QPainter &painter, int saturation) const
 {
     constexpr std::array<QPoint, 6> corners{{{-85, 170}, {-170, 85}, {-85, -85}, {85, -170}, {170, -85}, {85, 85}}};

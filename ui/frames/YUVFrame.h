@@ -8,11 +8,11 @@
 
 #include <QFrame>
 
-/// The colour wheel: a square of colours of one level (luma), with a marker at the chosen one. A press or a drag
-/// chooses, also beyond the square's edge; the mouse wheel raises and lowers the level. The arrow keys and Page Up and
-/// Page Down do the same.
+/// The colour wheel: a square of colours of one level (luma) with a marker at the selected colour. A press or a drag
+/// selects a colour, also beyond the edge of the square; the mouse wheel changes the level. The arrow keys and Page Up
+/// and Page Down do the same.
 ///
-/// Colours are weights on the scale 0..255, of which they may leave both ends up to -512 and 512.
+/// Colours are weights on the scale 0..255. Values from -512 to 512 are possible.
 class YUVFrame : public QFrame, public Spoken
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ class YUVFrame : public QFrame, public Spoken
 public:
     explicit YUVFrame(QWidget *parent = nullptr);
 
-    /// Sets the range of the plane: see chromaPlaneOf(). The picture shows it when it is made the next time. An unknown
-    /// mode is told in the log, kept as the mode, and leaves the range.
+    /// Sets the range of the plane: see chromaPlaneOf(). The image uses it the next time that it is computed. For an
+    /// unknown mode a warning is logged; the mode is stored and the range stays as it is.
     void setColorSpace(int mode);
 
     int colorSpace() const { return m_colorSpace; }
@@ -30,7 +30,7 @@ public:
     float chromaU() const { return m_chroma.u; }
     float chromaV() const { return m_chroma.v; }
 
-    /// Where the marker is, as fractions of the frame's width and height, from the top left corner.
+    /// Position of the marker as fractions of the frame's width and height, from the top left corner.
     double markerX() const { return m_marker.x(); }
     double markerY() const { return m_marker.y(); }
 
@@ -39,18 +39,18 @@ public:
     QAccessible::Role spokenRole() const override { return QAccessible::ColorChooser; }
     QString spokenValue() const override;
 
-    /// As high as wide, where there is room.
+    /// Square if the layout has enough space.
     int heightForWidth(int width) const override { return width; }
 
 signals:
-    /// The chosen weights.
+    /// The weights that the user selected.
     void signalWeights(float r, float g, float b);
 
 public slots:
-    /// Shows the weights: level, marker, picture. Emits nothing.
+    /// Shows the weights: sets level and marker and updates the image. Emits nothing.
     void slotSetRGB(grisal::graphics::ColorRGB<float> weights);
 
-    /// Shows another level, kept within -512..512; the marker stays. Emits nothing.
+    /// Sets the level, clamped to -512..512; the marker stays. Emits nothing.
     void slotSetLuma(float luma);
 
 protected:
@@ -62,7 +62,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
-    /// Draws the plane, the outlines of the colours 0..255 and of twice their saturation, axes and marker.
+    /// Draws the plane, the outlines of the colours 0..255 and of twice their saturation, the axes and the marker.
     void drawWheel(QPainter *painter);
 
 private:
@@ -75,7 +75,7 @@ private:
     void drawAxes(QPainter &painter) const;
     void drawMarker(QPainter &painter) const;
 
-    double m_scaleX = -1.0; // widget pixels for each step of U
+    double m_scaleX = -1.0; // widget pixels per step of U
     double m_scaleY = -1.0;
     bool m_mousePressed = false;
     QPointF m_marker;

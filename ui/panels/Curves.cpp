@@ -21,7 +21,7 @@ Curves::Curves(QWidget *parent) : QWidget(parent), m_form(std::make_unique<Ui::C
     auto *types = new QButtonGroup(this);
     types->addButton(m_form->radioLinear);
     types->addButton(m_form->radioBSpline);
-    // The Tab key leads to the one that is chosen. The toolkit sees to it once one of them has had the focus.
+    // The Tab key goes to the checked button of the group. Qt ensures this only after one of them has had the focus.
     m_form->radioLinear->setFocusPolicy(Qt::ClickFocus);
     connect(m_form->frameCurve, &CurveFrame::signalMoved, this, &Curves::emitAll);
     m_deleteKey = std::make_unique<CurveFrameEventFilter>(m_form->frameCurve);

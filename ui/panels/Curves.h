@@ -13,7 +13,7 @@ namespace Ui
 class Curves;
 }
 
-/// The tone curve, drawn over the picture's tone histogram.
+/// The tone curve, drawn over the tone histogram of the image.
 class Curves : public QWidget
 {
     Q_OBJECT
@@ -25,11 +25,11 @@ public:
 signals:
     /// 256 outputs 0..1 for the greys 0..1.
     void signalCurves(QVector<float> curve);
-    /// The tone histogram as it is behind the curve: 256 bins.
+    /// The tone histogram after the curve is applied: 256 bins.
     void signalOutHistogram(QVector<float> histogram);
 
 public slots:
-    /// Takes the 256 bins of the picture's tone histogram. Another number is told in the log and refused.
+    /// Sets the 256 bins of the image's tone histogram. Any other number of bins is rejected and logged.
     void slotSetHistogram(QVector<float> histo);
     void emitAll();
     void on_buttonReset_clicked();

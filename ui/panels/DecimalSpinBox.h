@@ -3,8 +3,8 @@
 
 #include <QDoubleSpinBox>
 
-/// A spin box for numbers with a fraction that takes both the point and the comma as decimal separator. In most
-/// languages only one of them is, and the other one may be the one on the keyboard's number pad. It shows the locale's.
+/// A spin box for decimal numbers that accepts the point and the comma as decimal separator: most locales accept only
+/// one of them, and the number pad may have the other one. It displays the separator of the locale.
 class DecimalSpinBox : public QDoubleSpinBox
 {
 public:

@@ -5,17 +5,16 @@
 
 #include <array>
 
-/// A look: the weights of the channels that make a black-and-white film's rendering of colours.
+/// A preset: the channel weights that imitate how a black-and-white film renders colours.
 struct FilmPreset {
     const char *name;
-    int r; ///< 0..255; the three add up to about 255
+    int r; ///< 0..255; the sum of the three is about 255
     int g;
     int b;
 };
 
-/// All looks in the order of the preset box. "Berlin 200X" adds up to 256 and "Rochester Tmax 100" to 254, and two of
-/// the Redbridge films are alike: these are the weights people know the looks by. Films keep their names in every
-/// language.
+/// All presets in the order of the preset box. "Berlin 200X" adds up to 256 and "Rochester Tmax 100" to 254, and two of
+/// the Redbridge films have the same weights: users know the presets by these weights. Film names are not translated.
 constexpr std::array<FilmPreset, 17> filmPresets{{
     {QT_TRANSLATE_NOOP("Mixer", "Average"), 85, 85, 85},
     {QT_TRANSLATE_NOOP("Mixer", "Luma"), 77, 150, 28},

@@ -13,7 +13,7 @@ namespace Ui
 class Grain;
 }
 
-/// Film grain: how strong it is at each grey, as a curve over the tones behind the tone curve, and how coarse. A strip
+/// Film grain: its strength at each grey, as a curve over the tones after the tone curve, and its coarseness. A strip
 /// shows both on a ramp from black to white.
 class Grain : public QWidget
 {
@@ -28,7 +28,7 @@ signals:
     void signalGrain(QVector<float> weights, float radius);
 
 public slots:
-    /// Takes the 256 bins of the tone histogram behind the curve of the strengths.
+    /// Sets the 256 bins of the tone histogram behind the strength curve.
     void slotSetHistogram(QVector<float> histogram);
     void on_doubleSpinBoxBlur_valueChanged(double blur);
     void on_sliderBlur_valueChanged(int tenths);

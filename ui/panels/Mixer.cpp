@@ -159,7 +159,7 @@ void Mixer::on_comboPresets_currentIndexChanged(int index)
     applyPreset(index);
 }
 
-// Looking through the list changes nothing.
+// Moving through the list does not apply a preset.
 void Mixer::on_comboPresets_highlighted(int) {}
 
 void Mixer::applyPreset(int index)
@@ -169,7 +169,7 @@ void Mixer::applyPreset(int index)
         qWarning("mixer: color list too small");
         return;
     }
-    // The last of the three conversions is the one that counts.
+    // Each conversion overwrites the flag, so only the failure of the last one is reported.
     bool converted = false;
     const auto r = static_cast<float>(weights[0].toInt(&converted));
     const auto g = static_cast<float>(weights[1].toInt(&converted));

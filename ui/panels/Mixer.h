@@ -12,12 +12,12 @@ namespace Ui
 class Mixer;
 }
 
-/// The channel mixer: the weights with which red, green and blue add up to grey, as a colour wheel, as sliders, as
-/// their sum and as looks named after film stocks.
+/// The channel mixer: the weights with which red, green and blue are added to give grey, set with a colour wheel,
+/// sliders for the channels and for their sum, and presets named after film stocks.
 ///
-/// Weights count 0..255 here and are emitted divided by 255; 85 each is the plain average. The channel sliders hold
-/// them. Moving one of these alone emits nothing: what they try out counts with the next change of the sum, or of the
-/// level by the mouse wheel. A pick on the wheel, a preset and the reset put other weights in their place.
+/// Weights are on the scale 0..255 and are emitted divided by 255; 85 each is the plain average. The channel sliders
+/// store them. Moving a single channel slider emits nothing: its value takes effect when the sum changes or when the
+/// mouse wheel changes the level. Selecting a colour on the wheel, a preset and the reset replace all weights.
 class Mixer : public QWidget
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     explicit Mixer(QWidget *parent = nullptr);
     ~Mixer() override;
 
-    /// The weights of the preset that was chosen last, 0..255, whether or not they could be applied.
+    /// The weights of the preset that was selected last, 0..255, even if they could not be applied.
     grisal::graphics::ColorRGB<float> presetWeights() const { return m_preset; }
 
 signals:
@@ -34,8 +34,8 @@ signals:
     void signalMixer(float r, float g, float b);
 
 public slots:
-    /// Shows the weights, 0..255 and beyond, and emits them. The controls show whole numbers within their ranges, the
-    /// signal carries the weights as they are.
+    /// Shows the weights, which may be outside of 0..255, and emits them. The controls show integers within their
+    /// ranges; the signal contains the weights unchanged.
     void slotSetRGB(float r, float g, float b);
     void on_sliderLuma_valueChanged(int value);
     void on_sliderR_valueChanged(int value);

@@ -10,7 +10,7 @@ namespace Ui
 class Sharpen;
 }
 
-/// Holds the place of sharpening, which does not exist yet.
+/// Placeholder for sharpening, which is not implemented yet.
 class Sharpen : public QWidget
 {
     Q_OBJECT

@@ -52,8 +52,8 @@ void setTint(const Tone &tone, int r, int g, int b)
     tone.b->setValue(b);
 }
 
-// The mean stays in double precision until it is cut: 110, 148 and 198, whose mean the unequal thirds put just below
-// 152, show as 151.
+// The mean stays in double precision until it is truncated: 110, 148 and 198 are shown as 151, because the weights of
+// the channels are not exactly a third each and the mean is slightly below 152.
 void showLuma(const Tone &tone, const ChannelWeights &tint)
 {
     using namespace grisal::math;
@@ -83,7 +83,7 @@ void takeTint(const Tone &tone, float r, float g, float b)
     setTint(tone, wholeR, wholeG, wholeB);
 }
 
-/// Shows the level on the wheel, whose marker stays, and returns the tint at that level.
+/// Sets the level of the wheel, whose marker stays, and returns the tint at that level.
 ChannelWeights shiftToLuma(const Tone &tone, int luma)
 {
     const ChannelWeights shifted = grisal::math::shiftedToMean(tintOf(tone), luma);
@@ -151,7 +151,7 @@ void SplitTone::on_spinBoxWeight_valueChanged(int value)
     emitAll();
 }
 
-// The spin box emits, and only where the slider brings it a new value: one emission, whichever of the two is moved.
+// Only the spin box emits, and only if its value changes: one emission, whether the slider or the spin box is moved.
 void SplitTone::on_sliderWeight_valueChanged(int value)
 {
     m_form->spinBoxWeight->setValue(value);

@@ -10,11 +10,11 @@ namespace Ui
 class SplitTone;
 }
 
-/// Split toning: a tint for the highlights, one for the shadows, and the weight between them. Each tint shows as a
-/// colour wheel, as the level of the wheel (its luma, the mean of red, green and blue) and as three numbers, 0..255.
+/// Split toning: a tint for the highlights, a tint for the shadows, and the weight between them. Each tint is shown as
+/// a colour wheel, as the level of the wheel (its luma, the mean of red, green and blue) and as three numbers, 0..255.
 ///
-/// The numbers hold the tints. Typing one emits nothing: it counts with the next change of the weight, a wheel or a
-/// luma, or with the reset.
+/// The spin boxes with the numbers store the tints. Typing a number emits nothing: it takes effect with the next change
+/// of the weight, a wheel or a luma, or with the reset.
 class SplitTone : public QWidget
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     ~SplitTone() override;
 
 signals:
-    /// The weight, 0.75..1.25 with 1 in the middle, then the tints of highlights and shadows, 0..1.
+    /// The weight, 0.75..1.25 with 1 as neutral value, then the tints of highlights and shadows, 0..1.
     void signalSplit(float weight, float r1, float g1, float b1, float r2, float g2, float b2);
 
 public slots:
@@ -38,14 +38,14 @@ public slots:
     void on_sliderWeight_valueChanged(int value);
     void on_sliderHLuma_valueChanged(int value);
 
-    /// Takes a tint of the scale 0..255, cut to whole numbers within it, and emits. The wheel stays: it is where the
-    /// tint comes from.
+    /// Sets a tint on the scale 0..255, truncated to integers and clamped, and emits it. The wheel stays as it is,
+    /// because the tint comes from the wheel.
     void slotSetShadows(float r, float g, float b);
     void slotSetHighlights(float r, float g, float b);
 
     void on_sliderSLuma_valueChanged(int value);
 
-    /// Emits what the controls show.
+    /// Emits the values of the controls.
     void emitAll();
 
     void on_buttonReset_clicked();

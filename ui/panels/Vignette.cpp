@@ -73,7 +73,8 @@ void Vignette::on_sliderStrength_valueChanged(int value)
     emitVignette();
 }
 
-// The frame answers with what it took. Cut to whole percents again, 0.53 would be 52, under a slider at 53.
+// The frame emits the value that it accepts. It is blocked here: truncated to whole percents again, 0.53 would become
+// 52 while the slider shows 53.
 void Vignette::showRadius(float radius)
 {
     const QSignalBlocker blockFrame(m_form->frame);
@@ -106,8 +107,8 @@ void Vignette::on_spinBoxStrength_valueChanged(int value)
     m_form->sliderStrength->setValue(value);
 }
 
-// The frame gets the fraction back that the sliders have cut: turns of the wheel by less than a percent add up, and the
-// centre stays under the mouse.
+// The sliders truncate the position to whole percents, so the exact fraction is set on the frame again: wheel steps of
+// less than a percent add up, and the centre stays under the mouse pointer.
 void Vignette::slotSetPosition(QPointF position)
 {
     const QSignalBlocker blockFrame(m_form->frame);
@@ -142,7 +143,7 @@ void Vignette::on_buttonReset_clicked()
         m_form->spinBoxY->setValue(half);
         m_form->spinBoxRadius->setValue(half);
         m_form->spinBoxStrength->setValue(half);
-        // Where the mouse left a fraction above 50 %, the numbers have not changed.
+        // After the mouse has set a fraction slightly above 50 %, the spin boxes already show 50 and emit nothing.
         m_form->frame->slotSetX(fractionOf(half));
         m_form->frame->slotSetY(fractionOf(half));
         showRadius(fractionOf(half));

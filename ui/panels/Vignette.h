@@ -12,10 +12,10 @@ namespace Ui
 class Vignette;
 }
 
-/// The vignette: where its centre lies, how far it reaches and how strong it is, with sliders or on a small picture.
+/// The vignette: position of its centre, radius and strength, set with sliders or in a small preview.
 ///
-/// Controls and signal count in percent, 0..99. The small picture counts in fractions, finer than whole percents: it
-/// keeps what the mouse chose, the controls and the signal have it cut to whole percents.
+/// Controls and signal use percent, 0..99. The preview uses fractions, which are finer than whole percents: it keeps
+/// the values that the mouse sets, while controls and signal contain them truncated to whole percents.
 class Vignette : public QWidget
 {
     Q_OBJECT
@@ -38,11 +38,11 @@ public slots:
     void on_spinBoxRadius_valueChanged(int value);
     void on_spinBoxStrength_valueChanged(int value);
 
-    /// Half of everything. The check box goes, and stays as it is checked.
+    /// Sets everything to 50 %. The check box is hidden and keeps its state.
     void on_buttonReset_clicked();
     void on_checkBoxBlur_clicked();
 
-    /// Take fractions, also beyond 0..1.
+    /// These slots take fractions, which may be outside of 0..1.
     void slotSetPosition(QPointF position);
     void slotSetRadius(float radius);
     void slotSetStrength(float strength);

@@ -6,8 +6,8 @@ class QOpenGLWidget;
 namespace grisal::ui
 {
 
-/// Calls `slot` of the widget, named as for SLOT(), before its GL context ends. In a file of its own because the
-/// toolkit's header for contexts and GLEW do not go together.
+/// Calls `slot` of the widget, named as for SLOT(), before its GL context is destroyed. In its own file, because Qt's
+/// header for contexts and GLEW cannot be included together.
 void callBeforeContextEnds(QOpenGLWidget *widget, const char *slot);
 
 } // namespace grisal::ui

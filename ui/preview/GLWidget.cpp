@@ -22,7 +22,7 @@ QString glText(GLenum name)
     return QString::fromUtf8(reinterpret_cast<const char *>(glGetString(name)));
 }
 
-/// Makes the preview's own pixels out of an imported buffer.
+/// Creates the preview's own pixels from an imported buffer.
 class PreviewMaker final : public graphics::IImageReceiver
 {
 public:
@@ -138,7 +138,7 @@ void GLWidget::loadImage(const void *pixels, int width, int height, bool sixteen
     qDebug() << "Buffer: " << (pixels != nullptr);
     qDebug() << "(INFO) Max Texture Size: " << graphics::maxPreviewSide;
 
-    // The importer only lends the buffer to receivers that read it.
+    // The importer passes the buffer to receivers that only read it.
     graphics::ImageBuffer buffer{const_cast<void *>(pixels), static_cast<std::uint32_t>(width),
                                  static_cast<std::uint32_t>(height), 1, 1};
     PreviewMaker maker(sixteenBit, alpha);
@@ -173,7 +173,7 @@ bool GLWidget::renderFinal(void *pixels, int width, int height, bool sixteenBit,
     const auto tellAndComeBack = [&](int tile, int tiles) {
         if (progress) {
             progress(tile, tiles);
-            // What it painted was put together in another context.
+            // Painting may have made another context current.
             makeCurrent();
         }
     };
@@ -192,7 +192,7 @@ void GLWidget::paintGL()
         return;
     }
     bindScreen();
-    // What is not opaque would let the desktop through where windows can be transparent, as they can on Wayland.
+    // Pixels that are not opaque would show the desktop where windows can be transparent, for example on Wayland.
     glClearColor(0, 0, 0, 1);
     glClear(GL_COLOR_BUFFER_BIT);
     if (m_stage.preview() != nullptr) {
@@ -205,23 +205,23 @@ void GLWidget::paintPreview()
 {
     graphics::Preview *preview = m_stage.preview();
     fitViewToWidget();
-    // In the middle of a final render the filters have its sizes: the last frame will do.
+    // During a final render the filters have the sizes of the final render, so the last frame is shown again.
     if (m_dirty && !m_renderingFinal) {
         preview->render();
         m_dirty = false;
         bindScreen();
     }
     preview->view().setup();
-    // Not before the render, which may make textures and leaves them switched off then.
+    // After the render, because creating textures switches them off.
     glEnable(GL_TEXTURE_2D);
-    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_FALSE); // what is clear in the picture stays opaque, too
+    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_FALSE); // transparent parts of the image stay opaque on the screen
     drawPreview(preview->output());
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     glDisable(GL_TEXTURE_2D);
 }
 
-// By clearing, which needs neither the view nor a painter, whose traces would be in the next paint's way. The mark is
-// the same from above and from below.
+// Drawn by clearing, which needs neither the view nor a QPainter, whose state changes would affect the next paint. The
+// mark is symmetrical, so the direction of the y axis makes no difference.
 void GLWidget::paintFocusMark() const
 {
     if (!m_focusMark.isSeen()) {
@@ -239,7 +239,7 @@ void GLWidget::paintFocusMark() const
 
 void GLWidget::bindScreen()
 {
-    // The widget's framebuffer is not number 0 and becomes another one with every resize.
+    // The widget has its own framebuffer, which changes with every resize.
     glBindFramebuffer(GL_FRAMEBUFFER, defaultFramebufferObject());
     const QSize size = pixelSize();
     glViewport(0, 0, size.width(), size.height());

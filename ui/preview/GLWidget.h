@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// GLEW comes before any header of the toolkit that brings in GL.
+// GLEW has to be included before any Qt header that includes the OpenGL headers.
 #include "graphics/gl/GL.h"
 
 #include "graphics/Message.h"
@@ -24,63 +24,62 @@ struct PreviewPixels;
 namespace grisal::ui
 {
 
-/// Shows a picture through the filters, with zoom and pan, and renders it at full size on request.
+/// Shows an image with the filters applied, with zoom and pan, and renders it at full size on request.
 ///
-/// The mouse pans, zooms, fits and, held still, shows the picture as it was before the filters. So does the keyboard,
-/// with the arrow keys, plus and minus, and the space bar held.
+/// The mouse pans, zooms, fits and, while a button is held without moving, shows the image without filters. The
+/// keyboard does the same with the arrow keys, plus and minus, and the space bar held down.
 ///
-/// Owns the GL context, the filters and everything that is rendered into. All lengths are device pixels: a scale of 1
-/// is one pixel of the preview per pixel of the screen. Without a GL context (not shown yet, or a machine that gives
-/// none) nothing is drawn, a loaded picture waits for the context, and renderFinal() reports failure.
+/// Owns the GL context, the filters and all render targets. All lengths are device pixels: at a scale of 1, a preview
+/// pixel is a screen pixel. Without a GL context (before the widget is shown, or if the machine has no OpenGL) nothing
+/// is drawn, a loaded image is kept until there is a context, and renderFinal() fails.
 class GLWidget : public QOpenGLWidget, public Spoken
 {
     Q_OBJECT
 
 public:
-    /// How a picture is fitted into the widget.
+    /// How an image is fitted into the widget.
     enum enumFitTo {
-        FitLarger = 0,  ///< the larger of the two ratios: the picture fills the widget
-        FitSmaller = 1, ///< the smaller of the two ratios: the whole picture is seen
-        FitActual = 2,  ///< one picture pixel per device pixel
+        FitLarger = 0,  ///< the larger of the two ratios: the image fills the widget
+        FitSmaller = 1, ///< the smaller of the two ratios: the whole image is visible
+        FitActual = 2,  ///< one image pixel per device pixel
     };
     Q_ENUM(enumFitTo)
 
     explicit GLWidget(QWidget *parent = nullptr);
     ~GLWidget() override;
 
-    /// Loads the GL entry points. Needs the context to be current; may be called again at any time.
+    /// Loads the GL entry points. The context must be current; may be called repeatedly.
     void initializeGL() override;
 
-    /// Takes a copy of width x height pixels for the preview: 3 components each, or 4 with `alpha` (the fourth is
-    /// dropped), bytes or, with `sixteenBit`, 16-bit words. Every filter but the mixer is switched off, the parameters
-    /// are kept and sent to the filters again, the zoom starts afresh. A null `pixels` changes nothing.
+    /// Copies width x height pixels for the preview: 3 components each, or 4 with `alpha` (the fourth is dropped),
+    /// bytes or, with `sixteenBit`, 16-bit samples. Switches off every filter except the mixer, keeps the parameters
+    /// and sends them to the filters again, and resets the zoom. Does nothing if `pixels` is null.
     void loadImage(const void *pixels, int width, int height, bool sixteenBit, bool alpha);
 
-    /// Renders the whole picture in `pixels` in place with the current filters and parameters: width x height pixels
-    /// of 3 components, 4 with `hasAlpha`, bytes or 16-bit words. Returns false where nothing could be rendered; the
-    /// buffer may then hold anything. The preview is as before afterwards. `progress` is told of each tile and may
-    /// paint.
+    /// Renders the whole image in `pixels` in place with the current filters and parameters: width x height pixels of 3
+    /// components, 4 with `hasAlpha`, bytes or 16-bit samples. Returns false on failure; the contents of the buffer are
+    /// then undefined. The preview is unchanged afterwards. `progress` is called for each tile and may paint.
     bool renderFinal(void *pixels, int width, int height, bool sixteenBit, bool hasAlpha,
                      const graphics::TileProgress &progress = {});
 
-    /// The next paint renders the preview again.
+    /// Makes the next paint render the preview again.
     void setDirty() { m_dirty = true; }
 
-    /// Fills the queue of the preview again, in its order.
+    /// Fills the queue of the preview again, in the order of the preview.
     void rebuildQueue() { m_stage.rebuildQueue(); }
 
-    /// A filter, to switch it on and off; null before the first image was loaded.
+    /// A filter, to be switched on and off; null before the first image is loaded.
     template <typename Filter>
     graphics::IFilter *filter() const
     {
         return m_stage.filters() ? &m_stage.filters()->template get<Filter>() : nullptr;
     }
 
-    /// The fit whose ratio is, at this moment, the one of the width (of the height).
+    /// The fit mode whose ratio is currently that of the width (of the height).
     enumFitTo fitOnWidth() const;
     enumFitTo fitOnHeight() const;
 
-    /// Why the machine cannot draw the preview; empty while nothing is wrong.
+    /// Why OpenGL cannot draw the preview; empty if there is no problem.
     graphics::Message graphicsProblem() const;
 
     const graphics::Look &look() const { return m_stage.look(); }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// How the user moves about in the preview: zoom, fit, pan, hold to compare.
+// Navigation in the preview: zoom, fit, pan, and comparison with the original.
 #include "ui/preview/GLWidget.h"
 
 #include "ui/accessible/Keys.h"
@@ -158,7 +158,8 @@ void GLWidget::mouseMoveEvent(QMouseEvent *event)
 void GLWidget::pan(QPointF pixels)
 {
     if (graphics::Preview *preview = m_stage.preview()) {
-        // A drag moves the window over the picture, so that the picture goes the other way. Offsets count upwards.
+        // A drag moves the view over the image, so that the image moves in the opposite direction. Offsets increase
+        // upwards.
         graphics::FlexibleDocumentView &view = preview->view();
         view.setOffset(view.offsetX() - static_cast<float>(pixels.x()),
                        view.offsetY() + static_cast<float>(pixels.y()));
@@ -194,7 +195,7 @@ void GLWidget::keyPressEvent(QKeyEvent *event)
     m_focusMark.useKey();
 }
 
-// An arrow shows more of the picture on its side.
+// An arrow key moves the view in its direction.
 bool GLWidget::useKey(const QKeyEvent &event)
 {
     constexpr double step = 20;
@@ -232,7 +233,7 @@ void GLWidget::keyReleaseEvent(QKeyEvent *event)
     }
 }
 
-// The release goes elsewhere.
+// The key release is sent to another widget.
 void GLWidget::focusOutEvent(QFocusEvent *event)
 {
     if (m_bypass && !m_pressed) {
