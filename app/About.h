@@ -10,7 +10,7 @@ namespace Ui
 class About;
 }
 
-/// What the program is and when it was built, and the licences of the libraries that it contains.
+/// Shows the name, version and build date of the program and the licences of the libraries that it contains.
 class About : public QDialog
 {
     Q_OBJECT

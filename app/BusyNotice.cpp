@@ -9,7 +9,7 @@
 namespace
 {
 
-constexpr int readingTime = 300; // milliseconds
+constexpr int readingTime = 300; // minimum milliseconds between two progress texts
 
 } // namespace
 
@@ -50,7 +50,7 @@ void BusyNotice::paint(const QString &text)
     m_progressBar.show();
     m_statusBar.showMessage(text);
     m_statusBar.update();
-    // A plain repaint() would wait for the event loop where the last one was a moment ago.
+    // repaint() would wait for the event loop if the last repaint was a moment ago.
     QEvent paintNow(QEvent::UpdateRequest);
     QCoreApplication::sendEvent(m_statusBar.window(), &paintNow);
     m_sincePainted.start();
@@ -63,7 +63,7 @@ void BusyNotice::end()
     }
     m_ended = true;
     m_progressBar.hide();
-    // What somebody else has said meanwhile stays.
+    // A message that was shown by other code in the meantime stays.
     if (m_statusBar.currentMessage() == m_text) {
         m_statusBar.clearMessage();
     }

@@ -7,25 +7,26 @@
 class QProgressBar;
 class QStatusBar;
 
-/// Shows, while it lives, that the program is at work: the wait cursor, a text in the status bar, a progress bar. All
-/// of it is painted at once and no event is processed, so that nobody can reach into the work.
+/// Shows during its lifetime that the program is busy: wait cursor, a text in the status bar, a progress bar.
+/// Everything is painted immediately and no event is processed, so that user input cannot interfere with the work.
 class BusyNotice
 {
 public:
-    /// Both have to outlive it. The progress bar lies in the status bar, hidden while there is no work.
+    /// Both parameters must outlive the object. The progress bar is in the status bar and hidden while the program is
+    /// idle.
     BusyNotice(QStatusBar &statusBar, QProgressBar &progressBar);
     BusyNotice(const BusyNotice &) = delete;
     BusyNotice &operator=(const BusyNotice &) = delete;
     ~BusyNotice();
 
-    /// Tells what is being done; how much of it there is, nobody knows.
+    /// Shows a text for work of unknown duration.
     void show(const QString &text);
 
-    /// Tells what is being done, of which `done` of `all` parts are over. Texts that follow each other faster than
-    /// anybody reads are left out.
+    /// Shows a text for work of which `done` of `all` parts are complete. Texts that follow each other too fast to be
+    /// read are skipped.
     void show(const QString &text, int done, int all);
 
-    /// Ends the notice before its time: something has to be asked or told.
+    /// Ends the notice before the destructor, so that a dialog can be shown.
     void end();
 
 private:

@@ -38,7 +38,7 @@ public:
     Settings() : QSettings(QString::fromLatin1(product::organisation), QString::fromLatin1(product::settingsName)) {}
 };
 
-/// In a menu, an ampersand marks a letter; two of them are one.
+/// In a menu, an ampersand marks the shortcut letter; "&&" is shown as one ampersand.
 QString menuText(QString name)
 {
     return name.replace(QLatin1Char('&'), QStringLiteral("&&"));
@@ -103,8 +103,8 @@ QString FileDealer::saveDialog() const
     return QFileDialog::getSaveFileName(nullptr, tr("Save image"), startDirectory(), filter());
 }
 
-// It is always the path of the last dialog that is recorded, also when the picture came from the Recent menu: Save
-// writes to this path, and the menu shows where it would write.
+// Records the path of the last open dialog, even if the image came from the Recent menu: Save writes to this path, and
+// the menu shows where Save would write.
 void FileDealer::addToRecent()
 {
     Settings settings;
@@ -127,7 +127,7 @@ void FileDealer::refreshRecentMenu()
     const int shown = std::min<int>(static_cast<int>(recent.size()), static_cast<int>(m_recentActions.size()));
     int digit = 1;
     for (int i = 0; i < shown; ++i) {
-        // An entry without a file keeps its action as it is: a picture on a drive that comes back is there again.
+        // An entry whose file is missing keeps its action, because a removable drive may be connected again.
         if (!QFileInfo::exists(recent[i])) {
             continue;
         }

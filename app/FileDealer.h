@@ -9,8 +9,8 @@
 class QAction;
 class QMenu;
 
-/// Runs the open and save dialogs, remembers the last directory and the five most recent images across runs, and
-/// fills the Recent menu.
+/// Runs the open and save dialogs, stores the last directory and the five most recent images across runs, and fills the
+/// Recent menu.
 class FileDealer : public QObject
 {
     Q_OBJECT
@@ -18,31 +18,31 @@ class FileDealer : public QObject
 public:
     explicit FileDealer(QObject *parent = nullptr);
 
-    /// Adds the five actions of the recent images to the menu. Called once.
+    /// Adds the five actions of the recent images to the menu. To be called once.
     void setUpRecentMenu(QMenu *menu);
 
-    /// Asks for an image to open. The answer, empty if the user cancelled, becomes the current path.
+    /// Asks for an image to open. The result, empty if the user cancels, becomes the current path.
     QString openDialog();
 
-    /// Asks for a path to save to; empty if the user cancelled. Nothing is remembered of it.
+    /// Asks for a path to save to; empty if the user cancels. The path is not stored.
     QString saveDialog() const;
 
-    /// What the last open dialog gave; empty before.
+    /// The result of the last open dialog; empty before.
     QString currentPath() const { return m_currentPath; }
 
-    /// Puts the current path at the front of the recent images and remembers its directory.
+    /// Puts the current path at the front of the recent images and stores its directory.
     void addToRecent();
 
-    /// What is remembered: the directory of the last opened image, empty where there is none, and the recent images,
-    /// latest first, missing files and empty paths among them.
+    /// The stored values: the directory of the last opened image, empty if there is none, and the recent images, latest
+    /// first, including missing files and empty paths.
     QString lastDirectory() const;
     QStringList recentImages() const;
 
-    /// Removes what is remembered from the settings. The current path stays, and with it the place that Save writes to.
+    /// Removes the stored values from the settings. The current path, which Save writes to, stays.
     void forgetDirectory();
     void forgetRecent();
 
-    /// Path of the file that the settings are in, whether it is there yet or not.
+    /// Path of the settings file, which may not exist yet.
     static QString settingsFile();
 
 public slots:

@@ -3,9 +3,9 @@
 
 #include <QTextBrowser>
 
-/// A text browser that shows a picture sharply on a dense screen, where there is a second one of it at twice the
-/// density: name@2x.png beside name.png. The toolkit's own finds such pictures for icons only. Going forward leads to
-/// the place that the link led to; the toolkit's own shows the link instead.
+/// A text browser that shows images sharply on high-DPI screens if there is a second version with twice the resolution:
+/// name@2x.png beside name.png. Qt looks for such versions only for icons. forward() goes to the target of the link;
+/// QTextBrowser's goes to the link itself.
 class GuideBrowser : public QTextBrowser
 {
     Q_OBJECT

@@ -3,8 +3,8 @@
 
 #include <QTextBrowser>
 
-/// A text browser for plain text: what setSource() names is shown as it stands, line by line, in UTF-8. The toolkit's
-/// own takes every file for HTML and would run the lines together.
+/// A text browser for plain text: shows the file passed to setSource() line by line, as UTF-8. QTextBrowser would treat
+/// every file as HTML and join the lines.
 class LicenseBrowser : public QTextBrowser
 {
     Q_OBJECT

@@ -97,7 +97,7 @@ void MainWindow::setUpStatusBar()
     m_progressBar->setAccessibleDescription(tr("How much of reading, rendering or writing is done"));
     m_progressBar->setTextVisible(false);
     m_progressBar->setFixedSize(progressBarSize);
-    // It is shown in the middle of a job, when nothing can be laid out: its place is always there.
+    // The progress bar appears during a job, while the layout cannot be updated, so its space is always reserved.
     QSizePolicy placed = m_progressBar->sizePolicy();
     placed.setRetainSizeWhenHidden(true);
     m_progressBar->setSizePolicy(placed);
@@ -169,7 +169,7 @@ void MainWindow::slotResetActions()
     }
 }
 
-// A shortcut leaves the focus in the spin box, which holds the text back until it is complete.
+// A shortcut leaves the focus in the spin box, which emits a typed number only when the input is complete.
 void MainWindow::takeTypedNumber()
 {
     if (auto *spinBox = qobject_cast<QAbstractSpinBox *>(focusWidget())) {

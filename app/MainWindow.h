@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// GLEW comes before any header of the toolkit that brings in GL.
+// GLEW has to be included before any Qt header that includes the OpenGL headers.
 #include "ui/preview/GLWidget.h"
 
 #include "app/FileDealer.h"
@@ -34,10 +34,10 @@ class MainWindow;
 namespace grisal::ui
 {
 
-/// The application's one window: preview, filter panels, menus and tool bar, and the ways a picture takes in and out.
+/// The only window of the application: preview, filter panels, menus and tool bar, opening and saving.
 ///
-/// The checked state of a filter's action is the state of the filter. Going from panel to panel leaves filters on; an
-/// action triggered while its panel is shown switches its filter off and goes back to the mixer.
+/// The action of a filter is checked while the filter is on. Switching between panels leaves the filters on; triggering
+/// the action of the visible panel switches its filter off and returns to the mixer.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -46,15 +46,15 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    /// Shows width x height pixels of 3 components, bytes or 16-bit words, in the preview and puts all panels back to
-    /// their initial settings. The pixels are not needed afterwards. Null pixels are reported in the log.
+    /// Shows width x height pixels of 3 components, bytes or 16-bit samples, in the preview and resets all panels. The
+    /// pixels are copied. Null pixels are reported in the log.
     void loadBuffer(const void *pixels, int width, int height, bool sixteenBit);
 
-    /// Renders the picture at full size and writes it to `path`. Failures are told in the status bar and in the log;
-    /// a picture that could not be rendered is not written.
+    /// Renders the image at full size and writes it to `path`. Failures are reported in the status bar and in the log;
+    /// if rendering fails, nothing is written.
     void saveImage(const QString &path);
 
-    /// Why the machine cannot draw pictures; empty while nothing is wrong.
+    /// Why OpenGL cannot draw images; empty if there is no problem.
     graphics::Message graphicsProblem() const;
 
 signals:
@@ -91,7 +91,7 @@ private:
     void connectPanels();
     void showGuide();
     void showPreferences();
-    /// Has the number that is being typed into a panel take effect. Comes first wherever the numbers count.
+    /// Applies the number that is being typed into a panel. To be called before the values of the panels are used.
     void takeTypedNumber();
     void showPanel(QWidget *panel);
     bool togglePanel(QWidget *panel, QAction *action);
@@ -116,7 +116,7 @@ private:
     QProgressBar *m_progressBar;
     Session m_session;
     FileDealer m_fileDealer;
-    UserGuide *m_guide = nullptr; // from its first showing on
+    UserGuide *m_guide = nullptr; // null until it is shown for the first time
     std::unique_ptr<Ui::MainWindow> m_form;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The ways a picture takes into the window and out of it again.
+// Opening and saving images in the main window.
 #include "app/MainWindow.h"
 
 #include "app/BusyNotice.h"
@@ -22,7 +22,7 @@ constexpr int messageDuration = 2000;
 
 QString titleFor(const QString &path, const graphics::Image &image)
 {
-    // These three characters stand for the mark of unsaved changes; twice, they are themselves.
+    // Qt replaces "[*]" in a window title by the mark of unsaved changes; written twice, it is shown literally.
     const QString name = QFileInfo(path).fileName().replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
     return std::visit(
         [&](const auto &raster) {
@@ -51,7 +51,7 @@ void MainWindow::openImage(QString filename)
     try {
         openFile(filename);
     } catch (const std::exception &problem) {
-        // Not enough memory for the preview.
+        // Usually std::bad_alloc: not enough memory for the preview.
         qWarning("%s", problem.what());
         showCannotLoad(filename);
     }
@@ -76,7 +76,7 @@ void MainWindow::openFile(const QString &filename)
     showWarning();
 }
 
-// The preview has 8 bits whatever the picture has.
+// The preview has 8 bits per channel for images of any depth.
 void MainWindow::showPreviewOf(const graphics::Image &image)
 {
     const auto *bytes = std::get_if<graphics::Image8>(&image);
@@ -96,7 +96,7 @@ void MainWindow::showCannotLoad(const QString &filename)
 {
     QMessageBox box(QMessageBox::Information, tr("Open Image"), tr("Cannot load %1.").arg(filename), QMessageBox::Ok,
                     this);
-    // A file name is no HTML, whatever its characters.
+    // A file name may contain characters that look like HTML.
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
@@ -143,7 +143,7 @@ std::optional<graphics::Image> MainWindow::renderOutput(BusyNotice &notice)
     try {
         return renderImage(notice);
     } catch (const std::exception &problem) {
-        // Not enough memory for the result.
+        // Usually std::bad_alloc: not enough memory for the result.
         showRenderFailed(QString::fromLocal8Bit(problem.what()));
         return std::nullopt;
     }

@@ -58,7 +58,7 @@ void write(QtMsgType type, const QMessageLogContext &, const QString &text)
 void install()
 {
     qInstallMessageHandler(write);
-    // A log that must not grow any more is no reason to end the program.
+    // SIGXFSZ would end the program when the log reaches the file size limit.
     std::signal(SIGXFSZ, SIG_IGN);
 }
 

@@ -14,15 +14,15 @@
 namespace
 {
 
-/// Shows a path from its beginning, however long it is.
+/// Shows the beginning of a path that is longer than the line edit.
 void showPath(QLineEdit *line, const QString &path)
 {
     line->setText(QDir::toNativeSeparators(path));
     line->setCursorPosition(0);
 }
 
-/// The folder that the file is in, or would be: the settings have none before the first picture. Then the nearest one
-/// above that is there.
+/// The folder of the file. If it does not exist, because there are no settings before the first image, the nearest
+/// parent folder that exists.
 QString folderOf(const QString &file)
 {
     QString folder = QFileInfo(file).absolutePath();
@@ -52,7 +52,7 @@ void Preferences::showRemembered()
     const QStringList recent = m_dealer.recentImages();
     m_form->listRecent->clear();
     for (const QString &path : recent) {
-        // A picture from the Recent menu, opened before any dialog, is remembered without a path.
+        // An image from the Recent menu that is opened before any dialog is stored without a path.
         if (!path.isEmpty()) {
             m_form->listRecent->addItem(QDir::toNativeSeparators(path));
         }
@@ -98,7 +98,7 @@ void Preferences::openFolderOf(const QString &file)
     QMessageBox box(QMessageBox::Information, windowTitle(),
                     tr("No program was found that opens the folder %1.").arg(QDir::toNativeSeparators(folder)),
                     QMessageBox::Ok, this);
-    // The name of a folder is no HTML, whatever its characters.
+    // A folder name may contain characters that look like HTML.
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }

@@ -12,13 +12,13 @@ namespace Ui
 class Preferences;
 }
 
-/// What the program remembers from run to run, to be looked at and forgotten, and where its log and its settings lie.
+/// Shows what the program stores between runs, lets the user delete it, and shows the locations of log and settings.
 class Preferences : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// The dealer remembers and forgets; it outlives the dialog.
+    /// `dealer` stores and deletes the values; it must outlive the dialog.
     explicit Preferences(FileDealer &dealer, QWidget *parent = nullptr);
     ~Preferences() override;
 

@@ -72,7 +72,7 @@ Session::PicturePointer Session::read(const QString &path)
         m_warning = file.warning();
         return good ? pictureOf(file) : m_picture;
     } catch (const std::exception &problem) {
-        // Not enough memory for the picture.
+        // Usually std::bad_alloc: not enough memory for the image.
         qWarning("%s", problem.what());
         return nullptr;
     }

@@ -13,36 +13,35 @@
 namespace grisal
 {
 
-/// A picture as it was opened.
+/// An image with the metadata of the file that it was opened from.
 struct Picture {
     graphics::Image image;
     graphics::Metadata metadata;
-    std::string info; ///< its description for the log
+    std::string info; ///< description for the log
 };
 
-/// The picture that is open, and the ways in and out: reading and writing of files. Shows nothing; failures are
-/// written to the log, in English.
+/// The open image; reads and writes files. Has no user interface; failures are written to the log, in English.
 class Session
 {
 public:
     using PicturePointer = std::shared_ptr<const Picture>;
 
-    /// The picture that is open; null before the first one.
+    /// The open image; null before the first one.
     const PicturePointer &picture() const { return m_picture; }
 
-    /// Replaces the picture that is open.
+    /// Replaces the open image.
     void setPicture(PicturePointer picture) { m_picture = std::move(picture); }
 
-    /// Reads a picture from a JPEG, PNG or TIFF file; null where that fails. The picture that is open stays open. For a
-    /// file that is known not to exist it is returned again: a recent picture that was moved away is opened once more.
-    /// A file that cannot be examined, in a folder without access, say, is not known to be missing.
+    /// Reads an image from a JPEG, PNG or TIFF file; null on failure. The open image stays open. If the file is known
+    /// not to exist, returns the open image again, so that a recent image whose file was moved is opened once more. A
+    /// file that cannot be examined, for example in a folder without access, is not known to be missing.
     PicturePointer read(const QString &path);
 
-    /// Writes an image with the metadata of the open picture, in the format of the extension of `path`. False, with an
-    /// existing file unchanged, where that fails.
+    /// Writes an image with the metadata of the open image, in the format given by the extension of `path`. Returns
+    /// false on failure; an existing file is then unchanged.
     bool write(graphics::Image image, const QString &path);
 
-    /// What was wrong with the last read or write although it gave a result; empty otherwise.
+    /// A problem of the last read or write that did not prevent its result; empty if there was none.
     const graphics::Message &warning() const { return m_warning; }
 
 private:

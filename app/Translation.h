@@ -6,21 +6,21 @@
 
 class QLocale;
 
-/// What the user reads, in the language of the locale, while this lives: the program's texts and, where its catalogue
-/// is installed, the toolkit's, so that a box does not ask in one language and answer in another. English, with nothing
-/// to install, where the program has no catalogue. Made after the application object; windows that are there already
-/// keep their language.
+/// Installs the translations for the locale during its lifetime: that of the program and, if its catalogue is
+/// installed, that of Qt, so that the text and the buttons of a message box are in the same language. Without a
+/// catalogue of the program everything is English. To be created after the application object; existing windows keep
+/// their language.
 class Translation
 {
 public:
     explicit Translation(const QLocale &locale);
 
 private:
-    // A translator that goes is no longer asked.
+    // The destructor of a translator uninstalls it.
     QTranslator m_program;
     QTranslator m_toolkit;
 };
 
-/// The path of the first file that there is when the languages of the locale stand for the %1 of the pattern, one after
-/// the other: "de", "fr". Empty where there is none before English, which has no file of its own.
+/// The first existing path in which %1 of the pattern is replaced by a language of the locale: "de", "fr". Empty if
+/// English, which has no file of its own, comes first in the list.
 QString fileInLanguageOf(const QLocale &locale, const QString &pattern);

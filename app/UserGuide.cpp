@@ -62,7 +62,8 @@ void UserGuide::changeEvent(QEvent *event)
     }
 }
 
-// A document keeps the colour that links had when it was read: dark on dark after a change to a dark palette.
+// A document keeps the link colour of the palette with which it was loaded; after a change to a dark palette, links
+// would be dark on dark.
 void UserGuide::readAgain()
 {
     const int place = m_form->browserGuide->verticalScrollBar()->value();

@@ -13,7 +13,7 @@ namespace Ui
 class UserGuide;
 }
 
-/// The user guide in a window of its own, which stays open beside the work. Escape closes it.
+/// The user guide in a separate, non-modal window. Escape closes it.
 class UserGuide : public QDialog
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     explicit UserGuide(QWidget *parent = nullptr);
     ~UserGuide() override;
 
-    /// Shows the window, or brings it to the front where it is open already, at the place where it was left.
+    /// Shows the window at the position in the text where it was left, or brings it to the front if it is already open.
     void present();
 
 protected:
@@ -35,6 +35,6 @@ private:
     std::unique_ptr<Ui::UserGuide> m_form;
 };
 
-/// The guide in the first of the locale's languages that it is written in: guide_de.html for German, say. English,
-/// which is guide.html, where there is none.
+/// The guide in the first language of the locale that has a guide, for example guide_de.html for German; otherwise
+/// guide.html, the English one.
 QUrl guideFor(const QLocale &locale);

@@ -28,7 +28,7 @@ constexpr int placeholderWidth = 300;
 constexpr int placeholderHeight = 200;
 constexpr std::uint8_t placeholderGrey = 128;
 
-// Qt ends with abort() where there is no display; all that a signal handler may do is to write and to leave.
+// Qt calls abort() if there is no display. A signal handler may only write and exit.
 extern "C" void reportMissingDisplay(int /*signal*/)
 {
     constexpr std::string_view text =
@@ -67,7 +67,7 @@ int main(int argc, char **argv)
     window->show();
     window->loadBuffer(placeholder.data(), placeholderWidth, placeholderHeight, false);
     if (const auto problem = window->graphicsProblem(); !problem.isEmpty()) {
-        // Qt crashes when it paints a window that contains an OpenGL widget and there is no OpenGL.
+        // Without OpenGL, Qt crashes when it paints a window that contains an OpenGL widget.
         window->hide();
         reportGraphicsProblem(problem);
         return EXIT_FAILURE;
