@@ -21,6 +21,6 @@ private:
     QTranslator m_toolkit;
 };
 
-/// The first existing path in which %1 of the pattern is replaced by a language of the locale: "de", "fr". Empty if
-/// English, which has no file of its own, comes first in the list.
+/// The first existing path in which %1 of the pattern is replaced by a language of the locale: "de", "fr". The search
+/// ends at English, which has no file of its own. Empty if no file is found.
 QString fileInLanguageOf(const QLocale &locale, const QString &pattern);
