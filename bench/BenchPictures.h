@@ -8,8 +8,8 @@
 namespace grisal::bench
 {
 
-/// A picture with slopes, edges and a little noise, so that files of it are as large and as slow as photographs. The
-/// same for the same size, in every run. `depth` is 8 or 16 bits a channel.
+/// An image with gradients, edges and a little noise, so that its files have the size and decoding time of photographs.
+/// It depends on its size only. `depth` is 8 or 16 bits per channel.
 inline Magick::Image paintedPicture(unsigned width, unsigned height, unsigned depth)
 {
     Magick::Image image(Magick::Geometry(width, height), Magick::Color());

@@ -12,7 +12,7 @@
 namespace grisal::bench
 {
 
-/// The program's window on the screen, with the placeholder at first. Each step ends when its picture is on the screen.
+/// The program's window on the screen, first with the placeholder. Each step ends when its image is on the screen.
 class ScreenWindow
 {
 public:
@@ -23,7 +23,7 @@ public:
         m_window.show();
         m_window.loadBuffer(grey.data(), 300, 200, false);
         paint();
-        // What the window does once it is seen.
+        // Handles the events that follow the first frame.
         QApplication::processEvents();
     }
 

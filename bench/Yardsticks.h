@@ -14,14 +14,14 @@
 namespace grisal::bench
 {
 
-/// The bare passes: the shaders of a final render with all five filters, the mask's among them, over textures that
-/// are there already, tile by tile, as the render has them.
+/// The bare passes: the shaders of a final render with all five filters, including those of the mask, on existing
+/// textures, tile by tile, in the order of the render.
 class FinalPasses
 {
 public:
     FinalPasses(std::uint32_t width, std::uint32_t height, GLenum internalFormat, GLenum type);
 
-    /// Runs them all and waits for their end.
+    /// Runs all passes and waits until they are finished.
     void run();
 
 private:
@@ -36,7 +36,7 @@ private:
     graphics::FinalVignetteFilter m_vignette;
 };
 
-/// The bare transfers: every byte of a picture into a texture that is there already, and out of a target, once each.
+/// The bare transfers: every byte of an image into an existing texture and back from a render target, once each.
 template <typename T>
 class Transfers
 {

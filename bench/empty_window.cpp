@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The yardstick of the program's start: empty_window [WIDTH HEIGHT] is an empty window with an empty OpenGL widget, of
-// that size or as small as the toolkit makes it. Ends with its first frame.
+// Baseline for the start of the program: empty_window [WIDTH HEIGHT] shows an empty window with an empty OpenGL widget,
+// of the given size or of Qt's default size. Ends after its first frame.
 #include <QApplication>
 #include <QMainWindow>
 #include <QOpenGLWidget>

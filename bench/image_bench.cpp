@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What an opened picture costs on the processor: pixels out of the image library and into it, the preview's copy, the
-// tone histogram. 24 megapixels.
+// CPU costs of an opened image of 24 megapixels: copying pixels from and to GraphicsMagick, the preview copy, the tone
+// histogram.
 #include "graphics/files/LumioImage.h"
 #include "graphics/image/PreviewPixels.h"
 #include "graphics/image/ToneHistogram.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the GPU's part of a job costs at 24 megapixels, and the yardsticks that it is held against.
+// Cost of the GPU's part of a job at 24 megapixels, and the baselines that it is compared with.
 //
 //   passes          the bare passes of a final render, of a frame of the preview
 //   transfers       upload and read-back of the same bytes
@@ -90,7 +90,7 @@ void finalRender(benchmark::State &state)
 constexpr int previewWidth = 4096;
 constexpr int previewHeight = 2728;
 
-/// The frame's passes alone: the mixer twice, then the others.
+/// The passes of a preview frame alone: the mixer twice, then the other filters.
 void previewPasses(benchmark::State &state)
 {
     const RenderTarget source(previewWidth, previewHeight, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
@@ -130,7 +130,7 @@ void previewFrame(benchmark::State &state)
     }
 }
 
-/// What the first frame of a picture costs the GPU at least: the upload of its preview, and the mixer twice.
+/// The minimum GPU cost of the first frame of an image: the upload of its preview, and the mixer twice.
 void firstFrame(benchmark::State &state)
 {
     const int columns = width / 2;
@@ -161,7 +161,7 @@ void zoomStep(benchmark::State &state)
     }
 }
 
-// A context of its own where no window has one.
+// Creates a GL context for benchmarks without a window.
 template <void (*Bench)(benchmark::State &)>
 void withContext(benchmark::State &state)
 {
@@ -174,8 +174,8 @@ void withContext(benchmark::State &state)
     Bench(state);
 }
 
-// So many iterations take about a second. Their number is fixed: the library's own guess has been seen to spoil a
-// result where rounds are taken by turns.
+// This number of iterations takes about a second. It is fixed because the number that Google Benchmark chooses
+// distorted results when benchmarks were interleaved.
 template <benchmark::IterationCount iterations>
 void inMilliseconds(benchmark::internal::Benchmark *bench)
 {

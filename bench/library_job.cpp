@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The yardsticks of a picture's way in and out: library_job IN OUT reads a file and writes another with nothing but the
-// image library, once, in a process of its own, and prints how long each took.
+// Baselines for opening and saving: library_job IN OUT reads a file and writes another with GraphicsMagick alone, once,
+// in its own process, and prints the duration of each.
 #include <Magick++.h>
 
 #include <chrono>
@@ -31,7 +31,7 @@ int main(int argc, char **argv)
     Magick::Image image;
     const double read = millisecondsOf([&] { image.read(argv[1]); });
     image.quality(90);
-    image.defineValue("jpeg", "optimize-coding", "false"); // as the program has it
+    image.defineValue("jpeg", "optimize-coding", "false"); // as in the program
     const double write = millisecondsOf([&] { image.write(argv[2]); });
     std::printf("{\"read\": %.3f, \"write\": %.3f}\n", read, write);
     return EXIT_SUCCESS;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Writes the picture that the other programs of this folder work on: make_bench_picture WIDTH HEIGHT DEPTH PATH
+// Writes the image used by the other benchmark programs: make_bench_picture WIDTH HEIGHT DEPTH PATH
 #include "bench/BenchPictures.h"
 #include "graphics/files/ImageLibrary.h"
 

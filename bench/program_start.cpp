@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The program's start: its window with the placeholder, as app/main.cpp shows it. Ends with its first frame and prints
-// how wide and high the window is.
+// The start of the program: its window with the placeholder, shown as in app/main.cpp. Ends after its first frame and
+// prints the width and height of the window.
 #include "app/MainWindow.h"
 #include "app/MessageLog.h"
 #include "graphics/gl/SurfaceFormat.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What a change of a control point costs: the fit of the smoothing curve and its 256 samples, with the values of the
-// curve editor, and how the cost grows with the nodes and with the points.
+// Cost of changing a control point: fitting the smoothing curve and taking its 256 samples, with the settings of the
+// curve editor, and how the cost grows with the number of nodes and points.
 #include "math/BSpline.h"
 
 #include <benchmark/benchmark.h>

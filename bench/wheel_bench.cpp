@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The picture of the colour wheel, which is made anew at every turn of the mouse wheel and at every step of a dragged
-// level.
+// Cost of the colour wheel's image, which is recomputed at every step of the mouse wheel and of the level slider.
 #include "ui/frames/ChromaPlane.h"
 
 #include <benchmark/benchmark.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// A whole job in a process of its own: window_job IN OUT opens a picture in the program's window, switches all filters
-// on, saves the result, and prints how long opening (until the picture is on the screen) and saving took, and how many
-// bytes of memory the process had at the most above what it had with the placeholder.
+// A whole job in its own process: window_job IN OUT opens an image in the program's window, switches all filters on and
+// saves the result. Prints the duration of opening (until the image is on the screen) and of saving, and the peak
+// memory in bytes above that with the placeholder.
 #include "app/MainWindow.h"
 #include "bench/ScreenWindow.h"
 #include "graphics/gl/SurfaceFormat.h"
@@ -19,7 +19,7 @@ namespace
 
 void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
 
-/// The number of bytes that the system tells of this process under that name: VmRSS now, VmHWM at the most so far.
+/// A memory figure of this process in bytes, from /proc/self/status: VmRSS is the current use, VmHWM the peak.
 qint64 memoryOf(const char *name)
 {
     QFile status(QStringLiteral("/proc/self/status"));
@@ -34,7 +34,7 @@ qint64 memoryOf(const char *name)
     return 0;
 }
 
-/// From here on the highest use of memory counts anew.
+/// Resets the peak memory (VmHWM) to the current use.
 void forgetHighest()
 {
     QFile references(QStringLiteral("/proc/self/clear_refs"));
