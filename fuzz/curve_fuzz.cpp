@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Any points, also such that no mouse can make: every curve through them has its values within 0..1.
+// For any points, also such as no mouse can set, every curve through them has values within 0..1.
 #include "math/BSpline.h"
 #include "ui/frames/CurvePoints.h"
 
@@ -18,7 +18,7 @@ constexpr std::size_t mostPoints = 64;
 void requireWithinFrame(const QVector<float> &values)
 {
     for (const float value : values) {
-        // Points that are no numbers make values that are none.
+        // NaN in the points leads to NaN in the values.
         if (!std::isnan(value) && !(value >= 0 && value <= 1)) {
             std::abort();
         }

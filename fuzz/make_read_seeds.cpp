@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// make_read_seeds FOLDER: writes the small pictures that read_fuzz starts from, one of each kind.
+// make_read_seeds FOLDER: writes the small images that read_fuzz starts with, one of each kind.
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <cstdlib>

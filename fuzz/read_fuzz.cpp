@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Any bytes, in a file: it is read, or refused with a reason, and a picture that was read can be described and copied,
-// and what its file said about it can be saved with another one.
+// A file of any bytes is read or rejected with a reason. The info and the pixels of an image that was read can be
+// retrieved, and its metadata can be saved with another image.
 #include "graphics/files/LumioImage.h"
 
 #include <QTemporaryDir>
@@ -20,7 +20,7 @@ namespace
 
 using grisal::graphics::LumioImage;
 
-/// Larger pictures only take time.
+/// Larger images only take time.
 constexpr std::size_t mostPixels = 1'000'000;
 
 void require(bool holds)
@@ -40,7 +40,7 @@ void copyOut(LumioImage &image, bool sixteenBit)
     require(image.getPixels(pixels.data(), false, sixteenBit));
 }
 
-/// Saves what the file said with a picture of its own, in a format that follows from the number.
+/// Saves the metadata with a small image, in a format chosen by `number`.
 void saveMetadata(const LumioImage &source, std::size_t number)
 {
     static const QTemporaryDir folder(QStringLiteral("/dev/shm/grisal-XXXXXX"));
