@@ -11,10 +11,10 @@ namespace grisal::grain
 namespace
 {
 
-constexpr double nearlyOne = 255 * 0.0039; // the filter takes 0.0039 for 1/255
+constexpr double nearlyOne = 255 * 0.0039; // the filter uses 0.0039 for 1/255
 
-// The strip is a little narrower than its panel of 300 to 400 pixels. The widest is beyond what a tile can show, or its
-// last columns would be made for white alone and stand out on a ramp that is grey there.
+// The strip is slightly narrower than its panel of 300 to 400 pixels. The maximum is larger than the width of a tile:
+// otherwise the last columns would be computed for white only and would be visible on a ramp that is grey there.
 constexpr int narrowestStrip = 280;
 constexpr int widestStrip = 420;
 
@@ -67,19 +67,20 @@ Bytes blurredAlong(const Bytes &noise, const std::vector<double> &taps, bool alo
     return result;
 }
 
-/// What the filter makes of the grey under the noise.
+/// The result of the filter for a grey and a noise value.
 double filtered(double grey, double noise)
 {
     return nearlyOne * nearlyOne * grey * (grey + 2 * nearlyOne * noise * (1 - grey));
 }
 
-/// The tile's grey in one column: atBlackNoise + slope * noise.
+/// The grey of the tile in one column: atBlackNoise + slope * noise.
 struct Column {
     double atBlackNoise = 0;
     double slope = 0;
 };
 
-// The overlay is rest + gain * s, the filter's result black + (white - black) * noise: two lines to fit.
+// The overlay is rest + gain * s and the result of the filter is black + (white - black) * noise, so two linear
+// functions are fitted.
 Column columnAt(int x)
 {
     double gains = 0;
@@ -97,7 +98,7 @@ Column columnAt(int x)
     return {column.atBlackNoise / gains, column.slope / gains};
 }
 
-/// The row or column of the noise that a row or column of a picture reads.
+/// The row or column of the noise map for a row or column of an image.
 int noiseUnder(int pixel)
 {
     return static_cast<int>((pixel + 0.5) * 0.0019 * noiseSide);

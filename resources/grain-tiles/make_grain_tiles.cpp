@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Makes the tiles of the grain strip of the noise map: make_grain_tiles NOISE-MAP FOLDER
+// Creates the tiles of the grain strip from the noise map: make_grain_tiles NOISE-MAP FOLDER
 #include "resources/grain-tiles/GrainTiles.h"
 
 #include <QImage>
@@ -29,7 +29,7 @@ bool written(const Bytes &tile, const QString &path)
     for (int y = 0; y < tileHeight; ++y) {
         std::memcpy(image.scanLine(y), tile.data() + static_cast<std::size_t>(y) * tileWidth, tileWidth);
     }
-    constexpr int smallest = 0; // compression: the lower, the stronger
+    constexpr int smallest = 0; // the strongest compression of QImageWriter
     return image.save(path, "PNG", smallest);
 }
 

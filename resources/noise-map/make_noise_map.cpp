@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// Makes the noise of the film grain: make_noise_map FILE
+// Creates the noise map of the film grain: make_noise_map FILE
 //
-// 512 x 512 pixels of 8-bit R, G, B, headerless, row after row. Each channel is white noise with every value 0..255
-// exactly 1024 times: its mean is 127.5 to the last digit, so that grain neither lightens nor darkens a picture. The
-// seeds are fixed and the generator is the standard's own, so that the file is the same on every machine.
+// The file contains 512 x 512 pixels of 8-bit R, G, B without a header, row by row. Each channel is white noise in
+// which every value 0..255 occurs exactly 1024 times: its mean is exactly 127.5, so that grain neither lightens nor
+// darkens an image. The seeds are fixed and std::mt19937 is standardised, so that the file is the same on every
+// machine.
 
 #include <cstdint>
 #include <cstdio>
@@ -20,7 +21,7 @@ constexpr std::size_t side = 512;
 constexpr std::size_t texels = side * side;
 constexpr std::size_t channels = 3;
 
-/// A number below `bound`. The standard library's distributions differ from one implementation to the next.
+/// A random number below `bound`. std::uniform_int_distribution differs between implementations.
 std::size_t below(std::mt19937 &random, std::size_t bound)
 {
     return static_cast<std::size_t>((std::uint64_t{random()} * bound) >> 32U);

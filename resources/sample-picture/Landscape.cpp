@@ -21,7 +21,7 @@ Point sunAt(double width)
 
 Colour withClouds(const Colour &sky, const Point &point, double glow)
 {
-    // Clouds lie flatter and closer together towards the horizon.
+    // Clouds appear flatter and closer together towards the horizon.
     const double nearness = 1 / (horizon + 0.12 - point.y);
     const double density = cloudNoise(point.x * nearness * 0.55 + 3.1, nearness * 1.7, 6, 11);
     const double body = softStep(0.45, 0.66, density) * softStep(0.03, 0.16, horizon - point.y);
@@ -43,7 +43,7 @@ Colour skyAt(const Point &point, double width)
     return mix(withClouds(warm, point, glow), {1.00, 0.98, 0.90}, disc);
 }
 
-/// One line of hills: how high its ridge lies, how wide its waves are, and its light and dark colour.
+/// One row of hills: position of the ridge, size of the waves, light and dark colour.
 struct Hills {
     double ridge;
     double height;
@@ -94,7 +94,7 @@ Colour withFlowers(const Colour &grass, const Point &at, double size)
 
 Colour meadowAt(const Point &point, double depth)
 {
-    const double scale = 1 / (0.10 + depth); // blades grow larger towards the viewer
+    const double scale = 1 / (0.10 + depth); // blades are larger near the viewer
     const Point blades{point.x * 26 * scale, scale * 30};
     const double grain = cloudNoise(blades.x, blades.y * 0.55, 4, 51);
     const double bands = cloudNoise(point.x * 2.2, scale * 1.2, 4, 61);

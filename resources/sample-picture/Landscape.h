@@ -6,8 +6,8 @@
 namespace grisal::sample
 {
 
-/// Sky with clouds and the glow of a low sun, hills one behind the other, a meadow with flowers, and a bush that
-/// grows in from the left. `width` is the right edge of the scene.
+/// Sky with clouds and the glow of a low sun, several rows of hills, a meadow with flowers, and a bush at the left
+/// edge. `width` is the right edge of the scene.
 Colour landscapeAt(const Point &point, double width);
 
 } // namespace grisal::sample

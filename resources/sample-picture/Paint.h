@@ -14,7 +14,7 @@ struct Colour {
     double b = 0;
 };
 
-/// A place in the scene. y runs from 0 at the top to 1 at the bottom; x has the same unit, so that circles are round.
+/// A position in the scene. y is 0 at the top and 1 at the bottom; x has the same unit, so that circles are round.
 struct Point {
     double x = 0;
     double y = 0;
@@ -30,13 +30,13 @@ inline Colour operator+(const Colour &one, const Colour &other)
     return {one.r + other.r, one.g + other.g, one.b + other.b};
 }
 
-/// `from` at amount 0, `to` at 1.
+/// Linear interpolation: `from` for amount 0, `to` for 1.
 inline Colour mix(const Colour &from, const Colour &to, double amount)
 {
     return from * (1 - amount) + to * amount;
 }
 
-/// 0 below `low`, 1 above `high`, a soft step between.
+/// Smooth step: 0 below `low`, 1 above `high`.
 inline double softStep(double low, double high, double value)
 {
     const double t = std::clamp((value - low) / (high - low), 0.0, 1.0);
@@ -48,7 +48,7 @@ struct Ellipse {
     double radiusX;
     double radiusY;
 
-    /// The place in radii from the centre: length 1 on the outline.
+    /// The point relative to the centre, in radii: length 1 on the outline.
     Point local(const Point &point) const { return {(point.x - centre.x) / radiusX, (point.y - centre.y) / radiusY}; }
 
     double distance(const Point &point) const
@@ -57,7 +57,7 @@ struct Ellipse {
         return std::hypot(at.x, at.y);
     }
 
-    /// 1 inside, 0 outside, with an edge of `softness` radii.
+    /// Coverage: 1 inside, 0 outside, with an edge of `softness` radii.
     double cover(const Point &point, double softness = 0.04) const
     {
         return 1 - softStep(1 - softness, 1 + softness, distance(point));

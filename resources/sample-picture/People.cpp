@@ -15,7 +15,7 @@ namespace
 {
 
 struct Person {
-    Point face;  ///< middle of the face; x in parts of the scene's width
+    Point face;  ///< centre of the face; x as a fraction of the scene's width
     double size; ///< half the height of the face
     Colour skin;
     Colour hair;
@@ -29,7 +29,7 @@ constexpr std::array people{
     Person{{0.655, 0.555}, 0.080, {0.37, 0.23, 0.16}, {0.05, 0.04, 0.04}, {0.90, 0.68, 0.16}},
 };
 
-// Light comes from the upper right, where the sun is.
+// The light comes from the sun at the upper right.
 double roundLight(const Point &local)
 {
     const double away = std::min(1.0, local.x * local.x + local.y * local.y);
@@ -111,7 +111,7 @@ Colour withPeople(const Colour &background, const Point &point, double width)
 
 Colour withColourBoard(const Colour &background, const Point &point, double width)
 {
-    // The board leans a little; u and v run from 0 to 1 over it.
+    // The board is slightly tilted; u and v are 0 to 1 on it.
     const double u = (point.x - width * 0.800 + (point.y - 0.7) * 0.06) / 0.215;
     const double v = (point.y - 0.520 - (point.x - width * 0.86) * 0.05) / 0.395;
     const double inside = std::min({u, 1 - u, v, 1 - v});

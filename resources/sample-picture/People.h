@@ -6,8 +6,8 @@
 namespace grisal::sample
 {
 
-/// Draws four people with skins from light to dark in front of `background`, and beside them a board with eight
-/// saturated patches. `width` is the right edge of the scene.
+/// Draw over `background` four people with skin tones from light to dark, and a board with eight saturated patches
+/// beside them. `width` is the right edge of the scene.
 Colour withPeople(const Colour &background, const Point &point, double width);
 
 Colour withColourBoard(const Colour &background, const Point &point, double width);

@@ -21,7 +21,7 @@ std::uint16_t word(double level)
     return static_cast<std::uint16_t>(std::lround(std::clamp(level, 0.0, 1.0) * white));
 }
 
-// Like a camera's: about as strong in the dark as in the light, and a little different in each channel.
+// Noise like that of a camera: nearly the same strength in dark and light areas, slightly different in each channel.
 Colour withGrain(const Colour &colour, int x, int y)
 {
     constexpr double strength = 0.022;
