@@ -10,8 +10,8 @@
 namespace grisal::test
 {
 
-/// While it lives, the files of a folder cannot be reached by this process, not even by root, who becomes somebody else
-/// for that time.
+/// Makes the files of a folder inaccessible to this process during its lifetime, also for root, who becomes the user
+/// nobody in the meantime.
 class ClosedFolder
 {
 public:

@@ -6,10 +6,11 @@
 namespace grisal::test
 {
 
-/// What the test runner takes for "skipped".
+/// The exit status that CTest reports as "skipped".
 constexpr int skippedStatus = 77;
 
-/// Runs all tests. The status of a test program: that of its failures if there are any, else "skipped" if a test was.
+/// Runs all tests and returns the exit status of the test program: failure if a test failed, otherwise "skipped" if a
+/// test was skipped.
 inline int runAllTests()
 {
     const int status = RUN_ALL_TESTS();

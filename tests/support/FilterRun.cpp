@@ -14,7 +14,7 @@ using graphics::Texture;
 namespace
 {
 
-/// One pass, and what every pass leaves behind: reading the target would hide it.
+/// Runs one pass and checks the state that it leaves. Reading the target afterwards would change this state.
 void runPassOf(graphics::IFilter &filter, GLuint texture, const RenderTarget &target)
 {
     filter.apply(texture, target.record());

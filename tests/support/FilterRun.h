@@ -7,15 +7,14 @@
 namespace grisal::test
 {
 
-/// Array in, filter, array out: one pass over float pixels of 3 components, the result with alpha in 4, unrounded and
-/// unclamped. Sets the filter's size, and expects of the pass that it leaves no program, no framebuffer and no source
-/// texture bound.
+/// Runs one pass over float pixels of 3 components and returns the result with 4, including alpha, neither rounded nor
+/// clamped. Sets the size of the filter, and expects the pass to leave no program, framebuffer or source texture bound.
 FloatPixels runFilter(graphics::IFilter &filter, const FloatPixels &source);
 
-/// The same with bytes: RGB8 in, RGB8 out.
+/// The same for bytes: RGB8 in, RGB8 out.
 BytePixels runFilter(graphics::IFilter &filter, const BytePixels &source);
 
-/// The pixels of a target of which the size and three components are known.
+/// The pixels of a render target of a known size, three components.
 BytePixels readBytes(const graphics::FramebufferObject &target, int width, int height);
 
 /// The pixels of a 2D texture, three components.

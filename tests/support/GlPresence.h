@@ -7,7 +7,7 @@
 
 #include <QtGlobal>
 
-/// Skips the test where the machine gives no OpenGL; fails it instead where GRISAL_REQUIRE_GL is set. For SetUp().
+/// Skips the test if the machine has no OpenGL; fails it instead if GRISAL_REQUIRE_GL is set. For SetUp().
 #define GRISAL_SKIP_WITHOUT_GL()                                                                                       \
     if (!grisal::graphics::OffscreenContext().isCurrent()) {                                                           \
         if (qEnvironmentVariableIsSet("GRISAL_REQUIRE_GL")) {                                                          \

@@ -15,13 +15,13 @@ inline GLint glInteger(GLenum name)
     return value;
 }
 
-/// The active texture unit, counted from 0.
+/// The index of the active texture unit, from 0.
 inline GLint activeUnit()
 {
     return glInteger(GL_ACTIVE_TEXTURE) - GL_TEXTURE0;
 }
 
-/// What glGetIntegerv() says about one texture unit; the active unit stays what it is.
+/// The result of glGetIntegerv() for a texture unit; restores the active unit.
 inline GLint glIntegerOfUnit(std::uint32_t unit, GLenum name)
 {
     const GLint before = glInteger(GL_ACTIVE_TEXTURE);
@@ -41,7 +41,7 @@ inline GLint bound1D(std::uint32_t unit)
     return glIntegerOfUnit(unit, GL_TEXTURE_BINDING_1D);
 }
 
-/// What every pass leaves behind: no program, framebuffer 0, no 2D texture on the source's unit.
+/// Expects the state that every pass leaves: no program, framebuffer 0, no 2D texture on the unit of the source.
 inline void expectPassIsOver()
 {
     EXPECT_EQ(glInteger(GL_CURRENT_PROGRAM), 0);

@@ -21,11 +21,12 @@ bool contains(const QStringList &texts, const QString &part)
 
 } // namespace
 
-// Caches stay those of the whole program: the driver that compiles the shaders has noted where they are.
+// HOME is replaced, but the cache directory stays the same, because the OpenGL driver has already stored the location
+// of its shader cache.
 GuiTest::GuiTest() : m_homeBefore(qgetenv("HOME"))
 {
     qputenv("HOME", m_home.path().toLocal8Bit());
-    // The toolkit has asked once for the place of the settings; the environment alone does not move them any more.
+    // Qt determines the location of the settings once, so changing the environment is not sufficient.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, inHome(QStringLiteral(".config")));
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
 }

@@ -19,8 +19,8 @@
 namespace grisal::test
 {
 
-/// A test of windows and dialogs. It starts from empty settings in an empty home of its own, dialogs are the toolkit's,
-/// and a warning that the test did not announce makes it fail, as does an expected one that does not come.
+/// A test of windows and dialogs. It starts with empty settings in an empty home directory and uses Qt's dialogs
+/// instead of native ones. It fails on an unexpected warning and when an expected warning is missing.
 class GuiTest : public testing::Test
 {
 protected:
@@ -29,15 +29,15 @@ protected:
 
     void TearDown() override;
 
-    /// Announces a warning by a part of its text, which must not be empty. Any number of warnings may have this part.
+    /// Expects a warning that contains `part`, which must not be empty. Several warnings may match.
     void expectWarning(const QString &part);
 
-    /// Announces a warning that may come but need not.
+    /// Allows a warning that contains `part`.
     void allowWarning(const QString &part);
 
     QString homePath() const { return m_home.path(); }
 
-    /// Path of a file in the home.
+    /// Path of a file in the home directory.
     QString inHome(const QString &name) const { return m_home.filePath(name); }
 
     LogCapture log;
@@ -49,7 +49,7 @@ private:
     QStringList m_allowedWarnings;
 };
 
-/// The child of that type and object name; the test ends where there is none.
+/// The child with this type and object name; throws if there is none, which ends the test.
 template <typename T>
 T &child(const QObject &parent, const char *name)
 {
@@ -60,13 +60,13 @@ T &child(const QObject &parent, const char *name)
     return *found;
 }
 
-/// The signatures of a class's own signals and slots, in their order, with `between` between them.
+/// The signatures of the signals and slots declared by the class itself, in order, separated by `between`.
 std::string methodsOf(const QMetaObject &meta, char between = ' ');
 
-/// Ends the interval of a running timer now; a timer that does not run is left as it is.
+/// Makes a running timer time out now; does nothing if the timer is inactive.
 void timeOutNow(QTimer &timer);
 
-/// Triggers an action as a user does; the test ends where it is missing, disabled or hidden.
+/// Triggers an action as a user does; throws if it is missing, disabled or hidden, which ends the test.
 void trigger(const QObject &window, const char *name);
 
 } // namespace grisal::test

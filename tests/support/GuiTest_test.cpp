@@ -11,7 +11,7 @@ namespace
 using grisal::test::GuiTest;
 using grisal::test::timeOutNow;
 
-/// A test of windows whose end is called by hand.
+/// A GuiTest whose TearDown() can be called explicitly.
 class Ended : public GuiTest
 {
 public:

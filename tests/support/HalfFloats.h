@@ -8,8 +8,8 @@
 namespace grisal::test
 {
 
-/// A float of ordinary size after it was stored as a half float by a driver that cuts off what does not fit, as Mesa's
-/// software drivers do.
+/// A float within the range of half floats after it was stored as one by an OpenGL driver that truncates, like Mesa's
+/// software drivers.
 inline float cutToHalfFloat(float value)
 {
     constexpr float smallestNormal = 1.0F / 16384;
@@ -20,7 +20,7 @@ inline float cutToHalfFloat(float value)
     return std::bit_cast<float>(std::bit_cast<std::uint32_t>(value) & ~0x1FFFU);
 }
 
-/// A float 0..1 after it was turned into the nearest half float, the even one of two equally near.
+/// A float 0..1 rounded to the nearest half float, ties to even.
 inline float nearestHalfFloat(float value)
 {
     const float below = cutToHalfFloat(value);
@@ -31,14 +31,14 @@ inline float nearestHalfFloat(float value)
     return rest > step / 2 || (rest == step / 2 && odd) ? below + step : below;
 }
 
-/// A 16-bit word after it was uploaded into half floats and read back.
+/// A 16-bit sample after it was uploaded as a half float and read back.
 inline std::uint16_t throughHalfFloat(std::uint16_t word)
 {
     const float half = nearestHalfFloat(static_cast<float>(word) / 65535.0F);
     return static_cast<std::uint16_t>(std::lround(half * 65535.0F));
 }
 
-/// The largest distance of neighbouring half floats in 0..1, in 16-bit words.
+/// The largest distance between adjacent half floats in 0..1, in units of 16-bit samples.
 constexpr double halfFloatStep = 32;
 
 } // namespace grisal::test

@@ -10,7 +10,7 @@
 namespace grisal::test
 {
 
-/// Hears what a screen reader is told while it lives. One at a time.
+/// Records the accessibility events of Qt during its lifetime. Only one instance at a time.
 class Hearing
 {
 public:
@@ -27,7 +27,7 @@ public:
     Hearing(const Hearing &) = delete;
     Hearing &operator=(const Hearing &) = delete;
 
-    /// The new values that an object told of since the last call. Each comes with a new description.
+    /// The new values that an object has reported since the last call. A new description must come with each value.
     QStringList valuesOf(const QObject &object)
     {
         QStringList values;
@@ -66,20 +66,20 @@ private:
     QList<Event> m_events;
 };
 
-/// Whether the toolkit speaks, which it does once it knows that somebody listens.
+/// Whether Qt sends accessibility events, which it does as soon as it detects a screen reader.
 inline bool screenReaderListens()
 {
     return qEnvironmentVariableIsSet("GRISAL_SCREEN_READER") && QTest::qWaitFor(QAccessible::isActive);
 }
 
-/// In a test or its SetUp(): skips where nobody listens, with the reason.
+/// For a test or its SetUp(): skips the test with the reason if there is no screen reader.
 #define GRISAL_SKIP_WITHOUT_SCREEN_READER()                                                                            \
     if (!screenReaderListens()) {                                                                                      \
         GTEST_SKIP() << "no accessibility bus: run it with scripts/with-screen-reader";                                \
     }                                                                                                                  \
     static_cast<void>(0)
 
-/// What a screen reader is answered.
+/// The text that a screen reader receives.
 inline QString spoken(QObject &object, QAccessible::Text text)
 {
     return QAccessible::queryAccessibleInterface(&object)->text(text);

@@ -12,7 +12,8 @@ namespace grisal::test
 constexpr float notANumber = std::numeric_limits<float>::quiet_NaN();
 constexpr float infinity = std::numeric_limits<float>::infinity();
 
-/// Parameters that all have this value. The radius of the grain stays finite: the loop of an infinite blur has no end.
+/// Parameters that all have this value. The grain radius stays finite, because the loop of a blur with infinite radius
+/// does not end.
 inline graphics::Look everyParameter(float value)
 {
     graphics::Look parameters;
@@ -29,7 +30,7 @@ inline graphics::Look everyParameter(float value)
     return parameters;
 }
 
-/// Parameters that no panel sends.
+/// Parameters that the panels never send.
 inline std::vector<graphics::Look> invalidParameters()
 {
     return {everyParameter(notANumber), everyParameter(infinity), everyParameter(-infinity), everyParameter(-1)};

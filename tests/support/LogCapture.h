@@ -7,7 +7,7 @@
 namespace grisal::test
 {
 
-/// Collects what is logged while it lives, in place of the handler that was installed. One at a time.
+/// Collects log messages during its lifetime in place of the previously installed handler. Only one instance at a time.
 class LogCapture
 {
 public:
@@ -17,7 +17,7 @@ public:
     ~LogCapture();
 
     QStringList debugs() const;
-    QStringList warnings() const; ///< warnings and anything worse
+    QStringList warnings() const; ///< warnings and more severe messages
     bool contains(const QString &part) const;
     void clear();
 };

@@ -40,7 +40,7 @@ void ModalAnswer::look()
     if (dialog == nullptr || !dialog->isVisible()) {
         return;
     }
-    // Answering may open the next dialog, with an event loop of its own.
+    // answer() may open the next dialog, with its own event loop.
     m_look.stop();
     m_answered = answer(*dialog);
     if (!m_answered) {

@@ -11,8 +11,8 @@ class QFileDialog;
 namespace grisal::test
 {
 
-/// Answers the next modal dialog of one kind, from its making on: make it, then do what opens the dialog. Fails the
-/// test if no such dialog came while it lived, and closes a dialog that still stands after five seconds.
+/// Answers the next modal dialog of one kind: create it, then run the code that opens the dialog. Fails the test if no
+/// such dialog appears during its lifetime, and closes a dialog that is still open after five seconds.
 class ModalAnswer
 {
 public:
@@ -22,7 +22,7 @@ public:
     virtual ~ModalAnswer();
 
 protected:
-    /// Reads and closes the dialog; returns false if it is not of the kind.
+    /// Reads and closes the dialog; returns false if the dialog is of another kind.
     virtual bool answer(QWidget &dialog) = 0;
 
 private:
@@ -34,7 +34,7 @@ private:
     bool m_answered = false;
 };
 
-/// Presses a button of a message box.
+/// Clicks a button of a message box.
 class MessageBoxAnswer : public ModalAnswer
 {
 public:
@@ -53,7 +53,7 @@ private:
     QMessageBox::StandardButton m_button;
 };
 
-/// Types a path into a file dialog and accepts it; cancels for an empty path.
+/// Enters a path in a file dialog and accepts it; cancels if the path is empty.
 class FileDialogAnswer : public ModalAnswer
 {
 public:

@@ -28,7 +28,7 @@ int toByte(T value)
 {
     const double white = std::is_floating_point_v<T> ? 1.0 : static_cast<double>(std::numeric_limits<T>::max());
     const double level = static_cast<double>(value) / white;
-    // Not a number becomes black.
+    // NaN becomes black.
     return level > 0 ? static_cast<int>(std::min(level, 1.0) * 255.0 + 0.5) : 0;
 }
 

@@ -10,32 +10,32 @@
 namespace grisal::test
 {
 
-/// How far two pictures are apart, in units of their components.
+/// The difference of two images, in units of their components.
 struct Difference {
     double worst = 0;        ///< largest absolute difference
     double mean = 0;         ///< mean absolute difference
     double rms = 0;          ///< square root of the mean squared difference
-    std::size_t unequal = 0; ///< components that differ at all
-    int x = 0;               ///< where the worst one is
+    std::size_t unequal = 0; ///< number of components that differ
+    int x = 0;               ///< position of the largest difference
     int y = 0;
     int component = 0;
-    double actual = 0; ///< both values there
+    double actual = 0; ///< both values at this position
     double expected = 0;
 };
 
-/// What two pictures may differ by.
+/// The allowed difference of two images.
 struct Limits {
-    double worst = 0; ///< of any component
-    double mean = 0;  ///< of all components together; 0 leaves the mean to the worst
+    double worst = 0; ///< maximum for any component
+    double mean = 0;  ///< maximum of the mean over all components; 0 means no limit except `worst`
 };
 
-/// Compares two pictures of the same shape, component by component.
+/// Compares two images of the same size component by component.
 template <typename T>
 Difference difference(const Pixels<T> &actual, const Pixels<T> &expected);
 
-/// Succeeds where no component differs by more than limits.worst and all together by no more than limits.mean on
-/// average, and prints the largest difference. Otherwise tells where and how much and saves the actual picture as
-/// NAME.png in the build's folder test-pictures. Pictures of different or no shape are never near.
+/// Succeeds if no component differs by more than limits.worst and the mean difference is at most limits.mean, and
+/// prints the largest difference. Otherwise reports position and size of the difference and saves the actual image as
+/// NAME.png in the folder test-pictures of the build. Images of different size or without pixels always fail.
 template <typename T>
 testing::AssertionResult picturesNear(const std::string &name, const Pixels<T> &actual, const Pixels<T> &expected,
                                       const Limits &limits = {});

@@ -18,7 +18,7 @@ namespace grisal::test
 namespace
 {
 
-/// Comparisons that fail save a picture: into a directory of the test's own.
+/// Failing comparisons save an image, so each test uses its own directory.
 class PictureCompareTest : public testing::Test
 {
 protected:
@@ -30,7 +30,7 @@ private:
     QTemporaryDir m_directory;
 };
 
-/// What is written to std::cout while it lives.
+/// Captures the output to std::cout during its lifetime.
 class CapturedOutput
 {
 public:

@@ -8,7 +8,7 @@
 namespace grisal::test
 {
 
-/// Pixels of a test: interleaved, rows from top to bottom without padding.
+/// An image in a test: interleaved, rows from top to bottom without padding.
 template <typename T>
 struct Pixels {
     int width = 0;
@@ -40,8 +40,8 @@ using FloatPixels = Pixels<float>;
 using BytePixels = Pixels<std::uint8_t>;
 using WordPixels = Pixels<std::uint16_t>;
 
-/// Every component different from its neighbours in both directions, the whole range of T in use: rows, columns,
-/// channels and tiles that change places are found out.
+/// An image whose components differ from their neighbours in both directions and use the whole range of T, so that
+/// exchanged rows, columns, channels and tiles are detected.
 template <typename T>
 Pixels<T> rampPicture(int width, int height, int components = 3)
 {

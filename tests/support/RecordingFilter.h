@@ -10,11 +10,11 @@
 namespace grisal::test
 {
 
-/// One call of a filter.
+/// One call of a filter's apply().
 struct RecordedPass {
     std::string filter;
-    GLuint source = 0;      ///< texture it was to read
-    GLuint framebuffer = 0; ///< framebuffer it was to draw into
+    GLuint source = 0;      ///< the texture to read
+    GLuint framebuffer = 0; ///< the framebuffer to draw into
 
     bool operator==(const RecordedPass &) const = default;
 };
@@ -24,7 +24,7 @@ inline std::ostream &operator<<(std::ostream &out, const RecordedPass &pass)
     return out << pass.filter << " from " << pass.source << " into " << pass.framebuffer;
 }
 
-/// A filter that draws nothing and needs no context: it notes its calls in a list that several filters may share.
+/// A filter that draws nothing and needs no GL context: it records its calls in a list that several filters may share.
 class RecordingFilter : public graphics::IFilter
 {
 public:

@@ -10,8 +10,8 @@
 #include <span>
 #include <vector>
 
-/// The filters' formulas once more, one pixel at a time, in float arithmetic: what the programs on the GPU are measured
-/// against. Nothing here calls the code under test, and nothing allocates per pixel. Colours are 0..1, greys too.
+/// Independent CPU implementations of the filters for one pixel in float arithmetic, as the reference for the shaders.
+/// They call no code under test and allocate no memory per pixel. Colours and greys are 0..1.
 namespace grisal::test::reference
 {
 
@@ -25,15 +25,15 @@ struct Rgb {
 };
 
 constexpr float white = 255.0F;
-constexpr float nearly255th = 0.0039F; ///< what the filters take for 1/255
+constexpr float nearly255th = 0.0039F; ///< the filters use this for 1/255
 
-/// A byte as a texture hands it out.
+/// The value that a shader reads from an 8-bit texture.
 inline float fromByte(std::uint8_t byte)
 {
     return static_cast<float>(byte) / white;
 }
 
-/// A value as an 8-bit target stores it: clamped, rounded to nearest.
+/// The byte that an 8-bit render target stores: clamped, rounded to nearest.
 inline std::uint8_t toByte(float value)
 {
     return static_cast<std::uint8_t>(std::clamp(value, 0.0F, 1.0F) * white + 0.5F);
@@ -56,7 +56,7 @@ inline Rgb mixer(Rgb c, Rgb weights)
     return {grey, grey, grey};
 }
 
-/// The sample under a coordinate 0..1; coordinates beyond repeat, so that 1 is the first sample again.
+/// The sample at a coordinate 0..1; other coordinates repeat, so that 1 is the first sample.
 inline float repeatedSample(std::span<const float> samples, float coordinate)
 {
     const float inside = coordinate - std::floor(coordinate);
@@ -64,7 +64,7 @@ inline float repeatedSample(std::span<const float> samples, float coordinate)
     return samples[std::min(index, samples.size() - 1)];
 }
 
-/// Red through the tone curve.
+/// The tone curve applied to the red component.
 inline Rgb curve(Rgb c, std::span<const float> samples)
 {
     const float value = repeatedSample(samples, std::min(0.999F, std::max(0.0F, c.r)));
@@ -106,7 +106,7 @@ inline Rgb darkened(Rgb c, float mask)
     return {darkened(c.r, mask), darkened(c.g, mask), darkened(c.b, mask)};
 }
 
-/// Everything in percent: centre of width and height, radius of their mean.
+/// Values in percent: centre of width and height, radius of the mean of both.
 struct Vignette {
     float x = 50;
     float y = 50;
@@ -114,7 +114,7 @@ struct Vignette {
     float radius = 50;
 };
 
-/// How much the vignette of a picture of width x height darkens the pixel (x, y).
+/// How much the vignette of an image of width x height darkens the pixel (x, y).
 inline float vignetteAt(const Vignette &vignette, float width, float height, int x, int y)
 {
     if (vignette.strength <= 0) {
@@ -126,13 +126,13 @@ inline float vignetteAt(const Vignette &vignette, float width, float height, int
     return vignette.strength * 0.01F * std::sqrt(dx * dx + dy * dy) / reach;
 }
 
-/// The picture's pixel (x, y) under a vignette; untouched where the strength is 0 or less.
+/// The colour of the pixel (x, y) with a vignette; unchanged for a strength of 0 or less.
 inline Rgb vignetted(Rgb c, const Vignette &vignette, float width, float height, int x, int y)
 {
     return vignette.strength > 0 ? darkened(c, vignetteAt(vignette, width, height, x, y)) : c;
 }
 
-/// The index that lies at position i of a row of n that is mirrored at both ends, over and over.
+/// The index at position i of a sequence of n that is mirrored repeatedly at both ends.
 inline int mirrored(int i, int n)
 {
     const int period = 2 * n;
@@ -140,7 +140,7 @@ inline int mirrored(int i, int n)
     return inPeriod < n ? inPeriod : period - 1 - inPeriod;
 }
 
-/// Weights of the taps at -h..h, h = 2 * ceil(radius), for a radius above 0. They add up to 1.
+/// Weights of the taps at -h..h, h = 2 * ceil(radius), for a radius above 0. Their sum is 1.
 inline std::vector<float> blurWeights(float radius)
 {
     const int half = 2 * static_cast<int>(std::ceil(radius));
@@ -156,7 +156,7 @@ inline std::vector<float> blurWeights(float radius)
     return weights;
 }
 
-/// One half of the blur, along x or along y. No weights: a copy.
+/// One pass of the blur, along x or along y. A copy if there are no weights.
 inline FloatPixels blurredAlong(const FloatPixels &picture, const std::vector<float> &weights, bool alongX)
 {
     if (weights.empty()) {
@@ -182,27 +182,27 @@ inline FloatPixels blurredAlong(const FloatPixels &picture, const std::vector<fl
 
 constexpr int noiseSide = 512;
 
-/// The row or column of the noise map that a pixel's row or column p reads.
+/// The row or column of the noise map for row or column p of an image.
 inline int noiseTexel(int p)
 {
     const float texel = (static_cast<float>(p) + 0.5F) * 0.0019F * static_cast<float>(noiseSide);
     return mirrored(static_cast<int>(std::floor(texel)), noiseSide);
 }
 
-/// Whether column or row p reads the noise exactly between two texels, (p + 0.5) * 0.9728 being whole: 312, 937, ...
-/// There the last bit of the driver's arithmetic decides which of the two it gets.
+/// Whether column or row p reads the noise exactly between two texels, because (p + 0.5) * 0.9728 is an integer: 312,
+/// 937, ... There the last bit of the OpenGL driver's arithmetic decides which texel is read.
 inline bool isBetweenNoiseTexels(int p)
 {
     return (2 * p + 1) % 625 == 0;
 }
 
-/// The noise 0..1 under the pixel (x, y), out of a noise map of noiseSide x noiseSide.
+/// The noise 0..1 for the pixel (x, y), from a noise map of noiseSide x noiseSide pixels.
 inline float noiseAt(const BytePixels &noise, int x, int y)
 {
     return fromByte(noise.at(noiseTexel(x), noiseTexel(y), 0));
 }
 
-/// The pixel with `noise` 0..1 over it, as strongly as the weight of its red asks for.
+/// The pixel with `noise` 0..1 applied, with the weight for its red component.
 inline Rgb grain(Rgb c, float noise, std::span<const float> weights)
 {
     const float weight = repeatedSample(weights, c.r);

@@ -6,7 +6,7 @@
 namespace grisal::test::reference
 {
 
-/// The picture that `pixel(x, y, colour)` makes, pixel by pixel, of another one.
+/// The image that results from `pixel(x, y, colour)` for every pixel of the source.
 template <typename Source, typename Pixel>
 FloatPixels eachPixel(const Source &source, Pixel pixel)
 {
@@ -22,13 +22,13 @@ FloatPixels eachPixel(const Source &source, Pixel pixel)
     return result;
 }
 
-/// The picture as an 8-bit texture of it is read.
+/// The values that a shader reads from an 8-bit texture of the image.
 inline FloatPixels asFloats(const BytePixels &picture)
 {
     return eachPixel(picture, [](int, int, Rgb colour) { return colour; });
 }
 
-/// The picture as an 8-bit target stores it.
+/// The image as an 8-bit render target stores it.
 inline BytePixels asBytes(const FloatPixels &picture)
 {
     BytePixels result(picture.width, picture.height, picture.components);
@@ -36,13 +36,13 @@ inline BytePixels asBytes(const FloatPixels &picture)
     return result;
 }
 
-/// The picture without its fourth component.
+/// The image without its fourth component.
 inline FloatPixels withoutAlpha(const FloatPixels &picture)
 {
     return eachPixel(picture, [](int, int, Rgb colour) { return colour; });
 }
 
-/// Every grey of a byte, several times over, in a picture that is not square.
+/// An image that is not square and contains all 256 greys several times.
 inline BytePixels greyRamp(int width = 67, int height = 41)
 {
     BytePixels picture(width, height);
@@ -55,7 +55,7 @@ inline BytePixels greyRamp(int width = 67, int height = 41)
     return picture;
 }
 
-/// A picture of one grey.
+/// An image of one grey.
 inline BytePixels flatGrey(int width, int height, std::uint8_t grey)
 {
     BytePixels picture(width, height);

@@ -47,7 +47,7 @@ Rgb stored(Rgb c)
     return {store(c.r), store(c.g), store(c.b)};
 }
 
-/// One side of a picture: what it is padded to, and how long a tile is.
+/// Padded length and tile length of one side of an image.
 struct Side {
     int padded;
     int tile;
@@ -62,7 +62,8 @@ Side sideOf(int size)
     return {padded, size > 2048 ? padded / 4 : padded};
 }
 
-/// The passes of a file over one pixel, the picture's colour as it was uploaded; `store` is what a target makes of it.
+/// The passes of a final render for one pixel, given the colour as uploaded; `store` converts a value as a render
+/// target does.
 template <float (*store)(float)>
 class FilePasses
 {

@@ -10,12 +10,12 @@ class QWidget;
 namespace grisal::test
 {
 
-/// What the screen shows inside a widget, in device pixels, taken from the root window: a widget's own grab can look
-/// right while the screen stays black.
+/// The part of the screen inside a widget, in device pixels, grabbed from the root window: a grab of the widget itself
+/// can look right while the screen stays black.
 BytePixels onScreen(const QWidget &widget);
 
-/// Grabs the screen again and again, events being processed, until it shows `expected` inside the widget or five
-/// seconds are over. Returns the last grab.
+/// Processes events and grabs the screen repeatedly until it shows `expected` inside the widget, for at most five
+/// seconds. Returns the last grab.
 BytePixels onScreenOnceLike(const QWidget &widget, const BytePixels &expected);
 
 } // namespace grisal::test

@@ -6,8 +6,8 @@
 namespace grisal::test
 {
 
-/// An empty home of its own for a test program: home, settings, cache and data directories point into it while it
-/// lives. Made before the application object.
+/// An empty temporary home directory for a test program: during its lifetime the home, settings, cache and data
+/// directories point into it. To be created before the application object.
 class TestHome
 {
 public:

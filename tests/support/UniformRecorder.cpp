@@ -11,7 +11,7 @@ namespace
 
 struct Entry {
     GLuint program;
-    GLint location; ///< the driver's, -1 where the program lacks the uniform
+    GLint location; ///< of the OpenGL driver, -1 if the program does not have the uniform
     SentUniform uniform;
 };
 
@@ -21,14 +21,14 @@ PFNGLUNIFORM1FPROC realUniform1f = nullptr;
 PFNGLUNIFORM3FPROC realUniform3f = nullptr;
 PFNGLUNIFORM1IPROC realUniform1i = nullptr;
 
-/// The location that is handed out is the index of the entry.
+/// Returns the index of the entry as location.
 GLint GLAPIENTRY findLocation(GLuint program, const GLchar *name)
 {
     entries.push_back({program, realLocation(program, name), {name, {}}});
     return static_cast<GLint>(entries.size()) - 1;
 }
 
-/// Notes the values and returns the driver's location.
+/// Records the values and returns the OpenGL driver's location.
 GLint record(GLint location, std::vector<float> values)
 {
     Entry &entry = entries.at(static_cast<std::size_t>(location));
@@ -36,7 +36,7 @@ GLint record(GLint location, std::vector<float> values)
     return entry.location;
 }
 
-// The driver ignores values for location -1.
+// The OpenGL driver ignores values for location -1.
 void GLAPIENTRY recordUniform1f(GLint location, GLfloat value)
 {
     realUniform1f(record(location, {value}), value);

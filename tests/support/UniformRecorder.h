@@ -10,18 +10,19 @@
 namespace grisal::test
 {
 
-/// A uniform as it was sent to a program.
+/// A uniform that was sent to a program.
 struct SentUniform {
     std::string name;
-    std::vector<float> values; ///< one or three; of a sampler the texture unit
+    std::vector<float> values; ///< one or three; the texture unit for a sampler
 
     bool operator==(const SentUniform &) const = default;
 };
 
 std::ostream &operator<<(std::ostream &out, const SentUniform &uniform);
 
-/// Records the uniforms that are sent while it lives and passes them on to the driver. Uniforms that a program lacks
-/// are recorded as well: every location that is asked for is found. One at a time; the context must be current.
+/// Records during its lifetime the uniforms that are sent and passes them on to the OpenGL driver. Uniforms that a
+/// program does not have are recorded, too: every location is found. Only one instance at a time; the context must be
+/// current.
 class UniformRecorder
 {
 public:
@@ -30,10 +31,10 @@ public:
     UniformRecorder &operator=(const UniformRecorder &) = delete;
     ~UniformRecorder();
 
-    /// The uniforms in the order in which they were sent.
+    /// The uniforms in the order of sending.
     std::vector<SentUniform> sent() const;
 
-    /// The programs they were sent to, in order, each once for all uniforms in a row.
+    /// The programs that received them, in order; consecutive uniforms of the same program count once.
     std::vector<GLuint> programs() const;
 };
 

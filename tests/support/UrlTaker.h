@@ -8,7 +8,7 @@
 namespace grisal::test
 {
 
-/// While it lives, takes what would be opened outside of the program: the addresses of one scheme.
+/// During its lifetime, intercepts URLs of one scheme that would be opened by another program.
 class UrlTaker : public QObject
 {
     Q_OBJECT
