@@ -1,14 +1,14 @@
 # shellcheck shell=bash
 # SPDX-License-Identifier: MIT
-# To be sourced: drives the real program on the present display as a user would. Needs xdotool and GraphicsMagick.
-# The program lives in a home of its own, $home: the user's settings and log are none of a script's business.
+# To be sourced: drives the real program on the current display as a user would. Needs xdotool and GraphicsMagick. The
+# program uses a temporary home directory, $home, so that the user's settings and log stay untouched.
 
 home=$(mktemp -d)
 program=
 main=
 trap 'if [ -n "$program" ]; then kill "$program" 2>/dev/null || true; fi; rm -rf "$home"' EXIT
 
-# fail WHAT: ends the script, with what there is to see of the program.
+# fail WHAT: ends the script with a screenshot, if $screen is set, and the log of the program.
 fail() {
     echo "$(basename "$0"): $1" >&2
     if [ -n "${screen:-}" ]; then
@@ -22,7 +22,7 @@ fail() {
 running() { kill -0 "$program" 2>/dev/null; }
 ended() { ! running; }
 
-# wait_for WHAT COMMAND...: until the command succeeds, for about a minute at most.
+# wait_for WHAT COMMAND...: waits until the command succeeds, at most about a minute.
 wait_for() {
     local what=$1
     shift
@@ -37,7 +37,7 @@ wait_for() {
 window_named() { xdotool search --onlyvisible --name "$1"; }
 gone() { ! window_named "$1"; }
 
-# Whether the screen shows the same twice in a row. It lies in $home/now.ppm then.
+# Whether two consecutive screenshots are equal. The screenshot is then in $home/now.ppm.
 still() {
     gm import -window root "$home/now.ppm"
     cmp -s "$home/now.ppm" "$home/last.ppm" && return
@@ -45,7 +45,8 @@ still() {
     return 1
 }
 
-# start COMMAND...: starts the program and waits for its window, $main. What the windows are called does not depend on the user's language.
+# start COMMAND...: starts the program and waits for its window, $main. The locale is fixed, so that the window titles
+# do not depend on the user's language.
 start() {
     local title='^Lumio Grisal \(Alpha\)$'
     HOME=$home XDG_CONFIG_HOME=$home/.config XDG_CACHE_HOME=$home/.cache XDG_DATA_HOME=$home/.local/share \
@@ -55,13 +56,13 @@ start() {
     main=$(window_named "$title" | head -n 1)
 }
 
-# size WIDTH HEIGHT: of the window, which gets the keyboard, too.
+# size WIDTH HEIGHT: resizes the window and gives it the keyboard focus.
 size() {
     xdotool windowsize "$main" "$1" "$2"
     xdotool windowfocus --sync "$main"
 }
 
-# type_into DIALOG TEXT: types a path into a file dialog and accepts it.
+# type_into DIALOG TEXT: enters a path in a file dialog and accepts it.
 type_into() {
     wait_for "the dialog \"$1\"" window_named "^$1\$"
     xdotool windowfocus --sync "$(window_named "^$1\$" | tail -n 1)"
@@ -71,20 +72,21 @@ type_into() {
     xdotool windowfocus --sync "$main"
 }
 
-# open_picture FILE TITLE: a file by its path from $home, and how the window's title ends then.
+# open_picture FILE TITLE: opens a file, given by its path relative to $home, and waits until the window title ends with
+# TITLE.
 open_picture() {
     xdotool key ctrl+o
     type_into "Open Image" "$1"
     wait_for "the opened picture" window_named "$2\$"
 }
 
-# save_as FILE: by its name, next to the opened picture.
+# save_as FILE: saves under this name in the folder of the opened picture.
 save_as() {
     xdotool key ctrl+shift+s
     type_into "Save image" "$1"
 }
 
-# quit: by key, and with a good end.
+# quit: quits the program by key and expects exit status 0.
 quit() {
     xdotool windowfocus --sync "$main"
     xdotool key ctrl+q
