@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Run by CPack once the files of the .deb lie in their folder: what only Debian wants, as its policy wants it.
+# Run by CPack when the files of the .deb are in its staging folder: applies the rules of the Debian policy.
 set(root "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/share")
 set(doc "${root}/doc/grisal")
 
@@ -12,6 +12,6 @@ execute_process(COMMAND gzip -9 --no-name ${texts} COMMAND_ERROR_IS_FATAL ANY)
 list(TRANSFORM texts APPEND ".gz")
 file(CHMOD ${texts} "${doc}/copyright" FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 
-# Whatever the builder lets others see of his own folders.
+# Fixed permissions, independent of the umask of the build.
 file(CHMOD_RECURSE "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr" DIRECTORY_PERMISSIONS
   OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
