@@ -133,7 +133,8 @@ TEST_F(LumioImageReadTest, OpensATruncatedJpegWithAWarning)
     ASSERT_TRUE(image.read(cutJpeg()));
     EXPECT_EQ(image.width(), 64);
     EXPECT_EQ(image.height(), 48);
-    EXPECT_TRUE(image.warning().english().contains("Premature end of JPEG file")) << image.warning().english().toStdString();
+    EXPECT_TRUE(image.warning().english().contains("Premature end of JPEG file"))
+        << image.warning().english().toStdString();
     EXPECT_TRUE(image.problem().isEmpty());
 }
 

@@ -87,7 +87,8 @@ std::vector<Case> allFiltersAndAllButTheGrain()
 
 const BytePixels &blurredNoiseMap()
 {
-    static const BytePixels blurred = reference::blurredNoise(reference::noiseMap(), strongParameters().get<GrainFilter>().radius);
+    static const BytePixels blurred =
+        reference::blurredNoise(reference::noiseMap(), strongParameters().get<GrainFilter>().radius);
     return blurred;
 }
 
