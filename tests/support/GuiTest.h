@@ -20,7 +20,8 @@ namespace grisal::test
 {
 
 /// A test of windows and dialogs. It starts with empty settings in an empty home directory and uses Qt's dialogs
-/// instead of native ones. It fails on an unexpected warning and when an expected warning is missing.
+/// instead of native ones. It fails on an unexpected warning and when an expected warning is missing, unless it is
+/// skipped.
 class GuiTest : public testing::Test
 {
 protected:
