@@ -1,20 +1,22 @@
 // SPDX-License-Identifier: MIT
 // Whenever the program is killed, a file that it was saving over is the whole old picture or the whole new one. A few
-// moments by default; as many as GRISAL_KILLED_SAVES says.
+// kills by default; as many as GRISAL_KILLED_SAVES says.
 #include "tests/graphics/files/PictureFiles.h"
 #include "tests/support/GlPresence.h"
 
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QThread>
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <random>
+#include <string>
+#include <system_error>
 
 namespace
 {
@@ -54,7 +56,7 @@ protected:
         return ended ? contentsOf(target) : QByteArray();
     }
 
-    /// Kills the program at random moments of its first save or the one after it.
+    /// Kills the program in its first or second save, once a random part of the new file is written.
     void expectWholeFiles(const QString &name)
     {
         const QString target = QDir(m_folder.path()).filePath(name);
@@ -62,20 +64,21 @@ protected:
         const QByteArray smooth = savedAfter(target, 2);
         ASSERT_FALSE(grainy.isEmpty() || smooth.isEmpty());
         ASSERT_NE(grainy, smooth);
-        const int duration = twoSaves(target);
-        const int rounds = std::max(qEnvironmentVariableIntValue("GRISAL_KILLED_SAVES"), 5);
+        const int rounds = std::max(qEnvironmentVariableIntValue("GRISAL_KILLED_SAVES"), 6);
         int grainyOnes = 0;
         for (int round = 0; round < rounds; ++round) {
             writeFile(target, smooth);
-            const int delay = std::uniform_int_distribution(0, duration)(m_random);
-            killAfter(target, delay);
+            const int save = 1 + round % 2;
+            const qint64 whole = (save == 1 ? grainy : smooth).size();
+            const qint64 bytes = std::uniform_int_distribution(qint64{0}, whole)(m_random);
+            ASSERT_TRUE(killIn(target, save, bytes)) << "round " << round << ", save " << save;
             const QByteArray now = contentsOf(target);
-            ASSERT_TRUE(now == grainy || now == smooth) << "round " << round << ", killed after " << delay << " ms";
+            ASSERT_TRUE(now == grainy || now == smooth)
+                << "round " << round << ", killed in save " << save << " at " << bytes << " of " << whole << " bytes";
             grainyOnes += now == grainy ? 1 : 0;
         }
         expectWholeLeftovers(name, grainy, smooth);
-        std::printf("%s: %d moments of %d ms, the new picture %d times\n", qPrintable(name), rounds, duration,
-                    grainyOnes);
+        std::printf("%s: killed %d times, left the grainy picture %d times\n", qPrintable(name), rounds, grainyOnes);
     }
 
 private:
@@ -87,26 +90,38 @@ private:
         ASSERT_EQ(process.readLine(), "saving\n");
     }
 
-    /// How long two saves take, in milliseconds.
-    int twoSaves(const QString &target) const
+    /// The size of the file that a process has open in the folder, with a name or without one; -1 where there is none.
+    qint64 openFileSize(qint64 process) const
     {
-        QProcess process;
-        start(process, target, 2);
-        waitForSave(process);
-        QElapsedTimer timer;
-        timer.start();
-        process.waitForFinished(patience);
-        return static_cast<int>(timer.elapsed());
+        std::error_code error;
+        for (const auto &file :
+             std::filesystem::directory_iterator("/proc/" + std::to_string(process) + "/fd", error)) {
+            const std::string path = std::filesystem::read_symlink(file, error).string();
+            if (!error && path.starts_with(m_folder.path().toStdString())) {
+                const auto size = std::filesystem::file_size(file, error);
+                return error ? -1 : static_cast<qint64>(size);
+            }
+        }
+        return -1;
     }
 
-    void killAfter(const QString &target, int milliseconds) const
+    /// Kills the program in its save of that number, once the file that it writes has as many bytes; returns false
+    /// where it never has.
+    bool killIn(const QString &target, int save, qint64 bytes) const
     {
         QProcess process;
         start(process, target, 1000);
-        waitForSave(process);
-        QThread::msleep(static_cast<unsigned long>(milliseconds));
+        for (int begun = 0; begun < save; ++begun) {
+            waitForSave(process);
+        }
+        const QDeadlineTimer deadline(patience);
+        bool reached = false;
+        while (!reached && !deadline.hasExpired()) {
+            reached = openFileSize(process.processId()) >= bytes;
+        }
         process.kill();
         process.waitForFinished(patience);
+        return reached;
     }
 
     /// A program that dies just before it renames a new file cannot take it away.
