@@ -2,6 +2,8 @@
 // What the window shows while it reads, renders and writes.
 #include "tests/app/FilesTest.h"
 
+#include "tests/support/Screen.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QProgressBar>
@@ -49,7 +51,7 @@ protected:
         FilesTest::SetUp();
         if (!IsSkipped()) {
             start();
-            QTest::qWait(50);
+            ASSERT_TRUE(paintAgain(preview()));
         }
     }
 
@@ -131,8 +133,7 @@ TEST_F(BusyNotice, NoEventIsProcessedMeanwhile)
     window.openImage(path);
     window.saveImage(inHome(QStringLiteral("b.tif")));
     EXPECT_EQ(events, 0);
-    QTest::qWait(1);
-    EXPECT_EQ(events, 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return events == 1; }));
 }
 
 TEST_F(BusyNotice, IsOverWhenSomethingIsToldOfTheWork)

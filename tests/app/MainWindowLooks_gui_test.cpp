@@ -40,11 +40,7 @@ protected:
     /// Opens a picture of 240 x 160 pixels, 8 bits, and shows it one to one in the middle of the preview.
     void openSmall()
     {
-        start();
-        // The middle is a whole pixel where both have an even number of them.
-        window.resize(window.width() + preview().width() % 2, window.height() + preview().height() % 2);
-        // The fit that follows a resize would come in between.
-        QTest::qWait(200);
+        startEven();
         small = {width, height, 3, grisal::sample::asBytes(grisal::sample::paintScene(width, height))};
         window.openImage(pictureFile(QStringLiteral("small.png"), small));
         trigger(window, "actionActualPixels");

@@ -28,15 +28,6 @@ protected:
         return {value, value, value};
     }
 
-    /// Shows the window with a preview that has a middle: of an even number of pixels each way.
-    void startEven()
-    {
-        start();
-        window.resize(window.width() + preview().width() % 2, window.height() + preview().height() % 2);
-        // The fit that follows a resize would come in between.
-        QTest::qWait(200);
-    }
-
     /// The preview's area with a grey picture in its middle, one picture pixel per pixel, all else black.
     BytePixels centredRamp()
     {
@@ -134,7 +125,7 @@ TEST_F(MainWindowScreen, SavingLeavesTheScreenAsItIs)
     startEven();
     const BytePixels before = showRamp();
     window.saveImage(inHome(QStringLiteral("saved.png")));
-    QTest::qWait(50);
+    ASSERT_TRUE(paintAgain(preview()));
     EXPECT_TRUE(picturesNear("screen", screenOnceLike(before), before));
 }
 

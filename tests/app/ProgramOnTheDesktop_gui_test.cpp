@@ -2,8 +2,10 @@
 // The program as the desktop sees it: its windows, found by their titles, and its end, by a key.
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QImage>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -44,9 +46,15 @@ protected:
             environment.insert(QString::fromLatin1(variable), QString::fromLatin1(value));
         }
         m_process.setProcessEnvironment(environment);
-        m_process.start(QStringLiteral(GRISAL_PROGRAM), QStringList());
+        m_process.setProgram(QStringLiteral(GRISAL_PROGRAM));
+        m_process.start();
         ASSERT_TRUE(m_process.waitForStarted());
     }
+
+    /// What the program is given on its command line; nothing unless this is called before start().
+    void setArguments(const QStringList &arguments) { m_process.setArguments(arguments); }
+
+    QString inHome(const QString &name) const { return m_home.filePath(name); }
 
     static QString xdotool(const QStringList &arguments)
     {
@@ -70,12 +78,11 @@ protected:
     QString windowNamed(const QString &title) const
     {
         QStringList windows;
-        QElapsedTimer timer;
-        timer.start();
-        while (windows.isEmpty() && timer.elapsed() < limit && m_process.state() == QProcess::Running) {
-            QTest::qWait(50);
+        const auto isThereOrEnded = [&] {
             windows = windowsNamed(title);
-        }
+            return !windows.isEmpty() || m_process.state() != QProcess::Running;
+        };
+        static_cast<void>(QTest::qWaitFor(isThereOrEnded, limit));
         EXPECT_EQ(windows.size(), 1) << "windows named " << title.toStdString();
         return windows.value(0);
     }
@@ -90,24 +97,36 @@ protected:
         xdotool({QStringLiteral("keyup"), keys});
     }
 
-    /// The title of the dialog for opening pictures, in whatever language; empty if none comes. The keys are pressed
-    /// again where the window did not have the keyboard yet.
-    std::string titleOfOpen()
+    /// The title of the dialog for opening pictures, in whatever language; empty where it is not there.
+    std::string openTitle() const
     {
-        const QString window = mainWindow();
-        QElapsedTimer timer;
-        timer.start();
-        while (timer.elapsed() < limit) {
-            press(window, QStringLiteral("ctrl+o"));
-            QTest::qWait(500);
-            for (const char *title : {"Open Image", "Bild öffnen", "Ouvrir une image"}) {
-                if (!windowsNamed(QString::fromUtf8(title)).isEmpty()) {
-                    return title;
-                }
+        for (const char *title : {"Open Image", "Bild öffnen", "Ouvrir une image"}) {
+            if (!windowsNamed(QString::fromUtf8(title)).isEmpty()) {
+                return title;
             }
         }
         return {};
     }
+
+    /// Opens the dialog for opening pictures; returns its title, empty if it does not come. The keys are pressed again
+    /// where the window did not have the keyboard yet.
+    std::string titleOfOpen()
+    {
+        const QString window = mainWindow();
+        const QDeadlineTimer deadline(limit);
+        std::string title;
+        const auto isOpen = [&] {
+            title = openTitle();
+            return !title.empty();
+        };
+        do {
+            press(window, QStringLiteral("ctrl+o"));
+        } while (!QTest::qWaitFor(isOpen, 500) && !deadline.hasExpired());
+        return title;
+    }
+
+    /// What the program has written to the standard error stream.
+    QByteArray consoleErrors() { return m_process.readAllStandardError(); }
 
     /// The exit status, once the program has ended by itself; -1 if it does not or crashes.
     int exitStatus()
@@ -131,7 +150,7 @@ protected:
 
     QByteArray logged() const
     {
-        QFile file(m_home.filePath(QStringLiteral("GrisalLog.txt")));
+        QFile file(inHome(QStringLiteral("GrisalLog.txt")));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
@@ -169,13 +188,31 @@ TEST_F(ProgramOnTheDesktop, WarnsOfNothingInAPlainRun)
     }
 }
 
+// The goodbye comes after everything that the start has left for the event loop.
+TEST_F(ProgramOnTheDesktop, OpensNoFileOfItsCommandLine)
+{
+    QImage picture(8, 4, QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    ASSERT_TRUE(picture.save(inHome(QStringLiteral("a.png"))));
+    setArguments({inHome(QStringLiteral("a.png"))});
+    start();
+    EXPECT_EQ(exitStatusAfter(mainWindow(), QStringLiteral("ctrl+q")), 0);
+    EXPECT_TRUE(logged().contains("Bye bye")) << logged().toStdString();
+    EXPECT_FALSE(logged().contains("LumioImage")) << logged().toStdString();
+}
+
+// The toolkit crashes when it paints a window with an OpenGL widget and no OpenGL: the window must be gone by then.
 TEST_F(ProgramOnTheDesktop, WithoutOpenGLOneBoxAndOneLineSaySoBeforeItEnds)
 {
     start("QT_XCB_GL_INTEGRATION", "none");
     const QString box = windowNamed(QStringLiteral("No OpenGL"));
+    EXPECT_EQ(windowsNamed(QStringLiteral("Lumio Grisal (Alpha)")), QStringList());
     EXPECT_EQ(logged().count(" Critical: "), 1) << logged().toStdString();
     EXPECT_TRUE(logged().contains(" Critical: There is no OpenGL on this display.\n"));
     EXPECT_EQ(exitStatusAfter(box, QStringLiteral("Return")), EXIT_FAILURE);
+    const QByteArray console = consoleErrors();
+    EXPECT_TRUE(console.startsWith("There is no OpenGL on this display.\nGrisal needs OpenGL"))
+        << console.toStdString();
 }
 
 TEST_F(ProgramOnTheDesktop, TooOldAnOpenGLIsToldAndEndsTheProgram)

@@ -46,6 +46,15 @@ protected:
         window.loadBuffer(grey.data(), 300, 200, false);
     }
 
+    /// Shows the window with a preview that has a middle: of an even number of pixels each way.
+    void startEven()
+    {
+        start();
+        window.resize(window.width() + preview().width() % 2, window.height() + preview().height() % 2);
+        // The fit that follows a resize would come in between.
+        timeOutNow(child<QTimer>(preview(), "resizeTimer"));
+    }
+
     ui::GLWidget &preview() { return child<ui::GLWidget>(window, "glWidgetPreview"); }
 
     QStackedLayout &panels()

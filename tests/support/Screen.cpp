@@ -2,13 +2,22 @@
 #include "tests/support/Screen.h"
 
 #include <QGuiApplication>
+#include <QOpenGLWidget>
 #include <QPixmap>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QTest>
 #include <QWidget>
 
 namespace grisal::test
 {
+
+namespace
+{
+
+constexpr int limit = 20000; // milliseconds
+
+} // namespace
 
 BytePixels onScreen(const QWidget &widget)
 {
@@ -31,11 +40,19 @@ BytePixels onScreen(const QWidget &widget)
 BytePixels onScreenOnceLike(const QWidget &widget, const BytePixels &expected)
 {
     BytePixels shown;
-    static_cast<void>(QTest::qWaitFor([&] {
+    const auto isLikeExpected = [&] {
         shown = onScreen(widget);
         return shown.values == expected.values;
-    }));
+    };
+    static_cast<void>(QTest::qWaitFor(isLikeExpected, limit));
     return shown;
+}
+
+bool paintAgain(QOpenGLWidget &widget)
+{
+    QSignalSpy frames(&widget, &QOpenGLWidget::frameSwapped);
+    widget.update();
+    return frames.wait(limit);
 }
 
 } // namespace grisal::test

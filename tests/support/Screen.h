@@ -5,6 +5,7 @@
 
 #include <QPoint>
 
+class QOpenGLWidget;
 class QWidget;
 
 namespace grisal::test
@@ -14,8 +15,11 @@ namespace grisal::test
 /// can look right while the screen stays black.
 BytePixels onScreen(const QWidget &widget);
 
-/// Processes events and grabs the screen repeatedly until it shows `expected` inside the widget, for at most five
+/// Processes events and grabs the screen repeatedly until it shows `expected` inside the widget, for at most twenty
 /// seconds. Returns the last grab.
 BytePixels onScreenOnceLike(const QWidget &widget, const BytePixels &expected);
+
+/// Repaints the widget and waits until the frame is on the screen; returns false if it is not after twenty seconds.
+bool paintAgain(QOpenGLWidget &widget);
 
 } // namespace grisal::test

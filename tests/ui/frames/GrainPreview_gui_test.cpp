@@ -173,20 +173,21 @@ TEST_F(GrainPreviewTest, ARadiusShowsItsTile)
 TEST_F(GrainPreviewTest, TheSameRadiusAgainRepaintsNothing)
 {
     preview.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&preview));
-    QTest::qWait(50);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return preview.paints > 0; }));
+    // From here on, every paint follows a posted event.
+    QCoreApplication::processEvents();
     const int before = preview.paints;
     const auto key = preview.map().cacheKey();
 
     preview.slotSetRadius(1.5F);
     preview.slotSetRadius(1.5F * 1.000005F);
-    QTest::qWait(50);
+    QCoreApplication::processEvents();
     EXPECT_EQ(preview.paints, before);
     EXPECT_EQ(preview.map().cacheKey(), key);
     EXPECT_EQ(preview.radius(), 1.5F);
 
     preview.slotSetRadius(1.5F * 1.00002F);
-    QTest::qWait(50);
+    QCoreApplication::processEvents();
     EXPECT_GT(preview.paints, before);
     EXPECT_EQ(preview.radius(), 1.5F * 1.00002F);
 }

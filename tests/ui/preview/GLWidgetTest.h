@@ -10,7 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -95,14 +94,6 @@ protected:
     testing::AssertionResult screenShows(const BytePixels &expected) const
     {
         return picturesNear("screen", onScreenOnceLike(widget, expected), expected);
-    }
-
-    /// Asks for a paint and waits until it is on the screen.
-    bool paintsAgain()
-    {
-        QSignalSpy frames(&widget, &QOpenGLWidget::frameSwapped);
-        widget.update();
-        return frames.wait();
     }
 
     void wheel(int delta)

@@ -66,7 +66,7 @@ TEST_F(GLWidgetTest, ThePreviewIsSeenAfterTheGrain)
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
     BytePixels full = rampPicture<std::uint8_t>(9, 7);
     EXPECT_TRUE(widget.renderFinal(full.values.data(), 9, 7, false, false));
-    ASSERT_TRUE(paintsAgain());
+    ASSERT_TRUE(paintAgain(widget));
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
