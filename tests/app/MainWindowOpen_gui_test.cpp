@@ -2,6 +2,7 @@
 // How pictures come into the window.
 #include "tests/app/FilesTest.h"
 
+#include "tests/support/ClosedFolder.h"
 #include "ui/panels/Mixer.h"
 
 #include <QComboBox>
@@ -208,6 +209,29 @@ TEST_F(MainWindowOpen, ALinkWithoutATargetIsToldLikeAFileThatIsNoPicture)
     const MessageBoxAnswer box(QMessageBox::Ok);
     window.openImage(link);
     EXPECT_EQ(title(), "Lumio Grisal (Alpha) - a.png 40x20");
+}
+
+// It may well be there: shown as missing, the open picture would get its name, and Save would write over it.
+TEST_F(MainWindowOpen, AFileInAFolderWithoutAccessChangesNothing)
+{
+    start();
+    const QString a = makePicture(QStringLiteral("a.png"), 40, 20);
+    openWithDialog(a);
+    choose("Luma");
+    trigger(window, "actionVignette");
+    QDir().mkpath(inHome(QStringLiteral("closed")));
+    const QString path = makePicture(QStringLiteral("closed/b.png"), 20, 40);
+    expectWarning(path);
+    MessageBoxAnswer box(QMessageBox::Ok);
+    {
+        const ClosedFolder closed(inHome(QStringLiteral("closed")));
+        window.openImage(path);
+    }
+    EXPECT_EQ(box.text, QStringLiteral("Cannot load %1.").arg(path));
+    EXPECT_EQ(title(), "Lumio Grisal (Alpha) - a.png 40x20");
+    EXPECT_EQ(weights(), luma);
+    EXPECT_EQ(shownPanel(), "Vignette");
+    EXPECT_EQ(storedRecent(), QStringList(a));
 }
 
 TEST_F(MainWindowOpen, AJpegCutShortOpensAndIsToldInTheStatusBar)

@@ -28,6 +28,21 @@ protected:
         process.setProcessEnvironment(environment);
     }
 
+    void setEnvironment(const QString &name, const QString &value)
+    {
+        QProcessEnvironment environment = process.processEnvironment();
+        environment.insert(name, value);
+        process.setProcessEnvironment(environment);
+    }
+
+    void removeDisplay()
+    {
+        QProcessEnvironment environment = process.processEnvironment();
+        environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":98765"));
+        environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+        process.setProcessEnvironment(environment);
+    }
+
     void start() { process.start(QStringLiteral(GRISAL_PROGRAM), QStringList()); }
 
     void end()
@@ -95,10 +110,7 @@ TEST_F(Program, WorksWhereTheLogIsAFolder)
 
 TEST_F(Program, NamesAMissingDisplayOnTheConsoleAndEndsWithStatus1)
 {
-    QProcessEnvironment environment = process.processEnvironment();
-    environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":98765"));
-    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
-    process.setProcessEnvironment(environment);
+    removeDisplay();
     start();
     ASSERT_TRUE(process.waitForFinished());
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
@@ -106,6 +118,17 @@ TEST_F(Program, NamesAMissingDisplayOnTheConsoleAndEndsWithStatus1)
     const QByteArray said = process.readAllStandardError();
     EXPECT_TRUE(said.contains("there is no display that can be reached")) << said.toStdString();
     EXPECT_TRUE(logged().contains("Fatal: ")) << logged().toStdString();
+}
+
+// Without a display, Qt does not get beyond the making of the application object.
+TEST_F(Program, StartsGraphicsMagickBeforeQt)
+{
+    removeDisplay();
+    setEnvironment(QStringLiteral("MAGICK_DEBUG"), QStringLiteral("configure"));
+    start();
+    ASSERT_TRUE(process.waitForFinished());
+    const QByteArray said = process.readAllStandardError();
+    EXPECT_TRUE(said.contains("Initialize Magick")) << said.toStdString();
 }
 
 } // namespace
