@@ -89,7 +89,7 @@ TEST_F(FilterDeclarationsTest, HaveNeutralValuesThatChangeNothing)
             EXPECT_TRUE(picturesNear(declaration.name, runFilter(filter, ramp), ramp)) << parameter.name;
         }
     });
-    EXPECT_EQ(neutralValues, 2) << "grain's weights and the vignette's strength";
+    EXPECT_GE(neutralValues, 2) << "at least the grain's weights and the vignette's strength";
 }
 
 // Tiles have no border: a filter that reads its neighbours' pixels would leave a seam at the edge of each.

@@ -10,6 +10,7 @@
 #include "tests/support/InvalidParameters.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
+#include "tests/support/QueueOrder.h"
 
 #include <memory>
 
@@ -82,12 +83,7 @@ TEST_F(FinalRenderTest, QueueHasSplitToningBeforeTheGrain)
 {
     DocumentFilterQueue queue;
     filters->addToFinalRender(queue);
-    std::vector<std::string> names;
-    for (const IFilter *filter : queue.filters()) {
-        names.push_back(filter->getName());
-    }
-    EXPECT_EQ(names, (std::vector<std::string>{"MixerFilter", "CurveFilter", "HalfToneFilter", "GrainFilter",
-                                               "VignetteFilter"}));
+    expectInOrder(queue, {"MixerFilter", "CurveFilter", "HalfToneFilter", "GrainFilter", "VignetteFilter"});
 }
 
 TEST_F(FinalRenderTest, RendersInPlaceWithTheParameters)

@@ -7,9 +7,8 @@
 #include "tests/support/GlTest.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
+#include "tests/support/QueueOrder.h"
 #include "tests/support/ReferencePictures.h"
-
-#include <string>
 
 namespace grisal::test
 {
@@ -34,15 +33,6 @@ PreviewPixels previewPixels(const BytePixels &picture)
     pixels.height = picture.height;
     pixels.bytes = picture.values;
     return pixels;
-}
-
-std::vector<std::string> namesIn(const graphics::DocumentFilterQueue &queue)
-{
-    std::vector<std::string> names;
-    for (const graphics::IFilter *filter : queue.filters()) {
-        names.push_back(filter->getName());
-    }
-    return names;
 }
 
 GLint sizeParameter(GLuint texture, GLenum name)
@@ -85,8 +75,7 @@ TEST_F(PreviewTest, ItsFiltersComeInTheOrderOfThePreview)
 
     filters.addToPreview(queue);
 
-    EXPECT_EQ(namesIn(queue), (std::vector<std::string>{"MixerFilter", "CurveFilter", "GrainFilter", "HalfToneFilter",
-                                                        "VignetteFilter"}));
+    expectInOrder(queue, {"MixerFilter", "CurveFilter", "GrainFilter", "HalfToneFilter", "VignetteFilter"});
 }
 
 TEST_F(PreviewTest, AnEmptyQueueShowsThePicture)

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/document/DocumentFilterQueue.h"
+#include "graphics/filters/IFilter.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace grisal::test
+{
+
+/// Expects these filters in the queue, in this order. A filter that is added to the program may come in between.
+inline void expectInOrder(const graphics::DocumentFilterQueue &queue, const std::vector<std::string> &expected)
+{
+    std::vector<std::string> names;
+    for (const graphics::IFilter *filter : queue.filters()) {
+        if (std::find(expected.begin(), expected.end(), filter->getName()) != expected.end()) {
+            names.push_back(filter->getName());
+        }
+    }
+    EXPECT_EQ(names, expected);
+}
+
+} // namespace grisal::test
