@@ -21,31 +21,31 @@ float clampedWeight(float weight)
     return std::clamp(weight, -largestWeight, largestWeight);
 }
 
-float meanOf(const ChannelWeights &weights)
+float meanOf(const ColorRGB<float> &weights)
 {
     return static_cast<float>(third * weights.r + greenThird * weights.g + third * weights.b);
 }
 
-ChannelWeights weightsAt(float luma, float chromaU, float chromaV)
+ColorRGB<float> weightsAt(float luma, float chromaU, float chromaV)
 {
-    ChannelWeights weights;
+    ColorRGB<float> weights;
     weights.r = clampedWeight(luma + chromaV);
     weights.b = clampedWeight(luma + chromaU);
     weights.g = greenOf(luma, weights.r, weights.b);
     return weights;
 }
 
-ChannelWeights shiftedToMean(const ChannelWeights &weights, double mean)
+ColorRGB<float> shiftedToMean(const ColorRGB<float> &weights, double mean)
 {
     const double before = third * weights.r + greenThird * weights.g + third * weights.b;
-    ChannelWeights shifted;
+    ColorRGB<float> shifted;
     shifted.r = clampedWeight(static_cast<float>(weights.r - before + mean));
     shifted.b = clampedWeight(static_cast<float>(weights.b - before + mean));
     shifted.g = greenOf(mean, shifted.r, shifted.b);
     return shifted;
 }
 
-ChannelWeights shiftedToSum(const ChannelWeights &weights, float sum)
+ColorRGB<float> shiftedToSum(const ColorRGB<float> &weights, float sum)
 {
     return shiftedToMean(weights, static_cast<double>(sum) / 3.0);
 }

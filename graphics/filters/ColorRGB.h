@@ -1,18 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "math/ColorRGB.h"
+
 namespace grisal::graphics
 {
 
-/// Three channel values in the order r, g, b. Their range depends on the use: 0..1 for weights and colours of the
-/// filters, 0..255 in the mixer panel.
-template <typename T>
-struct ColorRGB {
-    T r{};
-    T g{};
-    T b{};
-
-    bool operator==(const ColorRGB &) const = default;
-};
+using math::ColorRGB;
 
 } // namespace grisal::graphics

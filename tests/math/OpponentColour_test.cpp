@@ -23,7 +23,7 @@ TEST(OpponentColour, WeightsAreKeptWithinTheirLimits)
 
 TEST(OpponentColour, AShiftMovesAllChannelsAlike)
 {
-    const ChannelWeights shifted = shiftedToSum({77, 150, 28}, 300);
+    const ColorRGB<float> shifted = shiftedToSum({77, 150, 28}, 300);
     // Single precision: 43.0 sharp and not 42.99999, so that the truncation to whole weights does not lose one.
     EXPECT_EQ(static_cast<int>(shifted.r), 92);
     EXPECT_EQ(static_cast<int>(shifted.g), 165);
@@ -32,7 +32,7 @@ TEST(OpponentColour, AShiftMovesAllChannelsAlike)
 
 TEST(OpponentColour, AShiftToTheSameSumChangesNothing)
 {
-    const ChannelWeights shifted = shiftedToSum({77, 150, 28}, 255);
+    const ColorRGB<float> shifted = shiftedToSum({77, 150, 28}, 255);
     EXPECT_NEAR(shifted.r, 77, 1e-4);
     EXPECT_NEAR(shifted.g, 150, 1e-4);
     EXPECT_NEAR(shifted.b, 28, 1e-4);
@@ -40,7 +40,7 @@ TEST(OpponentColour, AShiftToTheSameSumChangesNothing)
 
 TEST(OpponentColour, ThereIsAWayBackFromLevelAndChroma)
 {
-    const ChannelWeights weights = weightsAt(60, 30, -30);
+    const ColorRGB<float> weights = weightsAt(60, 30, -30);
     EXPECT_FLOAT_EQ(weights.r, 30);
     EXPECT_NEAR(weights.g, 60, 1e-4);
     EXPECT_FLOAT_EQ(weights.b, 90);
@@ -48,7 +48,7 @@ TEST(OpponentColour, ThereIsAWayBackFromLevelAndChroma)
 
 TEST(OpponentColour, TheWayBackEndsAtTheLimits)
 {
-    const ChannelWeights weights = weightsAt(85, 682, 515);
+    const ColorRGB<float> weights = weightsAt(85, 682, 515);
     EXPECT_EQ(weights.r, 512);
     EXPECT_EQ(weights.b, 512);
     EXPECT_EQ(weights.g, -512);
@@ -56,7 +56,7 @@ TEST(OpponentColour, TheWayBackEndsAtTheLimits)
 
 TEST(OpponentColour, AGreyShiftedToAMeanIsThatGrey)
 {
-    const ChannelWeights shifted = shiftedToMean({100, 100, 100}, 200);
+    const ColorRGB<float> shifted = shiftedToMean({100, 100, 100}, 200);
     EXPECT_EQ(static_cast<int>(shifted.r), 200);
     EXPECT_EQ(static_cast<int>(shifted.g), 200);
     EXPECT_EQ(static_cast<int>(shifted.b), 200);
@@ -64,7 +64,7 @@ TEST(OpponentColour, AGreyShiftedToAMeanIsThatGrey)
 
 TEST(OpponentColour, GreenTakesUpWhatTheClampingLeaves)
 {
-    const ChannelWeights shifted = shiftedToSum({511, -300, -200}, 511);
+    const ColorRGB<float> shifted = shiftedToSum({511, -300, -200}, 511);
     EXPECT_FLOAT_EQ(shifted.r, 512);
     EXPECT_NEAR(shifted.r + shifted.g + shifted.b, 511, 1e-2);
 }

@@ -34,7 +34,7 @@ void YUVFrame::setColorSpace(int mode)
 
 void YUVFrame::slotSetRGB(grisal::graphics::ColorRGB<float> weights)
 {
-    const float luma = grisal::math::meanOf({weights.r, weights.g, weights.b});
+    const float luma = grisal::math::meanOf(weights);
     const Chroma chroma{weights.b - luma, weights.r - luma};
     if (nearlyEqualWeights(luma, m_luma) && nearlyEqualWeights(chroma.u, m_chroma.u) &&
         nearlyEqualWeights(chroma.v, m_chroma.v)) {
@@ -145,7 +145,7 @@ QString YUVFrame::hueName() const
 
 QString YUVFrame::spokenValue() const
 {
-    const grisal::math::ChannelWeights weights = grisal::math::weightsAt(m_luma, m_chroma.u, m_chroma.v);
+    const auto weights = grisal::math::weightsAt(m_luma, m_chroma.u, m_chroma.v);
     return tr("%1, level %2: red %3, green %4, blue %5")
         .arg(hueName())
         .arg(std::lround(m_luma))
@@ -162,7 +162,7 @@ void YUVFrame::resizeEvent(QResizeEvent *)
 void YUVFrame::emitWeights()
 {
     m_chroma = chromaAt(m_plane, m_marker);
-    const grisal::math::ChannelWeights weights = grisal::math::weightsAt(m_luma, m_chroma.u, m_chroma.v);
+    const auto weights = grisal::math::weightsAt(m_luma, m_chroma.u, m_chroma.v);
     emit signalWeights(weights.r, weights.g, weights.b);
     update();
 }

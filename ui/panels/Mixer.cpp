@@ -83,9 +83,8 @@ void Mixer::showOnWheel(const ColorRGB<float> &weights)
 void Mixer::on_sliderLuma_valueChanged(int value)
 {
     m_form->spinBoxLuma->setValue(value);
-    const auto [r, g, b] = channels();
-    const grisal::math::ChannelWeights shifted = grisal::math::shiftedToSum({r, g, b}, static_cast<float>(value));
-    showOnWheel({shifted.r, shifted.g, shifted.b});
+    const ColorRGB<float> shifted = grisal::math::shiftedToSum(channels(), static_cast<float>(value));
+    showOnWheel(shifted);
     slotSetRGB(shifted.r, shifted.g, shifted.b);
 }
 

@@ -9,8 +9,8 @@
 
 #include <cmath>
 
+using grisal::graphics::ColorRGB;
 using grisal::graphics::HalfToneFilter;
-using grisal::math::ChannelWeights;
 
 namespace
 {
@@ -36,7 +36,7 @@ Tone shadowsOf(const Ui::SplitTone &form)
     return {form.frameShadows, form.sliderSLuma, form.spinBoxSR, form.spinBoxSG, form.spinBoxSB};
 }
 
-ChannelWeights tintOf(const Tone &tone)
+ColorRGB<float> tintOf(const Tone &tone)
 {
     return {static_cast<float>(tone.r->value()), static_cast<float>(tone.g->value()),
             static_cast<float>(tone.b->value())};
@@ -54,7 +54,7 @@ void setTint(const Tone &tone, int r, int g, int b)
 
 // The mean stays in double precision until it is truncated: 110, 148 and 198 are shown as 151, because the weights of
 // the channels are not exactly a third each and the mean is slightly below 152.
-void showLuma(const Tone &tone, const ChannelWeights &tint)
+void showLuma(const Tone &tone, const ColorRGB<float> &tint)
 {
     using namespace grisal::math;
     const QSignalBlocker blockLuma(tone.luma);
@@ -63,9 +63,8 @@ void showLuma(const Tone &tone, const ChannelWeights &tint)
 
 void showOnWheel(const Tone &tone)
 {
-    const ChannelWeights tint = tintOf(tone);
     const QSignalBlocker blockWheel(tone.wheel);
-    tone.wheel->slotSetRGB({tint.r, tint.g, tint.b});
+    tone.wheel->slotSetRGB(tintOf(tone));
 }
 
 void refreshFromTint(const Tone &tone)
@@ -84,9 +83,9 @@ void takeTint(const Tone &tone, float r, float g, float b)
 }
 
 /// Sets the level of the wheel, whose marker stays, and returns the tint at that level.
-ChannelWeights shiftToLuma(const Tone &tone, int luma)
+ColorRGB<float> shiftToLuma(const Tone &tone, int luma)
 {
-    const ChannelWeights shifted = grisal::math::shiftedToMean(tintOf(tone), luma);
+    const ColorRGB<float> shifted = grisal::math::shiftedToMean(tintOf(tone), luma);
     const QSignalBlocker blockWheel(tone.wheel);
     tone.wheel->slotSetLuma(static_cast<float>(luma));
     return shifted;
@@ -159,13 +158,13 @@ void SplitTone::on_sliderWeight_valueChanged(int value)
 
 void SplitTone::on_sliderHLuma_valueChanged(int value)
 {
-    const ChannelWeights tint = shiftToLuma(highlightsOf(*m_form), value);
+    const ColorRGB<float> tint = shiftToLuma(highlightsOf(*m_form), value);
     slotSetHighlights(tint.r, tint.g, tint.b);
 }
 
 void SplitTone::on_sliderSLuma_valueChanged(int value)
 {
-    const ChannelWeights tint = shiftToLuma(shadowsOf(*m_form), value);
+    const ColorRGB<float> tint = shiftToLuma(shadowsOf(*m_form), value);
     slotSetShadows(tint.r, tint.g, tint.b);
 }
 
