@@ -144,8 +144,10 @@ void MainWindow::loadBuffer(const void *pixels, int width, int height, bool sixt
         return;
     }
     const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    m_curves->slotSetHistogram(graphics::toneHistogram(pixels, count, sixteenBit, false));
+    const QVector<float> histogram = graphics::toneHistogram(pixels, count, sixteenBit, false);
+    // It throws where there is not enough memory: the panels then stay as they are.
     preview->loadImage(pixels, width, height, sixteenBit, false);
+    m_curves->slotSetHistogram(histogram);
     preview->setDirty();
     slotResetFilters();
 }

@@ -45,6 +45,21 @@ Session::PicturePointer pictureOf(LumioImage &file)
     return std::make_shared<Picture>(Picture{std::move(image), file.metadata(), file.info()});
 }
 
+/// The image as a file in memory; problem() contains the reason where that fails.
+LumioImage fileOf(const Image &image)
+{
+    const bool sixteenBit = is16Bit(image);
+    return std::visit(
+        [=](const auto &raster) {
+            LumioImage file(raster.width, raster.height, sixteenBit);
+            if (file.problem().isEmpty()) {
+                file.setPixels(raster.samples.data(), false, sixteenBit);
+            }
+            return file;
+        },
+        image);
+}
+
 void logProblems(const LumioImage &file)
 {
     if (!file.problem().isEmpty()) {
@@ -81,19 +96,12 @@ Session::PicturePointer Session::read(const QString &path)
 bool Session::write(Image image, const QString &path)
 {
     m_warning = {};
-    const bool sixteenBit = is16Bit(image);
-    LumioImage file = std::visit(
-        [&](auto &raster) {
-            LumioImage made(raster.width, raster.height, sixteenBit);
-            made.setPixels(raster.samples.data(), false, sixteenBit);
-            raster = {};
-            return made;
-        },
-        image);
+    LumioImage file = fileOf(image);
+    image = {};
     if (m_picture) {
         file.setMetadata(m_picture->metadata);
     }
-    if (!file.save(path, saveQuality)) {
+    if (!file.problem().isEmpty() || !file.save(path, saveQuality)) {
         qWarning("Cannot save %s: %s", qPrintable(path), qPrintable(file.problem()));
         return false;
     }

@@ -9,6 +9,13 @@ namespace grisal::graphics
 namespace
 {
 
+/// Returns the scale at which the image is drawn. A step in and a step out again lead to 0.99999994, not to 1.
+float drawnScale(float scale)
+{
+    constexpr float roundingError = 1e-4F;
+    return std::abs(scale - 1) < roundingError ? 1 : scale;
+}
+
 /// Returns the offset at which the image is drawn. At scale 1 the edge of the image is aligned to a device pixel:
 /// between two device pixels, some rows and columns would be drawn twice or skipped.
 float drawnOffset(float offset, float scale, int imageSide)
@@ -38,9 +45,10 @@ void FlexibleDocumentView::setup()
 
     glMatrixMode(GL_MODELVIEW);
     glLoadIdentity();
-    glTranslatef(drawnOffset(m_offsetX, m_scale, m_imageWidth), drawnOffset(m_offsetY, m_scale, m_imageHeight), 0);
+    const float scale = drawnScale(m_scale);
+    glTranslatef(drawnOffset(m_offsetX, scale, m_imageWidth), drawnOffset(m_offsetY, scale, m_imageHeight), 0);
     // The z scale is 0 because the image is flat.
-    glScalef(m_scale, m_scale, 0);
+    glScalef(scale, scale, 0);
     glTranslatef(static_cast<float>(-m_imageWidth) * 0.5F, static_cast<float>(-m_imageHeight) * 0.5F, 0);
 }
 

@@ -115,6 +115,19 @@ TEST_F(SessionTest, LogsWhyAFileCannotBeWritten)
     EXPECT_TRUE(log.warnings().first().startsWith("Cannot save " + path("nowhere/a.png")));
 }
 
+// A black picture would be written otherwise.
+TEST_F(SessionTest, WritesNothingWhereThereIsNoMemoryForTheImage)
+{
+    makePicture("a.png", 8);
+    const QByteArray before = contentsOf(path("a.png"));
+    Image8 image;
+    image.width = image.height = 1'000'000;
+    EXPECT_FALSE(session.write(image, path("a.png")));
+    EXPECT_EQ(contentsOf(path("a.png")), before);
+    ASSERT_EQ(log.warnings().size(), 1);
+    EXPECT_FALSE(log.warnings().first().contains("Image is not valid")) << log.warnings().first().toStdString();
+}
+
 TEST_F(SessionTest, WarnsOfAFileThatIsCutShort)
 {
     const QString file = path("a.jpg");

@@ -91,6 +91,7 @@ void GLWidget::startGraphics()
     callBeforeContextEnds(this, SLOT(releaseGraphics()));
     if (const auto waiting = std::exchange(m_waitingPixels, nullptr)) {
         showPicture(*waiting);
+        m_stage.setGrain(m_stage.look().get<graphics::GrainFilter>());
     }
 }
 

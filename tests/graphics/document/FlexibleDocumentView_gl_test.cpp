@@ -218,12 +218,22 @@ TEST_F(FlexibleDocumentViewTest, EveryPixelIsDrawnOnceAtOneToOneWhereverTheViewI
         graphics::createTexture(width, height, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE, image.values.data()));
     const RenderTarget screen(201, 101, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     FlexibleDocumentView view = smallView();
-    for (const auto &[x, y] : {std::pair{100.0F, 50.0F},
-                               {100.5F, 50.5F},
-                               {100.0F, 50.5F},
-                               {60.25F, 41.75F},
-                               {60.49F, 41.51F},
-                               {60.999F, 41.001F}}) {
+    struct Place {
+        float x;
+        float y;
+        float scale;
+    };
+    const float inAndOut = 1.0F + 0.04F - 0.04F; // a step in and a step out
+    ASSERT_NE(inAndOut, 1.0F);
+    for (const auto &[x, y, scale] : {Place{100, 50, 1},
+                                      {100.5F, 50.5F, 1},
+                                      {100, 50.5F, 1},
+                                      {60.25F, 41.75F, 1},
+                                      {60.49F, 41.51F, 1},
+                                      {60.999F, 41.001F, 1},
+                                      {100.5F, 50.5F, inAndOut},
+                                      {100.5F, 50.5F, 1.00001F}}) {
+        view.setScale(scale);
         view.setViewportSize(201, 101);
         view.setOffset(x, y);
         view.setup();
@@ -240,10 +250,11 @@ TEST_F(FlexibleDocumentViewTest, EveryPixelIsDrawnOnceAtOneToOneWhereverTheViewI
                 wrong += drawn.at(left + i % width, bottom + i / width, c) != image.at(i % width, i / width, c);
             }
         }
-        EXPECT_EQ(wrong, 0) << "offset " << x << ", " << y;
+        EXPECT_EQ(wrong, 0) << "offset " << x << ", " << y << " scale " << scale;
         EXPECT_EQ(drawn.at(left - 1, bottom, 0), 0);
         EXPECT_EQ(drawn.at(left + width, bottom + height - 1, 0), 0);
         // What is asked for stays as it was.
+        EXPECT_EQ(view.scale(), scale);
         EXPECT_EQ(view.offsetX(), x);
         EXPECT_EQ(view.offsetY(), y);
     }

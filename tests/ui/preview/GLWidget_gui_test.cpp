@@ -181,6 +181,11 @@ TEST_F(GLWidgetTest, ParametersThatAreSetWithoutAContextAreKept)
     EXPECT_EQ(widget.look().get<CurveFilter>().curve.first(), 0.25F);
     EXPECT_EQ(widget.look().get<GrainFilter>().weights.first(), 0.75F);
     EXPECT_EQ(widget.look().get<GrainFilter>().radius, 2.5F);
+
+    show();
+    const auto *grain = dynamic_cast<GrainFilter *>(widget.filter<GrainFilter>());
+    ASSERT_NE(grain, nullptr);
+    EXPECT_EQ(grain->sigma(), 2.5F);
 }
 
 TEST_F(GLWidgetTest, AFinalRenderLeavesThePreviewAsItWas)
