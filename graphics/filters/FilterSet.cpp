@@ -6,6 +6,17 @@
 namespace grisal::graphics
 {
 
+namespace
+{
+
+template <typename... Filters>
+void addInOrder(FilterSet &filters, DocumentFilterQueue &queue, std::type_identity<std::tuple<Filters...>> /*order*/)
+{
+    (queue.add(&filters.get<Filters>()), ...);
+}
+
+} // namespace
+
 void FilterSet::setSize(int width, int height)
 {
     forEach([=](IFilter &filter) {
@@ -41,10 +52,7 @@ void FilterSet::addToPreview(DocumentFilterQueue &queue)
 
 void FilterSet::addToFinalRender(DocumentFilterQueue &queue)
 {
-    const auto add = [&]<typename... Filters>(std::type_identity<std::tuple<Filters...>>) {
-        (queue.add(&get<Filters>()), ...);
-    };
-    add(std::type_identity<FinalFilters>());
+    addInOrder(*this, queue, std::type_identity<FinalFilters>());
 }
 
 } // namespace grisal::graphics
