@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
+#include <malloc.h>
+
 #include <exception>
 #include <utility>
 
@@ -55,6 +57,9 @@ void MainWindow::openImage(QString filename)
         qWarning("%s", problem.what());
         showCannotLoad(filename);
     }
+    // Returns the memory of the former image to the system: the allocator would keep it, and the process grew by 480 MB
+    // over fifty images of 12 megapixels.
+    malloc_trim(0);
 }
 
 void MainWindow::openFile(const QString &filename)
