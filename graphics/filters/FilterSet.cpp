@@ -10,9 +10,9 @@ namespace
 {
 
 template <typename... Filters>
-void addInOrder(FilterSet &filters, DocumentFilterQueue &queue, std::type_identity<std::tuple<Filters...>> /*order*/)
+std::vector<IFilter *> inOrder(FilterSet &filters, std::type_identity<std::tuple<Filters...>> /*order*/)
 {
-    (queue.add(&filters.get<Filters>()), ...);
+    return {&filters.get<Filters>()...};
 }
 
 } // namespace
@@ -45,14 +45,14 @@ void FilterSet::setLook(const Look &look)
     forEach([&](auto &filter) { filter.setParameters(look.get<std::decay_t<decltype(filter)>>()); });
 }
 
-void FilterSet::addToPreview(DocumentFilterQueue &queue)
+std::vector<IFilter *> FilterSet::previewOrder()
 {
-    forEach([&](IFilter &filter) { queue.add(&filter); });
+    return inOrder(*this, std::type_identity<PreviewFilters>());
 }
 
-void FilterSet::addToFinalRender(DocumentFilterQueue &queue)
+std::vector<IFilter *> FilterSet::finalOrder()
 {
-    addInOrder(*this, queue, std::type_identity<FinalFilters>());
+    return inOrder(*this, std::type_identity<FinalFilters>());
 }
 
 } // namespace grisal::graphics

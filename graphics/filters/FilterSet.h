@@ -2,8 +2,10 @@
 #pragma once
 
 #include "FilterList.h"
-#include "graphics/document/DocumentFilterQueue.h"
 #include "graphics/filters/Look.h"
+
+#include <tuple>
+#include <vector>
 
 namespace grisal::graphics
 {
@@ -44,9 +46,9 @@ public:
     /// changed. The grain radius is not passed, because setting it renders.
     void setLook(const Look &look);
 
-    /// Each appends the filters to a queue, in the order of the preview or of the final render.
-    void addToPreview(DocumentFilterQueue &queue);
-    void addToFinalRender(DocumentFilterQueue &queue);
+    /// The filters in the order of the preview and of the final render.
+    std::vector<IFilter *> previewOrder();
+    std::vector<IFilter *> finalOrder();
 
 private:
     PreviewFilters m_filters;

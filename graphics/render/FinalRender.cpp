@@ -80,7 +80,9 @@ bool renderTiles(const FinalPicture &picture, FilterSet &filters, DocumentView &
     renderer.setProgress(progress);
     Document document(0, &queue);
     document.setView(&view);
-    filters.addToFinalRender(queue);
+    for (IFilter *filter : filters.finalOrder()) {
+        queue.add(filter);
+    }
 
     glEnable(GL_TEXTURE_2D);
     renderer.render(document);

@@ -49,7 +49,9 @@ void PreviewStage::rebuildQueue()
 {
     if (m_preview) {
         m_preview->queue().clear();
-        m_filters->addToPreview(m_preview->queue());
+        for (IFilter *filter : m_filters->previewOrder()) {
+            m_preview->queue().add(filter);
+        }
     }
 }
 

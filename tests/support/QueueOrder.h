@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/document/DocumentFilterQueue.h"
 #include "graphics/filters/IFilter.h"
 
 #include <gtest/gtest.h>
@@ -13,11 +12,11 @@
 namespace grisal::test
 {
 
-/// Expects these filters in the queue, in this order. A filter that is added to the program may come in between.
-inline void expectInOrder(const graphics::DocumentFilterQueue &queue, const std::vector<std::string> &expected)
+/// Expects these among the filters, in this order. A filter that is added to the program may come in between.
+inline void expectInOrder(const std::vector<graphics::IFilter *> &filters, const std::vector<std::string> &expected)
 {
     std::vector<std::string> names;
-    for (const graphics::IFilter *filter : queue.filters()) {
+    for (const graphics::IFilter *filter : filters) {
         if (std::find(expected.begin(), expected.end(), filter->getName()) != expected.end()) {
             names.push_back(filter->getName());
         }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/render/FinalRender.h"
 
-#include "graphics/document/DocumentFilterQueue.h"
 #include "graphics/document/FlexibleDocumentView.h"
 #include "graphics/filters/FilterSet.h"
 #include "graphics/filters/NoiseMap.h"
@@ -81,9 +80,8 @@ protected:
 // Split toning before the grain: the preview has them the other way round, and files have always been made like this.
 TEST_F(FinalRenderTest, QueueHasSplitToningBeforeTheGrain)
 {
-    DocumentFilterQueue queue;
-    filters->addToFinalRender(queue);
-    expectInOrder(queue, {"MixerFilter", "CurveFilter", "HalfToneFilter", "GrainFilter", "VignetteFilter"});
+    expectInOrder(filters->finalOrder(),
+                  {"MixerFilter", "CurveFilter", "HalfToneFilter", "GrainFilter", "VignetteFilter"});
 }
 
 TEST_F(FinalRenderTest, RendersInPlaceWithTheParameters)

@@ -71,11 +71,9 @@ TEST(PixelFormatsTest, FollowDepthAndAlpha)
 TEST_F(PreviewTest, ItsFiltersComeInTheOrderOfThePreview)
 {
     FilterSet filters;
-    graphics::DocumentFilterQueue queue;
 
-    filters.addToPreview(queue);
-
-    expectInOrder(queue, {"MixerFilter", "CurveFilter", "GrainFilter", "HalfToneFilter", "VignetteFilter"});
+    expectInOrder(filters.previewOrder(),
+                  {"MixerFilter", "CurveFilter", "GrainFilter", "HalfToneFilter", "VignetteFilter"});
 }
 
 TEST_F(PreviewTest, AnEmptyQueueShowsThePicture)
@@ -133,7 +131,9 @@ TEST_F(PreviewTest, TheQueueRunsOverThePicture)
     filters.setSize(12, 8);
     filters.get<graphics::MixerFilter>().weights = {0, 1, 0};
     filters.get<graphics::MixerFilter>().enabled = true;
-    filters.addToPreview(preview.queue());
+    for (graphics::IFilter *filter : filters.previewOrder()) {
+        preview.queue().add(filter);
+    }
 
     preview.render();
 

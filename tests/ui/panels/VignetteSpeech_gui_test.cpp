@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The numbers that the vignette's frame tells a screen reader are those of the spin boxes beside it.
+// The vignette's frame reports to screen readers the numbers of the spin boxes beside it.
 #include "tests/support/GuiTest.h"
 #include "ui/frames/VFrame.h"
 #include "ui/panels/Vignette.h"
