@@ -5,8 +5,8 @@
 //   passes          the bare passes of a final render, of a frame of the preview
 //   transfers       upload and read-back of the same bytes
 //   firstFrame      upload of the preview and its first frame
+#include "bench/Baselines.h"
 #include "bench/ScreenWindow.h"
-#include "bench/Yardsticks.h"
 #include "graphics/gl/OffscreenContext.h"
 #include "graphics/gl/SurfaceFormat.h"
 #include "graphics/image/PreviewPixels.h"

@@ -2,7 +2,7 @@
 #include "graphics/filters/GrainFilter.h"
 
 #include "graphics/filters/NoiseMap.h"
-#include "graphics/gl/GlFaults.h"
+#include "graphics/gl/GlErrors.h"
 
 namespace grisal::graphics
 {
@@ -38,14 +38,14 @@ void GrainFilter::setSigma(float sigma)
         return;
     }
     m_sigma = sigma;
-    const GlFaultWatch watch;
+    const GlErrorScope watch;
     blurNoise();
     if (!watch.isClean()) {
-        forgetNoise();
+        discardNoise();
     }
 }
 
-void GrainFilter::forgetNoise()
+void GrainFilter::discardNoise()
 {
     m_blur.reset();
     m_blurredNoise.reset();

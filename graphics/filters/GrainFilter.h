@@ -45,18 +45,18 @@ public:
 
     /// Blurs the noise with a radius of `sigma` pixels, the coarseness of the grain. This renders, so the context must
     /// be current. Does nothing if the noise already has this radius. If OpenGL reports a fault, the noise is discarded
-    /// as by forgetNoise().
+    /// as by discardNoise().
     void setSigma(float sigma);
 
     /// Discards the noise and its textures, whose content is undefined after a failure of the OpenGL driver. The next
     /// setSigma() loads and blurs the noise again. The context must be current.
-    void forgetNoise();
+    void discardNoise();
 
     float sigma() const { return m_sigma; }
     GLuint weightsTexture() const { return m_weightsTexture.name(); }
     /// Returns the filter that blurs the noise; null if there is no noise.
     const GaussianBlurFilter *blur() const { return m_blur.get(); }
-    /// Returns the blurred noise; null before the first setSigma() and after forgetNoise().
+    /// Returns the blurred noise; null before the first setSigma() and after discardNoise().
     const RenderTarget *blurredNoise() const { return m_blurredNoise.get(); }
 
 private:

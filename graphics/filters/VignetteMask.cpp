@@ -3,7 +3,7 @@
 
 #include "graphics/filters/FinalVignetteFilter.h"
 #include "graphics/gl/Framebuffers.h"
-#include "graphics/gl/GlFaults.h"
+#include "graphics/gl/GlErrors.h"
 
 #include <QDebug>
 
@@ -60,13 +60,13 @@ Texture VignetteMask::drawn(const TileArea &area) const
 {
     const auto width = static_cast<std::int32_t>(area.width);
     const auto height = static_cast<std::int32_t>(area.height);
-    GlFaultWatch watch;
+    GlErrorScope scope;
     const FramebufferObject target = createColourFramebuffer(width, height, GL_RED, GL_R32F, GL_FLOAT);
     Texture texture(target.texture);
     m_filter->applyPart(static_cast<int>(area.x), static_cast<int>(area.y), width, height, target);
     glDeleteFramebuffers(1, &target.framebuffer);
-    const bool good = watch.isClean();
-    watch.forgive();
+    const bool good = scope.isClean();
+    scope.clear();
     return good ? std::move(texture) : Texture();
 }
 

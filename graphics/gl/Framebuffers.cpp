@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/gl/Framebuffers.h"
 
-#include "graphics/gl/GlFaults.h"
+#include "graphics/gl/GlErrors.h"
 #include "graphics/gl/Textures.h"
 
 #include <QtGlobal>
@@ -57,7 +57,7 @@ void finishFramebuffer()
 {
     if (const char *text = framebufferStatusText(glCheckFramebufferStatus(GL_FRAMEBUFFER))) {
         qWarning("%s", text);
-        noteIncompleteFramebuffer();
+        recordIncompleteFramebuffer();
     }
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
 }
@@ -158,7 +158,7 @@ bool RenderTarget::isComplete() const
     const bool complete = glCheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
     if (!complete) {
-        noteIncompleteFramebuffer();
+        recordIncompleteFramebuffer();
     }
     return complete;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/gl/Textures.h"
 
-#include "graphics/gl/GlFaults.h"
+#include "graphics/gl/GlErrors.h"
 
 #include <QtGlobal>
 
@@ -12,7 +12,7 @@ GLuint createTexture(std::int32_t width, std::int32_t height, GLenum internalFor
                      const void *data)
 {
     // A pending error of an earlier call would otherwise be attributed to the upload.
-    noteGlError(glGetError());
+    recordGlError(glGetError());
 
     glEnable(GL_TEXTURE_2D);
     glActiveTexture(GL_TEXTURE0);
@@ -32,7 +32,7 @@ GLuint createTexture(std::int32_t width, std::int32_t height, GLenum internalFor
     glDisable(GL_TEXTURE_2D);
 
     const GLenum error = glGetError();
-    noteGlError(error);
+    recordGlError(error);
     if (const char *text = textureErrorText(error)) {
         qWarning("%s", text);
     }

@@ -3,7 +3,7 @@
 
 #include "graphics/document/Document.h"
 #include "graphics/filters/FilterSet.h"
-#include "graphics/gl/GlFaults.h"
+#include "graphics/gl/GlErrors.h"
 #include "graphics/render/TiledDocumentRenderer.h"
 
 #include <QDebug>
@@ -39,7 +39,7 @@ private:
     int m_height;
 };
 
-std::size_t componentCount(const FinalPicture &picture)
+std::size_t componentCount(const FinalImage &picture)
 {
     return static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height) *
            (picture.hasAlpha ? 4 : 3);
@@ -54,7 +54,7 @@ void logPlan(const TileSide &horizontal, const TileSide &vertical)
 }
 
 template <typename Sample>
-void logValueRange(const FinalPicture &picture)
+void logValueRange(const FinalImage &picture)
 {
     const auto *samples = static_cast<const Sample *>(picture.pixels);
     unsigned smallest = 65535;
@@ -68,8 +68,8 @@ void logValueRange(const FinalPicture &picture)
     qDebug() << "Final vmax: " << largest;
 }
 
-bool renderTiles(const FinalPicture &picture, FilterSet &filters, DocumentView &view, const TileSide &horizontal,
-                 const TileSide &vertical, const GlFaultWatch &watch, const TileProgress &progress)
+bool renderTiles(const FinalImage &picture, FilterSet &filters, DocumentView &view, const TileSide &horizontal,
+                 const TileSide &vertical, const GlErrorScope &scope, const TileProgress &progress)
 {
     const TileFormats formats =
         tileFormatsFor(picture.sixteenBit, GLEW_VERSION_3_0 == GL_TRUE, GLEW_ARB_half_float_pixel == GL_TRUE);
@@ -88,7 +88,7 @@ bool renderTiles(const FinalPicture &picture, FilterSet &filters, DocumentView &
     renderer.render(document);
     glActiveTexture(GL_TEXTURE0);
     glDisable(GL_TEXTURE_2D);
-    if (renderer.output() == nullptr || !watch.isClean()) {
+    if (renderer.output() == nullptr || !scope.isClean()) {
         qWarning("OpenGL could not render the picture");
         return false;
     }
@@ -99,10 +99,10 @@ bool renderTiles(const FinalPicture &picture, FilterSet &filters, DocumentView &
 
 } // namespace
 
-bool renderFinalPicture(const FinalPicture &picture, const Look &look, FilterSet &filters, DocumentView &view,
-                        const TileProgress &progress)
+bool renderFinalImage(const FinalImage &picture, const Look &look, FilterSet &filters, DocumentView &view,
+                      const TileProgress &progress)
 {
-    const GlFaultWatch watch;
+    const GlErrorScope scope;
     // The grain filter leaves another unit active, but GL_TEXTURE_2D must be enabled on unit 0.
     glActiveTexture(GL_TEXTURE0);
     glEnable(GL_TEXTURE_2D);
@@ -119,9 +119,9 @@ bool renderFinalPicture(const FinalPicture &picture, const Look &look, FilterSet
     qDebug() << "HalfTone Weight: " << filters.get<HalfToneFilter>().weight;
     filters.setLook(look);
 
-    const bool rendered = renderTiles(picture, filters, view, horizontal, vertical, watch, progress);
+    const bool rendered = renderTiles(picture, filters, view, horizontal, vertical, scope, progress);
     if (!rendered) {
-        filters.get<GrainFilter>().forgetNoise();
+        filters.get<GrainFilter>().discardNoise();
     }
     if (picture.sixteenBit) {
         logValueRange<std::uint16_t>(picture);

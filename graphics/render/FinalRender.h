@@ -11,7 +11,7 @@ class DocumentView;
 class FilterSet;
 
 /// An image to be rendered at full size, in place.
-struct FinalPicture {
+struct FinalImage {
     void *pixels;    ///< interleaved, rows from top to bottom without padding; the caller owns them
     int width;       ///< in pixels
     int height;      ///< in pixels
@@ -25,7 +25,7 @@ struct FinalPicture {
 /// The context must be current. Only the projection of `view` is used. Afterwards the filters have the parameters of
 /// the look and their previous sizes, and the grain's noise has the radius of the look. Returns false if there is no
 /// result; the pixels are then unchanged.
-bool renderFinalPicture(const FinalPicture &picture, const Look &look, FilterSet &filters, DocumentView &view,
-                        const TileProgress &progress = {});
+bool renderFinalImage(const FinalImage &picture, const Look &look, FilterSet &filters, DocumentView &view,
+                      const TileProgress &progress = {});
 
 } // namespace grisal::graphics

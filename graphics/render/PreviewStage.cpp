@@ -68,13 +68,13 @@ void PreviewStage::blurGrain()
     m_filters->get<GrainFilter>().setSigma(m_look.get<GrainFilter>().radius * m_grainScale);
 }
 
-bool PreviewStage::renderFinal(const FinalPicture &picture, const TileProgress &progress)
+bool PreviewStage::renderFinal(const FinalImage &picture, const TileProgress &progress)
 {
     const bool usable = picture.pixels != nullptr && picture.width > 0 && picture.height > 0;
     if (!usable || !m_preview) {
         return false;
     }
-    const bool rendered = renderFinalPicture(picture, m_look, *m_filters, m_preview->view(), progress);
+    const bool rendered = renderFinalImage(picture, m_look, *m_filters, m_preview->view(), progress);
     blurGrain();
     return rendered;
 }

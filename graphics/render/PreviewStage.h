@@ -54,7 +54,7 @@ public:
 
     /// Renders an image at full size, in place, with the current filters. Returns false if there is no result or no
     /// image has been loaded.
-    bool renderFinal(const FinalPicture &picture, const TileProgress &progress = {});
+    bool renderFinal(const FinalImage &picture, const TileProgress &progress = {});
 
 private:
     void prepareFilters(int width, int height);

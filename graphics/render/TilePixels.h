@@ -17,8 +17,8 @@ constexpr std::size_t tileComponents = 3;
 /// each, and rows without padding. `tile` is resized to area.width * area.height * 3 values; those outside the image
 /// are 0.
 template <typename T>
-void cutTile(const T *picture, std::size_t width, std::size_t height, std::size_t components, const TileArea &area,
-             std::vector<T> &tile)
+void copyTile(const T *picture, std::size_t width, std::size_t height, std::size_t components, const TileArea &area,
+              std::vector<T> &tile)
 {
     tile.assign(area.width * area.height * tileComponents, T{});
     const std::size_t columns = area.x < width ? std::min(area.width, width - area.x) : 0;
@@ -32,10 +32,10 @@ void cutTile(const T *picture, std::size_t width, std::size_t height, std::size_
     }
 }
 
-/// The inverse of cutTile(): copies a tile into an area of the image. Pixels outside the image are dropped; a fourth
+/// The inverse of copyTile(): copies a tile into an area of the image. Pixels outside the image are dropped; a fourth
 /// component of the image stays unchanged.
 template <typename T>
-void placeTile(const std::vector<T> &tile, const TileArea &area, T *picture, std::size_t width, std::size_t height,
+void pasteTile(const std::vector<T> &tile, const TileArea &area, T *picture, std::size_t width, std::size_t height,
                std::size_t components)
 {
     const std::size_t columns = area.x < width ? std::min(area.width, width - area.x) : 0;

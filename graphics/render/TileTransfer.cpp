@@ -49,7 +49,7 @@ Texture TileTransfer<T>::makeTexture(const TileArea &area, GLenum type, const vo
 }
 
 template <typename T>
-Texture TileTransfer<T>::sendAsTheyAre(const T *pixels, std::size_t rowLength, const TileArea &area) const
+Texture TileTransfer<T>::uploadDirectly(const T *pixels, std::size_t rowLength, const TileArea &area) const
 {
     const RowLength length(GL_UNPACK_ROW_LENGTH, rowLength);
     return makeTexture(area, m_formats.pixelType, pixels);
@@ -58,14 +58,14 @@ Texture TileTransfer<T>::sendAsTheyAre(const T *pixels, std::size_t rowLength, c
 template <>
 Texture TileTransfer<std::uint8_t>::send(const std::uint8_t *pixels, std::size_t rowLength, const TileArea &area)
 {
-    return sendAsTheyAre(pixels, rowLength, area);
+    return uploadDirectly(pixels, rowLength, area);
 }
 
 template <>
 Texture TileTransfer<std::uint16_t>::send(const std::uint16_t *pixels, std::size_t rowLength, const TileArea &area)
 {
     if (!m_formats.halfFloatTransfers) {
-        return sendAsTheyAre(pixels, rowLength, area);
+        return uploadDirectly(pixels, rowLength, area);
     }
     const std::size_t row = area.width * tileComponents;
     m_halfFloats.resize(row * area.height);
@@ -80,15 +80,15 @@ Texture TileTransfer<T>::upload(const T *image, const TileArea &area)
 {
     const bool direct = m_components == tileComponents && isWithin(area);
     if (!direct) {
-        cutTile(image, m_width, m_height, m_components, area, m_tile);
+        copyTile(image, m_width, m_height, m_components, area, m_tile);
     }
     const T *pixels = direct ? image + (area.y * m_width + area.x) * tileComponents : m_tile.data();
     return send(pixels, direct ? m_width : area.width, area);
 }
 
 template <typename T>
-void TileTransfer<T>::readAsTheyAre(const FramebufferObject &target, const TileArea &seen, T *pixels,
-                                    std::size_t rowLength) const
+void TileTransfer<T>::readDirectly(const FramebufferObject &target, const TileArea &seen, T *pixels,
+                                   std::size_t rowLength) const
 {
     const RowLength length(GL_PACK_ROW_LENGTH, rowLength);
     readPixels(target, static_cast<std::int32_t>(seen.width), static_cast<std::int32_t>(seen.height),
@@ -99,7 +99,7 @@ template <>
 void TileTransfer<std::uint8_t>::read(const FramebufferObject &target, const TileArea &seen, std::uint8_t *pixels,
                                       std::size_t rowLength)
 {
-    readAsTheyAre(target, seen, pixels, rowLength);
+    readDirectly(target, seen, pixels, rowLength);
 }
 
 template <>
@@ -107,7 +107,7 @@ void TileTransfer<std::uint16_t>::read(const FramebufferObject &target, const Ti
                                        std::size_t rowLength)
 {
     if (!m_formats.halfFloatTransfers) {
-        readAsTheyAre(target, seen, pixels, rowLength);
+        readDirectly(target, seen, pixels, rowLength);
         return;
     }
     const std::size_t row = seen.width * tileComponents;
@@ -133,7 +133,7 @@ void TileTransfer<T>::download(const FramebufferObject &target, const TileArea &
     }
     m_tile.resize(seen.width * seen.height * tileComponents);
     read(target, seen, m_tile.data(), seen.width);
-    placeTile(m_tile, seen, image, m_width, m_height, m_components);
+    pasteTile(m_tile, seen, image, m_width, m_height, m_components);
 }
 
 template class TileTransfer<std::uint8_t>;

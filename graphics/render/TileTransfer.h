@@ -52,9 +52,9 @@ private:
     bool isWithin(const TileArea &area) const;
     Texture makeTexture(const TileArea &area, GLenum type, const void *pixels) const;
     Texture send(const T *pixels, std::size_t rowLength, const TileArea &area);
-    Texture sendAsTheyAre(const T *pixels, std::size_t rowLength, const TileArea &area) const;
+    Texture uploadDirectly(const T *pixels, std::size_t rowLength, const TileArea &area) const;
     void read(const FramebufferObject &target, const TileArea &seen, T *pixels, std::size_t rowLength);
-    void readAsTheyAre(const FramebufferObject &target, const TileArea &seen, T *pixels, std::size_t rowLength) const;
+    void readDirectly(const FramebufferObject &target, const TileArea &seen, T *pixels, std::size_t rowLength) const;
 
     std::size_t m_width;
     std::size_t m_height;

@@ -3,7 +3,7 @@
 #include "tests/app/WindowTest.h"
 
 #include "app/About.h"
-#include "ui/accessible/Spoken.h"
+#include "ui/accessible/AccessibleControl.h"
 
 #include <QAbstractSpinBox>
 #include <QAccessible>
@@ -29,7 +29,7 @@ const QList<const char *> panelActions{"actionMixer",    "actionCurves", "action
 
 bool isOurs(const QAccessibleInterface &element)
 {
-    return dynamic_cast<const Spoken *>(element.object()) != nullptr;
+    return dynamic_cast<const AccessibleControl *>(element.object()) != nullptr;
 }
 
 /// Whether it can be used, or is made by this program: such a thing needs a name.
@@ -139,11 +139,12 @@ protected:
         QList<QWidget *> stops{&preview()};
         for (QWidget *control : panels().currentWidget()->findChildren<QWidget *>()) {
             const auto *radio = qobject_cast<QRadioButton *>(control);
-            const bool isControl =
-                qobject_cast<QAbstractButton *>(control) != nullptr ||
-                qobject_cast<QAbstractSlider *>(control) != nullptr ||
-                qobject_cast<QAbstractSpinBox *>(control) != nullptr || qobject_cast<QComboBox *>(control) != nullptr ||
-                (dynamic_cast<Spoken *>(control) != nullptr && control->objectName() != QStringLiteral("framePreview"));
+            const bool isControl = qobject_cast<QAbstractButton *>(control) != nullptr ||
+                                   qobject_cast<QAbstractSlider *>(control) != nullptr ||
+                                   qobject_cast<QAbstractSpinBox *>(control) != nullptr ||
+                                   qobject_cast<QComboBox *>(control) != nullptr ||
+                                   (dynamic_cast<AccessibleControl *>(control) != nullptr &&
+                                    control->objectName() != QStringLiteral("framePreview"));
             if (isControl && control->isVisible() && control->isEnabled() && (radio == nullptr || radio->isChecked())) {
                 stops << control;
             }

@@ -63,7 +63,7 @@ protected:
     }
 
     /// The largest distance of the saved samples from the weighted sum of the source's.
-    static double distanceFromLuma(const Words &saved, const Words &source)
+    static double distanceFromLuma(const Samples16 &saved, const Samples16 &source)
     {
         if (saved.size() != source.size() || saved.empty()) {
             return std::numeric_limits<double>::infinity();
@@ -183,7 +183,7 @@ TEST_F(MainWindowManyPictures, APictureIsSavedAgainAndAgainOverItself)
         return Samples{value, value, value};
     };
     const QString path = makePicture(QStringLiteral("a.tif"), 64, 48, 8, grey);
-    const Words source = samplesOf(path);
+    const Samples16 source = samplesOf(path);
     openWithDialog(path);
     for (int i = 0; i < 3; ++i) {
         const MessageBoxAnswer box(QMessageBox::Ok);

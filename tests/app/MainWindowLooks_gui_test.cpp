@@ -138,7 +138,7 @@ protected:
         const BytePixels noise =
             reference::blurredNoise(reference::noiseMap(), wanted.parameters.get<GrainFilter>().radius);
         const Pixels<T> expected = reference::fileOf(opened, wanted, noise);
-        const Words words = samplesOf(path);
+        const Samples16 words = samplesOf(path);
         ASSERT_EQ(words.size(), expected.values.size());
         Pixels<T> saved = expected;
         std::transform(words.begin(), words.end(), saved.values.begin(),
@@ -213,7 +213,7 @@ TEST_F(MainWindowLooks, AFilmIsChosenWithTheKeyboard)
     EXPECT_EQ(presets.currentText(), QStringLiteral("Rochester Tri-X"));
     expectEverywhere();
 
-    const Words saved = samplesOf(inHome(QStringLiteral("saved.png")));
+    const Samples16 saved = samplesOf(inHome(QStringLiteral("saved.png")));
     double worst = 0;
     for (std::size_t i = 0; i < saved.size(); ++i) {
         const std::uint8_t *pixel = &small.values[i - i % 3];
@@ -352,8 +352,8 @@ TEST_F(MainWindowLooks, AllFiltersTogetherInALargePictureOfEightBits)
 TEST_F(MainWindowLooks, AllFiltersTogetherInSixteenTilesOfSixteenBits)
 {
     start();
-    const WordPixels part(600, 400, 3, grisal::sample::paintScene(600, 400));
-    const WordPixels large = repeated(part, 2055, 2049);
+    const Samples16Image part(600, 400, 3, grisal::sample::paintScene(600, 400));
+    const Samples16Image large = repeated(part, 2055, 2049);
     window.openImage(pictureFile(QStringLiteral("large.tif"), large));
     chooseEverything();
     const QString path = inHome(QStringLiteral("saved.tif"));

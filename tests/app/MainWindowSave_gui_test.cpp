@@ -60,7 +60,7 @@ protected:
     }
 
     /// The largest distance of a saved file's samples from the weighted sum of the source's.
-    static double distanceFromGrey(const Words &saved, const Words &source, const Weights &weights)
+    static double distanceFromGrey(const Samples16 &saved, const Samples16 &source, const Weights &weights)
     {
         if (saved.size() != source.size() || saved.empty()) {
             return std::numeric_limits<double>::infinity();
@@ -191,7 +191,7 @@ TEST_F(MainWindowSave, SaveAsksBeforeItReplaces)
 {
     start();
     const QString path = makePicture(QStringLiteral("a.b.png"), width, height);
-    const Words source = samplesOf(path);
+    const Samples16 source = samplesOf(path);
     openWithDialog(path);
     chooseTriX();
     MessageBoxAnswer box(QMessageBox::Ok);
@@ -231,7 +231,7 @@ TEST_F(MainWindowSave, SaveWritesThePictureShownToThePathOfTheLastDialog)
     start();
     const QString shown = makePicture(QStringLiteral("a.png"), width, height);
     const QString chosen = makePicture(QStringLiteral("b.png"), height, width, 8, fine);
-    const Words source = samplesOf(shown);
+    const Samples16 source = samplesOf(shown);
     const QByteArray before = contentsOf(shown);
     openWithDialog(shown);
     openWithDialog(chosen);
@@ -302,7 +302,7 @@ TEST_F(MainWindowSave, SavingAgainAndAgainWithNeutralSettingsChangesNothing)
         return Samples{value, value, value};
     };
     const QString first = makePicture(QStringLiteral("a.png"), width, height, 8, grey);
-    const Words source = samplesOf(first);
+    const Samples16 source = samplesOf(first);
     window.openImage(first);
     for (int i = 0; i < 3; ++i) {
         const QString next = inHome(QStringLiteral("%1.png").arg(i));

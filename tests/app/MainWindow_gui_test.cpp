@@ -78,7 +78,7 @@ TEST_F(MainWindowTest, ActionsHaveTheirTextsTipsAndShortcuts)
     }
 }
 
-// Each icon is the picture of its name, there is another for dense screens, and no two actions look alike.
+// Each icon is the picture of its name, there is another for high-DPI screens, and no two actions look alike.
 TEST_F(MainWindowTest, ActionsHaveTheirIcons)
 {
     constexpr int side = 32;
@@ -93,8 +93,8 @@ TEST_F(MainWindowTest, ActionsHaveTheirIcons)
         EXPECT_EQ(QImage(path).size(), QSize(side, side)) << row.name;
         const QImage plain = icon.pixmap(QSize(side, side), 1).toImage();
         EXPECT_EQ(plain, QImage(path).convertToFormat(plain.format())) << row.name;
-        QString dense = path;
-        EXPECT_EQ(QImage(dense.replace(QStringLiteral(".png"), QStringLiteral("@2x.png"))).size(),
+        QString highDpi = path;
+        EXPECT_EQ(QImage(highDpi.replace(QStringLiteral(".png"), QStringLiteral("@2x.png"))).size(),
                   QSize(2 * side, 2 * side))
             << row.name;
         for (const QImage &other : seen) {

@@ -99,7 +99,7 @@ TEST_F(SessionTest, WritesTheVerySamplesOfAnImage)
     image8.samples = {0, 1, 127, 128, 254, 255};
     ASSERT_TRUE(session.write(image8, path("a.png")));
     EXPECT_EQ(bitsPerChannel(path("a.png")), 8);
-    EXPECT_EQ(samplesOf(path("a.png")), (Words{0, 257, 127 * 257, 128 * 257, 254 * 257, 65535}));
+    EXPECT_EQ(samplesOf(path("a.png")), (Samples16{0, 257, 127 * 257, 128 * 257, 254 * 257, 65535}));
 
     Image16 image16(2, 1);
     image16.samples = {0, 1, 255, 256, 65534, 65535};

@@ -122,7 +122,7 @@ TEST_F(TranslationTest, TextsInTheSourcesAreTranslatedLikeThoseInTheForms)
     const Translation translation{QLocale(QLocale::German)};
     const grisal::ui::MainWindow window;
     EXPECT_EQ(window.findChild<QToolBar *>()->accessibleName(), QStringLiteral("Filter"));
-    EXPECT_EQ(child<grisal::ui::GLWidget>(window, "glWidgetPreview").spokenValue(), QStringLiteral("Kein Bild"));
+    EXPECT_EQ(child<grisal::ui::GLWidget>(window, "glWidgetPreview").accessibleValue(), QStringLiteral("Kein Bild"));
     EXPECT_EQ(grisal::graphics::Message("The graphics driver does not start OpenGL.").translated(),
               QStringLiteral("Der Grafiktreiber startet OpenGL nicht."));
     const About about;

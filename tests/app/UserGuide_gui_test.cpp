@@ -148,12 +148,12 @@ TEST_F(UserGuideTest, EveryPictureIsThereInBothDensitiesAndInWords)
                   "window.png mixer.png curves.png vignette.png grain.png split.png");
         for (const QString &name : pictures) {
             const QImage picture(folder + QLatin1Char('/') + name);
-            const QImage dense(folder + QLatin1Char('/') +
-                               QString(name).replace(QLatin1String("."), QLatin1String("@2x.")));
+            const QImage highDpi(folder + QLatin1Char('/') +
+                                 QString(name).replace(QLatin1String("."), QLatin1String("@2x.")));
             ASSERT_FALSE(picture.isNull()) << name.toStdString();
-            ASSERT_FALSE(dense.isNull()) << name.toStdString();
-            EXPECT_EQ(dense.width(), 2 * picture.width()) << name.toStdString();
-            EXPECT_EQ(dense.height(), 2 * picture.height()) << name.toStdString();
+            ASSERT_FALSE(highDpi.isNull()) << name.toStdString();
+            EXPECT_EQ(highDpi.width(), 2 * picture.width()) << name.toStdString();
+            EXPECT_EQ(highDpi.height(), 2 * picture.height()) << name.toStdString();
         }
         const QRegularExpression inWords(QStringLiteral("<img src=\"\\w+\\.png\" alt=\"[^\"]{8,}\">"));
         EXPECT_EQ(sourceOf(guide).count(inWords), pictures.size()) << guide.toStdString();

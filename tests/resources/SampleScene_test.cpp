@@ -11,7 +11,7 @@ using namespace grisal::sample;
 namespace
 {
 
-using Words = std::vector<std::uint16_t>;
+using Samples16 = std::vector<std::uint16_t>;
 
 constexpr int width = 120;
 constexpr int height = 80;
@@ -22,7 +22,7 @@ std::size_t at(int x, int y)
 }
 
 /// Whether some pixel above the ramp is lighter by `lead` in a channel than in both others.
-bool hasSaturated(const Words &words, std::size_t channel, int lead)
+bool hasSaturated(const Samples16 &words, std::size_t channel, int lead)
 {
     for (std::size_t i = 0; i < at(0, rampTop(height)); i += 3) {
         const int value = words[i + channel];
@@ -46,7 +46,7 @@ TEST(SampleSceneTest, FillsAnySize)
 
 TEST(SampleSceneTest, HasAContinuousRampFromBlackToWhite)
 {
-    const Words words = paintScene(width, height);
+    const Samples16 words = paintScene(width, height);
     const int y = rampTop(height);
     for (int x = 0; x < width; ++x) {
         const double grey = 65535.0 * x / (width - 1);
@@ -58,8 +58,8 @@ TEST(SampleSceneTest, HasAContinuousRampFromBlackToWhite)
 
 TEST(SampleSceneTest, HasARampOfElevenSteps)
 {
-    const Words words = paintScene(width, height);
-    Words levels;
+    const Samples16 words = paintScene(width, height);
+    Samples16 levels;
     for (int x = 0; x < width; ++x) {
         levels.push_back(words[at(x, height - 1)]);
     }
@@ -72,7 +72,7 @@ TEST(SampleSceneTest, HasARampOfElevenSteps)
 
 TEST(SampleSceneTest, HasSaturatedColours)
 {
-    const Words words = paintScene(width, height);
+    const Samples16 words = paintScene(width, height);
     constexpr int half = 32768;
     EXPECT_TRUE(hasSaturated(words, 0, half));
     EXPECT_TRUE(hasSaturated(words, 1, half / 2));

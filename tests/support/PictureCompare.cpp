@@ -103,12 +103,12 @@ testing::AssertionResult picturesNear(const std::string &name, const Pixels<T> &
 
 template Difference difference(const FloatPixels &, const FloatPixels &);
 template Difference difference(const BytePixels &, const BytePixels &);
-template Difference difference(const WordPixels &, const WordPixels &);
+template Difference difference(const Samples16Image &, const Samples16Image &);
 template testing::AssertionResult picturesNear(const std::string &, const FloatPixels &, const FloatPixels &,
                                                const Limits &);
 template testing::AssertionResult picturesNear(const std::string &, const BytePixels &, const BytePixels &,
                                                const Limits &);
-template testing::AssertionResult picturesNear(const std::string &, const WordPixels &, const WordPixels &,
+template testing::AssertionResult picturesNear(const std::string &, const Samples16Image &, const Samples16Image &,
                                                const Limits &);
 
 } // namespace grisal::test

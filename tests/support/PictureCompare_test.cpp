@@ -91,8 +91,8 @@ TEST_F(PictureCompareTest, TellsWhereTheWorstDifferenceIs)
 
 TEST_F(PictureCompareTest, WordsDifferOverTheirWholeRange)
 {
-    const WordPixels actual(1, 1, 1, {0});
-    const WordPixels expected(1, 1, 1, {65535});
+    const Samples16Image actual(1, 1, 1, {0});
+    const Samples16Image expected(1, 1, 1, {65535});
 
     EXPECT_DOUBLE_EQ(difference(actual, expected).worst, 65535);
 }

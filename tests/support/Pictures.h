@@ -38,7 +38,7 @@ private:
 
 using FloatPixels = Pixels<float>;
 using BytePixels = Pixels<std::uint8_t>;
-using WordPixels = Pixels<std::uint16_t>;
+using Samples16Image = Pixels<std::uint16_t>;
 
 /// An image whose components differ from their neighbours in both directions and use the whole range of T, so that
 /// exchanged rows, columns, channels and tiles are detected.

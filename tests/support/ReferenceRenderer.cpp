@@ -162,10 +162,10 @@ BytePixels fileOf(const BytePixels &picture, const Look &look, const BytePixels 
     return asBytes(eachPixel(picture, FilePasses<storedByte>(picture.width, picture.height, look, noise)));
 }
 
-WordPixels fileOf(const WordPixels &picture, const Look &look, const BytePixels &noise)
+Samples16Image fileOf(const Samples16Image &picture, const Look &look, const BytePixels &noise)
 {
     const FilePasses<cutToHalfFloat> passes(picture.width, picture.height, look, noise);
-    WordPixels result(picture.width, picture.height);
+    Samples16Image result(picture.width, picture.height);
     for (int y = 0; y < picture.height; ++y) {
         for (int x = 0; x < picture.width; ++x) {
             const Rgb colour = passes(
@@ -196,6 +196,6 @@ void leaveOutNoiseBoundaries(Pixels<T> &actual, const Pixels<T> &expected, bool 
 }
 
 template void leaveOutNoiseBoundaries(BytePixels &, const BytePixels &, bool);
-template void leaveOutNoiseBoundaries(WordPixels &, const WordPixels &, bool);
+template void leaveOutNoiseBoundaries(Samples16Image &, const Samples16Image &, bool);
 
 } // namespace grisal::test::reference

@@ -31,7 +31,7 @@ BytePixels previewOf(const BytePixels &picture, const Look &look, const BytePixe
 /// and the vignette as a mask over the padded image. Bytes are rounded after each pass; 16-bit samples are processed as
 /// half floats, rounded at the upload and truncated when a pass stores them.
 BytePixels fileOf(const BytePixels &picture, const Look &look, const BytePixels &noise);
-WordPixels fileOf(const WordPixels &picture, const Look &look, const BytePixels &noise);
+Samples16Image fileOf(const Samples16Image &picture, const Look &look, const BytePixels &noise);
 
 /// Sets the components that lie exactly between two texels of the noise map to the expected values: the last bit of the
 /// OpenGL driver's arithmetic decides which texel is read. `tiled` for final renders, where every tile contains such

@@ -118,10 +118,10 @@ void CurveFrame::emitMoved()
 void CurveFrame::showChange()
 {
     update();
-    sayValue();
+    notifyValueChanged();
 }
 
-QString CurveFrame::spokenValue() const
+QString CurveFrame::accessibleValue() const
 {
     if (m_selected < 0) {
         return tr("Points: %1, none taken").arg(m_points.count());

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/accessible/AccessibleControl.h"
 #include "ui/accessible/FocusMark.h"
-#include "ui/accessible/Spoken.h"
 #include "ui/frames/CurvePoints.h"
 
 #include <QFrame>
@@ -13,7 +13,7 @@
 ///
 /// Page Up and Page Down select the previous and the next point, the arrow keys move the selected point, and Insert
 /// adds a point between it and its right neighbour. Each key acts like a mouse press followed by a release.
-class CurveFrame : public QFrame, public Spoken
+class CurveFrame : public QFrame, public AccessibleControl
 {
     Q_OBJECT
 
@@ -48,8 +48,8 @@ public:
     /// Index of the selected point, -1 if no point is selected.
     int selected() const { return m_selected; }
 
-    QAccessible::Role spokenRole() const override { return QAccessible::Canvas; }
-    QString spokenValue() const override;
+    QAccessible::Role accessibleRole() const override { return QAccessible::Canvas; }
+    QString accessibleValue() const override;
 
     /// Square if the layout has enough space.
     int heightForWidth(int width) const override { return width; }

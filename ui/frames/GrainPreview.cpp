@@ -52,7 +52,7 @@ void GrainPreview::slotSetRadius(float radius)
     }
     slotAdjustWeights(m_fulcrums);
     update();
-    sayValue();
+    notifyValueChanged();
 }
 
 void GrainPreview::slotAdjustWeights(const QVector<float> &weights)
@@ -68,10 +68,10 @@ void GrainPreview::slotAdjustWeights(const QVector<float> &weights)
     }
     applyWeights();
     update();
-    sayValue();
+    notifyValueChanged();
 }
 
-QString GrainPreview::spokenValue() const
+QString GrainPreview::accessibleValue() const
 {
     QString blur = tr("Blurred by %1 pixels").arg(m_radius, 0, 'f', 1);
     if (m_fulcrums.isEmpty()) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/accessible/Spoken.h"
+#include "ui/accessible/AccessibleControl.h"
 
 #include <QFrame>
 #include <QImage>
@@ -10,7 +10,7 @@
 /// The strip below the grain curve: a ramp from black to white with film grain over it, whose strength at each grey is
 /// given by the curve. The grain comes from prerendered tiles, one for every half pixel of blur radius. The tiles are
 /// 400 x 60 pixels, so the strip must be narrower than 400 pixels.
-class GrainPreview : public QFrame, public Spoken
+class GrainPreview : public QFrame, public AccessibleControl
 {
     Q_OBJECT
     Q_PROPERTY(float radius READ radius WRITE slotSetRadius)
@@ -22,8 +22,8 @@ public:
     float radius() const { return m_radius; }
     const QVector<float> &fulcrums() const { return m_fulcrums; }
 
-    QAccessible::Role spokenRole() const override { return QAccessible::Graphic; }
-    QString spokenValue() const override;
+    QAccessible::Role accessibleRole() const override { return QAccessible::Graphic; }
+    QString accessibleValue() const override;
 
     /// The grain: the colours of the tile, with the strength of the grain as opacity.
     const QImage &map() const { return m_map; }

@@ -124,10 +124,10 @@ void VFrame::keyPressEvent(QKeyEvent *event)
 void VFrame::setPercents(const VignettePercents &percents)
 {
     m_percents = percents;
-    sayValue();
+    notifyValueChanged();
 }
 
-QString VFrame::spokenValue() const
+QString VFrame::accessibleValue() const
 {
     return tr("Centre %1 % from the left and %2 % from the top, radius %3 %, strength %4 %")
         .arg(m_percents.x)

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "graphics/filters/VignetteParameters.h"
+#include "ui/accessible/AccessibleControl.h"
 #include "ui/accessible/FocusMark.h"
-#include "ui/accessible/Spoken.h"
 
 #include <QFrame>
 
@@ -21,7 +21,7 @@ struct VignettePercents {
 ///
 /// Its values are fractions: the centre of the width and height of the contents, from the top left corner; radius and
 /// strength 0..1 of their maximum.
-class VFrame : public QFrame, public Spoken
+class VFrame : public QFrame, public AccessibleControl
 {
     Q_OBJECT
 
@@ -33,8 +33,8 @@ public:
     float radius() const { return m_radius; }
     float strength() const { return m_strength; }
 
-    QAccessible::Role spokenRole() const override { return QAccessible::Canvas; }
-    QString spokenValue() const override;
+    QAccessible::Role accessibleRole() const override { return QAccessible::Canvas; }
+    QString accessibleValue() const override;
 
     /// 3:2 if the layout has enough space.
     int heightForWidth(int width) const override { return width * 2 / 3; }

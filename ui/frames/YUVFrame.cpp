@@ -45,7 +45,7 @@ void YUVFrame::slotSetRGB(grisal::graphics::ColorRGB<float> weights)
     m_marker = markerAt(m_plane, m_chroma);
     m_wheelImageIsOld = true;
     update();
-    sayValue();
+    notifyValueChanged();
 }
 
 void YUVFrame::slotSetLuma(float luma)
@@ -53,7 +53,7 @@ void YUVFrame::slotSetLuma(float luma)
     m_luma = grisal::math::clampedWeight(luma);
     m_wheelImageIsOld = true;
     update();
-    sayValue();
+    notifyValueChanged();
 }
 
 void YUVFrame::mousePressEvent(QMouseEvent *event)
@@ -90,7 +90,7 @@ void YUVFrame::choose(QPointF marker)
 {
     m_marker = marker;
     emitWeights();
-    sayValue();
+    notifyValueChanged();
 }
 
 void YUVFrame::wheelEvent(QWheelEvent *event)
@@ -104,7 +104,7 @@ void YUVFrame::turnWheel(int delta)
     m_wheelImageIsOld = true;
     update();
     emitWeights();
-    sayValue();
+    notifyValueChanged();
 }
 
 void YUVFrame::keyPressEvent(QKeyEvent *event)
@@ -143,7 +143,7 @@ QString YUVFrame::hueName() const
     }
 }
 
-QString YUVFrame::spokenValue() const
+QString YUVFrame::accessibleValue() const
 {
     const auto weights = grisal::math::weightsAt(m_luma, m_chroma.u, m_chroma.v);
     return tr("%1, level %2: red %3, green %4, blue %5")

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "graphics/filters/ColorRGB.h"
+#include "ui/accessible/AccessibleControl.h"
 #include "ui/accessible/FocusMark.h"
-#include "ui/accessible/Spoken.h"
 #include "ui/frames/ChromaPlane.h"
 
 #include <QFrame>
@@ -13,7 +13,7 @@
 /// and Page Down do the same.
 ///
 /// Colours are weights on the scale 0..255. Values from -512 to 512 are possible.
-class YUVFrame : public QFrame, public Spoken
+class YUVFrame : public QFrame, public AccessibleControl
 {
     Q_OBJECT
 
@@ -36,8 +36,8 @@ public:
 
     const QImage &wheelImage() const;
 
-    QAccessible::Role spokenRole() const override { return QAccessible::ColorChooser; }
-    QString spokenValue() const override;
+    QAccessible::Role accessibleRole() const override { return QAccessible::ColorChooser; }
+    QString accessibleValue() const override;
 
     /// Square if the layout has enough space.
     int heightForWidth(int width) const override { return width; }

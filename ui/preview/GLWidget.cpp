@@ -180,7 +180,7 @@ bool GLWidget::renderFinal(void *pixels, int width, int height, bool sixteenBit,
     };
     fitViewToWidget();
     const QScopedValueRollback<bool> rendering(m_renderingFinal, true);
-    const graphics::FinalPicture picture{
+    const graphics::FinalImage picture{
         .pixels = pixels, .width = width, .height = height, .sixteenBit = sixteenBit, .hasAlpha = hasAlpha};
     const bool rendered = m_stage.renderFinal(picture, tellAndComeBack);
     update();

@@ -6,8 +6,8 @@
 
 #include "graphics/Message.h"
 #include "graphics/render/PreviewStage.h"
+#include "ui/accessible/AccessibleControl.h"
 #include "ui/accessible/FocusMark.h"
-#include "ui/accessible/Spoken.h"
 #include "ui/preview/ZoomFit.h"
 
 #include <QOpenGLWidget>
@@ -32,7 +32,7 @@ namespace grisal::ui
 /// Owns the GL context, the filters and all render targets. All lengths are device pixels: at a scale of 1, a preview
 /// pixel is a screen pixel. Without a GL context (before the widget is shown, or if the machine has no OpenGL) nothing
 /// is drawn, a loaded image is kept until there is a context, and renderFinal() fails.
-class GLWidget : public QOpenGLWidget, public Spoken
+class GLWidget : public QOpenGLWidget, public AccessibleControl
 {
     Q_OBJECT
 
@@ -83,8 +83,8 @@ public:
     graphics::Message graphicsProblem() const;
 
     const graphics::Look &look() const { return m_stage.look(); }
-    QAccessible::Role spokenRole() const override { return QAccessible::Canvas; }
-    QString spokenValue() const override;
+    QAccessible::Role accessibleRole() const override { return QAccessible::Canvas; }
+    QString accessibleValue() const override;
 
     int previewWidth() const { return m_previewWidth; }
     int previewHeight() const { return m_previewHeight; }

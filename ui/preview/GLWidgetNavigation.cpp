@@ -78,7 +78,7 @@ void GLWidget::zoom(float step)
     if (graphics::Preview *preview = m_stage.preview()) {
         preview->view().setScale(zoomedScale(scale(), step, ratios().smaller()));
         update();
-        sayValue();
+        notifyValueChanged();
     }
 }
 
@@ -113,7 +113,7 @@ void GLWidget::showCentred(float scale)
         preview->view().setScale(scale);
         preview->view().centre();
         update();
-        sayValue();
+        notifyValueChanged();
     }
 }
 
@@ -129,7 +129,7 @@ void GLWidget::setBypass(bool bypass)
     }
     m_bypass = bypass;
     renderImage();
-    sayValue();
+    notifyValueChanged();
 }
 
 QPointF GLWidget::pixelPosition(const QMouseEvent *event) const
@@ -242,7 +242,7 @@ void GLWidget::focusOutEvent(QFocusEvent *event)
     QOpenGLWidget::focusOutEvent(event);
 }
 
-QString GLWidget::spokenValue() const
+QString GLWidget::accessibleValue() const
 {
     if (m_stage.preview() == nullptr) {
         return tr("No picture");

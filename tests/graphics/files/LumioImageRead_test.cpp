@@ -295,12 +295,12 @@ TEST_F(LumioImageReadTest, ReadsTheExactSamplesOf16Bits)
 {
     for (const char *name : {"deep.png", "deep.tif"}) {
         ASSERT_TRUE(image.read(written(painted(3, 1, 16, noise), name)));
-        Words expected;
+        Samples16 expected;
         for (int x = 0; x < 3; ++x) {
             const Samples samples = noise(x, 0);
             expected.insert(expected.end(), samples.begin(), samples.end());
         }
-        EXPECT_EQ(wordsOf(image), expected) << name;
+        EXPECT_EQ(samples16Of(image), expected) << name;
     }
 }
 

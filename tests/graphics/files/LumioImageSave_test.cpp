@@ -28,9 +28,9 @@ Bytes countedBytes(std::size_t count)
     return bytes;
 }
 
-Words spread(const Bytes &bytes)
+Samples16 spread(const Bytes &bytes)
 {
-    Words words;
+    Samples16 words;
     for (const std::uint8_t byte : bytes) {
         words.push_back(static_cast<std::uint16_t>(byte * 257));
     }
@@ -200,10 +200,10 @@ TEST_F(LumioImageSaveTest, KeepsThePixels)
     ASSERT_TRUE(byteImage.save(path("a.png"), quality));
     EXPECT_EQ(bytesOf(byteImage), countedBytes(12));
 
-    const Words words{1, 2, 3, 400, 50000, 65535};
-    LumioImage wordImage = pictureOf(words, 2, 1);
-    ASSERT_TRUE(wordImage.save(path("b.png"), quality));
-    EXPECT_EQ(wordsOf(wordImage), words);
+    const Samples16 words{1, 2, 3, 400, 50000, 65535};
+    LumioImage image16 = pictureOf(words, 2, 1);
+    ASSERT_TRUE(image16.save(path("b.png"), quality));
+    EXPECT_EQ(samples16Of(image16), words);
 }
 
 // Only samples of 8-bit images are spread.
@@ -211,8 +211,8 @@ TEST_F(LumioImageSaveTest, Writes8BitSamplesOfA16BitImageAsHighBytes)
 {
     LumioImage image(2, 1, true);
     ASSERT_TRUE(image.setPixels(Bytes{0, 1, 127, 128, 254, 255}.data(), false, false));
-    const Words highBytes{0, 1 << 8, 127 << 8, 128 << 8, 254 << 8, 255 << 8};
-    EXPECT_EQ(wordsOf(image), highBytes);
+    const Samples16 highBytes{0, 1 << 8, 127 << 8, 128 << 8, 254 << 8, 255 << 8};
+    EXPECT_EQ(samples16Of(image), highBytes);
     for (const char *name : {"a.png", "a.tif"}) {
         ASSERT_TRUE(image.save(path(name), quality));
         EXPECT_EQ(bitsPerChannel(path(name)), 16) << name;
@@ -279,9 +279,9 @@ class TemptingContents : public testing::TestWithParam<std::tuple<Tempting, cons
 protected:
     static constexpr int side = 16;
 
-    Words words() const
+    Samples16 words() const
     {
-        Words all;
+        Samples16 all;
         for (int i = 0; i < side * side; ++i) {
             const Samples samples = std::get<0>(GetParam()).painter(i % side, i / side);
             all.insert(all.end(), samples.begin(), samples.end());
@@ -334,7 +334,7 @@ TEST_P(TemptingContents, StayTheSameThroughAnOutputImage)
         ASSERT_TRUE(source.read(fileName(QString::number(i))));
         ASSERT_EQ(source.is16Bit(), depth() == 16);
         LumioImage output =
-            source.is16Bit() ? pictureOf(wordsOf(source), side, side) : pictureOf(bytesOf(source), side, side);
+            source.is16Bit() ? pictureOf(samples16Of(source), side, side) : pictureOf(bytesOf(source), side, side);
         ASSERT_TRUE(output.save(fileName(QString::number(i + 1)), quality));
     }
     EXPECT_EQ(bitsPerChannel(fileName("3")), depth());

@@ -83,7 +83,7 @@ TEST(LumioImageTest, IsBlackUntilPixelsAreSet)
         LumioImage image(5, 3, sixteenBit);
         LumioImage copy = image;
         EXPECT_EQ(bytesOf(image), Bytes(45, 0));
-        EXPECT_EQ(wordsOf(copy), Words(45, 0));
+        EXPECT_EQ(samples16Of(copy), Samples16(45, 0));
         const Bytes bytes(45, 9);
         ASSERT_TRUE(copy.setPixels(bytes.data(), false, false));
         EXPECT_EQ(bytesOf(copy), bytes);
@@ -116,11 +116,11 @@ TEST(LumioImageTest, KeepsAByteInTheHighByteOfASample)
 {
     const Bytes bytes{0, 1, 255};
     LumioImage image = pictureOf(bytes, 1, 1);
-    EXPECT_EQ(wordsOf(image), (Words{0, 256, 65280}));
+    EXPECT_EQ(samples16Of(image), (Samples16{0, 256, 65280}));
     EXPECT_EQ(bytesOf(image), bytes);
-    const Words words{1, 257, 65535};
+    const Samples16 words{1, 257, 65535};
     ASSERT_TRUE(image.setPixels(words.data(), false, true));
-    EXPECT_EQ(wordsOf(image), words);
+    EXPECT_EQ(samples16Of(image), words);
 }
 
 TEST(LumioImageTest, ReturnsEveryByteUnchanged)
@@ -133,15 +133,15 @@ TEST(LumioImageTest, ReturnsEveryByteUnchanged)
 
 TEST(LumioImageTest, ReturnsEvery16BitSampleUnchanged)
 {
-    Words words(std::size_t{65536} * 3);
+    Samples16 words(std::size_t{65536} * 3);
     std::iota(words.begin(), words.end(), std::uint16_t{0});
     LumioImage image = pictureOf(words, 256, 256);
-    EXPECT_EQ(wordsOf(image), words);
+    EXPECT_EQ(samples16Of(image), words);
 }
 
 TEST(LumioImageTest, ReturnsTheHighBytesOf16BitSamples)
 {
-    LumioImage image = pictureOf(Words{0x00ff, 0x1234, 0xffff}, 1, 1);
+    LumioImage image = pictureOf(Samples16{0x00ff, 0x1234, 0xffff}, 1, 1);
     EXPECT_EQ(bytesOf(image), (Bytes{0x00, 0x12, 0xff}));
 }
 
@@ -154,26 +154,26 @@ TEST(LumioImageTest, CopiesTheOpacityByteUnscaled)
     ASSERT_TRUE(image.getPixels(bytes.data(), true, false));
     EXPECT_EQ(bytes, (Bytes{1, 2, 3, 4, 5, 6, 7, 8}));
 
-    Words words(8);
+    Samples16 words(8);
     ASSERT_TRUE(image.getPixels(words.data(), true, true));
-    EXPECT_EQ(words, (Words{256, 512, 768, 4, 1280, 1536, 1792, 8}));
+    EXPECT_EQ(words, (Samples16{256, 512, 768, 4, 1280, 1536, 1792, 8}));
 }
 
 TEST(LumioImageTest, CopiesThe16BitOpacityUnscaled)
 {
     LumioImage image(1, 1, true);
-    ASSERT_TRUE(image.setPixels(Words{1, 2, 3, 0x1234}.data(), true, true));
+    ASSERT_TRUE(image.setPixels(Samples16{1, 2, 3, 0x1234}.data(), true, true));
 
-    Words words(4);
+    Samples16 words(4);
     ASSERT_TRUE(image.getPixels(words.data(), true, true));
-    EXPECT_EQ(words, (Words{1, 2, 3, 0x1234}));
+    EXPECT_EQ(words, (Samples16{1, 2, 3, 0x1234}));
 }
 
 // Unlike the high byte of the colours.
 TEST(LumioImageTest, ReturnsTheLowByteOfTheOpacity)
 {
     LumioImage image(1, 1, true);
-    ASSERT_TRUE(image.setPixels(Words{0x1122, 0x3344, 0x5566, 0x7788}.data(), true, true));
+    ASSERT_TRUE(image.setPixels(Samples16{0x1122, 0x3344, 0x5566, 0x7788}.data(), true, true));
 
     Bytes bytes(4);
     ASSERT_TRUE(image.getPixels(bytes.data(), true, false));
@@ -182,13 +182,13 @@ TEST(LumioImageTest, ReturnsTheLowByteOfTheOpacity)
 
 TEST(LumioImageTest, SetsTheLargestOpacityOfTheBufferWithoutAlpha)
 {
-    Words words(4);
+    Samples16 words(4);
     LumioImage byteImage = pictureOf(Bytes{1, 2, 3}, 1, 1);
     ASSERT_TRUE(byteImage.getPixels(words.data(), true, true));
     EXPECT_EQ(words[3], 255);
 
-    LumioImage wordImage = pictureOf(Words{1, 2, 3}, 1, 1);
-    ASSERT_TRUE(wordImage.getPixels(words.data(), true, true));
+    LumioImage image16 = pictureOf(Samples16{1, 2, 3}, 1, 1);
+    ASSERT_TRUE(image16.getPixels(words.data(), true, true));
     EXPECT_EQ(words[3], 65535);
 }
 
@@ -199,7 +199,7 @@ TEST(LumioImageTest, WritesNothingBehindTheLastPixel)
     ASSERT_TRUE(image.getPixels(bytes.data(), false, false));
     EXPECT_EQ(bytes, (Bytes{10, 20, 30, 40, 50, 60, 99, 99}));
 
-    Words words(8, 999);
+    Samples16 words(8, 999);
     ASSERT_TRUE(image.getPixels(words.data(), false, true));
     EXPECT_EQ(words[6], 999);
     EXPECT_EQ(words[7], 999);
@@ -221,10 +221,10 @@ class UnalignedWidths : public testing::TestWithParam<int>
 TEST_P(UnalignedWidths, RowsFollowEachOtherWithoutPadding)
 {
     const int width = GetParam();
-    Words words(static_cast<std::size_t>(width) * 3 * 3);
+    Samples16 words(static_cast<std::size_t>(width) * 3 * 3);
     std::iota(words.begin(), words.end(), std::uint16_t{300});
-    LumioImage wordImage = pictureOf(words, width, 3);
-    EXPECT_EQ(wordsOf(wordImage), words);
+    LumioImage image16 = pictureOf(words, width, 3);
+    EXPECT_EQ(samples16Of(image16), words);
 
     const Bytes bytes(words.begin(), words.end());
     LumioImage byteImage = pictureOf(bytes, width, 3);

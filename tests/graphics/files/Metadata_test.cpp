@@ -43,7 +43,7 @@ struct MetadataTest : testing::Test {
     {
         LumioImage image;
         EXPECT_TRUE(image.read(source)) << image.problem().toStdString();
-        LumioImage output = image.is16Bit() ? pictureOf(wordsOf(image), image.width(), image.height())
+        LumioImage output = image.is16Bit() ? pictureOf(samples16Of(image), image.width(), image.height())
                                             : pictureOf(bytesOf(image), image.width(), image.height());
         output.setMetadata(image.metadata());
         testing::internal::CaptureStderr();
@@ -144,7 +144,7 @@ TEST_P(FromFormatToFormat, DoesNotChangePixels)
     carried();
     LumioImage image;
     ASSERT_TRUE(image.read(path(source())));
-    LumioImage plain = depth() == 16 ? pictureOf(wordsOf(image), 16, 24) : pictureOf(bytesOf(image), 16, 24);
+    LumioImage plain = depth() == 16 ? pictureOf(samples16Of(image), 16, 24) : pictureOf(bytesOf(image), 16, 24);
     const QString without = path(QStringLiteral("without.") + target().right(3));
     ASSERT_TRUE(plain.save(without, quality));
     EXPECT_EQ(samplesOf(target()), samplesOf(without));

@@ -64,12 +64,12 @@ Magick::Image painted(int width, int height, int depth, const Painter &painter)
     return image;
 }
 
-Words samplesOf(const QString &path)
+Samples16 samplesOf(const QString &path)
 {
     Magick::Image image;
     image.read(QFile::encodeName(path).toStdString());
     const Magick::PixelPacket *pixel = image.getConstPixels(0, 0, image.columns(), image.rows());
-    Words samples;
+    Samples16 samples;
     for (std::size_t i = 0; i < std::size_t{image.columns()} * image.rows(); ++i, ++pixel) {
         samples.insert(samples.end(), {pixel->red, pixel->green, pixel->blue});
     }
@@ -116,7 +116,7 @@ graphics::LumioImage pictureOf(const Bytes &bytes, int width, int height)
     return image;
 }
 
-graphics::LumioImage pictureOf(const Words &words, int width, int height)
+graphics::LumioImage pictureOf(const Samples16 &words, int width, int height)
 {
     graphics::LumioImage image(width, height, true);
     image.setPixels(words.data(), false, true);
@@ -130,9 +130,9 @@ Bytes bytesOf(graphics::LumioImage &image)
     return bytes;
 }
 
-Words wordsOf(graphics::LumioImage &image)
+Samples16 samples16Of(graphics::LumioImage &image)
 {
-    Words words(componentsOf(image));
+    Samples16 words(componentsOf(image));
     image.getPixels(words.data(), false, true);
     return words;
 }

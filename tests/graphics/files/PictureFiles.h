@@ -14,7 +14,7 @@
 namespace grisal::test
 {
 
-using Words = std::vector<std::uint16_t>;
+using Samples16 = std::vector<std::uint16_t>;
 using Bytes = std::vector<std::uint8_t>;
 
 /// The red, green and blue sample of a pixel, 16 bits each.
@@ -25,7 +25,7 @@ using Painter = std::function<Samples(int x, int y)>;
 Magick::Image painted(int width, int height, int depth, const Painter &painter);
 
 /// The samples of a file as GraphicsMagick reads them, R, G, B per pixel, without LumioImage.
-Words samplesOf(const QString &path);
+Samples16 samplesOf(const QString &path);
 
 /// The depth of a PNG or TIFF file, from its own header: bits per channel. 0 if it is neither, or truncated.
 int bitsPerChannel(const QString &path);
@@ -38,10 +38,10 @@ void writeFile(const QString &path, const QByteArray &contents);
 
 /// An image filled from `bytes` or `words`, R, G, B per pixel.
 graphics::LumioImage pictureOf(const Bytes &bytes, int width, int height);
-graphics::LumioImage pictureOf(const Words &words, int width, int height);
+graphics::LumioImage pictureOf(const Samples16 &words, int width, int height);
 
 /// All samples of an image, R, G, B.
 Bytes bytesOf(graphics::LumioImage &image);
-Words wordsOf(graphics::LumioImage &image);
+Samples16 samples16Of(graphics::LumioImage &image);
 
 } // namespace grisal::test

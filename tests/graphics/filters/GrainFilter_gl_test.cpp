@@ -301,7 +301,7 @@ TEST_F(GrainFilterTest, ForgottenNoiseIsBlurredAgainWithTheSameSigma)
     filter.setSigma(0);
     spoilNoise(filter);
 
-    filter.forgetNoise();
+    filter.discardNoise();
     EXPECT_EQ(filter.blur(), nullptr);
     EXPECT_EQ(filter.blurredNoise(), nullptr);
     filter.setSigma(0);
@@ -314,7 +314,7 @@ TEST_F(GrainFilterTest, APassBlursNoNoise)
     GrainFilter filter;
     filter.setSigma(1);
     filter.setWeights(everywhere);
-    filter.forgetNoise();
+    filter.discardNoise();
 
     runFilter(filter, FloatPixels(3, 2));
 

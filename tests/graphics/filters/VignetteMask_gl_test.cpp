@@ -255,8 +255,8 @@ TEST_F(VignetteMaskTest, IsMadeOnlyWhileTheVignetteIsOn)
         filters.get<graphics::VignetteFilter>().enabled = vignette;
         BytePixels picture = rampPicture<std::uint8_t>(2049, 3);
         const int before = masks;
-        EXPECT_TRUE(graphics::renderFinalPicture({picture.values.data(), picture.width, picture.height, false, false},
-                                                 {}, filters, view));
+        EXPECT_TRUE(graphics::renderFinalImage({picture.values.data(), picture.width, picture.height, false, false}, {},
+                                               filters, view));
         return masks - before;
     };
 

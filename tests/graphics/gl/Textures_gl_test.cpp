@@ -111,13 +111,13 @@ TEST_P(OddRowsTest, BytesComeBackAsTheyWentIn)
 
 TEST_P(OddRowsTest, WordsComeBackAsTheyWentIn)
 {
-    const WordPixels picture = rampPicture<std::uint16_t>(GetParam(), 3);
+    const Samples16Image picture = rampPicture<std::uint16_t>(GetParam(), 3);
     glPixelStorei(GL_UNPACK_ALIGNMENT, 8);
 
     const Texture texture(
         createTexture(picture.width, picture.height, GL_RGB16, GL_RGB, GL_UNSIGNED_SHORT, picture.values.data()));
 
-    WordPixels result(picture.width, picture.height);
+    Samples16Image result(picture.width, picture.height);
     glBindTexture(GL_TEXTURE_2D, texture.name());
     glPixelStorei(GL_PACK_ALIGNMENT, 1);
     glGetTexImage(GL_TEXTURE_2D, 0, GL_RGB, GL_UNSIGNED_SHORT, result.values.data());

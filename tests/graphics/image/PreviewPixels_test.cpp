@@ -12,7 +12,7 @@ namespace
 {
 
 using Bytes = std::vector<std::uint8_t>;
-using Words = std::vector<std::uint16_t>;
+using Samples16 = std::vector<std::uint16_t>;
 
 std::size_t componentsOf(int width, int height)
 {
@@ -85,9 +85,9 @@ TEST(PreviewPixelsTest, DropsTheFourthComponent)
 
 TEST(PreviewPixelsTest, KeepsWordsAsWords)
 {
-    const Words words{1000, 2000, 3000, 65535, 4000, 5000, 6000, 65535};
+    const Samples16 words{1000, 2000, 3000, 65535, 4000, 5000, 6000, 65535};
     const PreviewPixels preview = makePreviewPixels(words.data(), 2, 1, true, true);
-    EXPECT_EQ(preview.words, (Words{1000, 2000, 3000, 4000, 5000, 6000}));
+    EXPECT_EQ(preview.words, (Samples16{1000, 2000, 3000, 4000, 5000, 6000}));
     EXPECT_TRUE(preview.bytes.empty());
     EXPECT_EQ(preview.data(), preview.words.data());
 }
@@ -149,8 +149,8 @@ TEST(PreviewPixelsTest, HalvesToTheRoundedMeanOfFour)
 
 TEST(PreviewPixelsTest, HalvesWordsWithoutOverflow)
 {
-    const Words words(componentsOf(2, 2), 65535);
-    EXPECT_EQ(halved({2, 2, {}, words}).words, (Words{65535, 65535, 65535}));
+    const Samples16 words(componentsOf(2, 2), 65535);
+    EXPECT_EQ(halved({2, 2, {}, words}).words, (Samples16{65535, 65535, 65535}));
 }
 
 TEST(PreviewPixelsTest, TakesNeighboursOfTheSameChannel)

@@ -14,14 +14,14 @@ namespace
 {
 
 using Bytes = std::vector<std::uint8_t>;
-using Words = std::vector<std::uint16_t>;
+using Samples16 = std::vector<std::uint16_t>;
 
 QVector<float> ofBytes(const Bytes &bytes, bool withAlpha = false)
 {
     return toneHistogram(bytes.data(), bytes.size() / (withAlpha ? 4 : 3), false, withAlpha);
 }
 
-QVector<float> ofWords(const Words &words, bool withAlpha = false)
+QVector<float> ofWords(const Samples16 &words, bool withAlpha = false)
 {
     return toneHistogram(words.data(), words.size() / (withAlpha ? 4 : 3), true, withAlpha);
 }
@@ -102,7 +102,7 @@ TEST(ToneHistogramTest, TruncatesTheMeanOf16BitChannels)
 
 TEST(ToneHistogramTest, CountsAllSampledValuesOfAFullRamp)
 {
-    Words words;
+    Samples16 words;
     for (int level = 0; level < 65536; ++level) {
         words.insert(words.end(), 3, static_cast<std::uint16_t>(level));
     }

@@ -49,8 +49,8 @@ protected:
     Pixels<T> rendered(Pixels<T> image, const Look &with)
     {
         EXPECT_TRUE(
-            renderFinalPicture({image.values.data(), image.width, image.height, sizeof(T) == 2, image.components == 4},
-                               with, *filters, *view));
+            renderFinalImage({image.values.data(), image.width, image.height, sizeof(T) == 2, image.components == 4},
+                             with, *filters, *view));
         return image;
     }
 
@@ -88,15 +88,15 @@ TEST_F(FinalRenderTest, RendersInPlaceWithTheParameters)
 {
     BytePixels picture(2, 1, 3, {200, 0, 0, 0, 100, 0});
     parameters.get<MixerFilter>().weights = {0.5F, 1, 0};
-    EXPECT_TRUE(renderFinalPicture({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view));
+    EXPECT_TRUE(renderFinalImage({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view));
     EXPECT_EQ(picture.values, (std::vector<std::uint8_t>{100, 100, 100, 100, 100, 100}));
 }
 
 TEST_F(FinalRenderTest, KeepsTheFourthComponent)
 {
-    WordPixels picture(1, 2, 4, {65535, 0, 0, 7, 0, 65535, 0, 60000});
+    Samples16Image picture(1, 2, 4, {65535, 0, 0, 7, 0, 65535, 0, 60000});
     parameters.get<MixerFilter>().weights = {1, 0, 0};
-    EXPECT_TRUE(renderFinalPicture({picture.values.data(), 1, 2, true, true}, parameters, *filters, *view));
+    EXPECT_TRUE(renderFinalImage({picture.values.data(), 1, 2, true, true}, parameters, *filters, *view));
     EXPECT_EQ(picture.values, (std::vector<std::uint16_t>{65535, 65535, 65535, 7, 0, 0, 0, 60000}));
 }
 
@@ -104,7 +104,7 @@ TEST_F(FinalRenderTest, WithoutEnabledFilterThePixelsStay)
 {
     filters->get<MixerFilter>().enabled = false;
     BytePixels picture(2, 1, 3, {1, 2, 3, 4, 5, 6});
-    EXPECT_TRUE(renderFinalPicture({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view));
+    EXPECT_TRUE(renderFinalImage({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view));
     EXPECT_EQ(picture.values, (std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6}));
 }
 
@@ -113,7 +113,7 @@ TEST_F(FinalRenderTest, GivesTheFiltersTheirSizesBack)
     filters->setSize(12, 8);
     filters->setImageSize(12, 8);
     BytePixels picture = rampPicture<std::uint8_t>(2049, 5);
-    EXPECT_TRUE(renderFinalPicture({picture.values.data(), 2049, 5, false, false}, parameters, *filters, *view));
+    EXPECT_TRUE(renderFinalImage({picture.values.data(), 2049, 5, false, false}, parameters, *filters, *view));
     EXPECT_EQ(filters->get<MixerFilter>().width, 12);
     EXPECT_EQ(filters->get<GrainFilter>().height, 8);
     EXPECT_EQ(filters->get<VignetteFilter>().maxWidth, 12);
@@ -125,7 +125,7 @@ TEST_F(FinalRenderTest, LogsSizesPlanAndValueRange)
     const LogCapture log;
     BytePixels picture(2, 1, 3, {200, 200, 200, 40, 40, 40});
     parameters.get<MixerFilter>().weights = {1, 0, 0};
-    renderFinalPicture({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view);
+    renderFinalImage({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view);
     const QStringList lines = log.debugs();
     EXPECT_EQ(lines.mid(0, 7).join('\n').toStdString(), "X:  2\n"
                                                         "Y:  1\n"
@@ -145,7 +145,7 @@ TEST_F(FinalRenderTest, LogsTheFormerWeightOfTheSplitTone)
     const LogCapture log;
     BytePixels picture(1, 1, 3, {1, 2, 3});
 
-    renderFinalPicture({picture.values.data(), 1, 1, false, false}, parameters, *filters, *view);
+    renderFinalImage({picture.values.data(), 1, 1, false, false}, parameters, *filters, *view);
 
     EXPECT_EQ(log.debugs().filter("HalfTone"), QStringList{"HalfTone Weight:  0.75"});
     EXPECT_EQ(filters->get<HalfToneFilter>().weight, 1.25F);
@@ -158,7 +158,7 @@ TEST_F(FinalRenderTest, BlursTheNoiseWithTheRadiusOfThePanel)
     filters->get<GrainFilter>().setSigma(1);
     BytePixels picture(1, 1, 3, {1, 2, 3});
     parameters.get<GrainFilter>().radius = 2.5F;
-    renderFinalPicture({picture.values.data(), 1, 1, false, false}, parameters, *filters, *view);
+    renderFinalImage({picture.values.data(), 1, 1, false, false}, parameters, *filters, *view);
     EXPECT_EQ(filters->get<GrainFilter>().sigma(), 2.5F);
     EXPECT_EQ(noiseOf(filters->get<GrainFilter>()).values, noiseOf(expected).values);
 }
@@ -178,8 +178,8 @@ TEST_F(FinalRenderTest, NegativeMixerWeightsGiveBlack)
     parameters.get<MixerFilter>().weights = {-1, -0.5F, -0.01F};
     EXPECT_TRUE(
         picturesNear("negative bytes", rendered(rampPicture<std::uint8_t>(12, 8), parameters), BytePixels(12, 8)));
-    EXPECT_TRUE(
-        picturesNear("negative 16 bits", rendered(rampPicture<std::uint16_t>(12, 8), parameters), WordPixels(12, 8)));
+    EXPECT_TRUE(picturesNear("negative 16 bits", rendered(rampPicture<std::uint16_t>(12, 8), parameters),
+                             Samples16Image(12, 8)));
 }
 
 TEST_F(FinalRenderTest, VignetteWithoutRadiusIsBlack)
@@ -187,7 +187,8 @@ TEST_F(FinalRenderTest, VignetteWithoutRadiusIsBlack)
     filters->get<VignetteFilter>().enabled = true;
     parameters.get<VignetteFilter>().shape.radius = 0;
     EXPECT_TRUE(picturesNear("bytes", rendered(rampPicture<std::uint8_t>(12, 8), parameters), BytePixels(12, 8)));
-    EXPECT_TRUE(picturesNear("16 bits", rendered(rampPicture<std::uint16_t>(12, 8), parameters), WordPixels(12, 8)));
+    EXPECT_TRUE(
+        picturesNear("16 bits", rendered(rampPicture<std::uint16_t>(12, 8), parameters), Samples16Image(12, 8)));
 }
 
 // Half floats hold values beyond the scale, infinite ones included.
@@ -196,7 +197,7 @@ TEST_F(FinalRenderTest, CurveSamplesBeyondTheScaleAreClampedIn16Bits)
     filters->get<CurveFilter>().enabled = true;
     parameters.get<MixerFilter>().weights = {1, 0, 0};
     parameters.get<CurveFilter>().curve = {-1, 2, infinity, -infinity};
-    const WordPixels reds(4, 1, 3, {8000, 0, 0, 24000, 0, 0, 40000, 0, 0, 56000, 0, 0});
+    const Samples16Image reds(4, 1, 3, {8000, 0, 0, 24000, 0, 0, 40000, 0, 0, 56000, 0, 0});
     EXPECT_EQ(rendered(reds, parameters).values,
               (std::vector<std::uint16_t>{0, 0, 0, 65535, 65535, 65535, 65535, 65535, 65535, 0, 0, 0}));
 }

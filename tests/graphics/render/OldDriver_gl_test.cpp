@@ -79,23 +79,23 @@ protected:
     }
 
     /// What is rendered with these flags of the driver; no pixels where that fails.
-    WordPixels render(bool version30, bool halfFloatPixel, int components)
+    Samples16Image render(bool version30, bool halfFloatPixel, int components)
     {
         const bool hasVersion = std::exchange(__GLEW_VERSION_3_0, version30 ? GL_TRUE : GL_FALSE) == GL_TRUE;
         const bool hasExtension =
             std::exchange(__GLEW_ARB_half_float_pixel, halfFloatPixel ? GL_TRUE : GL_FALSE) == GL_TRUE;
         auto picture = rampPicture<std::uint16_t>(2055, 5, components);
-        const bool rendered = renderFinalPicture(
+        const bool rendered = renderFinalImage(
             {picture.values.data(), picture.width, picture.height, true, components == 4}, parameters, *filters, *view);
         __GLEW_VERSION_3_0 = hasVersion ? GL_TRUE : GL_FALSE;
         __GLEW_ARB_half_float_pixel = hasExtension ? GL_TRUE : GL_FALSE;
-        return rendered ? picture : WordPixels();
+        return rendered ? picture : Samples16Image();
     }
 
-    WordPixels renderOnTheOldDriver(bool version30, bool halfFloatPixel, int components)
+    Samples16Image renderOnTheOldDriver(bool version30, bool halfFloatPixel, int components)
     {
         refusesHalfFloats = true;
-        const WordPixels picture = render(version30, halfFloatPixel, components);
+        const Samples16Image picture = render(version30, halfFloatPixel, components);
         refusesHalfFloats = false;
         return picture;
     }
@@ -111,9 +111,9 @@ TEST_F(OldDriver, RendersSixteenBitPicturesAsAnyOther)
     // At the upload llvmpipe rounds to the nearest half float; another driver may be one half float away.
     const double limit = isLlvmpipe() ? 0 : halfFloatStep;
     for (const int components : {3, 4}) {
-        const WordPixels expected = render(true, true, components);
+        const Samples16Image expected = render(true, true, components);
 
-        const WordPixels actual = renderOnTheOldDriver(false, false, components);
+        const Samples16Image actual = renderOnTheOldDriver(false, false, components);
 
         EXPECT_TRUE(picturesNear("old driver", actual, expected, {limit, 0}));
     }

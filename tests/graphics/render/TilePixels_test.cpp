@@ -11,8 +11,8 @@ namespace grisal::test
 namespace
 {
 
-using graphics::cutTile;
-using graphics::placeTile;
+using graphics::copyTile;
+using graphics::pasteTile;
 using graphics::TileArea;
 
 using Bytes = std::vector<std::uint8_t>;
@@ -20,14 +20,14 @@ using Bytes = std::vector<std::uint8_t>;
 Bytes cut(const BytePixels &picture, const TileArea &area)
 {
     Bytes tile;
-    cutTile(picture.values.data(), static_cast<std::size_t>(picture.width), static_cast<std::size_t>(picture.height),
-            static_cast<std::size_t>(picture.components), area, tile);
+    copyTile(picture.values.data(), static_cast<std::size_t>(picture.width), static_cast<std::size_t>(picture.height),
+             static_cast<std::size_t>(picture.components), area, tile);
     return tile;
 }
 
 void place(const Bytes &tile, const TileArea &area, BytePixels &picture)
 {
-    placeTile(tile, area, picture.values.data(), static_cast<std::size_t>(picture.width),
+    pasteTile(tile, area, picture.values.data(), static_cast<std::size_t>(picture.width),
               static_cast<std::size_t>(picture.height), static_cast<std::size_t>(picture.components));
 }
 
@@ -64,7 +64,7 @@ TEST(CutTileTest, ForgetsWhatTheTileHeldBefore)
 {
     Bytes tile(100, 77);
 
-    cutTile(sixPixels.values.data(), 3, 2, 3, {2, 0, 2, 1}, tile);
+    copyTile(sixPixels.values.data(), 3, 2, 3, {2, 0, 2, 1}, tile);
 
     EXPECT_EQ(tile, (Bytes{7, 8, 9, 0, 0, 0}));
 }
@@ -74,7 +74,7 @@ TEST(CutTileTest, TakesWordsToo)
     const std::vector<std::uint16_t> picture{1000, 2000, 3000, 65535, 0, 256};
     std::vector<std::uint16_t> tile;
 
-    cutTile(picture.data(), 2, 1, 3, {1, 0, 1, 1}, tile);
+    copyTile(picture.data(), 2, 1, 3, {1, 0, 1, 1}, tile);
 
     EXPECT_EQ(tile, (std::vector<std::uint16_t>{65535, 0, 256}));
 }

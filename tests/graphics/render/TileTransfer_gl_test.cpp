@@ -222,9 +222,9 @@ TEST_F(TileTransferTest, ASmallTileAfterALargeOneHasNothingOfIt)
     transfer.upload(source.values.data(), {0, 0, 7, 5});
     const TileArea corner{6, 4, 2, 2};
 
-    const WordPixels content = contentOf<std::uint16_t>(transfer.upload(source.values.data(), corner), corner);
+    const Samples16Image content = contentOf<std::uint16_t>(transfer.upload(source.values.data(), corner), corner);
 
-    WordPixels expected(2, 2);
+    Samples16Image expected(2, 2);
     for (int c = 0; c < 3; ++c) {
         expected.at(0, 0, c) = source.at(6, 4, c);
     }
@@ -235,7 +235,7 @@ TEST_F(TileTransferTest, ASmallTileAfterALargeOneHasNothingOfIt)
 TEST_F(TileTransferTest, BothWaysOfSamplesGiveTheSame)
 {
     constexpr int side = 256;
-    WordPixels every(side, side);
+    Samples16Image every(side, side);
     for (std::size_t i = 0; i < every.values.size(); ++i) {
         every.values[i] = static_cast<std::uint16_t>(i / 3);
     }
@@ -246,12 +246,12 @@ TEST_F(TileTransferTest, BothWaysOfSamplesGiveTheSame)
         const Texture texture = transfer.upload(every.values.data(), whole);
         glBindFramebuffer(GL_FRAMEBUFFER, target.record().framebuffer);
         glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, texture.name(), 0);
-        WordPixels result(side, side);
+        Samples16Image result(side, side);
         transfer.download(target.record(), whole, result.values.data());
         return result;
     };
 
-    const WordPixels asHalfFloats = throughTheDriver(true);
+    const Samples16Image asHalfFloats = throughTheDriver(true);
 
     EXPECT_EQ(asHalfFloats.at(255, 255, 0), 65535);
     EXPECT_TRUE(picturesNear("both ways", throughTheDriver(false), asHalfFloats, limits<std::uint16_t>()));

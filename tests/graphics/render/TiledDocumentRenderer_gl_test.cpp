@@ -137,7 +137,7 @@ TEST_P(TiledSizes, SixteenBitPicturesComeOutAsTheirHalfFloats)
     MixerFilter mixer;
     mixer.weights = {1, 0, 0};
     mixer.enabled = true;
-    WordPixels expected = redAsGrey(source);
+    Samples16Image expected = redAsGrey(source);
     for (std::uint16_t &value : expected.values) {
         value = throughHalfFloat(value);
     }

@@ -93,13 +93,13 @@ const BytePixels &blurredNoiseMap()
 }
 
 /// The sample picture, laid side by side as often as it takes: painting it large takes longer than rendering.
-WordPixels samplePicture(int width, int height)
+Samples16Image samplePicture(int width, int height)
 {
     constexpr int paintedWidth = 600;
     constexpr int paintedHeight = 400;
-    static const WordPixels painted(paintedWidth, paintedHeight, 3,
-                                    grisal::sample::paintScene(paintedWidth, paintedHeight));
-    WordPixels picture(width, height);
+    static const Samples16Image painted(paintedWidth, paintedHeight, 3,
+                                        grisal::sample::paintScene(paintedWidth, paintedHeight));
+    Samples16Image picture(width, height);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             for (int c = 0; c < 3; ++c) {
@@ -136,7 +136,7 @@ protected:
     int width() const { return GetParam().width; }
     int height() const { return GetParam().height; }
 
-    WordPixels sample() const { return samplePicture(width(), height()); }
+    Samples16Image sample() const { return samplePicture(width(), height()); }
 
     BytePixels sampleBytes() const { return {width(), height(), 3, grisal::sample::asBytes(sample().values)}; }
 

@@ -33,8 +33,8 @@ protected:
     /// Notes where other numbers are spoken than shown; the test fails at its end then.
     void compareNumbers()
     {
-        if (frame.spokenValue() != numbers()) {
-            m_different << frame.spokenValue() + QStringLiteral(" instead of ") + numbers();
+        if (frame.accessibleValue() != numbers()) {
+            m_different << frame.accessibleValue() + QStringLiteral(" instead of ") + numbers();
         }
     }
 

@@ -99,7 +99,7 @@ TEST_F(GLWidgetTest, SixteenBitPicturesLogOtherFormats)
 {
     show();
     const LogCapture log;
-    const WordPixels words(8, 4, 4);
+    const Samples16Image words(8, 4, 4);
     widget.loadImage(words.values.data(), 8, 4, true, true);
     EXPECT_EQ(log.debugs().mid(5, 3).join('\n').toStdString(), "Format Type(GL_RGB8):  false\n"
                                                                "Image Format(GL_RGB):  false\n"

@@ -4,7 +4,7 @@
 #include "graphics/document/FlexibleDocumentView.h"
 #include "graphics/filters/FilterSet.h"
 #include "graphics/filters/NoiseMap.h"
-#include "graphics/gl/GlFaults.h"
+#include "graphics/gl/GlErrors.h"
 #include "graphics/render/FinalRender.h"
 #include "tests/support/FilterRun.h"
 #include "tests/support/GlTest.h"
@@ -51,7 +51,7 @@ namespace
 using namespace grisal::graphics;
 using namespace grisal::test;
 
-class GlFaults : public GlTest
+class GlErrors : public GlTest
 {
 protected:
     static constexpr int width = 2055; // four tiles
@@ -91,7 +91,7 @@ protected:
         errorFault = {failingError, 0};
         framebufferFault = {failingCheck, 0};
         const bool rendered =
-            renderFinalPicture({picture.values.data(), width, height, false, false}, parameters, *filters, *view);
+            renderFinalImage({picture.values.data(), width, height, false, false}, parameters, *filters, *view);
         errorFault.place = framebufferFault.place = 0;
         return rendered;
     }
@@ -132,7 +132,7 @@ protected:
     BytePixels right;
 };
 
-TEST_F(GlFaults, OutOfMemoryAnywhereMakesNoWrongPicture)
+TEST_F(GlErrors, OutOfMemoryAnywhereMakesNoWrongPicture)
 {
     ASSERT_TRUE(render(0, 0));
     right = picture;
@@ -145,7 +145,7 @@ TEST_F(GlFaults, OutOfMemoryAnywhereMakesNoWrongPicture)
     EXPECT_GT(failed, calls / 3);
 }
 
-TEST_F(GlFaults, IncompleteFramebuffersMakeNoWrongPicture)
+TEST_F(GlErrors, IncompleteFramebuffersMakeNoWrongPicture)
 {
     ASSERT_TRUE(render(0, 0));
     right = picture;
@@ -159,7 +159,7 @@ TEST_F(GlFaults, IncompleteFramebuffersMakeNoWrongPicture)
 }
 
 // Whatever failed may have drawn into the noise: the next render blurs it again, though its radius is the same.
-TEST_F(GlFaults, AFailedRenderBlursTheNoiseAgain)
+TEST_F(GlErrors, AFailedRenderBlursTheNoiseAgain)
 {
     ASSERT_TRUE(render(0, 0));
     right = picture;
@@ -173,18 +173,18 @@ TEST_F(GlFaults, AFailedRenderBlursTheNoiseAgain)
     EXPECT_EQ(picture.values, right.values);
 }
 
-TEST_F(GlFaults, NoiseThatCouldNotBeBlurredIsBlurredAgain)
+TEST_F(GlErrors, NoiseThatCouldNotBeBlurredIsBlurredAgain)
 {
     filters->get<GrainFilter>().setSigma(1.5F);
     const BytePixels expected = noise();
-    filters->get<GrainFilter>().forgetNoise();
+    filters->get<GrainFilter>().discardNoise();
     errorFault = {};
     filters->get<GrainFilter>().setSigma(1.5F);
     const int calls = errorFault.calls;
     ASSERT_GT(calls, 3);
     constexpr int ofTheTimeBefore = 1;
     for (int call = ofTheTimeBefore + 1; call <= calls; ++call) {
-        filters->get<GrainFilter>().forgetNoise();
+        filters->get<GrainFilter>().discardNoise();
         errorFault = {call, 0};
         filters->get<GrainFilter>().setSigma(1.5F);
         EXPECT_EQ(filters->get<GrainFilter>().blurredNoise(), nullptr) << "call " << call;
@@ -194,25 +194,25 @@ TEST_F(GlFaults, NoiseThatCouldNotBeBlurredIsBlurredAgain)
     }
 }
 
-TEST_F(GlFaults, AnErrorOfTheTimeBeforeIsNoFault)
+TEST_F(GlErrors, AnErrorOfTheTimeBeforeIsNoFault)
 {
     glEnable(GL_INVALID_VALUE);
-    const GlFaultWatch watch;
+    const GlErrorScope watch;
     EXPECT_TRUE(watch.isClean());
     glEnable(GL_INVALID_VALUE);
     EXPECT_FALSE(watch.isClean());
 }
 
-TEST_F(GlFaults, AForgivenFaultIsNone)
+TEST_F(GlErrors, AForgivenFaultIsNone)
 {
-    const GlFaultWatch outer;
-    GlFaultWatch inner;
-    noteIncompleteFramebuffer();
-    noteGlError(GL_OUT_OF_MEMORY);
+    const GlErrorScope outer;
+    GlErrorScope inner;
+    recordIncompleteFramebuffer();
+    recordGlError(GL_OUT_OF_MEMORY);
     EXPECT_FALSE(outer.isClean());
-    inner.forgive();
+    inner.clear();
     EXPECT_TRUE(outer.isClean());
-    noteGlError(GL_NO_ERROR);
+    recordGlError(GL_NO_ERROR);
     EXPECT_TRUE(outer.isClean());
 }
 

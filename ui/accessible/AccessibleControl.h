@@ -9,25 +9,25 @@
 ///
 /// To be used as second base class of a widget. The description starts with the value, too, because the screen readers
 /// of some desktops request values only from numeric controls and progress bars.
-class Spoken
+class AccessibleControl
 {
 public:
-    Spoken();
-    Spoken(const Spoken &) = delete;
-    Spoken &operator=(const Spoken &) = delete;
-    Spoken(Spoken &&) = delete;
-    Spoken &operator=(Spoken &&) = delete;
+    AccessibleControl();
+    AccessibleControl(const AccessibleControl &) = delete;
+    AccessibleControl &operator=(const AccessibleControl &) = delete;
+    AccessibleControl(AccessibleControl &&) = delete;
+    AccessibleControl &operator=(AccessibleControl &&) = delete;
 
-    virtual QAccessible::Role spokenRole() const = 0;
-    virtual QString spokenValue() const = 0;
+    virtual QAccessible::Role accessibleRole() const = 0;
+    virtual QString accessibleValue() const = 0;
 
 protected:
-    ~Spoken() = default;
+    ~AccessibleControl() = default;
 
     /// To be called when the value may have changed: notifies screen readers if it has changed and the widget is
     /// visible.
-    void sayValue();
+    void notifyValueChanged();
 
 private:
-    QString m_said;
+    QString m_reported;
 };

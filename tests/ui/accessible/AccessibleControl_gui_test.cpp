@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/accessible/Spoken.h"
+#include "ui/accessible/AccessibleControl.h"
 
 #include "tests/support/GuiTest.h"
 #include "tests/support/Hearing.h"
@@ -12,23 +12,23 @@ namespace
 
 using namespace grisal::test;
 
-class Lamp : public QWidget, public Spoken
+class Lamp : public QWidget, public AccessibleControl
 {
 public:
-    QAccessible::Role spokenRole() const override { return QAccessible::Indicator; }
-    QString spokenValue() const override { return m_on ? QStringLiteral("on") : QStringLiteral("off"); }
+    QAccessible::Role accessibleRole() const override { return QAccessible::Indicator; }
+    QString accessibleValue() const override { return m_on ? QStringLiteral("on") : QStringLiteral("off"); }
 
     void set(bool on)
     {
         m_on = on;
-        sayValue();
+        notifyValueChanged();
     }
 
 private:
     bool m_on = false;
 };
 
-class SpokenTest : public GuiTest
+class AccessibleControlTest : public GuiTest
 {
 protected:
     void SetUp() override { GRISAL_SKIP_WITHOUT_SCREEN_READER(); }
@@ -42,7 +42,7 @@ protected:
     Lamp lamp;
 };
 
-TEST_F(SpokenTest, IsAskedForRoleAndValue)
+TEST_F(AccessibleControlTest, IsAskedForRoleAndValue)
 {
     EXPECT_EQ(roleOf(lamp), QAccessible::Indicator);
     EXPECT_EQ(spoken(lamp, QAccessible::Value), QStringLiteral("off"));
@@ -50,20 +50,20 @@ TEST_F(SpokenTest, IsAskedForRoleAndValue)
     EXPECT_EQ(spoken(lamp, QAccessible::Value), QStringLiteral("on"));
 }
 
-TEST_F(SpokenTest, TheValueLeadsTheDescription)
+TEST_F(AccessibleControlTest, TheValueLeadsTheDescription)
 {
     EXPECT_EQ(spoken(lamp, QAccessible::Description), QStringLiteral("off"));
     lamp.setAccessibleDescription(QStringLiteral("Press it"));
     EXPECT_EQ(spoken(lamp, QAccessible::Description), QStringLiteral("off. Press it"));
 }
 
-TEST_F(SpokenTest, OtherWordsAreTheWidgets)
+TEST_F(AccessibleControlTest, OtherWordsAreTheWidgets)
 {
     lamp.setAccessibleName(QStringLiteral("Lamp"));
     EXPECT_EQ(spoken(lamp, QAccessible::Name), QStringLiteral("Lamp"));
 }
 
-TEST_F(SpokenTest, AnotherValueIsToldOnce)
+TEST_F(AccessibleControlTest, AnotherValueIsToldOnce)
 {
     show();
     Hearing hearing;
@@ -74,7 +74,7 @@ TEST_F(SpokenTest, AnotherValueIsToldOnce)
     EXPECT_EQ(hearing.valuesOf(lamp), QStringList(QStringLiteral("off")));
 }
 
-TEST_F(SpokenTest, WhatIsHiddenIsSilent)
+TEST_F(AccessibleControlTest, WhatIsHiddenIsSilent)
 {
     show();
     lamp.hide();
@@ -86,7 +86,7 @@ TEST_F(SpokenTest, WhatIsHiddenIsSilent)
     EXPECT_EQ(hearing.valuesOf(lamp), QStringList(QStringLiteral("off")));
 }
 
-TEST_F(SpokenTest, OrdinaryWidgetsStayAsTheyAre)
+TEST_F(AccessibleControlTest, OrdinaryWidgetsStayAsTheyAre)
 {
     QWidget plain;
     EXPECT_EQ(roleOf(plain), QAccessible::Client);

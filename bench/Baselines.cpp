@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "bench/Yardsticks.h"
+#include "bench/Baselines.h"
 
 #include "graphics/filters/Look.h"
 
