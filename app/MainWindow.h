@@ -5,6 +5,7 @@
 #include "ui/preview/GLWidget.h"
 
 #include "app/FileDealer.h"
+#include "app/FilterPanels.h"
 #include "app/Session.h"
 #include "graphics/image/Image.h"
 #include "graphics/Message.h"
@@ -15,16 +16,8 @@
 #include <optional>
 
 class BusyNotice;
-class Curves;
-class Grain;
-class Mixer;
 class QProgressBar;
-class QStackedLayout;
-class QToolBar;
-class Sharpen;
-class SplitTone;
 class UserGuide;
-class Vignette;
 
 namespace Ui
 {
@@ -33,6 +26,8 @@ class MainWindow;
 
 namespace grisal::ui
 {
+
+class FilterToolBar;
 
 /// The only window of the application: preview, filter panels, menus and tool bar, opening and saving.
 ///
@@ -46,9 +41,8 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    /// Shows width x height pixels of 3 components, bytes or 16-bit samples, in the preview and resets all panels. The
-    /// pixels are copied. Null pixels are reported in the log.
-    void loadBuffer(const void *pixels, int width, int height, bool sixteenBit);
+    /// Shows an image in the preview, which copies it, and resets all panels. An empty image is reported in the log.
+    void loadBuffer(const graphics::Image &image);
 
     /// Renders the image at full size and writes it to `path`. Failures are reported in the status bar and in the log;
     /// if rendering fails, nothing is written.
@@ -85,16 +79,12 @@ public slots:
     void on_actionActualPixels_triggered();
 
 private:
-    void setUpPanels();
+    /// The actions of the filters in the order of the tool bar, that of the mixer first.
+    QList<QAction *> filterActions() const;
     void setUpToolBar();
     void setUpStatusBar();
-    void connectPanels();
     void showGuide();
     void showPreferences();
-    /// Applies the number that is being typed into a panel. To be called before the values of the panels are used.
-    void takeTypedNumber();
-    void showPanel(QWidget *panel);
-    bool togglePanel(QWidget *panel, QAction *action);
     void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem);
     void showPreviewOf(const graphics::Image &image);
     void showWarning();
@@ -105,14 +95,8 @@ private:
     std::optional<graphics::Image> renderImage(BusyNotice &notice);
     void showRenderFailed(const QString &reason);
 
-    Mixer *m_mixer;
-    Vignette *m_vignette;
-    SplitTone *m_splitTone;
-    Grain *m_grain;
-    Sharpen *m_sharpen;
-    Curves *m_curves;
-    QStackedLayout *m_panels;
-    QToolBar *m_toolBar;
+    FilterPanels m_panels{*this};
+    FilterToolBar *m_toolBar;
     QProgressBar *m_progressBar;
     Session m_session;
     FileDealer m_fileDealer;

@@ -26,27 +26,23 @@ QString titleFor(const QString &path, const graphics::Image &image)
 {
     // Qt replaces "[*]" in a window title by the mark of unsaved changes; written twice, it is shown literally.
     const QString name = QFileInfo(path).fileName().replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
-    return std::visit(
-        [&](const auto &raster) {
-            return QStringLiteral("%1 - %2 %3x%4")
-                .arg(QString::fromLatin1(product::title), name, QString::number(raster.width),
-                     QString::number(raster.height));
-        },
-        image);
+    return QStringLiteral("%1 - %2 %3x%4")
+        .arg(QString::fromLatin1(product::title), name, QString::number(widthOf(image)),
+             QString::number(heightOf(image)));
 }
 
 } // namespace
 
 void MainWindow::on_actionOpen_triggered()
 {
-    takeTypedNumber();
+    m_panels.takeTypedNumber();
     openImage(m_fileDealer.openDialog());
     activateWindow();
 }
 
 void MainWindow::openImage(QString filename)
 {
-    takeTypedNumber();
+    m_panels.takeTypedNumber();
     if (filename.isEmpty()) {
         return;
     }
@@ -84,10 +80,11 @@ void MainWindow::openFile(const QString &filename)
 // The preview has 8 bits per channel for images of any depth.
 void MainWindow::showPreviewOf(const graphics::Image &image)
 {
-    const auto *bytes = std::get_if<graphics::Image8>(&image);
-    const graphics::Image8 cut = bytes ? graphics::Image8() : graphics::highBytes(std::get<graphics::Image16>(image));
-    const graphics::Image8 &shown = bytes ? *bytes : cut;
-    loadBuffer(shown.samples.data(), shown.width, shown.height, false);
+    if (const auto *image16 = std::get_if<graphics::Image16>(&image)) {
+        loadBuffer(highBytes(*image16));
+    } else {
+        loadBuffer(image);
+    }
 }
 
 void MainWindow::showWarning()
@@ -144,7 +141,7 @@ void MainWindow::slotFinalRendering()
 
 std::optional<graphics::Image> MainWindow::renderOutput(BusyNotice &notice)
 {
-    takeTypedNumber();
+    m_panels.takeTypedNumber();
     try {
         return renderImage(notice);
     } catch (const std::exception &problem) {
@@ -166,13 +163,7 @@ std::optional<graphics::Image> MainWindow::renderImage(BusyNotice &notice)
     };
     GLWidget *preview = m_form->glWidgetPreview;
     graphics::Image image = m_session.picture()->image;
-    const bool sixteenBit = is16Bit(image);
-    const bool rendered = std::visit(
-        [&](auto &raster) {
-            return preview->renderFinal(raster.samples.data(), raster.width, raster.height, sixteenBit, false,
-                                        showTile);
-        },
-        image);
+    const bool rendered = preview->renderFinal(image, showTile);
     if (!rendered) {
         showRenderFailed(preview->graphicsProblem().english());
         return std::nullopt;
@@ -188,7 +179,7 @@ void MainWindow::showRenderFailed(const QString &reason)
 
 void MainWindow::on_actionSave_triggered()
 {
-    takeTypedNumber();
+    m_panels.takeTypedNumber();
     const QFileInfo file(m_fileDealer.currentPath());
     if (file.exists()) {
         const QString question = tr("File %1 already exists.\n Do you want to replace it?").arg(file.baseName());
@@ -204,7 +195,7 @@ void MainWindow::on_actionSave_triggered()
 
 void MainWindow::on_actionSave_As_triggered()
 {
-    takeTypedNumber();
+    m_panels.takeTypedNumber();
     saveImage(m_fileDealer.saveDialog());
     activateWindow();
 }

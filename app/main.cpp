@@ -12,14 +12,13 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
-#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <string_view>
-#include <vector>
 
 namespace
 {
@@ -63,9 +62,10 @@ int main(int argc, char **argv)
     const Translation translation(QLocale::system());
     auto window = std::make_unique<grisal::ui::MainWindow>();
 
-    std::vector<std::uint8_t> placeholder(std::size_t{placeholderWidth} * placeholderHeight * 3, placeholderGrey);
+    grisal::graphics::Image8 placeholder(placeholderWidth, placeholderHeight);
+    std::fill(placeholder.samples.begin(), placeholder.samples.end(), placeholderGrey);
     window->show();
-    window->loadBuffer(placeholder.data(), placeholderWidth, placeholderHeight, false);
+    window->loadBuffer(placeholder);
     if (const auto problem = window->graphicsProblem(); !problem.isEmpty()) {
         // Without OpenGL, Qt crashes when it paints a window that contains an OpenGL widget.
         window->hide();

@@ -6,8 +6,8 @@
 #include <QAction>
 #include <QApplication>
 
+#include <algorithm>
 #include <cstdint>
-#include <vector>
 
 namespace grisal::bench
 {
@@ -18,10 +18,11 @@ class ScreenWindow
 public:
     ScreenWindow()
     {
-        const std::vector<std::uint8_t> grey(std::size_t{300} * 200 * 3, 128);
+        graphics::Image8 grey(300, 200);
+        std::fill(grey.samples.begin(), grey.samples.end(), std::uint8_t{128});
         m_window.resize(1200, 800);
         m_window.show();
-        m_window.loadBuffer(grey.data(), 300, 200, false);
+        m_window.loadBuffer(grey);
         paint();
         // Handles the events that follow the first frame.
         QApplication::processEvents();

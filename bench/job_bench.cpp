@@ -9,7 +9,6 @@
 #include "bench/ScreenWindow.h"
 #include "graphics/gl/OffscreenContext.h"
 #include "graphics/gl/SurfaceFormat.h"
-#include "graphics/image/PreviewPixels.h"
 #include "graphics/render/PreviewStage.h"
 
 #include <benchmark/benchmark.h>
@@ -68,22 +67,30 @@ void enableAll(FilterSet &filters)
     filters.get<HalfToneFilter>().enabled = filters.get<GrainFilter>().enabled = true;
 }
 
-std::vector<std::uint8_t> greyBytes(int columns, int rows)
+/// An image of one dark tone.
+template <typename Sample>
+Raster<Sample> plainImage(int columns, int rows)
 {
-    return std::vector<std::uint8_t>(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows) * 3, 100);
+    Raster<Sample> image(columns, rows);
+    std::fill(image.samples.begin(), image.samples.end(), Sample{100});
+    return image;
 }
 
 void finalRender(benchmark::State &state)
 {
-    const bool words = depthOf(state) == 16;
     PreviewStage stage;
-    const std::vector<std::uint8_t> grey = greyBytes(400, 300);
-    stage.load(makePreviewPixels(grey.data(), 400, 300, false, false), pixelFormatsFor(false, false), 400, 300);
+    const Image preview = plainImage<std::uint8_t>(400, 300);
+    stage.load(preview, pixelFormatsFor(preview), 400, 300);
     enableAll(*stage.filters());
     stage.setGrain({QVector<float>(256, 0.5F), 1.5F});
-    std::vector<std::uint16_t> pixels(std::size_t{width} * height * 3 / (words ? 1 : 2), 100);
+    Image image;
+    if (depthOf(state) == 16) {
+        image = plainImage<std::uint16_t>(width, height);
+    } else {
+        image = plainImage<std::uint8_t>(width, height);
+    }
     for ([[maybe_unused]] auto _ : state) {
-        stage.renderFinal({pixels.data(), width, height, words, false});
+        stage.renderFinal(image);
     }
 }
 
@@ -117,10 +124,9 @@ void previewPasses(benchmark::State &state)
 
 void previewFrame(benchmark::State &state)
 {
-    const std::vector<std::uint8_t> grey = greyBytes(previewWidth, previewHeight);
     PreviewStage stage;
-    stage.load(makePreviewPixels(grey.data(), previewWidth, previewHeight, false, false), pixelFormatsFor(false, false),
-               1000, 700);
+    const Image preview = plainImage<std::uint8_t>(previewWidth, previewHeight);
+    stage.load(preview, pixelFormatsFor(preview), 1000, 700);
     enableAll(*stage.filters());
     stage.setGrain({QVector<float>(256, 0.5F), 1.5F});
     for ([[maybe_unused]] auto _ : state) {
@@ -135,7 +141,7 @@ void firstFrame(benchmark::State &state)
 {
     const int columns = width / 2;
     const int rows = height / 2;
-    const std::vector<std::uint8_t> grey = greyBytes(columns, rows);
+    const Image8 grey = plainImage<std::uint8_t>(columns, rows);
     const RenderTarget source(columns, rows, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     const RenderTarget first(columns, rows, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     const RenderTarget second(columns, rows, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
@@ -144,7 +150,7 @@ void firstFrame(benchmark::State &state)
     for ([[maybe_unused]] auto _ : state) {
         glEnable(GL_TEXTURE_2D);
         glBindTexture(GL_TEXTURE_2D, source.record().texture);
-        glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, columns, rows, GL_RGB, GL_UNSIGNED_BYTE, grey.data());
+        glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, columns, rows, GL_RGB, GL_UNSIGNED_BYTE, grey.samples.data());
         filters.get<MixerFilter>().apply(source.record().texture, first.record());
         filters.get<MixerFilter>().apply(first.record().texture, second.record());
         glFinish();

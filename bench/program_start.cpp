@@ -8,10 +8,10 @@
 
 #include <QApplication>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <vector>
 
 int main(int argc, char **argv)
 {
@@ -24,8 +24,9 @@ int main(int argc, char **argv)
         std::fflush(stdout);
         std::quick_exit(0);
     });
-    const std::vector<std::uint8_t> grey(std::size_t{300} * 200 * 3, 128);
+    grisal::graphics::Image8 grey(300, 200);
+    std::fill(grey.samples.begin(), grey.samples.end(), std::uint8_t{128});
     window.show();
-    window.loadBuffer(grey.data(), 300, 200, false);
+    window.loadBuffer(grey);
     return QApplication::exec();
 }

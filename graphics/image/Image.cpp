@@ -8,7 +8,7 @@ namespace grisal::graphics
 
 Image8 highBytes(const Image16 &image)
 {
-    Image8 bytes(image.width, image.height);
+    Image8 bytes(image.width, image.height, image.components);
     std::transform(image.samples.begin(), image.samples.end(), bytes.samples.begin(),
                    [](std::uint16_t sample) { return static_cast<std::uint8_t>(sample >> 8); });
     return bytes;

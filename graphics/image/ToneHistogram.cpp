@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/image/ToneHistogram.h"
 
-#include <cstdint>
 #include <limits>
 #include <vector>
 
@@ -17,8 +16,8 @@ constexpr float fullShare = 30.0F; // a bin with a thirtieth of the pixels has t
 /// Counts the means of the three colour components, rounded down. Four counters per tone are used in turn: neighbouring
 /// pixels mostly have the same tone, and incrementing the counter that was just written would have to wait for that
 /// write.
-template <typename Component, std::size_t components>
-void addTones(const Component *pixels, std::size_t count, std::vector<std::size_t> &tones)
+template <std::size_t components, typename Sample>
+void addTones(const Sample *pixels, std::size_t count, std::vector<std::size_t> &tones)
 {
     constexpr std::size_t turns = 4;
     std::vector<std::uint32_t> counters(turns * tones.size());
@@ -31,15 +30,14 @@ void addTones(const Component *pixels, std::size_t count, std::vector<std::size_
     }
 }
 
-template <typename Component>
-std::vector<std::size_t> countTones(const void *pixels, std::size_t count, bool withAlpha)
+template <typename Sample>
+std::vector<std::size_t> countTones(const Raster<Sample> &image)
 {
-    std::vector<std::size_t> tones(std::size_t{std::numeric_limits<Component>::max()} + 1);
-    const auto *components = static_cast<const Component *>(pixels);
-    if (withAlpha) {
-        addTones<Component, 4>(components, count, tones);
+    std::vector<std::size_t> tones(std::size_t{std::numeric_limits<Sample>::max()} + 1);
+    if (image.components == rgbaComponents) {
+        addTones<rgbaComponents>(image.samples.data(), image.pixelCount(), tones);
     } else {
-        addTones<Component, 3>(components, count, tones);
+        addTones<rgbComponents>(image.samples.data(), image.pixelCount(), tones);
     }
     return tones;
 }
@@ -55,16 +53,17 @@ QVector<float> sampled(const std::vector<std::size_t> &tones, std::size_t step, 
 
 } // namespace
 
-QVector<float> toneHistogram(const void *pixels, std::size_t count, bool sixteenBit, bool withAlpha)
+QVector<float> toneHistogram(const Image &image)
 {
-    if (!pixels || count == 0) {
+    if (isEmpty(image)) {
         return QVector<float>(outputBins, 0.0F);
     }
-    if (sixteenBit) {
+    if (const auto *image16 = std::get_if<Image16>(&image)) {
         constexpr std::size_t step = 255;
-        return sampled(countTones<std::uint16_t>(pixels, count, withAlpha), step, count);
+        return sampled(countTones(*image16), step, image16->pixelCount());
     }
-    return sampled(countTones<std::uint8_t>(pixels, count, withAlpha), 1, count);
+    const auto &image8 = std::get<Image8>(image);
+    return sampled(countTones(image8), 1, image8.pixelCount());
 }
 
 } // namespace grisal::graphics

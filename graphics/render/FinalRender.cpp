@@ -9,7 +9,6 @@
 #include <QDebug>
 
 #include <algorithm>
-#include <cstring>
 
 namespace grisal::graphics
 {
@@ -39,12 +38,6 @@ private:
     int m_height;
 };
 
-std::size_t componentCount(const FinalImage &picture)
-{
-    return static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height) *
-           (picture.hasAlpha ? 4 : 3);
-}
-
 void logPlan(const TileSide &horizontal, const TileSide &vertical)
 {
     qDebug() << "(INFO) Calculated Width: " << horizontal.padded;
@@ -54,29 +47,28 @@ void logPlan(const TileSide &horizontal, const TileSide &vertical)
 }
 
 template <typename Sample>
-void logValueRange(const FinalImage &picture)
+void logValueRange(const Raster<Sample> &image)
 {
-    const auto *samples = static_cast<const Sample *>(picture.pixels);
     unsigned smallest = 65535;
     unsigned largest = 0;
-    const std::size_t components = picture.hasAlpha ? 4 : 3;
-    for (std::size_t i = 0; i < componentCount(picture); i += components) {
-        smallest = std::min<unsigned>(smallest, samples[i]);
-        largest = std::max<unsigned>(largest, samples[i]);
+    for (std::size_t i = 0; i < image.samples.size(); i += static_cast<std::size_t>(image.components)) {
+        smallest = std::min<unsigned>(smallest, image.samples[i]);
+        largest = std::max<unsigned>(largest, image.samples[i]);
     }
     qDebug() << "Final vmin: " << smallest;
     qDebug() << "Final vmax: " << largest;
 }
 
-bool renderTiles(const FinalImage &picture, FilterSet &filters, DocumentView &view, const TileSide &horizontal,
+template <typename Sample>
+bool renderTiles(Raster<Sample> &image, FilterSet &filters, DocumentView &view, const TileSide &horizontal,
                  const TileSide &vertical, const GlErrorScope &scope, const TileProgress &progress)
 {
     const TileFormats formats =
-        tileFormatsFor(picture.sixteenBit, GLEW_VERSION_3_0 == GL_TRUE, GLEW_ARB_half_float_pixel == GL_TRUE);
-    const ImageBuffer source{picture.pixels, static_cast<std::uint32_t>(picture.width),
-                             static_cast<std::uint32_t>(picture.height), 1, 1};
+        tileFormatsFor<Sample>(GLEW_VERSION_3_0 == GL_TRUE, GLEW_ARB_half_float_pixel == GL_TRUE);
+    const ImageBuffer source{image.samples.data(), static_cast<std::uint32_t>(image.width),
+                             static_cast<std::uint32_t>(image.height), 1, 1};
     DocumentFilterQueue queue;
-    TiledDocumentRenderer renderer(picture.hasAlpha, horizontal, vertical, formats, source);
+    TiledDocumentRenderer renderer(image.components == rgbaComponents, horizontal, vertical, formats, source);
     renderer.setProgress(progress);
     Document document(0, &queue);
     document.setView(&view);
@@ -92,43 +84,45 @@ bool renderTiles(const FinalImage &picture, FilterSet &filters, DocumentView &vi
         qWarning("OpenGL could not render the picture");
         return false;
     }
-    const std::size_t sampleSize = picture.sixteenBit ? sizeof(std::uint16_t) : sizeof(std::uint8_t);
-    std::memcpy(picture.pixels, renderer.output()->pixels, componentCount(picture) * sampleSize);
+    std::copy_n(static_cast<const Sample *>(renderer.output()->pixels), image.samples.size(), image.samples.begin());
     return true;
 }
 
-} // namespace
-
-bool renderFinalImage(const FinalImage &picture, const Look &look, FilterSet &filters, DocumentView &view,
-                      const TileProgress &progress)
+template <typename Sample>
+bool render(Raster<Sample> &image, const Look &look, FilterSet &filters, DocumentView &view,
+            const TileProgress &progress)
 {
     const GlErrorScope scope;
     // The grain filter leaves another unit active, but GL_TEXTURE_2D must be enabled on unit 0.
     glActiveTexture(GL_TEXTURE0);
     glEnable(GL_TEXTURE_2D);
     filters.get<GrainFilter>().setSigma(look.get<GrainFilter>().radius);
-    qDebug() << "X: " << picture.width;
-    qDebug() << "Y: " << picture.height;
-    const TileSide horizontal = planTileSide(static_cast<std::uint32_t>(picture.width));
-    const TileSide vertical = planTileSide(static_cast<std::uint32_t>(picture.height));
+    qDebug() << "X: " << image.width;
+    qDebug() << "Y: " << image.height;
+    const TileSide horizontal = planTileSide(static_cast<std::uint32_t>(image.width));
+    const TileSide vertical = planTileSide(static_cast<std::uint32_t>(image.height));
     logPlan(horizontal, vertical);
 
     const ScopedFilterSizes sizes(filters);
     filters.setSize(static_cast<int>(horizontal.tile), static_cast<int>(vertical.tile));
-    filters.setImageSize(picture.width, picture.height);
+    filters.setImageSize(image.width, image.height);
     qDebug() << "HalfTone Weight: " << filters.get<HalfToneFilter>().weight;
     filters.setLook(look);
 
-    const bool rendered = renderTiles(picture, filters, view, horizontal, vertical, scope, progress);
+    const bool rendered = renderTiles(image, filters, view, horizontal, vertical, scope, progress);
     if (!rendered) {
         filters.get<GrainFilter>().discardNoise();
     }
-    if (picture.sixteenBit) {
-        logValueRange<std::uint16_t>(picture);
-    } else {
-        logValueRange<std::uint8_t>(picture);
-    }
+    logValueRange(image);
     return rendered;
+}
+
+} // namespace
+
+bool renderFinalImage(Image &image, const Look &look, FilterSet &filters, DocumentView &view,
+                      const TileProgress &progress)
+{
+    return std::visit([&](auto &raster) { return render(raster, look, filters, view, progress); }, image);
 }
 
 } // namespace grisal::graphics

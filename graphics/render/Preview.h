@@ -4,12 +4,11 @@
 #include "graphics/document/Document.h"
 #include "graphics/document/FlexibleDocumentView.h"
 #include "graphics/gl/Textures.h"
+#include "graphics/image/Image.h"
 #include "graphics/render/DocumentRenderer.h"
 
 namespace grisal::graphics
 {
-
-struct PreviewPixels;
 
 /// The OpenGL formats of an image.
 struct PixelFormats {
@@ -20,16 +19,16 @@ struct PixelFormats {
 
 /// Returns the formats of an image: GL_RGB8 for 8-bit samples and GL_RGB16 for 16-bit samples; with alpha, GL_RGBA8 and
 /// GL_RGBA16.
-PixelFormats pixelFormatsFor(bool sixteenBit, bool alpha);
+PixelFormats pixelFormatsFor(const Image &image);
 
 /// An image at preview size and the objects that display it with filters: its texture, queue, document, view and
 /// renderer. The context must be current when it is created, used and destroyed.
 class Preview
 {
 public:
-    /// Uploads the pixels, which are not needed afterwards. The viewport size is that of the drawing area in device
-    /// pixels.
-    Preview(const PreviewPixels &pixels, const PixelFormats &formats, float viewportWidth, float viewportHeight);
+    /// Uploads the image, which has no alpha and is not needed afterwards. The viewport size is that of the drawing
+    /// area in device pixels.
+    Preview(const Image &image, const PixelFormats &formats, float viewportWidth, float viewportHeight);
 
     Document &document() { return m_document; }
     FlexibleDocumentView &view() { return m_view; }

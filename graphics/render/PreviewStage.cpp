@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/render/PreviewStage.h"
 
-#include "graphics/image/PreviewPixels.h"
-
 namespace grisal::graphics
 {
 
@@ -16,14 +14,13 @@ constexpr float firstGrainRadius = 3.0F;
 PreviewStage::PreviewStage() = default;
 PreviewStage::~PreviewStage() = default;
 
-void PreviewStage::load(const PreviewPixels &pixels, const PixelFormats &formats, float viewportWidth,
-                        float viewportHeight)
+void PreviewStage::load(const Image &image, const PixelFormats &formats, float viewportWidth, float viewportHeight)
 {
     // The previous preview is deleted first: two at a time would need twice the GPU memory.
     m_preview.reset();
-    m_preview = std::make_unique<Preview>(pixels, formats, viewportWidth, viewportHeight);
+    m_preview = std::make_unique<Preview>(image, formats, viewportWidth, viewportHeight);
     m_grainScale = 1.0F;
-    prepareFilters(pixels.width, pixels.height);
+    prepareFilters(widthOf(image), heightOf(image));
     rebuildQueue();
 }
 
@@ -68,13 +65,12 @@ void PreviewStage::blurGrain()
     m_filters->get<GrainFilter>().setSigma(m_look.get<GrainFilter>().radius * m_grainScale);
 }
 
-bool PreviewStage::renderFinal(const FinalImage &picture, const TileProgress &progress)
+bool PreviewStage::renderFinal(Image &image, const TileProgress &progress)
 {
-    const bool usable = picture.pixels != nullptr && picture.width > 0 && picture.height > 0;
-    if (!usable || !m_preview) {
+    if (isEmpty(image) || !m_preview) {
         return false;
     }
-    const bool rendered = renderFinalImage(picture, m_look, *m_filters, m_preview->view(), progress);
+    const bool rendered = renderFinalImage(image, m_look, *m_filters, m_preview->view(), progress);
     blurGrain();
     return rendered;
 }

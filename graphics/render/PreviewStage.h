@@ -25,7 +25,7 @@ public:
 
     /// Replaces the image. The viewport has the given size in device pixels. The filters that are declared as enabled
     /// at load (the mixer) are enabled and the others disabled; the parameters stay the same.
-    void load(const PreviewPixels &pixels, const PixelFormats &formats, float viewportWidth, float viewportHeight);
+    void load(const Image &image, const PixelFormats &formats, float viewportWidth, float viewportHeight);
 
     /// Deletes the preview and the filters, which belong to the context.
     void release();
@@ -52,9 +52,9 @@ public:
     /// Sets the parameters of the grain and blurs its noise with the new radius.
     void setGrain(const GrainFilter::Parameters &parameters);
 
-    /// Renders an image at full size, in place, with the current filters. Returns false if there is no result or no
-    /// image has been loaded.
-    bool renderFinal(const FinalImage &picture, const TileProgress &progress = {});
+    /// Renders an image at full size, in place, with the current filters. Returns false if there is no result, if the
+    /// image is empty and if no image has been loaded.
+    bool renderFinal(Image &image, const TileProgress &progress = {});
 
 private:
     void prepareFilters(int width, int height);

@@ -27,12 +27,25 @@ private:
     GLenum m_direction;
 };
 
+template <typename Component>
+Texture createTileTexture(const TileArea &area, const TileFormats &formats, GLenum type, const Component *pixels)
+{
+    return Texture(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height),
+                                 formats.internalFormat, formats.pixelFormat, type, pixels));
+}
+
 } // namespace
 
-TileFormats tileFormatsFor(bool sixteenBit, bool version30, bool halfFloatPixel)
+template <>
+TileFormats tileFormatsFor<std::uint8_t>(bool /*version30*/, bool /*halfFloatPixel*/)
 {
-    return sixteenBit ? TileFormats{GL_RGB, GL_UNSIGNED_SHORT, GL_RGB16F, version30 || halfFloatPixel}
-                      : TileFormats{GL_RGB, GL_UNSIGNED_BYTE, GL_RGB8};
+    return {GL_RGB, GL_UNSIGNED_BYTE, GL_RGB8};
+}
+
+template <>
+TileFormats tileFormatsFor<std::uint16_t>(bool version30, bool halfFloatPixel)
+{
+    return {GL_RGB, GL_UNSIGNED_SHORT, GL_RGB16F, version30 || halfFloatPixel};
 }
 
 template <typename T>
@@ -42,17 +55,10 @@ bool TileTransfer<T>::isWithin(const TileArea &area) const
 }
 
 template <typename T>
-Texture TileTransfer<T>::makeTexture(const TileArea &area, GLenum type, const void *pixels) const
-{
-    return Texture(createTexture(static_cast<std::int32_t>(area.width), static_cast<std::int32_t>(area.height),
-                                 m_formats.internalFormat, m_formats.pixelFormat, type, pixels));
-}
-
-template <typename T>
 Texture TileTransfer<T>::uploadDirectly(const T *pixels, std::size_t rowLength, const TileArea &area) const
 {
     const RowLength length(GL_UNPACK_ROW_LENGTH, rowLength);
-    return makeTexture(area, m_formats.pixelType, pixels);
+    return createTileTexture(area, m_formats, m_formats.pixelType, pixels);
 }
 
 template <>
@@ -72,7 +78,7 @@ Texture TileTransfer<std::uint16_t>::send(const std::uint16_t *pixels, std::size
     for (std::size_t y = 0; y < area.height; ++y) {
         convertToHalfFloats(pixels + y * rowLength * tileComponents, row, m_halfFloats.data() + y * row);
     }
-    return makeTexture(area, GL_HALF_FLOAT, m_halfFloats.data());
+    return createTileTexture(area, m_formats, GL_HALF_FLOAT, m_halfFloats.data());
 }
 
 template <typename T>

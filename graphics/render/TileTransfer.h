@@ -23,10 +23,11 @@ struct TileFormats {
     bool halfFloatTransfers = true;
 };
 
-/// Returns the formats for an image of 8-bit samples or, with `sixteenBit`, of 16-bit samples. OpenGL accepts half
+/// Returns the formats for an image of 8-bit or 16-bit samples (`T`). OpenGL accepts half
 /// floats as pixel data since version 3.0 (`version30`), earlier versions with GL_ARB_half_float_pixel
 /// (`halfFloatPixel`).
-TileFormats tileFormatsFor(bool sixteenBit, bool version30, bool halfFloatPixel);
+template <typename T>
+TileFormats tileFormatsFor(bool version30, bool halfFloatPixel);
 
 /// Uploads the tiles of an image to textures and reads the rendered tiles back, with as few copies as possible. T is
 /// the type of a sample, std::uint8_t or std::uint16_t; rows are stored from top to bottom without padding. The buffers
@@ -50,7 +51,6 @@ public:
 
 private:
     bool isWithin(const TileArea &area) const;
-    Texture makeTexture(const TileArea &area, GLenum type, const void *pixels) const;
     Texture send(const T *pixels, std::size_t rowLength, const TileArea &area);
     Texture uploadDirectly(const T *pixels, std::size_t rowLength, const TileArea &area) const;
     void read(const FramebufferObject &target, const TileArea &seen, T *pixels, std::size_t rowLength);

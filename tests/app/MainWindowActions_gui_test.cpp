@@ -238,8 +238,7 @@ TEST_F(MainWindowActions, LoadingPixelsPutsAllParametersBack)
     emit panel<SplitTone>().signalSplit(0.5F, 0, 0, 0, 0, 0, 0);
     emit panel<Grain>().signalGrain(QVector<float>(256, 0.25F), 2.5F);
     emit panel<Curves>().signalCurves(QVector<float>(256, 0.75F));
-    const std::uint8_t white[3] = {255, 255, 255};
-    window.loadBuffer(white, 1, 1, false);
+    window.loadBuffer(greyImage(1, 1, 255));
     const Look initial;
     const Look &now = preview().look();
     EXPECT_EQ(now.get<MixerFilter>().weights, initial.get<MixerFilter>().weights);
@@ -276,8 +275,7 @@ TEST_F(MainWindowActions, PanelsAreResetInTheirOrder)
     window.slotResetFilters();
     EXPECT_EQ(senders, order);
     senders.clear();
-    const std::uint8_t white[3] = {255, 255, 255};
-    window.loadBuffer(white, 1, 1, false);
+    window.loadBuffer(greyImage(1, 1, 255));
     EXPECT_EQ(senders, order);
 }
 
@@ -286,7 +284,7 @@ TEST_F(MainWindowActions, LoadingNoPixelsIsToldAndChangesNothing)
     start();
     emit panel<Mixer>().signalMixer(1, 0, 0);
     expectWarning(QStringLiteral("Buffer is invalid!"));
-    window.loadBuffer(nullptr, 10, 10, false);
+    window.loadBuffer(grisal::graphics::Image8());
     EXPECT_EQ(preview().previewWidth(), 300);
     EXPECT_EQ(preview().look().get<MixerFilter>().weights, (ColorRGB<float>{1, 0, 0}));
 }
@@ -295,8 +293,7 @@ TEST_F(MainWindowActions, LoadingPixelsStartsTheGraphicsAgain)
 {
     start();
     log.clear();
-    const std::uint8_t white[3] = {255, 255, 255};
-    window.loadBuffer(white, 1, 1, false);
+    window.loadBuffer(greyImage(1, 1, 255));
     EXPECT_TRUE(log.contains(QStringLiteral("INITIALIZE GL")));
 }
 

@@ -79,8 +79,7 @@ protected:
         player->resize(700 + below(300), 560 + below(200));
         player->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(player.get()));
-        const std::vector<std::uint8_t> grey(std::size_t{30} * 20 * 3, 128);
-        player->loadBuffer(grey.data(), 30, 20, false);
+        player->loadBuffer(grisal::test::greyImage(30, 20, 128));
     }
 
     std::unique_ptr<grisal::ui::MainWindow> player;

@@ -4,6 +4,7 @@
 #include "app/MainWindow.h"
 #include "tests/support/GlPresence.h"
 #include "tests/support/GuiTest.h"
+#include "tests/support/Images.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -42,8 +43,7 @@ protected:
         if (!window.graphicsProblem().isEmpty()) {
             throw std::runtime_error(window.graphicsProblem().english().toStdString());
         }
-        const std::vector<std::uint8_t> grey(std::size_t{300} * 200 * 3, 128);
-        window.loadBuffer(grey.data(), 300, 200, false);
+        window.loadBuffer(greyImage(300, 200, 128));
     }
 
     /// Shows the window with a preview that has a middle: of an even number of pixels each way.

@@ -8,18 +8,13 @@
 #include "graphics/render/PreviewStage.h"
 #include "ui/accessible/AccessibleControl.h"
 #include "ui/accessible/FocusMark.h"
-#include "ui/preview/ZoomFit.h"
+#include "ui/preview/Navigation.h"
 
 #include <QOpenGLWidget>
 #include <QTimer>
 #include <QVector>
 
-#include <memory>
-
-namespace grisal::graphics
-{
-struct PreviewPixels;
-} // namespace grisal::graphics
+#include <optional>
 
 namespace grisal::ui
 {
@@ -51,16 +46,14 @@ public:
     /// Loads the GL entry points. The context must be current; may be called repeatedly.
     void initializeGL() override;
 
-    /// Copies width x height pixels for the preview: 3 components each, or 4 with `alpha` (the fourth is dropped),
-    /// bytes or, with `sixteenBit`, 16-bit samples. Switches off every filter except the mixer, keeps the parameters
-    /// and sends them to the filters again, and resets the zoom. Does nothing if `pixels` is null.
-    void loadImage(const void *pixels, int width, int height, bool sixteenBit, bool alpha);
+    /// Shows an image, of which it keeps a copy at preview size without alpha. Switches off every filter except the
+    /// mixer, keeps the parameters and sends them to the filters again, and resets the zoom. Ignores an empty image.
+    void loadImage(const graphics::Image &image);
 
-    /// Renders the whole image in `pixels` in place with the current filters and parameters: width x height pixels of 3
-    /// components, 4 with `hasAlpha`, bytes or 16-bit samples. Returns false on failure; the contents of the buffer are
-    /// then undefined. The preview is unchanged afterwards. `progress` is called for each tile and may paint.
-    bool renderFinal(void *pixels, int width, int height, bool sixteenBit, bool hasAlpha,
-                     const graphics::TileProgress &progress = {});
+    /// Renders the image at full size in place with the current filters and parameters; alpha stays unchanged. Returns
+    /// false on failure; the image is then unchanged. The preview is unchanged afterwards. `progress` is called for
+    /// each tile and may paint.
+    bool renderFinal(graphics::Image &image, const graphics::TileProgress &progress = {});
 
     /// Makes the next paint render the preview again.
     void setDirty() { m_dirty = true; }
@@ -124,15 +117,11 @@ private slots:
 
 private:
     bool makeContextCurrent();
-    void startGraphics();
-    void showPicture(const graphics::PreviewPixels &pixels);
-    void bindScreen();
-    void drawPreview(GLuint texture) const;
-    void paintPreview();
-    void paintFocusMark() const;
+    void showImage(const graphics::Image &preview);
+    void paintPreview(graphics::Preview &preview);
     void setBypass(bool bypass);
     void pan(QPointF pixels);
-    bool useKey(const QKeyEvent &event);
+    bool handleKey(const QKeyEvent &event);
     void fitViewToWidget();
     void showCentred(float scale);
     FitRatios ratios() const;
@@ -141,16 +130,15 @@ private:
 
     graphics::PreviewStage m_stage;
     graphics::PixelFormats m_formats;
-    std::unique_ptr<graphics::PreviewPixels> m_waitingPixels;
+    std::optional<graphics::Image> m_waitingPreview; ///< to be shown as soon as there is a context
     int m_previewWidth = 0;
     int m_previewHeight = 0;
     bool m_dirty = false;
     bool m_started = false;
     bool m_renderingFinal = false;
-    bool m_pressed = false;
+    Drag m_drag;
     bool m_bypass = false;
     enumFitTo m_fitMode = FitSmaller;
-    QPointF m_lastPos;
     QTimer m_clickTimer{this};
     QTimer m_resizeTimer{this};
     graphics::Message m_problem;

@@ -3,8 +3,6 @@
 // Navigation in the preview: zoom, fit, pan, and comparison with the original.
 #include "ui/preview/GLWidget.h"
 
-#include "ui/accessible/Keys.h"
-
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
@@ -139,37 +137,31 @@ QPointF GLWidget::pixelPosition(const QMouseEvent *event) const
 
 void GLWidget::mousePressEvent(QMouseEvent *event)
 {
-    m_pressed = true;
-    m_lastPos = pixelPosition(event);
+    m_drag.start(pixelPosition(event));
     m_clickTimer.start(holdToCompare);
     update();
 }
 
 void GLWidget::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_pressed) {
-        return;
+    if (const std::optional<QPointF> distance = m_drag.moveTo(pixelPosition(event))) {
+        m_clickTimer.stop();
+        pan(*distance);
     }
-    m_clickTimer.stop();
-    const QPointF position = pixelPosition(event);
-    pan(position - std::exchange(m_lastPos, position));
 }
 
-void GLWidget::pan(QPointF pixels)
+void GLWidget::pan(QPointF drag)
 {
     if (graphics::Preview *preview = m_stage.preview()) {
-        // A drag moves the view over the image, so that the image moves in the opposite direction. Offsets increase
-        // upwards.
-        graphics::FlexibleDocumentView &view = preview->view();
-        view.setOffset(view.offsetX() - static_cast<float>(pixels.x()),
-                       view.offsetY() + static_cast<float>(pixels.y()));
+        const QPointF moved = draggedOffset(offset(), drag);
+        preview->view().setOffset(static_cast<float>(moved.x()), static_cast<float>(moved.y()));
     }
     update();
 }
 
 void GLWidget::mouseReleaseEvent(QMouseEvent *)
 {
-    m_pressed = false;
+    m_drag.end();
     m_clickTimer.stop();
     setBypass(false);
 }
@@ -188,40 +180,36 @@ void GLWidget::wheelEvent(QWheelEvent *event)
 
 void GLWidget::keyPressEvent(QKeyEvent *event)
 {
-    if (!useKey(*event)) {
+    if (!handleKey(*event)) {
         QOpenGLWidget::keyPressEvent(event);
         return;
     }
     m_focusMark.useKey();
 }
 
-// An arrow key moves the view in its direction.
-bool GLWidget::useKey(const QKeyEvent &event)
+bool GLWidget::handleKey(const QKeyEvent &event)
 {
     constexpr double step = 20;
-    const QPoint arrow = arrowOf(event);
-    if (!isPlain(event)) {
+    const PreviewKey key = previewKeyOf(event);
+    switch (key.action) {
+    case PreviewKey::None:
         return false;
-    }
-    if (!arrow.isNull()) {
-        pan(QPointF(arrow) * step * devicePixelRatioF());
-        return true;
-    }
-    switch (event.key()) {
-    case Qt::Key_Plus:
+    case PreviewKey::Pan:
+        pan(QPointF(key.direction) * step * devicePixelRatioF());
+        break;
+    case PreviewKey::ZoomIn:
         slotZoomIn();
-        return true;
-    case Qt::Key_Minus:
+        break;
+    case PreviewKey::ZoomOut:
         slotZoomOut();
-        return true;
-    case Qt::Key_Space:
+        break;
+    case PreviewKey::Compare:
         if (!event.isAutoRepeat()) {
             setBypass(true);
         }
-        return true;
-    default:
-        return false;
+        break;
     }
+    return true;
 }
 
 void GLWidget::keyReleaseEvent(QKeyEvent *event)
@@ -236,7 +224,7 @@ void GLWidget::keyReleaseEvent(QKeyEvent *event)
 // The key release is sent to another widget.
 void GLWidget::focusOutEvent(QFocusEvent *event)
 {
-    if (m_bypass && !m_pressed) {
+    if (m_bypass && !m_drag.isActive()) {
         setBypass(false);
     }
     QOpenGLWidget::focusOutEvent(event);

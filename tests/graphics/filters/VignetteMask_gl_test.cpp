@@ -6,6 +6,7 @@
 #include "graphics/render/FinalRender.h"
 #include "tests/support/GlState.h"
 #include "tests/support/GlTest.h"
+#include "tests/support/Images.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferenceFilters.h"
@@ -253,10 +254,9 @@ TEST_F(VignetteMaskTest, IsMadeOnlyWhileTheVignetteIsOn)
     filters.get<graphics::CurveFilter>().enabled = true;
     const auto masksOfARender = [&](bool vignette) {
         filters.get<graphics::VignetteFilter>().enabled = vignette;
-        BytePixels picture = rampPicture<std::uint8_t>(2049, 3);
+        graphics::Image image = imageOf(rampPicture<std::uint8_t>(2049, 3));
         const int before = masks;
-        EXPECT_TRUE(graphics::renderFinalImage({picture.values.data(), picture.width, picture.height, false, false}, {},
-                                               filters, view));
+        EXPECT_TRUE(graphics::renderFinalImage(image, {}, filters, view));
         return masks - before;
     };
 

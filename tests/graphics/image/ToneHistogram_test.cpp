@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-using grisal::graphics::toneHistogram;
+using namespace grisal::graphics;
 
 namespace
 {
@@ -16,14 +16,23 @@ namespace
 using Bytes = std::vector<std::uint8_t>;
 using Samples16 = std::vector<std::uint16_t>;
 
+template <typename Sample>
+QVector<float> histogramOf(const std::vector<Sample> &samples, bool withAlpha)
+{
+    const int components = withAlpha ? rgbaComponents : rgbComponents;
+    Raster<Sample> image(static_cast<int>(samples.size()) / components, 1, components);
+    image.samples = samples;
+    return toneHistogram(image);
+}
+
 QVector<float> ofBytes(const Bytes &bytes, bool withAlpha = false)
 {
-    return toneHistogram(bytes.data(), bytes.size() / (withAlpha ? 4 : 3), false, withAlpha);
+    return histogramOf(bytes, withAlpha);
 }
 
 QVector<float> ofWords(const Samples16 &words, bool withAlpha = false)
 {
-    return toneHistogram(words.data(), words.size() / (withAlpha ? 4 : 3), true, withAlpha);
+    return histogramOf(words, withAlpha);
 }
 
 /// All zeros but for the given bins.
@@ -38,9 +47,8 @@ QVector<float> bins(std::initializer_list<std::pair<int, float>> filled)
 
 TEST(ToneHistogramTest, IsEmptyWithoutPixels)
 {
-    const std::uint8_t byte = 0;
-    EXPECT_EQ(toneHistogram(nullptr, 5, false, false), bins({}));
-    EXPECT_EQ(toneHistogram(&byte, 0, false, false), bins({}));
+    EXPECT_EQ(toneHistogram(Image8()), bins({}));
+    EXPECT_EQ(toneHistogram(Image16()), bins({}));
 }
 
 TEST(ToneHistogramTest, GivesTheShareOfATonesPixelsTimesThirty)

@@ -6,6 +6,7 @@
 #include "graphics/filters/NoiseMap.h"
 #include "tests/support/FilterRun.h"
 #include "tests/support/GlTest.h"
+#include "tests/support/Images.h"
 #include "tests/support/InvalidParameters.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
@@ -46,11 +47,15 @@ protected:
     }
 
     template <typename T>
+    bool render(Pixels<T> &image, const Look &with)
+    {
+        return changeInPlace(image, [&](Image &full) { return renderFinalImage(full, with, *filters, *view); });
+    }
+
+    template <typename T>
     Pixels<T> rendered(Pixels<T> image, const Look &with)
     {
-        EXPECT_TRUE(
-            renderFinalImage({image.values.data(), image.width, image.height, sizeof(T) == 2, image.components == 4},
-                             with, *filters, *view));
+        EXPECT_TRUE(render(image, with));
         return image;
     }
 
@@ -88,7 +93,7 @@ TEST_F(FinalRenderTest, RendersInPlaceWithTheParameters)
 {
     BytePixels picture(2, 1, 3, {200, 0, 0, 0, 100, 0});
     parameters.get<MixerFilter>().weights = {0.5F, 1, 0};
-    EXPECT_TRUE(renderFinalImage({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view));
+    EXPECT_TRUE(render(picture, parameters));
     EXPECT_EQ(picture.values, (std::vector<std::uint8_t>{100, 100, 100, 100, 100, 100}));
 }
 
@@ -96,7 +101,7 @@ TEST_F(FinalRenderTest, KeepsTheFourthComponent)
 {
     Samples16Image picture(1, 2, 4, {65535, 0, 0, 7, 0, 65535, 0, 60000});
     parameters.get<MixerFilter>().weights = {1, 0, 0};
-    EXPECT_TRUE(renderFinalImage({picture.values.data(), 1, 2, true, true}, parameters, *filters, *view));
+    EXPECT_TRUE(render(picture, parameters));
     EXPECT_EQ(picture.values, (std::vector<std::uint16_t>{65535, 65535, 65535, 7, 0, 0, 0, 60000}));
 }
 
@@ -104,7 +109,7 @@ TEST_F(FinalRenderTest, WithoutEnabledFilterThePixelsStay)
 {
     filters->get<MixerFilter>().enabled = false;
     BytePixels picture(2, 1, 3, {1, 2, 3, 4, 5, 6});
-    EXPECT_TRUE(renderFinalImage({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view));
+    EXPECT_TRUE(render(picture, parameters));
     EXPECT_EQ(picture.values, (std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6}));
 }
 
@@ -113,7 +118,7 @@ TEST_F(FinalRenderTest, GivesTheFiltersTheirSizesBack)
     filters->setSize(12, 8);
     filters->setImageSize(12, 8);
     BytePixels picture = rampPicture<std::uint8_t>(2049, 5);
-    EXPECT_TRUE(renderFinalImage({picture.values.data(), 2049, 5, false, false}, parameters, *filters, *view));
+    EXPECT_TRUE(render(picture, parameters));
     EXPECT_EQ(filters->get<MixerFilter>().width, 12);
     EXPECT_EQ(filters->get<GrainFilter>().height, 8);
     EXPECT_EQ(filters->get<VignetteFilter>().maxWidth, 12);
@@ -125,7 +130,7 @@ TEST_F(FinalRenderTest, LogsSizesPlanAndValueRange)
     const LogCapture log;
     BytePixels picture(2, 1, 3, {200, 200, 200, 40, 40, 40});
     parameters.get<MixerFilter>().weights = {1, 0, 0};
-    renderFinalImage({picture.values.data(), 2, 1, false, false}, parameters, *filters, *view);
+    render(picture, parameters);
     const QStringList lines = log.debugs();
     EXPECT_EQ(lines.mid(0, 7).join('\n').toStdString(), "X:  2\n"
                                                         "Y:  1\n"
@@ -145,7 +150,7 @@ TEST_F(FinalRenderTest, LogsTheFormerWeightOfTheSplitTone)
     const LogCapture log;
     BytePixels picture(1, 1, 3, {1, 2, 3});
 
-    renderFinalImage({picture.values.data(), 1, 1, false, false}, parameters, *filters, *view);
+    render(picture, parameters);
 
     EXPECT_EQ(log.debugs().filter("HalfTone"), QStringList{"HalfTone Weight:  0.75"});
     EXPECT_EQ(filters->get<HalfToneFilter>().weight, 1.25F);
@@ -158,7 +163,7 @@ TEST_F(FinalRenderTest, BlursTheNoiseWithTheRadiusOfThePanel)
     filters->get<GrainFilter>().setSigma(1);
     BytePixels picture(1, 1, 3, {1, 2, 3});
     parameters.get<GrainFilter>().radius = 2.5F;
-    renderFinalImage({picture.values.data(), 1, 1, false, false}, parameters, *filters, *view);
+    render(picture, parameters);
     EXPECT_EQ(filters->get<GrainFilter>().sigma(), 2.5F);
     EXPECT_EQ(noiseOf(filters->get<GrainFilter>()).values, noiseOf(expected).values);
 }

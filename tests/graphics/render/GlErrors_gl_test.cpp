@@ -8,6 +8,7 @@
 #include "graphics/render/FinalRender.h"
 #include "tests/support/FilterRun.h"
 #include "tests/support/GlTest.h"
+#include "tests/support/Images.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/Pictures.h"
 
@@ -91,7 +92,7 @@ protected:
         errorFault = {failingError, 0};
         framebufferFault = {failingCheck, 0};
         const bool rendered =
-            renderFinalImage({picture.values.data(), width, height, false, false}, parameters, *filters, *view);
+            changeInPlace(picture, [&](Image &image) { return renderFinalImage(image, parameters, *filters, *view); });
         errorFault.place = framebufferFault.place = 0;
         return rendered;
     }

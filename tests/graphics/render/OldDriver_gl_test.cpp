@@ -6,6 +6,7 @@
 #include "graphics/render/FinalRender.h"
 #include "tests/support/GlTest.h"
 #include "tests/support/HalfFloats.h"
+#include "tests/support/Images.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
 
@@ -85,8 +86,8 @@ protected:
         const bool hasExtension =
             std::exchange(__GLEW_ARB_half_float_pixel, halfFloatPixel ? GL_TRUE : GL_FALSE) == GL_TRUE;
         auto picture = rampPicture<std::uint16_t>(2055, 5, components);
-        const bool rendered = renderFinalImage(
-            {picture.values.data(), picture.width, picture.height, true, components == 4}, parameters, *filters, *view);
+        const bool rendered =
+            changeInPlace(picture, [&](Image &image) { return renderFinalImage(image, parameters, *filters, *view); });
         __GLEW_VERSION_3_0 = hasVersion ? GL_TRUE : GL_FALSE;
         __GLEW_ARB_half_float_pixel = hasExtension ? GL_TRUE : GL_FALSE;
         return rendered ? picture : Samples16Image();

@@ -2,9 +2,9 @@
 #include "graphics/render/PreviewStage.h"
 
 #include "graphics/filters/FilterSet.h"
-#include "graphics/image/PreviewPixels.h"
 #include "tests/support/FilterRun.h"
 #include "tests/support/GlTest.h"
+#include "tests/support/Images.h"
 #include "tests/support/PictureCompare.h"
 
 #include <algorithm>
@@ -35,8 +35,13 @@ protected:
 
     void load(const BytePixels &picture)
     {
-        const PreviewPixels pixels{picture.width, picture.height, picture.values, {}};
-        stage->load(pixels, pixelFormatsFor(false, false), 100, 100);
+        const Image image = imageOf(picture);
+        stage->load(image, pixelFormatsFor(image), 100, 100);
+    }
+
+    bool renderFinal(BytePixels &picture)
+    {
+        return changeInPlace(picture, [this](Image &image) { return stage->renderFinal(image); });
     }
 
     BytePixels shown(int width, int height)
@@ -52,17 +57,18 @@ TEST_F(PreviewStageTest, HasNothingBeforeTheFirstLoad)
 {
     EXPECT_EQ(stage->preview(), nullptr);
     EXPECT_EQ(stage->filters(), nullptr);
-    std::uint8_t pixel[3] = {1, 2, 3};
-    EXPECT_FALSE(stage->renderFinal({pixel, 1, 1, false, false}));
-    EXPECT_EQ(pixel[0], 1);
+    BytePixels pixel(1, 1, 3, {1, 2, 3});
+    EXPECT_FALSE(renderFinal(pixel));
+    EXPECT_EQ(pixel.values, (std::vector<std::uint8_t>{1, 2, 3}));
 }
 
 TEST_F(PreviewStageTest, RefusesAFinalPictureWithoutPixels)
 {
     load(rampPicture<std::uint8_t>(4, 4));
-    EXPECT_FALSE(stage->renderFinal({nullptr, 4, 4, false, false}));
-    std::uint8_t pixel[3] = {};
-    EXPECT_FALSE(stage->renderFinal({pixel, 0, 4, false, false}));
+    Image empty;
+    EXPECT_FALSE(stage->renderFinal(empty));
+    Image withoutWidth = Image16(0, 4);
+    EXPECT_FALSE(stage->renderFinal(withoutWidth));
 }
 
 TEST_F(PreviewStageTest, ALoadSwitchesTheMixerOnAndTheOthersOff)
@@ -112,7 +118,7 @@ TEST_F(PreviewStageTest, TheMixerRunsTwiceInThePreviewAndOnceInTheFile)
     load(white);
     stage->set<MixerFilter>({{0.5F, 0, 0}});
     EXPECT_EQ(shown(4, 4).at(0, 0, 0), 64);
-    EXPECT_TRUE(stage->renderFinal({white.values.data(), 4, 4, false, false}));
+    EXPECT_TRUE(renderFinal(white));
     EXPECT_EQ(white.at(0, 0, 0), 128);
 }
 
@@ -132,8 +138,9 @@ TEST_F(PreviewStageTest, APreview2250PixelsWideComesOutPixelForPixel)
 
 TEST_F(PreviewStageTest, SixteenBitPreviewsTakeWords)
 {
-    const PreviewPixels pixels{2, 1, {}, {65535, 0, 0, 32896, 0, 0}};
-    stage->load(pixels, pixelFormatsFor(true, false), 10, 10);
+    Image16 image(2, 1);
+    image.samples = {65535, 0, 0, 32896, 0, 0};
+    stage->load(image, pixelFormatsFor(image), 10, 10);
     stage->set<MixerFilter>({{1, 0, 0}});
     EXPECT_EQ(shown(2, 1).values, (std::vector<std::uint8_t>{255, 255, 255, 128, 128, 128}));
 }
@@ -184,10 +191,10 @@ TEST_F(PreviewStageTest, SavingLeavesNothingBehind)
     stage->filters()->get<VignetteFilter>().enabled = true;
     auto picture = rampPicture<std::uint8_t>(9, 7);
     // The first one makes what the filters need and keep.
-    EXPECT_TRUE(stage->renderFinal({picture.values.data(), 9, 7, false, false}));
+    EXPECT_TRUE(renderFinal(picture));
     const int before = liveObjects();
     for (int i = 0; i < 5; ++i) {
-        EXPECT_TRUE(stage->renderFinal({picture.values.data(), 9, 7, false, false}));
+        EXPECT_TRUE(renderFinal(picture));
     }
     EXPECT_EQ(liveObjects(), before);
 }

@@ -2,9 +2,9 @@
 #include "graphics/render/Preview.h"
 
 #include "graphics/filters/FilterSet.h"
-#include "graphics/image/PreviewPixels.h"
 #include "tests/support/FilterRun.h"
 #include "tests/support/GlTest.h"
+#include "tests/support/Images.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/QueueOrder.h"
@@ -17,23 +17,18 @@ namespace
 {
 
 using graphics::FilterSet;
+using graphics::Image16;
+using graphics::Image8;
 using graphics::PixelFormats;
 using graphics::pixelFormatsFor;
 using graphics::Preview;
-using graphics::PreviewPixels;
 
 class PreviewTest : public GlTest
 {
 };
 
-PreviewPixels previewPixels(const BytePixels &picture)
-{
-    PreviewPixels pixels;
-    pixels.width = picture.width;
-    pixels.height = picture.height;
-    pixels.bytes = picture.values;
-    return pixels;
-}
+/// The formats of images with 8-bit samples.
+const PixelFormats formats8 = pixelFormatsFor(Image8());
 
 GLint sizeParameter(GLuint texture, GLenum name)
 {
@@ -59,7 +54,8 @@ TEST(PixelFormatsTest, FollowDepthAndAlpha)
          {Row{false, false, GL_UNSIGNED_BYTE, GL_RGB8, GL_RGB}, Row{false, true, GL_UNSIGNED_BYTE, GL_RGBA8, GL_RGBA},
           Row{true, false, GL_UNSIGNED_SHORT, GL_RGB16, GL_RGB},
           Row{true, true, GL_UNSIGNED_SHORT, GL_RGBA16, GL_RGBA}}) {
-        const PixelFormats formats = pixelFormatsFor(row.sixteenBit, row.alpha);
+        const PixelFormats formats = row.sixteenBit ? pixelFormatsFor(Image16(1, 1, row.alpha ? 4 : 3))
+                                                    : pixelFormatsFor(Image8(1, 1, row.alpha ? 4 : 3));
 
         EXPECT_EQ(formats.pixelType, row.type) << row.sixteenBit << row.alpha;
         EXPECT_EQ(formats.internalFormat, row.internalFormat) << row.sixteenBit << row.alpha;
@@ -79,7 +75,7 @@ TEST_F(PreviewTest, ItsFiltersComeInTheOrderOfThePreview)
 TEST_F(PreviewTest, AnEmptyQueueShowsThePicture)
 {
     const BytePixels picture = rampPicture<std::uint8_t>(12, 8);
-    Preview preview(previewPixels(picture), pixelFormatsFor(false, false), 80, 60);
+    Preview preview(imageOf(picture), formats8, 80, 60);
 
     preview.render();
 
@@ -92,7 +88,7 @@ TEST_F(PreviewTest, FormatsWithAlphaStillTakeThreeComponents)
     const BytePixels picture = rampPicture<std::uint8_t>(12, 8);
     const LogCapture log;
 
-    Preview preview(previewPixels(picture), pixelFormatsFor(false, true), 80, 60);
+    Preview preview(imageOf(picture), pixelFormatsFor(Image8(1, 1, 4)), 80, 60);
 
     preview.render();
     EXPECT_TRUE(picturesNear("preview-alpha", readTexture(preview.output(), 12, 8), picture));
@@ -101,12 +97,9 @@ TEST_F(PreviewTest, FormatsWithAlphaStillTakeThreeComponents)
 
 TEST_F(PreviewTest, SixteenBitsKeepTheirDepth)
 {
-    PreviewPixels pixels;
-    pixels.width = 4;
-    pixels.height = 4;
-    pixels.words = rampPicture<std::uint16_t>(4, 4).values;
+    const Image16 image = imageOf(rampPicture<std::uint16_t>(4, 4));
 
-    Preview preview(pixels, pixelFormatsFor(true, false), 80, 60);
+    Preview preview(image, pixelFormatsFor(image), 80, 60);
 
     EXPECT_EQ(sizeParameter(preview.document().source(), GL_TEXTURE_INTERNAL_FORMAT), GL_RGB16);
     EXPECT_EQ(sizeParameter(preview.view().target().texture, GL_TEXTURE_INTERNAL_FORMAT), GL_RGB16);
@@ -114,7 +107,7 @@ TEST_F(PreviewTest, SixteenBitsKeepTheirDepth)
 
 TEST_F(PreviewTest, TheViewHasThePicturesSizeAndSitsInTheMiddle)
 {
-    Preview preview(previewPixels(rampPicture<std::uint8_t>(12, 8)), pixelFormatsFor(false, false), 80, 60);
+    Preview preview(imageOf(rampPicture<std::uint8_t>(12, 8)), formats8, 80, 60);
 
     EXPECT_EQ(sizeParameter(preview.view().target().texture, GL_TEXTURE_WIDTH), 12);
     EXPECT_EQ(sizeParameter(preview.view().target().texture, GL_TEXTURE_HEIGHT), 8);
@@ -126,7 +119,7 @@ TEST_F(PreviewTest, TheViewHasThePicturesSizeAndSitsInTheMiddle)
 TEST_F(PreviewTest, TheQueueRunsOverThePicture)
 {
     const BytePixels picture = rampPicture<std::uint8_t>(12, 8);
-    Preview preview(previewPixels(picture), pixelFormatsFor(false, false), 80, 60);
+    Preview preview(imageOf(picture), formats8, 80, 60);
     FilterSet filters;
     filters.setSize(12, 8);
     filters.get<graphics::MixerFilter>().weights = {0, 1, 0};
@@ -149,7 +142,7 @@ TEST_F(PreviewTest, EverythingGoesWithIt)
     GLuint source = 0;
     GLuint target = 0;
     {
-        Preview preview(previewPixels(rampPicture<std::uint8_t>(12, 8)), pixelFormatsFor(false, false), 80, 60);
+        Preview preview(imageOf(rampPicture<std::uint8_t>(12, 8)), formats8, 80, 60);
         source = preview.document().source();
         target = preview.view().target().texture;
         ASSERT_TRUE(glIsTexture(source));

@@ -119,7 +119,7 @@ protected:
     template <typename T>
     TileFormats formats() const
     {
-        return tileFormatsFor(sizeof(T) == 2, GetParam().halfFloats, false);
+        return tileFormatsFor<T>(GetParam().halfFloats, false);
     }
 
     template <typename T>
@@ -218,7 +218,7 @@ INSTANTIATE_TEST_SUITE_P(Places, TileTransfers, testing::ValuesIn(everyCase()),
 TEST_F(TileTransferTest, ASmallTileAfterALargeOneHasNothingOfIt)
 {
     const auto source = image<std::uint16_t>(width, height, 4);
-    TileTransfer<std::uint16_t> transfer(width, height, 4, tileFormatsFor(true, true, false));
+    TileTransfer<std::uint16_t> transfer(width, height, 4, tileFormatsFor<std::uint16_t>(true, false));
     transfer.upload(source.values.data(), {0, 0, 7, 5});
     const TileArea corner{6, 4, 2, 2};
 
@@ -241,7 +241,7 @@ TEST_F(TileTransferTest, BothWaysOfSamplesGiveTheSame)
     }
     const TileArea whole{0, 0, side, side};
     const auto throughTheDriver = [&](bool halfFloats) {
-        TileTransfer<std::uint16_t> transfer(side, side, 3, tileFormatsFor(true, halfFloats, false));
+        TileTransfer<std::uint16_t> transfer(side, side, 3, tileFormatsFor<std::uint16_t>(halfFloats, false));
         const RenderTarget target(side, side, GL_RGB, GL_RGB16F, GL_UNSIGNED_SHORT);
         const Texture texture = transfer.upload(every.values.data(), whole);
         glBindFramebuffer(GL_FRAMEBUFFER, target.record().framebuffer);
@@ -259,19 +259,19 @@ TEST_F(TileTransferTest, BothWaysOfSamplesGiveTheSame)
 
 TEST(TileFormatsTest, HalfFloatTransfersNeedVersion3OrTheExtension)
 {
-    EXPECT_FALSE(tileFormatsFor(true, false, false).halfFloatTransfers);
-    EXPECT_TRUE(tileFormatsFor(true, true, false).halfFloatTransfers);
-    EXPECT_TRUE(tileFormatsFor(true, false, true).halfFloatTransfers);
-    EXPECT_TRUE(tileFormatsFor(true, true, true).halfFloatTransfers);
+    EXPECT_FALSE(tileFormatsFor<std::uint16_t>(false, false).halfFloatTransfers);
+    EXPECT_TRUE(tileFormatsFor<std::uint16_t>(true, false).halfFloatTransfers);
+    EXPECT_TRUE(tileFormatsFor<std::uint16_t>(false, true).halfFloatTransfers);
+    EXPECT_TRUE(tileFormatsFor<std::uint16_t>(true, true).halfFloatTransfers);
 }
 
 TEST(TileFormatsTest, BytesGoWithRgb8AndSamplesWithHalfFloats)
 {
-    const TileFormats bytes = tileFormatsFor(false, true, true);
+    const TileFormats bytes = tileFormatsFor<std::uint8_t>(true, true);
     EXPECT_EQ(bytes.pixelFormat, static_cast<GLenum>(GL_RGB));
     EXPECT_EQ(bytes.pixelType, static_cast<GLenum>(GL_UNSIGNED_BYTE));
     EXPECT_EQ(bytes.internalFormat, static_cast<GLenum>(GL_RGB8));
-    const TileFormats samples = tileFormatsFor(true, false, false);
+    const TileFormats samples = tileFormatsFor<std::uint16_t>(false, false);
     EXPECT_EQ(samples.pixelFormat, static_cast<GLenum>(GL_RGB));
     EXPECT_EQ(samples.pixelType, static_cast<GLenum>(GL_UNSIGNED_SHORT));
     EXPECT_EQ(samples.internalFormat, static_cast<GLenum>(GL_RGB16F));

@@ -2,11 +2,11 @@
 //
 // Both queues from end to end against a second computation of the same formulas without a GPU.
 #include "graphics/filters/FilterSet.h"
-#include "graphics/image/PreviewPixels.h"
 #include "graphics/render/PreviewStage.h"
 #include "resources/sample-picture/Scene.h"
 #include "tests/support/FilterRun.h"
 #include "tests/support/GlTest.h"
+#include "tests/support/Images.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferenceRenderer.h"
@@ -158,7 +158,8 @@ protected:
 
     void load(const BytePixels &picture)
     {
-        stage->load({picture.width, picture.height, picture.values, {}}, pixelFormatsFor(false, false), 100, 100);
+        const Image image = imageOf(picture);
+        stage->load(image, pixelFormatsFor(image), 100, 100);
     }
 
     BytePixels preview(const BytePixels &picture, const Look &look)
@@ -175,7 +176,7 @@ protected:
         const LogCapture quiet;
         load(BytePixels(4, 4));
         apply(look);
-        EXPECT_TRUE(stage->renderFinal({picture.values.data(), picture.width, picture.height, sizeof(T) == 2, false}));
+        EXPECT_TRUE(changeInPlace(picture, [this](Image &image) { return stage->renderFinal(image); }));
         return picture;
     }
 

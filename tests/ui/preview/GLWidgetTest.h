@@ -5,6 +5,7 @@
 
 #include "tests/support/GlPresence.h"
 #include "tests/support/GuiTest.h"
+#include "tests/support/Images.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/Screen.h"
 
@@ -52,9 +53,11 @@ protected:
         timeOutNow(resizeTimer());
     }
 
-    void load(const BytePixels &pixels)
+    void load(const BytePixels &pixels) { widget.loadImage(imageOf(pixels)); }
+
+    bool renderFinal(BytePixels &pixels)
     {
-        widget.loadImage(pixels.values.data(), pixels.width, pixels.height, false, pixels.components == 4);
+        return changeInPlace(pixels, [this](graphics::Image &image) { return widget.renderFinal(image); });
     }
 
     void showPictureAtOneToOne()

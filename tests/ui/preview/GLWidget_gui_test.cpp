@@ -65,7 +65,7 @@ TEST_F(GLWidgetTest, ThePreviewIsSeenAfterTheGrain)
     widget.renderImage();
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
     BytePixels full = rampPicture<std::uint8_t>(9, 7);
-    EXPECT_TRUE(widget.renderFinal(full.values.data(), 9, 7, false, false));
+    EXPECT_TRUE(renderFinal(full));
     ASSERT_TRUE(paintAgain(widget));
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
@@ -99,8 +99,7 @@ TEST_F(GLWidgetTest, SixteenBitPicturesLogOtherFormats)
 {
     show();
     const LogCapture log;
-    const Samples16Image words(8, 4, 4);
-    widget.loadImage(words.values.data(), 8, 4, true, true);
+    widget.loadImage(grisal::graphics::Image16(8, 4, 4));
     EXPECT_EQ(log.debugs().mid(5, 3).join('\n').toStdString(), "Format Type(GL_RGB8):  false\n"
                                                                "Image Format(GL_RGB):  false\n"
                                                                "Element Type(GLUB):    false");
@@ -139,7 +138,7 @@ TEST_F(GLWidgetTest, PicturesOfOneToThreePixelsAreShown)
 TEST_F(GLWidgetTest, ANullBufferChangesNothing)
 {
     showPictureAtOneToOne();
-    widget.loadImage(nullptr, 10, 10, false, false);
+    widget.loadImage(grisal::graphics::Image8());
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
@@ -163,9 +162,9 @@ TEST_F(GLWidgetTest, AlphaIsDropped)
 TEST_F(GLWidgetTest, WithoutAContextThereIsNoFinalRender)
 {
     load(picture);
-    std::uint8_t pixel[3] = {1, 2, 3};
-    EXPECT_FALSE(widget.renderFinal(pixel, 1, 1, false, false));
-    EXPECT_EQ(pixel[1], 2);
+    BytePixels pixel(1, 1, 3, {1, 2, 3});
+    EXPECT_FALSE(renderFinal(pixel));
+    EXPECT_EQ(pixel.values, (std::vector<std::uint8_t>{1, 2, 3}));
     EXPECT_EQ(widget.filter<VignetteFilter>(), nullptr);
 }
 
@@ -193,7 +192,7 @@ TEST_F(GLWidgetTest, AFinalRenderLeavesThePreviewAsItWas)
     showPictureAtOneToOne();
     BytePixels full = rampPicture<std::uint8_t>(301, 7);
     const BytePixels expected = redAsGrey(full);
-    EXPECT_TRUE(widget.renderFinal(full.values.data(), 301, 7, false, false));
+    EXPECT_TRUE(renderFinal(full));
     EXPECT_TRUE(picturesNear("final", full, expected));
     widget.renderImage();
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));

@@ -1,6 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QPoint>
+#include <QPointF>
+
+#include <optional>
+
+class QKeyEvent;
+
 namespace grisal::ui
 {
 
@@ -28,5 +35,39 @@ float zoomedScale(float scale, float step, float fit);
 
 /// Notches of a wheel turn by `delta` eighths of a degree; incomplete notches are dropped.
 int wheelSteps(int delta);
+
+/// The offset of a view after a drag of the mouse by `drag`, in device pixels. The drag moves the view over the image,
+/// so that the image moves in the opposite direction. Offsets increase upwards, mouse positions downwards.
+QPointF draggedOffset(QPointF offset, QPointF drag);
+
+/// A drag with a pressed mouse button.
+class Drag
+{
+public:
+    void start(QPointF position) { m_last = position; }
+    void end() { m_last.reset(); }
+    bool isActive() const { return m_last.has_value(); }
+
+    /// Returns the distance from the last position; empty if no button is pressed.
+    std::optional<QPointF> moveTo(QPointF position);
+
+private:
+    std::optional<QPointF> m_last;
+};
+
+/// What a key does in the preview.
+struct PreviewKey {
+    enum Action {
+        None,    ///< the key belongs to somebody else
+        Pan,     ///< moves the view by one step in `direction`
+        ZoomIn,  ///< one notch
+        ZoomOut, ///< one notch
+        Compare, ///< shows the image without filters until the key is released
+    };
+    Action action = None;
+    QPoint direction;
+};
+
+PreviewKey previewKeyOf(const QKeyEvent &event);
 
 } // namespace grisal::ui

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QVector>
+
+class Curves;
+class Grain;
+class Mixer;
+class QAction;
+class QStackedLayout;
+class QWidget;
+class Sharpen;
+class SplitTone;
+class Vignette;
+
+namespace grisal::ui
+{
+
+class GLWidget;
+
+/// The panels of the filters, of which one is visible, connected to the preview. They are children of the window.
+class FilterPanels
+{
+public:
+    explicit FilterPanels(QWidget &window);
+
+    /// Puts the panels into `container`, which has no layout, and connects them. The mixer is visible.
+    void setUp(QWidget &container, GLWidget &preview);
+
+    /// Makes a panel visible.
+    void show(QWidget *panel);
+
+    /// Makes a panel visible or, if it is visible, returns to the mixer. Returns whether the panel is visible now, and
+    /// checks the action accordingly.
+    bool toggle(QWidget *panel, QAction &action);
+
+    /// Resets all panels in the order in which they send their parameters to the preview.
+    void reset();
+
+    /// Sets the tone histogram of the opened image, see toneHistogram().
+    void setHistogram(const QVector<float> &histogram);
+
+    /// Applies the number that is being typed into a panel. To be called before the values of the panels are used.
+    void takeTypedNumber();
+
+    Mixer *const mixer;
+    Vignette *const vignette;
+    SplitTone *const splitTone;
+    Grain *const grain;
+    Sharpen *const sharpen;
+    Curves *const curves;
+
+private:
+    void connectTo(GLWidget &preview);
+
+    QWidget &m_window;
+    QStackedLayout *m_stack;
+};
+
+} // namespace grisal::ui

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/gl/GL.h"
+
+#include <QSize>
+
+namespace grisal::graphics
+{
+class Preview;
+} // namespace grisal::graphics
+
+namespace grisal::ui
+{
+
+/// Drawing of the preview widget. The context must be current; sizes are in device pixels.
+
+/// Makes OpenGL draw into the framebuffer of the widget, which has the given size.
+void bindScreen(GLuint framebuffer, QSize size);
+
+/// Fills the bound framebuffer with opaque black.
+void clearScreen();
+
+/// Draws the result of the preview's last render through its view into the bound framebuffer, whose pixels stay opaque.
+/// The image has the given size.
+void drawPreview(graphics::Preview &preview, QSize imageSize);
+
+/// Draws the focus mark at the edge of the bound framebuffer, with lines of `unit` pixels.
+void drawFocusMark(QSize size, int unit);
+
+} // namespace grisal::ui
