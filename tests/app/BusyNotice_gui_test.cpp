@@ -51,7 +51,7 @@ protected:
         FilesTest::SetUp();
         if (!IsSkipped()) {
             start();
-            ASSERT_TRUE(paintAgain(preview()));
+            ASSERT_TRUE(repaintAndWait(preview()));
         }
     }
 

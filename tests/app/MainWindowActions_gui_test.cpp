@@ -4,7 +4,7 @@
 
 #include "graphics/filters/IFilter.h"
 #include "tests/support/Modal.h"
-#include "tests/support/UrlTaker.h"
+#include "tests/support/UrlInterceptor.h"
 #include "ui/panels/Curves.h"
 #include "ui/panels/Grain.h"
 #include "ui/panels/Mixer.h"
@@ -335,9 +335,9 @@ TEST_F(MainWindowActions, QuitSaysGoodbyeAndClosesTheWindow)
 
 TEST_F(MainWindowActions, TheWebsiteOpensInTheBrowser)
 {
-    const UrlTaker browser(QStringLiteral("https"));
+    const UrlInterceptor browser(QStringLiteral("https"));
     trigger(window, "actionWebsite");
-    EXPECT_EQ(browser.taken, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
+    EXPECT_EQ(browser.urls, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
 }
 
 TEST_F(MainWindowActions, AboutTellsWhatTheProgramIsAndWhenItWasBuilt)
@@ -365,10 +365,10 @@ TEST_F(MainWindowActions, AboutTellsWhatTheProgramIsAndWhenItWasBuilt)
 TEST_F(MainWindowActions, AboutOpensTheWebsiteToo)
 {
     start();
-    const UrlTaker browser(QStringLiteral("https"));
+    const UrlInterceptor browser(QStringLiteral("https"));
     const AboutAnswer answer([](QDialog &about) { child<QPushButton>(about, "buttonWebsite").click(); });
     trigger(window, "actionAbout");
-    EXPECT_EQ(browser.taken, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
+    EXPECT_EQ(browser.urls, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
 }
 
 } // namespace

@@ -191,7 +191,7 @@ private:
 
     BytePixels pictureOnScreen()
     {
-        const BytePixels area = onScreen(preview());
+        const BytePixels area = grabScreen(preview());
         BytePixels picture(width, height);
         for (int y = 0; y < height; ++y) {
             for (int x = 0; x < width; ++x) {

@@ -2,7 +2,7 @@
 // How pictures come into the window.
 #include "tests/app/FilesTest.h"
 
-#include "tests/support/ClosedFolder.h"
+#include "tests/support/InaccessibleFolder.h"
 #include "ui/panels/Mixer.h"
 
 #include <QComboBox>
@@ -224,7 +224,7 @@ TEST_F(MainWindowOpen, AFileInAFolderWithoutAccessChangesNothing)
     expectWarning(path);
     MessageBoxAnswer box(QMessageBox::Ok);
     {
-        const ClosedFolder closed(inHome(QStringLiteral("closed")));
+        const InaccessibleFolder closed(inHome(QStringLiteral("closed")));
         window.openImage(path);
     }
     EXPECT_EQ(box.text, QStringLiteral("Cannot load %1.").arg(path));

@@ -52,7 +52,7 @@ protected:
         return screenOnceLike(centredRamp());
     }
 
-    BytePixels screenOnceLike(const BytePixels &expected) { return onScreenOnceLike(preview(), expected); }
+    BytePixels screenOnceLike(const BytePixels &expected) { return grabScreenOnceEqual(preview(), expected); }
 };
 
 TEST_F(MainWindowScreen, ThePanelsReachTheEdgeOfTheirFrame)
@@ -89,7 +89,7 @@ TEST_F(MainWindowScreen, PicturesOfOneToThreePixelsAreOnTheScreen)
         };
         window.openImage(makePicture(QStringLiteral("small.png"), width, height, 8, flat));
         const auto middle = [this] {
-            const BytePixels now = onScreen(preview());
+            const BytePixels now = grabScreen(preview());
             return now.at(now.width / 2, now.height / 2, 0);
         };
         EXPECT_TRUE(QTest::qWaitFor([&] { return middle() == level; })) << width << " x " << height;
@@ -125,7 +125,7 @@ TEST_F(MainWindowScreen, SavingLeavesTheScreenAsItIs)
     startEven();
     const BytePixels before = showRamp();
     window.saveImage(inHome(QStringLiteral("saved.png")));
-    ASSERT_TRUE(paintAgain(preview()));
+    ASSERT_TRUE(repaintAndWait(preview()));
     EXPECT_TRUE(picturesNear("screen", screenOnceLike(before), before));
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Preferences.h"
 #include "tests/app/FilesTest.h"
-#include "tests/support/UrlTaker.h"
+#include "tests/support/UrlInterceptor.h"
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>
@@ -133,20 +133,20 @@ TEST_F(PreferencesTest, ShowsWhereLogAndSettingsAre)
 TEST_F(PreferencesTest, OpensTheFolders)
 {
     remember(QStringLiteral("/pictures"), {});
-    const UrlTaker fileManager(QStringLiteral("file"));
+    const UrlInterceptor fileManager(QStringLiteral("file"));
     const Preferences preferences(dealer);
     button(preferences, "buttonOpenLog").click();
     button(preferences, "buttonOpenSettings").click();
-    EXPECT_EQ(fileManager.taken, (QList<QUrl>{QUrl::fromLocalFile(homePath()),
-                                              QUrl::fromLocalFile(inHome(QStringLiteral(".config/grisal.example")))}));
+    EXPECT_EQ(fileManager.urls, (QList<QUrl>{QUrl::fromLocalFile(homePath()),
+                                             QUrl::fromLocalFile(inHome(QStringLiteral(".config/grisal.example")))}));
 }
 
 TEST_F(PreferencesTest, BeforeThereAreSettingsOpensTheNearestFolderAbove)
 {
-    const UrlTaker fileManager(QStringLiteral("file"));
+    const UrlInterceptor fileManager(QStringLiteral("file"));
     const Preferences preferences(dealer);
     button(preferences, "buttonOpenSettings").click();
-    EXPECT_EQ(fileManager.taken, QList<QUrl>{QUrl::fromLocalFile(homePath())});
+    EXPECT_EQ(fileManager.urls, QList<QUrl>{QUrl::fromLocalFile(homePath())});
 }
 
 TEST_F(PreferencesTest, TellsThatNoProgramOpensTheFolder)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Session.h"
 #include "tests/graphics/files/PictureFiles.h"
-#include "tests/support/ClosedFolder.h"
+#include "tests/support/InaccessibleFolder.h"
 #include "tests/support/LogCapture.h"
 
 #include <QDir>
@@ -87,7 +87,7 @@ TEST_F(SessionTest, ReturnsNothingForAFileThatCannotBeExamined)
     open(makePicture("a.png", 8));
     ASSERT_TRUE(QDir(directory.path()).mkdir("closed"));
     {
-        const ClosedFolder closed(path("closed"));
+        const InaccessibleFolder closed(path("closed"));
         EXPECT_FALSE(session.read(path("closed/b.png")));
     }
     EXPECT_FALSE(session.read(path(QString(1000, QLatin1Char('x')) + ".png")));

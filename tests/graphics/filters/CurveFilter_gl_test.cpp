@@ -209,7 +209,7 @@ TEST_F(CurveFilterTest, LeavesUnitZeroActiveAndNoPictureBound)
     runFilter(filter, FloatPixels(1, 1));
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

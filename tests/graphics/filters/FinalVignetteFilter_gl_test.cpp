@@ -140,7 +140,7 @@ TEST_F(FinalVignetteFilterTest, DrawsAPartAsTheWholeHasIt)
 
     filter.applyPart(47, 30, 20, 11, target.record());
 
-    expectPassIsOver();
+    expectStateAfterPass();
     FloatPixels part(20, 11, 1);
     graphics::readPixels(target.record(), 20, 11, GL_RED, GL_FLOAT, part.values.data());
     FloatPixels expected(20, 11, 1);
@@ -181,7 +181,7 @@ TEST_F(FinalVignetteFilterTest, LeavesNothingBound)
     maskOf({30, 80, 90, 25}, 3, 2);
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

@@ -231,7 +231,7 @@ TEST_F(GaussianBlurFilterTest, LeavesNothingBound)
     blurred(FloatPixels(3, 2), 1);
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

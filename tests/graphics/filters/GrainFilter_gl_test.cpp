@@ -386,7 +386,7 @@ TEST_F(GrainFilterTest, LeavesUnitTwoActiveAndNothingBound)
     runFilter(filter, FloatPixels(3, 2));
 
     EXPECT_EQ(activeUnit(), 2);
-    expectPassIsOver();
+    expectStateAfterPass();
     EXPECT_EQ(bound2D(graphics::unit::extra), 0);
     EXPECT_EQ(bound1D(graphics::unit::weights), 0);
 }

@@ -180,7 +180,7 @@ TEST_F(HalfToneFilterTest, LeavesNothingBound)
     runFilter(filter, grey(0.5F));
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

@@ -77,7 +77,7 @@ std::vector<BytePixels> resultsOf(FilterSet &filters, const Look &parameters, co
              &filters.get<MixerFilter>(), &filters.get<CurveFilter>(), &filters.get<VignetteFilter>(),
              &filters.get<HalfToneFilter>(), &filters.get<GrainFilter>()}) {
         results.push_back(runFilter(*filter, image));
-        expectPassIsOver();
+        expectStateAfterPass();
     }
     return results;
 }

@@ -149,7 +149,7 @@ TEST_F(MixerFilterTest, LeavesNothingBound)
     runFilter(filter, redGreenBlueWhite);
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

@@ -162,7 +162,7 @@ TEST_F(OverlayFilterTest, LeavesUnitZeroActiveAndNoPictureBound)
     darkened(0.5F, 0.5F);
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

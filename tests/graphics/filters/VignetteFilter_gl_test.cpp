@@ -176,7 +176,7 @@ TEST_F(VignetteFilterTest, LeavesNothingBound)
     runFilter(filter, FloatPixels(1, 1));
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
     // The program does not read the noise, so that it is not bound either.
     EXPECT_EQ(bound2D(graphics::unit::extra), 0);
 }

@@ -269,7 +269,7 @@ TEST_F(VignetteMaskTest, LeavesNothingBound)
     makeVignetteMask(offCentre, width, height, roomForIt);
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

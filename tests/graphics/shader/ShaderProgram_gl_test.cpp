@@ -273,7 +273,7 @@ TEST_F(ShaderProgramTest, APassLeavesNothingBound)
     graphics::runPass(program, 1, 1, texture.name(), target.record());
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 TEST_F(ShaderProgramTest, SourcesBeginWithTheVersionTheyAreWrittenIn)

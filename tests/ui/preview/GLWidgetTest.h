@@ -93,7 +93,7 @@ protected:
 
     testing::AssertionResult screenShows(const BytePixels &expected) const
     {
-        return picturesNear("screen", onScreenOnceLike(widget, expected), expected);
+        return picturesNear("screen", grabScreenOnceEqual(widget, expected), expected);
     }
 
     void wheel(int delta)

@@ -66,7 +66,7 @@ TEST_F(GLWidgetTest, ThePreviewIsSeenAfterTheGrain)
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
     BytePixels full = rampPicture<std::uint8_t>(9, 7);
     EXPECT_TRUE(widget.renderFinal(full.values.data(), 9, 7, false, false));
-    ASSERT_TRUE(paintAgain(widget));
+    ASSERT_TRUE(repaintAndWait(widget));
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
@@ -130,7 +130,7 @@ TEST_F(GLWidgetTest, PicturesOfOneToThreePixelsAreShown)
         ASSERT_TRUE(std::isfinite(widget.scale()));
         BytePixels shown;
         EXPECT_TRUE(QTest::qWaitFor([&] {
-            shown = onScreen(widget);
+            shown = grabScreen(widget);
             return shown.at(shown.width / 2, shown.height / 2, 0) == 255;
         })) << side;
     }
