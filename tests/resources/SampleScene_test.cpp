@@ -33,7 +33,7 @@ bool hasSaturated(const Samples16 &words, std::size_t channel, int lead)
     return false;
 }
 
-TEST(SampleSceneTest, IsTheSameEveryTime)
+TEST(SampleSceneTest, IsDeterministic)
 {
     EXPECT_EQ(paintScene(width, height), paintScene(width, height));
 }
@@ -79,7 +79,7 @@ TEST(SampleSceneTest, HasSaturatedColours)
     EXPECT_TRUE(hasSaturated(words, 2, half / 2));
 }
 
-TEST(SampleSceneTest, RoundsWordsToTheNearestByte)
+TEST(SampleSceneTest, Rounds16BitSamplesToTheNearestByte)
 {
     EXPECT_EQ(asBytes({0, 128, 129, 257, 65406, 65407, 65535}), (std::vector<std::uint8_t>{0, 0, 1, 1, 254, 255, 255}));
 }
