@@ -248,7 +248,7 @@ TEST_F(LumioImageSaveTest, SavesAJpegWithoutLossAsTiff)
 }
 
 /// Contents for which GraphicsMagick would by default write fewer or more bits, or fewer channels, than requested.
-struct Tempting {
+struct Reducible {
     const char *name;
     Samples (*painter)(int x, int y);
 };
@@ -259,7 +259,7 @@ Samples grey(int level)
     return {sample, sample, sample};
 }
 
-const Tempting temptingContents[] = {
+const Reducible reducibleContents[] = {
     {"black", [](int, int) { return grey(0); }},
     {"white", [](int, int) { return grey(255); }},
     {"lines", [](int x, int) { return grey(x % 2 * 255); }},
@@ -274,7 +274,7 @@ const Tempting temptingContents[] = {
      }},
 };
 
-class TemptingContents : public testing::TestWithParam<std::tuple<Tempting, const char *, int>>
+class ReducibleContents : public testing::TestWithParam<std::tuple<Reducible, const char *, int>>
 {
 protected:
     static constexpr int side = 16;
@@ -306,7 +306,7 @@ protected:
     QTemporaryDir directory;
 };
 
-TEST_P(TemptingContents, AreWrittenWithTheDepthOfTheImage)
+TEST_P(ReducibleContents, AreWrittenWithTheDepthOfTheImage)
 {
     ASSERT_TRUE(picture().save(fileName("a"), quality));
     EXPECT_EQ(bitsPerChannel(fileName("a")), depth());
@@ -314,7 +314,7 @@ TEST_P(TemptingContents, AreWrittenWithTheDepthOfTheImage)
     EXPECT_EQ(samplesOf(fileName("a")), words());
 }
 
-TEST_P(TemptingContents, StayTheSameFromFileToFile)
+TEST_P(ReducibleContents, StayTheSameFromFileToFile)
 {
     ASSERT_TRUE(picture().save(fileName("0"), quality));
     for (int i = 0; i < 3; ++i) {
@@ -326,7 +326,7 @@ TEST_P(TemptingContents, StayTheSameFromFileToFile)
     EXPECT_EQ(samplesOf(fileName("3")), words());
 }
 
-TEST_P(TemptingContents, StayTheSameThroughAnOutputImage)
+TEST_P(ReducibleContents, StayTheSameThroughAnOutputImage)
 {
     ASSERT_TRUE(picture().save(fileName("0"), quality));
     for (int i = 0; i < 3; ++i) {
@@ -341,8 +341,8 @@ TEST_P(TemptingContents, StayTheSameThroughAnOutputImage)
     EXPECT_EQ(samplesOf(fileName("3")), words());
 }
 
-INSTANTIATE_TEST_SUITE_P(LumioImageSaveTest, TemptingContents,
-                         testing::Combine(testing::ValuesIn(temptingContents), testing::Values(".png", ".tif"),
+INSTANTIATE_TEST_SUITE_P(LumioImageSaveTest, ReducibleContents,
+                         testing::Combine(testing::ValuesIn(reducibleContents), testing::Values(".png", ".tif"),
                                           testing::Values(8, 16)),
                          [](const auto &test) {
                              return std::string(std::get<0>(test.param).name) + "_" + (std::get<1>(test.param) + 1) +

@@ -48,7 +48,7 @@ TEST(ImageLibraryTest, SetsLimits)
     EXPECT_GT(MagickLib::GetMagickResourceLimit(MagickLib::MemoryResource), 0);
 }
 
-TEST(LumioImageTest, IsNullAtFirst)
+TEST(LumioImageTest, IsNullInitially)
 {
     const LumioImage image;
     EXPECT_TRUE(image.isNull());

@@ -118,7 +118,7 @@ TEST_F(MetadataHostileTest, FilesWithBytesChangedAtRandomAreReadOrRejected)
             writeFile(path("bad"), bad);
             const bool isRead = image.read(path("bad"));
             read += isRead ? 1 : 0;
-            if (isRead && i % 10 == 0) { // to the disk it takes its time
+            if (isRead && i % 10 == 0) { // writing to the disk is slow
                 EXPECT_TRUE(image.save(path("saved.tif"), quality)) << name << ", " << i;
             }
         }

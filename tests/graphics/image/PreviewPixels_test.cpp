@@ -46,7 +46,7 @@ TEST(PreviewPixelsTest, LeavesSidesOfOneToThreePixels)
     }
 }
 
-TEST(PreviewPixelsTest, HasNoPixelsWithoutAPicture)
+TEST(PreviewPixelsTest, IsEmptyForNullOrEmptyImage)
 {
     const std::uint8_t byte = 0;
     for (const PreviewPixels &preview :
@@ -83,7 +83,7 @@ TEST(PreviewPixelsTest, DropsTheFourthComponent)
     EXPECT_EQ(makePreviewPixels(bytes.data(), 3, 1, false, true).bytes, (Bytes{1, 2, 3, 4, 5, 6, 7, 8, 9}));
 }
 
-TEST(PreviewPixelsTest, KeepsWordsAsWords)
+TEST(PreviewPixelsTest, KeepsSixteenBitSamples)
 {
     const Samples16 words{1000, 2000, 3000, 65535, 4000, 5000, 6000, 65535};
     const PreviewPixels preview = makePreviewPixels(words.data(), 2, 1, true, true);
@@ -92,14 +92,14 @@ TEST(PreviewPixelsTest, KeepsWordsAsWords)
     EXPECT_EQ(preview.data(), preview.words.data());
 }
 
-TEST(PreviewPixelsTest, DoesNotHalveWhatFits)
+TEST(PreviewPixelsTest, DoesNotDownscaleImagesWithinTheLimit)
 {
     const PreviewPixels preview = blank(4099, 12);
     EXPECT_EQ(preview.width, 4096);
     EXPECT_EQ(preview.height, 12);
 }
 
-TEST(PreviewPixelsTest, HalvesALargePictureTwice)
+TEST(PreviewPixelsTest, DownscalesALargeImageTwice)
 {
     const PreviewPixels preview = blank(9000, 6000);
     EXPECT_EQ(preview.width, 2250);
@@ -107,7 +107,7 @@ TEST(PreviewPixelsTest, HalvesALargePictureTwice)
     EXPECT_EQ(preview.bytes, Bytes(componentsOf(2250, 1500), 200));
 }
 
-TEST(PreviewPixelsTest, RoundsAfterEachHalving)
+TEST(PreviewPixelsTest, RoundsAfterEachDownscaling)
 {
     constexpr int width = 9004;
     constexpr int height = 28; // 14, then 7, of which the widths are 4502 and 2251
@@ -129,7 +129,7 @@ TEST(PreviewPixelsTest, RoundsAfterEachHalving)
     EXPECT_EQ(preview.bytes[0], mean(once(0, 0), once(2, 0), once(0, 2), once(2, 2)));
 }
 
-TEST(PreviewPixelsTest, NeverHalvesASideToNothing)
+TEST(PreviewPixelsTest, NeverDownscalesASideToZero)
 {
     const PreviewPixels wide = blank(20000, 1);
     EXPECT_EQ(wide.width, 2500);
@@ -140,20 +140,20 @@ TEST(PreviewPixelsTest, NeverHalvesASideToNothing)
     EXPECT_EQ(high.height, 2500);
 }
 
-TEST(PreviewPixelsTest, HalvesToTheRoundedMeanOfFour)
+TEST(PreviewPixelsTest, DownscalesToTheRoundedMeanOfFourPixels)
 {
     // One pixel: red sums to 10, green to 9, blue to 1020.
     const Bytes bytes{1, 0, 255, 2, 0, 255, 3, 0, 255, 4, 9, 255};
     EXPECT_EQ(half(2, 2, bytes).bytes, (Bytes{3, 2, 255}));
 }
 
-TEST(PreviewPixelsTest, HalvesWordsWithoutOverflow)
+TEST(PreviewPixelsTest, DownscalesSixteenBitSamplesWithoutOverflow)
 {
     const Samples16 words(componentsOf(2, 2), 65535);
     EXPECT_EQ(halved({2, 2, {}, words}).words, (Samples16{65535, 65535, 65535}));
 }
 
-TEST(PreviewPixelsTest, TakesNeighboursOfTheSameChannel)
+TEST(PreviewPixelsTest, AveragesOnlySamplesOfTheSameChannel)
 {
     Bytes bytes;
     for (int i = 0; i < 4 * 2; ++i) {
@@ -176,7 +176,7 @@ TEST(PreviewPixelsTest, DropsALastOddRowAndColumn)
     EXPECT_EQ(preview.bytes, (Bytes{50, 50, 50}));
 }
 
-TEST(PreviewPixelsTest, HalvesASingleRowOrColumnByPairs)
+TEST(PreviewPixelsTest, DownscalesASingleRowOrColumnByPairs)
 {
     const Bytes pair{10, 20, 30, 20, 21, 50};
     EXPECT_EQ(half(2, 1, pair).bytes, (Bytes{15, 21, 40}));

@@ -26,7 +26,7 @@ QVector<float> ofWords(const Samples16 &words, bool withAlpha = false)
     return toneHistogram(words.data(), words.size() / (withAlpha ? 4 : 3), true, withAlpha);
 }
 
-/// All zeros but for the given bins.
+/// A histogram of zeros except for the given bins.
 QVector<float> bins(std::initializer_list<std::pair<int, float>> filled)
 {
     QVector<float> histogram(256, 0.0F);
@@ -43,7 +43,7 @@ TEST(ToneHistogramTest, IsEmptyWithoutPixels)
     EXPECT_EQ(toneHistogram(&byte, 0, false, false), bins({}));
 }
 
-TEST(ToneHistogramTest, GivesTheShareOfATonesPixelsTimesThirty)
+TEST(ToneHistogramTest, ContainsThirtyTimesTheShareOfEachTone)
 {
     EXPECT_EQ(ofBytes({10, 10, 10, 10, 10, 10, 10, 10, 10, 200, 200, 200}), bins({{10, 22.5F}, {200, 7.5F}}));
 }
@@ -64,7 +64,7 @@ TEST(ToneHistogramTest, TruncatesTheMeanOfTheChannels)
     EXPECT_EQ(ofBytes({255, 255, 255}), bins({{255, 30.0F}}));
 }
 
-TEST(ToneHistogramTest, PutsEveryGreyIntoItsOwnBin)
+TEST(ToneHistogramTest, CountsEveryGreyInItsOwnBin)
 {
     Bytes bytes;
     for (int level = 0; level < 256; ++level) {
@@ -79,7 +79,7 @@ TEST(ToneHistogramTest, SkipsTheFourthComponent)
     EXPECT_EQ(ofWords({255, 255, 255, 65535, 510, 510, 510, 65535}, true), bins({{1, 15.0F}, {2, 15.0F}}));
 }
 
-// The curve panel has always drawn 16-bit tones by every 255th value, which leaves most of the others out.
+// The curve panel has always sampled only every 255th value of 16-bit images.
 TEST(ToneHistogramTest, SamplesEvery255thValueOf16Bits)
 {
     EXPECT_EQ(ofWords({254, 254, 254}), bins({}));
@@ -89,7 +89,7 @@ TEST(ToneHistogramTest, SamplesEvery255thValueOf16Bits)
     EXPECT_EQ(ofWords({65025, 65025, 65025}), bins({{255, 30.0F}}));
 }
 
-TEST(ToneHistogramTest, LeavesTheBrightest16BitTonesOut)
+TEST(ToneHistogramTest, OmitsTheBrightest16BitTones)
 {
     EXPECT_EQ(ofWords({65535, 65535, 65535}), bins({}));
 }
