@@ -42,7 +42,7 @@ protected:
     Lamp lamp;
 };
 
-TEST_F(AccessibleControlTest, IsAskedForRoleAndValue)
+TEST_F(AccessibleControlTest, InterfaceReturnsRoleAndValue)
 {
     EXPECT_EQ(roleOf(lamp), QAccessible::Indicator);
     EXPECT_EQ(accessibleText(lamp, QAccessible::Value), QStringLiteral("off"));
@@ -50,20 +50,20 @@ TEST_F(AccessibleControlTest, IsAskedForRoleAndValue)
     EXPECT_EQ(accessibleText(lamp, QAccessible::Value), QStringLiteral("on"));
 }
 
-TEST_F(AccessibleControlTest, TheValueLeadsTheDescription)
+TEST_F(AccessibleControlTest, DescriptionStartsWithTheValue)
 {
     EXPECT_EQ(accessibleText(lamp, QAccessible::Description), QStringLiteral("off"));
     lamp.setAccessibleDescription(QStringLiteral("Press it"));
     EXPECT_EQ(accessibleText(lamp, QAccessible::Description), QStringLiteral("off. Press it"));
 }
 
-TEST_F(AccessibleControlTest, OtherWordsAreTheWidgets)
+TEST_F(AccessibleControlTest, NameIsTheNameOfTheWidget)
 {
     lamp.setAccessibleName(QStringLiteral("Lamp"));
     EXPECT_EQ(accessibleText(lamp, QAccessible::Name), QStringLiteral("Lamp"));
 }
 
-TEST_F(AccessibleControlTest, AnotherValueIsToldOnce)
+TEST_F(AccessibleControlTest, ChangedValueIsReportedOnce)
 {
     show();
     AccessibilityEventRecorder recorder;
@@ -74,7 +74,7 @@ TEST_F(AccessibleControlTest, AnotherValueIsToldOnce)
     EXPECT_EQ(recorder.valuesOf(lamp), QStringList(QStringLiteral("off")));
 }
 
-TEST_F(AccessibleControlTest, WhatIsHiddenIsSilent)
+TEST_F(AccessibleControlTest, HiddenControlReportsNothing)
 {
     show();
     lamp.hide();
@@ -86,7 +86,7 @@ TEST_F(AccessibleControlTest, WhatIsHiddenIsSilent)
     EXPECT_EQ(recorder.valuesOf(lamp), QStringList(QStringLiteral("off")));
 }
 
-TEST_F(AccessibleControlTest, OrdinaryWidgetsStayAsTheyAre)
+TEST_F(AccessibleControlTest, OrdinaryWidgetsAreNotAffected)
 {
     QWidget plain;
     EXPECT_EQ(roleOf(plain), QAccessible::Client);

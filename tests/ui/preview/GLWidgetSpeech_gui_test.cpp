@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a screen reader hears of the preview.
+// The values that the preview reports to screen readers.
 #include "tests/ui/preview/GLWidgetTest.h"
 
 #include "tests/support/AccessibilityEventRecorder.h"
@@ -21,7 +21,7 @@ protected:
     std::string value() { return accessibleText(widget, QAccessible::Value).toStdString(); }
 };
 
-TEST_F(GLWidgetSpeech, ItTellsSizeZoomAndComparison)
+TEST_F(GLWidgetSpeech, ReportsSizeZoomAndComparison)
 {
     EXPECT_EQ(roleOf(widget), QAccessible::Canvas);
     EXPECT_EQ(value(), "No picture");

@@ -8,7 +8,7 @@ namespace
 
 using namespace grisal::ui;
 
-TEST(ZoomFit, RatiosAreWidgetPixelsPerPicturePixel)
+TEST(ZoomFit, RatiosAreWidgetPixelsPerImagePixel)
 {
     const FitRatios ratios = fitRatios(600, 400, 300, 100);
     EXPECT_FLOAT_EQ(ratios.width, 2);
@@ -17,28 +17,28 @@ TEST(ZoomFit, RatiosAreWidgetPixelsPerPicturePixel)
     EXPECT_FLOAT_EQ(ratios.smaller(), 2);
 }
 
-TEST(ZoomFit, APictureWithoutSizeDoesNotDivide)
+TEST(ZoomFit, ImageWithoutSizeHasRatiosOfOne)
 {
     const FitRatios ratios = fitRatios(600, 400, 0, 0);
     EXPECT_FLOAT_EQ(ratios.width, 1);
     EXPECT_FLOAT_EQ(ratios.height, 1);
 }
 
-TEST(ZoomFit, AStepIsATwentyFifth)
+TEST(ZoomFit, StepIsOneTwentyFifth)
 {
     EXPECT_FLOAT_EQ(zoomedScale(1, 1, 1), 1.04F);
     EXPECT_FLOAT_EQ(zoomedScale(1, -1, 1), 0.96F);
     EXPECT_FLOAT_EQ(zoomedScale(1, 3, 1), 1.12F);
 }
 
-// 20 is where zooming in stops being free, not a ceiling: photographers look at single pixels on large screens.
-TEST(ZoomFit, ZoomingInGoesOnAboveTwenty)
+// 20 is not a maximum: above it, zooming in depends on the fit, because single pixels are inspected on large screens.
+TEST(ZoomFit, ZoomingInContinuesAboveTwenty)
 {
     EXPECT_FLOAT_EQ(zoomedScale(19.99F, 1, 1), 20.03F);
     EXPECT_FLOAT_EQ(zoomedScale(20.03F, 1, 1), 20.07F);
 }
 
-TEST(ZoomFit, ZoomingInAboveTwentyStopsWhereTheFitIsLargerStill)
+TEST(ZoomFit, ZoomingInAboveTwentyStopsIfTheFitIsLarger)
 {
     EXPECT_FLOAT_EQ(zoomedScale(20.5F, 1, 50), 20.5F);
 }
