@@ -75,15 +75,15 @@ std::vector<std::uint8_t> greyBytes(int columns, int rows)
 
 void finalRender(benchmark::State &state)
 {
-    const bool words = depthOf(state) == 16;
+    const bool sixteenBit = depthOf(state) == 16;
     PreviewStage stage;
     const std::vector<std::uint8_t> grey = greyBytes(400, 300);
     stage.load(makePreviewPixels(grey.data(), 400, 300, false, false), pixelFormatsFor(false, false), 400, 300);
     enableAll(*stage.filters());
     stage.setGrain({QVector<float>(256, 0.5F), 1.5F});
-    std::vector<std::uint16_t> pixels(std::size_t{width} * height * 3 / (words ? 1 : 2), 100);
+    std::vector<std::uint16_t> pixels(std::size_t{width} * height * 3 / (sixteenBit ? 1 : 2), 100);
     for ([[maybe_unused]] auto _ : state) {
-        stage.renderFinal({pixels.data(), width, height, words, false});
+        stage.renderFinal({pixels.data(), width, height, sixteenBit, false});
     }
 }
 

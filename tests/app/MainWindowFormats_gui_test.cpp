@@ -114,7 +114,7 @@ class MainWindowRotatedImages : public FilesTest
 {
 protected:
     /// A photograph in portrait orientation as cameras store it: rotated.
-    QString makeTurned(const QString &name)
+    QString makeRotated(const QString &name)
     {
         const QString path = makePicture(name, 60, 40);
         Metadata metadata;
@@ -129,7 +129,7 @@ protected:
 TEST_F(MainWindowRotatedImages, HaveNormalisedOrientationInTitlePreviewAndLog)
 {
     start();
-    openWithDialog(makeTurned(QStringLiteral("a.jpg")));
+    openWithDialog(makeRotated(QStringLiteral("a.jpg")));
     EXPECT_EQ(title(), "Lumio Grisal (Alpha) - a.jpg 40x60");
     EXPECT_EQ(preview().previewWidth(), 40);
     EXPECT_EQ(preview().previewHeight(), 60);
@@ -139,7 +139,7 @@ TEST_F(MainWindowRotatedImages, HaveNormalisedOrientationInTitlePreviewAndLog)
 TEST_F(MainWindowRotatedImages, AreSavedWithNormalisedOrientationAndMetadata)
 {
     start();
-    openWithDialog(makeTurned(QStringLiteral("a.jpg")));
+    openWithDialog(makeRotated(QStringLiteral("a.jpg")));
     for (const char *name : {"b.jpg", "b.png", "b.tif"}) {
         const QString path = inHome(QString::fromLatin1(name));
         saveWithDialog(path);

@@ -138,11 +138,11 @@ protected:
         const BytePixels noise =
             reference::blurredNoise(reference::noiseMap(), wanted.parameters.get<GrainFilter>().radius);
         const Pixels<T> expected = reference::fileOf(opened, wanted, noise);
-        const Samples16 words = samplesOf(path);
-        ASSERT_EQ(words.size(), expected.values.size());
+        const Samples16 samples16 = samplesOf(path);
+        ASSERT_EQ(samples16.size(), expected.values.size());
         Pixels<T> saved = expected;
-        std::transform(words.begin(), words.end(), saved.values.begin(),
-                       [](std::uint16_t word) { return static_cast<T>(sizeof(T) == 1 ? word / 257 : word); });
+        std::transform(samples16.begin(), samples16.end(), saved.values.begin(),
+                       [](std::uint16_t sample) { return static_cast<T>(sizeof(T) == 1 ? sample / 257 : sample); });
         if (wanted.grain) {
             reference::leaveOutNoiseBoundaries(saved, expected, true);
         }

@@ -60,7 +60,7 @@ QStringList filmsOf(const QWidget &window)
     return films;
 }
 
-std::string toolkitButtonOf(const QDialog &dialog, QDialogButtonBox::StandardButton which)
+std::string qtButtonOf(const QDialog &dialog, QDialogButtonBox::StandardButton which)
 {
     QString text = child<QDialogButtonBox>(dialog, "buttonBox").button(which)->text();
     return text.remove(QLatin1Char('&')).toStdString();
@@ -105,7 +105,7 @@ TEST_F(TranslationTest, MenusAreEnglishInALanguageWithoutACatalogue)
     const Translation translation{QLocale(QLocale::Dutch)};
     EXPECT_EQ(menusOf(grisal::ui::MainWindow()), "File Edit View Filter Help");
     FileDealer dealer;
-    EXPECT_EQ(toolkitButtonOf(Preferences(dealer), QDialogButtonBox::Close), "Close");
+    EXPECT_EQ(qtButtonOf(Preferences(dealer), QDialogButtonBox::Close), "Close");
 }
 
 TEST_F(TranslationTest, TextsOfQtAreInTheSameLanguage)
@@ -114,7 +114,7 @@ TEST_F(TranslationTest, TextsOfQtAreInTheSameLanguage)
     FileDealer dealer;
     const Preferences preferences(dealer);
     EXPECT_EQ(preferences.windowTitle(), QStringLiteral("Einstellungen"));
-    EXPECT_EQ(toolkitButtonOf(preferences, QDialogButtonBox::Close), "Schließen");
+    EXPECT_EQ(qtButtonOf(preferences, QDialogButtonBox::Close), "Schließen");
 }
 
 TEST_F(TranslationTest, TextsInSourcesAndFormsAreTranslated)

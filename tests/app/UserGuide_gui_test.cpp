@@ -155,8 +155,8 @@ TEST_F(UserGuideTest, EveryPictureHasTwoDensitiesAndATextAlternative)
             EXPECT_EQ(highDpi.width(), 2 * picture.width()) << name.toStdString();
             EXPECT_EQ(highDpi.height(), 2 * picture.height()) << name.toStdString();
         }
-        const QRegularExpression inWords(QStringLiteral("<img src=\"\\w+\\.png\" alt=\"[^\"]{8,}\">"));
-        EXPECT_EQ(sourceOf(guide).count(inWords), pictures.size()) << guide.toStdString();
+        const QRegularExpression textAlternative(QStringLiteral("<img src=\"\\w+\\.png\" alt=\"[^\"]{8,}\">"));
+        EXPECT_EQ(sourceOf(guide).count(textAlternative), pictures.size()) << guide.toStdString();
     }
 }
 

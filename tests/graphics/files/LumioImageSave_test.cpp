@@ -30,11 +30,11 @@ Bytes countedBytes(std::size_t count)
 
 Samples16 spread(const Bytes &bytes)
 {
-    Samples16 words;
+    Samples16 samples16;
     for (const std::uint8_t byte : bytes) {
-        words.push_back(static_cast<std::uint16_t>(byte * 257));
+        samples16.push_back(static_cast<std::uint16_t>(byte * 257));
     }
-    return words;
+    return samples16;
 }
 
 struct LumioImageSaveTest : testing::Test {
@@ -200,10 +200,10 @@ TEST_F(LumioImageSaveTest, KeepsThePixels)
     ASSERT_TRUE(byteImage.save(path("a.png"), quality));
     EXPECT_EQ(bytesOf(byteImage), countedBytes(12));
 
-    const Samples16 words{1, 2, 3, 400, 50000, 65535};
-    LumioImage image16 = pictureOf(words, 2, 1);
+    const Samples16 samples16{1, 2, 3, 400, 50000, 65535};
+    LumioImage image16 = pictureOf(samples16, 2, 1);
     ASSERT_TRUE(image16.save(path("b.png"), quality));
-    EXPECT_EQ(samples16Of(image16), words);
+    EXPECT_EQ(samples16Of(image16), samples16);
 }
 
 // Only samples of 8-bit images are spread.
@@ -279,7 +279,7 @@ class ReducibleContents : public testing::TestWithParam<std::tuple<Reducible, co
 protected:
     static constexpr int side = 16;
 
-    Samples16 words() const
+    Samples16 samples16() const
     {
         Samples16 all;
         for (int i = 0; i < side * side; ++i) {
@@ -291,8 +291,8 @@ protected:
     Bytes highBytes() const
     {
         Bytes bytes;
-        for (const std::uint16_t word : words()) {
-            bytes.push_back(static_cast<std::uint8_t>(word >> 8));
+        for (const std::uint16_t sample : samples16()) {
+            bytes.push_back(static_cast<std::uint8_t>(sample >> 8));
         }
         return bytes;
     }
@@ -300,7 +300,7 @@ protected:
     int depth() const { return std::get<2>(GetParam()); }
     LumioImage picture() const
     {
-        return depth() == 16 ? pictureOf(words(), side, side) : pictureOf(highBytes(), side, side);
+        return depth() == 16 ? pictureOf(samples16(), side, side) : pictureOf(highBytes(), side, side);
     }
 
     QTemporaryDir directory;
@@ -311,7 +311,7 @@ TEST_P(ReducibleContents, AreWrittenWithTheDepthOfTheImage)
     ASSERT_TRUE(picture().save(fileName("a"), quality));
     EXPECT_EQ(bitsPerChannel(fileName("a")), depth());
     EXPECT_EQ(channelsPerPixel(fileName("a")), 3);
-    EXPECT_EQ(samplesOf(fileName("a")), words());
+    EXPECT_EQ(samplesOf(fileName("a")), samples16());
 }
 
 TEST_P(ReducibleContents, StayTheSameFromFileToFile)
@@ -323,7 +323,7 @@ TEST_P(ReducibleContents, StayTheSameFromFileToFile)
         ASSERT_TRUE(image.save(fileName(QString::number(i + 1)), quality));
     }
     EXPECT_EQ(bitsPerChannel(fileName("3")), depth());
-    EXPECT_EQ(samplesOf(fileName("3")), words());
+    EXPECT_EQ(samplesOf(fileName("3")), samples16());
 }
 
 TEST_P(ReducibleContents, StayTheSameThroughAnOutputImage)
@@ -338,7 +338,7 @@ TEST_P(ReducibleContents, StayTheSameThroughAnOutputImage)
         ASSERT_TRUE(output.save(fileName(QString::number(i + 1)), quality));
     }
     EXPECT_EQ(bitsPerChannel(fileName("3")), depth());
-    EXPECT_EQ(samplesOf(fileName("3")), words());
+    EXPECT_EQ(samplesOf(fileName("3")), samples16());
 }
 
 INSTANTIATE_TEST_SUITE_P(LumioImageSaveTest, ReducibleContents,

@@ -131,10 +131,10 @@ TEST_F(FramebuffersTest, SixteenBitColourGetsASixteenBitDepth)
 TEST_F(FramebuffersTest, OtherColoursGetTheDefaultDepthOfTheDriver)
 {
     const RenderTarget bytes(6, 4, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
-    const RenderTarget halves(6, 4, GL_RGB, GL_RGB16F, GL_UNSIGNED_SHORT);
+    const RenderTarget halfFloats(6, 4, GL_RGB, GL_RGB16F, GL_UNSIGNED_SHORT);
     const RenderTarget mask(6, 4, GL_RED, GL_R32F, GL_FLOAT);
 
-    for (const RenderTarget *target : {&bytes, &halves, &mask}) {
+    for (const RenderTarget *target : {&bytes, &halfFloats, &mask}) {
         EXPECT_EQ(depthParameter(target->record(), GL_RENDERBUFFER_INTERNAL_FORMAT), GL_DEPTH_COMPONENT);
         EXPECT_GE(depthParameter(target->record(), GL_RENDERBUFFER_DEPTH_SIZE), 16);
     }
@@ -252,14 +252,14 @@ TEST_P(UnalignedReadBackTest, WritesEverySampleAndNothingBeyond)
     const RenderTarget target(GetParam(), height, GL_RGB, GL_RGB16F, GL_UNSIGNED_SHORT);
     fill(target.record(), 1, 1, 1);
     const std::size_t size = static_cast<std::size_t>(GetParam()) * height * 3;
-    std::vector<std::uint16_t> words(size + guard, 0xA5A5);
+    std::vector<std::uint16_t> samples(size + guard, 0xA5A5);
     glPixelStorei(GL_PACK_ALIGNMENT, 8);
 
-    graphics::readPixels(target.record(), GetParam(), height, GL_RGB, GL_UNSIGNED_SHORT, words.data());
+    graphics::readPixels(target.record(), GetParam(), height, GL_RGB, GL_UNSIGNED_SHORT, samples.data());
 
-    const auto end = words.begin() + static_cast<std::ptrdiff_t>(size);
-    EXPECT_EQ(std::vector<std::uint16_t>(words.begin(), end), std::vector<std::uint16_t>(size, 65535));
-    EXPECT_EQ(std::vector<std::uint16_t>(end, words.end()), std::vector<std::uint16_t>(guard, 0xA5A5));
+    const auto end = samples.begin() + static_cast<std::ptrdiff_t>(size);
+    EXPECT_EQ(std::vector<std::uint16_t>(samples.begin(), end), std::vector<std::uint16_t>(size, 65535));
+    EXPECT_EQ(std::vector<std::uint16_t>(end, samples.end()), std::vector<std::uint16_t>(guard, 0xA5A5));
 }
 
 INSTANTIATE_TEST_SUITE_P(Widths, UnalignedReadBackTest, testing::Values(1, 3, 5, 513, 515));

@@ -73,7 +73,7 @@ TEST_F(ImageImporterTest, IgnoresNullBuffer)
     EXPECT_EQ(record, "");
 }
 
-// The result says whether the receivers have taken ownership of the buffer, which never happens here.
+// The result true would mean that the buffer was taken over permanently, which never happens.
 TEST_F(ImageImporterTest, AlwaysReturnsFalse)
 {
     EXPECT_FALSE(importer.importImage(&buffer));

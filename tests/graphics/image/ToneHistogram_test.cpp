@@ -21,9 +21,9 @@ QVector<float> ofBytes(const Bytes &bytes, bool withAlpha = false)
     return toneHistogram(bytes.data(), bytes.size() / (withAlpha ? 4 : 3), false, withAlpha);
 }
 
-QVector<float> ofWords(const Samples16 &words, bool withAlpha = false)
+QVector<float> of16BitSamples(const Samples16 &samples, bool withAlpha = false)
 {
-    return toneHistogram(words.data(), words.size() / (withAlpha ? 4 : 3), true, withAlpha);
+    return toneHistogram(samples.data(), samples.size() / (withAlpha ? 4 : 3), true, withAlpha);
 }
 
 /// A histogram of zeros except for the given bins.
@@ -76,37 +76,37 @@ TEST(ToneHistogramTest, CountsEveryGreyInItsOwnBin)
 TEST(ToneHistogramTest, SkipsTheFourthComponent)
 {
     EXPECT_EQ(ofBytes({10, 10, 10, 255, 20, 20, 20, 255}, true), bins({{10, 15.0F}, {20, 15.0F}}));
-    EXPECT_EQ(ofWords({255, 255, 255, 65535, 510, 510, 510, 65535}, true), bins({{1, 15.0F}, {2, 15.0F}}));
+    EXPECT_EQ(of16BitSamples({255, 255, 255, 65535, 510, 510, 510, 65535}, true), bins({{1, 15.0F}, {2, 15.0F}}));
 }
 
 // The curve panel has always sampled only every 255th value of 16-bit images.
 TEST(ToneHistogramTest, SamplesEvery255thValueOf16Bits)
 {
-    EXPECT_EQ(ofWords({254, 254, 254}), bins({}));
-    EXPECT_EQ(ofWords({255, 255, 255}), bins({{1, 30.0F}}));
-    EXPECT_EQ(ofWords({256, 256, 256}), bins({}));
-    EXPECT_EQ(ofWords({25500, 25500, 25500}), bins({{100, 30.0F}}));
-    EXPECT_EQ(ofWords({65025, 65025, 65025}), bins({{255, 30.0F}}));
+    EXPECT_EQ(of16BitSamples({254, 254, 254}), bins({}));
+    EXPECT_EQ(of16BitSamples({255, 255, 255}), bins({{1, 30.0F}}));
+    EXPECT_EQ(of16BitSamples({256, 256, 256}), bins({}));
+    EXPECT_EQ(of16BitSamples({25500, 25500, 25500}), bins({{100, 30.0F}}));
+    EXPECT_EQ(of16BitSamples({65025, 65025, 65025}), bins({{255, 30.0F}}));
 }
 
 TEST(ToneHistogramTest, OmitsTheBrightest16BitTones)
 {
-    EXPECT_EQ(ofWords({65535, 65535, 65535}), bins({}));
+    EXPECT_EQ(of16BitSamples({65535, 65535, 65535}), bins({}));
 }
 
 TEST(ToneHistogramTest, TruncatesTheMeanOf16BitChannels)
 {
-    EXPECT_EQ(ofWords({255, 255, 257}), bins({{1, 30.0F}}));
-    EXPECT_EQ(ofWords({765, 0, 0}), bins({{1, 30.0F}}));
+    EXPECT_EQ(of16BitSamples({255, 255, 257}), bins({{1, 30.0F}}));
+    EXPECT_EQ(of16BitSamples({765, 0, 0}), bins({{1, 30.0F}}));
 }
 
 TEST(ToneHistogramTest, CountsAllSampledValuesOfAFullRamp)
 {
-    Samples16 words;
+    Samples16 samples;
     for (int level = 0; level < 65536; ++level) {
-        words.insert(words.end(), 3, static_cast<std::uint16_t>(level));
+        samples.insert(samples.end(), 3, static_cast<std::uint16_t>(level));
     }
-    EXPECT_EQ(ofWords(words), QVector<float>(256, 30.0F / 65536.0F));
+    EXPECT_EQ(of16BitSamples(samples), QVector<float>(256, 30.0F / 65536.0F));
 }
 
 } // namespace

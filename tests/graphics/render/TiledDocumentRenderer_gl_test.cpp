@@ -22,13 +22,13 @@ using namespace grisal::graphics;
 using namespace grisal::test;
 
 constexpr TileFormats byteFormats{GL_RGB, GL_UNSIGNED_BYTE, GL_RGB8};
-constexpr TileFormats wordFormats{GL_RGB, GL_UNSIGNED_SHORT, GL_RGB16F};
+constexpr TileFormats sixteenBitFormats{GL_RGB, GL_UNSIGNED_SHORT, GL_RGB16F};
 
 /// Counts its passes and renders the source at half its brightness.
-class HalvingFilter : public MixerFilter
+class DarkeningFilter : public MixerFilter
 {
 public:
-    HalvingFilter() { weights = {0.5F, 0, 0}; }
+    DarkeningFilter() { weights = {0.5F, 0, 0}; }
 
     void apply(GLuint source, const FramebufferObject &target) override
     {
@@ -144,7 +144,7 @@ TEST_P(TiledSizes, SixteenBitImagesAreRoundedToHalfFloats)
     // At the upload llvmpipe rounds to the nearest half float; another driver may be one half float away, half of one
     // on average.
     const double limit = isLlvmpipe() ? 0 : halfFloatStep;
-    EXPECT_TRUE(picturesNear("16 bits", render(source, {&mixer}, wordFormats), expected, {limit, limit / 2}));
+    EXPECT_TRUE(picturesNear("16 bits", render(source, {&mixer}, sixteenBitFormats), expected, {limit, limit / 2}));
 }
 
 TEST_F(TiledDocumentRendererTest, AlphaOfTheSourceIsKept)
@@ -159,8 +159,8 @@ TEST_F(TiledDocumentRendererTest, AlphaOfTheSourceIsKept)
 TEST_F(TiledDocumentRendererTest, ResultIsTheSourceWithoutEnabledFilters)
 {
     const auto source = rampPicture<std::uint16_t>(5, 3, 4);
-    HalvingFilter filter;
-    EXPECT_TRUE(picturesNear("no filter", render(source, {&filter}, wordFormats), source));
+    DarkeningFilter filter;
+    EXPECT_TRUE(picturesNear("no filter", render(source, {&filter}, sixteenBitFormats), source));
     EXPECT_EQ(filter.passes, 0);
 }
 
@@ -174,8 +174,8 @@ TEST_F(TiledDocumentRendererTest, ResultIsTheSourceForAnEmptyQueue)
 // is always enabled.
 TEST_F(TiledDocumentRendererTest, WithOneEnabledFilterTheFirstOfTheQueueRuns)
 {
-    HalvingFilter first;
-    HalvingFilter second;
+    DarkeningFilter first;
+    DarkeningFilter second;
     second.enabled = true;
     render(rampPicture<std::uint8_t>(4, 4), {&first, &second}, byteFormats);
     EXPECT_EQ(first.passes, 1);
@@ -185,8 +185,8 @@ TEST_F(TiledDocumentRendererTest, WithOneEnabledFilterTheFirstOfTheQueueRuns)
 // An enabled first filter runs twice in the preview but once in the final render: saved images depend on it.
 TEST_F(TiledDocumentRendererTest, FirstFilterRunsOncePerTile)
 {
-    HalvingFilter first;
-    HalvingFilter second;
+    DarkeningFilter first;
+    DarkeningFilter second;
     first.enabled = true;
     second.enabled = true;
     const BytePixels white(4, 4, 3, std::vector<std::uint8_t>(48, 255));
@@ -198,9 +198,9 @@ TEST_F(TiledDocumentRendererTest, FirstFilterRunsOncePerTile)
 
 TEST_F(TiledDocumentRendererTest, FirstFilterRunsEvenIfDisabled)
 {
-    HalvingFilter first;
-    HalvingFilter second;
-    HalvingFilter third;
+    DarkeningFilter first;
+    DarkeningFilter second;
+    DarkeningFilter third;
     second.enabled = true;
     third.enabled = true;
     render(rampPicture<std::uint8_t>(4, 4), {&first, &second, &third}, byteFormats);
@@ -211,9 +211,9 @@ TEST_F(TiledDocumentRendererTest, FirstFilterRunsEvenIfDisabled)
 
 TEST_F(TiledDocumentRendererTest, DisabledFiltersInBetweenDoNotRun)
 {
-    HalvingFilter first;
-    HalvingFilter second;
-    HalvingFilter third;
+    DarkeningFilter first;
+    DarkeningFilter second;
+    DarkeningFilter third;
     first.enabled = true;
     third.enabled = true;
     render(rampPicture<std::uint8_t>(4, 4), {&first, &second, &third}, byteFormats);
@@ -222,7 +222,7 @@ TEST_F(TiledDocumentRendererTest, DisabledFiltersInBetweenDoNotRun)
 
 TEST_F(TiledDocumentRendererTest, UnknownPixelTypeGivesNoResult)
 {
-    HalvingFilter filter;
+    DarkeningFilter filter;
     filter.enabled = true;
     const auto source = rampPicture<std::uint8_t>(4, 4);
     EXPECT_TRUE(render(source, {&filter}, {GL_RGB, GL_FLOAT, GL_RGB32F}).values.empty());
@@ -370,7 +370,7 @@ TEST_F(TiledDocumentRendererTest, LogsFewerStepsOfSixteenBitTiles)
     const LogCapture log;
     MixerFilter mixer;
     mixer.enabled = true;
-    render(rampPicture<std::uint16_t>(5, 2049), {&mixer}, wordFormats);
+    render(rampPicture<std::uint16_t>(5, 2049), {&mixer}, sixteenBitFormats);
     EXPECT_TRUE(log.contains("(INFO) GL_RGB16 output image requested"));
     EXPECT_TRUE(log.contains("(INFO) Tiles requested"));
     EXPECT_TRUE(log.contains("(INFO) V Tiles:  4"));

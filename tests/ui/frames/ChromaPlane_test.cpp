@@ -79,7 +79,7 @@ TEST(ChromaPlane, MouseWheelStopsAtTheLimits)
     EXPECT_EQ(lumaAfterWheel(-511.5F, -120), -512);
 }
 
-/// The colour of the plane at a position, from the formula for its channels.
+/// The colour of the plane for a luma and a chroma, computed by the formula.
 QRgb colourAt(float luma, int u, int v)
 {
     const auto cut = [](double level) { return static_cast<int>(std::clamp(level, 0.0, 255.0)); };

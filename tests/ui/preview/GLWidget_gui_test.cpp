@@ -99,8 +99,8 @@ TEST_F(GLWidgetTest, SixteenBitImagesLogOtherFormats)
 {
     show();
     const LogCapture log;
-    const Samples16Image words(8, 4, 4);
-    widget.loadImage(words.values.data(), 8, 4, true, true);
+    const Samples16Image samples(8, 4, 4);
+    widget.loadImage(samples.values.data(), 8, 4, true, true);
     EXPECT_EQ(log.debugs().mid(5, 3).join('\n').toStdString(), "Format Type(GL_RGB8):  false\n"
                                                                "Image Format(GL_RGB):  false\n"
                                                                "Element Type(GLUB):    false");
