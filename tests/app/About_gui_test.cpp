@@ -23,7 +23,7 @@ using namespace grisal::test;
 struct LicenseRow {
     const char *name; ///< of the library
     const char *resource;
-    const char *words; ///< that only this text has
+    const char *words; ///< contained in this text only
 };
 
 constexpr std::array<LicenseRow, 16> licenseTable{{
@@ -61,13 +61,13 @@ protected:
     QLabel &logo = child<QLabel>(about, "labelLogo");
 };
 
-TEST_F(AboutTest, HasItsTitleAndSize)
+TEST_F(AboutTest, HasTitleAndSize)
 {
     EXPECT_EQ(about.windowTitle(), QStringLiteral("About"));
     EXPECT_EQ(about.size(), QSize(404, 284));
 }
 
-TEST_F(AboutTest, OpensOnTheFirstOfItsTwoTabs)
+TEST_F(AboutTest, OpensOnTheFirstOfTwoTabs)
 {
     ASSERT_EQ(tabs.count(), 2);
     EXPECT_EQ(tabs.tabText(0), QStringLiteral("About"));
@@ -77,13 +77,13 @@ TEST_F(AboutTest, OpensOnTheFirstOfItsTwoTabs)
     EXPECT_EQ(tabs.currentIndex(), 0);
 }
 
-TEST_F(AboutTest, TheLogoIsThirtyPixelsWideAndSharp)
+TEST_F(AboutTest, LogoIsThirtyPixelsWideAtTheScreenDensity)
 {
     const QPixmap pixmap = logo.pixmap();
     EXPECT_EQ(pixmap.deviceIndependentSize().width(), 30);
     EXPECT_EQ(pixmap.devicePixelRatio(), about.devicePixelRatioF());
     EXPECT_EQ(pixmap.width(), qRound(30 * about.devicePixelRatioF()));
-    // Drawn in this density, not blown up from another: the same as the drawing at this size.
+    // The logo is rendered at the density of the screen, not scaled.
     const QImage expected = QPixmap(QStringLiteral(":/Icons/Icons/logo.svg"))
                                 .scaledToWidth(pixmap.width(), Qt::SmoothTransformation)
                                 .toImage();
@@ -93,7 +93,7 @@ TEST_F(AboutTest, TheLogoIsThirtyPixelsWideAndSharp)
     EXPECT_TRUE(logo.text().isEmpty());
 }
 
-TEST_F(AboutTest, TheLicensesStandInTheirOrder)
+TEST_F(AboutTest, LicensesAreListedInFixedOrder)
 {
     ASSERT_EQ(box.count(), static_cast<int>(licenseTable.size()));
     for (int i = 0; i < box.count(); ++i) {
@@ -105,13 +105,13 @@ TEST_F(AboutTest, TheLicensesStandInTheirOrder)
     }
 }
 
-TEST_F(AboutTest, TheFirstLicenseIsShownFromTheStart)
+TEST_F(AboutTest, FirstLicenseIsShownInitially)
 {
     EXPECT_EQ(box.currentText(), QStringLiteral("Adobe"));
     EXPECT_EQ(browser.toPlainText().trimmed().toStdString(), textOf(licenseTable[0]).trimmed().toStdString());
 }
 
-TEST_F(AboutTest, EveryLibraryShowsItsOwnTextAsItStands)
+TEST_F(AboutTest, EveryLibraryShowsItsUnchangedLicenseText)
 {
     std::set<QString> texts;
     for (int i = 0; i < box.count(); ++i) {
@@ -125,7 +125,7 @@ TEST_F(AboutTest, EveryLibraryShowsItsOwnTextAsItStands)
     }
 }
 
-// What the program is linked with comes with its whole licence, not with a word about it.
+// A library that the program is linked with has its complete licence.
 TEST_F(AboutTest, TextsOfContainedLibrariesHaveACopyrightLine)
 {
     for (const LicenseRow &row : licenseTable) {
@@ -137,7 +137,7 @@ TEST_F(AboutTest, TextsOfContainedLibrariesHaveACopyrightLine)
     }
 }
 
-TEST_F(AboutTest, TheButtonBoxHasOkAlone)
+TEST_F(AboutTest, ButtonBoxHasOnlyOk)
 {
     const auto &buttons = child<QDialogButtonBox>(about, "buttonBox");
     EXPECT_EQ(buttons.orientation(), Qt::Vertical);
@@ -145,7 +145,7 @@ TEST_F(AboutTest, TheButtonBoxHasOkAlone)
     EXPECT_EQ(child<QPushButton>(about, "buttonWebsite").text(), QStringLiteral("Website"));
 }
 
-TEST_F(AboutTest, OkAndEscapeCloseIt)
+TEST_F(AboutTest, OkAndEscapeCloseTheDialog)
 {
     about.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&about));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The window without a screen to look at and without a mouse.
+// Use of the window with a screen reader and with the keyboard alone.
 #include "tests/app/WindowTest.h"
 
 #include "app/About.h"
@@ -32,7 +32,7 @@ bool isOurs(const QAccessibleInterface &element)
     return dynamic_cast<const AccessibleControl *>(element.object()) != nullptr;
 }
 
-/// Whether it can be used, or is made by this program: such a thing needs a name.
+/// Whether the element is interactive or a widget of this program and therefore needs a name.
 bool needsName(const QAccessibleInterface &element)
 {
     switch (element.role()) {
@@ -80,14 +80,14 @@ std::string describe(const QAccessibleInterface &element)
         .toStdString();
 }
 
-/// Expects a name for everything visible that needs one, and that two controls of a kind do not share theirs.
-/// Returns how many there were.
+/// Expects that all visible elements that need a name have one, which is unique among controls of the same role.
+/// Returns their number.
 int expectNames(QObject &root)
 {
     int count = 0;
     QSet<QString> seen;
     visitVisible(*QAccessible::queryAccessibleInterface(&root), [&](QAccessibleInterface &element) {
-        // A separator is a menu item without anything to say.
+        // A separator is a menu item without text.
         const bool separator = element.role() == QAccessible::Separator;
         if (separator || !needsName(element)) {
             return;
@@ -132,8 +132,8 @@ protected:
         }
     }
 
-    /// The controls of the shown panel, and the preview, that the user can reach by Tab. Of a group of radio buttons it
-    /// is the checked one, from which the arrows lead to the others.
+    /// The controls of the shown panel, and the preview, that can be reached by Tab. In a group of radio buttons this
+    /// is the checked one; the arrow keys move to the others.
     QList<QWidget *> expectedStops()
     {
         QList<QWidget *> stops{&preview()};
@@ -152,7 +152,7 @@ protected:
         return stops;
     }
 
-    /// Where the Tab key leads from the preview, once around.
+    /// The widgets that get the focus by repeated Tab from the preview, until it returns there.
     QList<QWidget *> tabStops(Qt::Key key = Qt::Key_Tab)
     {
         QList<QWidget *> stops;
@@ -171,12 +171,12 @@ TEST_F(Accessibility, EveryControlOfEveryPanelHasAName)
     for (const char *name : panelActions) {
         SCOPED_TRACE(name);
         showPanel(name);
-        // Five menus, six buttons of the tool bar and the preview are always there.
+        // Five menus, six buttons of the tool bar and the preview are always visible.
         EXPECT_GT(expectNames(window), 12);
     }
 }
 
-TEST_F(Accessibility, TheWalkFindsAControlWithoutName)
+TEST_F(Accessibility, ControlWithoutNameIsDetected)
 {
     start();
     child<QWidget>(*panels().currentWidget(), "frameYUV").setAccessibleName(QString());
@@ -187,7 +187,7 @@ TEST_F(Accessibility, TheWalkFindsAControlWithoutName)
     EXPECT_EQ(nameless, 1);
 }
 
-TEST_F(Accessibility, EveryControlOfEveryPanelIsDescribedInPlainText)
+TEST_F(Accessibility, EveryControlOfEveryPanelHasAPlainTextDescription)
 {
     start();
     for (const char *name : panelActions) {
@@ -201,7 +201,7 @@ TEST_F(Accessibility, EveryControlOfEveryPanelIsDescribedInPlainText)
     }
 }
 
-TEST_F(Accessibility, TheToolBarSaysWhatItsButtonsAreFor)
+TEST_F(Accessibility, ToolBarButtonsHaveDescriptions)
 {
     start();
     const auto &bar = *window.findChild<QToolBar *>();
@@ -211,7 +211,7 @@ TEST_F(Accessibility, TheToolBarSaysWhatItsButtonsAreFor)
     }
 }
 
-TEST_F(Accessibility, LabelsBelongToWhatTheyStandBefore)
+TEST_F(Accessibility, EveryLabelOfEveryPanelHasABuddy)
 {
     start();
     for (const char *name : panelActions) {
@@ -222,7 +222,7 @@ TEST_F(Accessibility, LabelsBelongToWhatTheyStandBefore)
     }
 }
 
-TEST_F(Accessibility, TheMenusHaveNames)
+TEST_F(Accessibility, MenusHaveNames)
 {
     start();
     for (const char *name : {"menuFile", "menuEdit", "menuView", "menuFilter", "menuHelp"}) {
@@ -233,7 +233,7 @@ TEST_F(Accessibility, TheMenusHaveNames)
     }
 }
 
-TEST_F(Accessibility, TheAboutBoxHasNames)
+TEST_F(Accessibility, AboutBoxHasNames)
 {
     About about;
     about.show();
@@ -245,7 +245,7 @@ TEST_F(Accessibility, TheAboutBoxHasNames)
     }
 }
 
-TEST_F(Accessibility, TabReachesEverythingAndShiftTabGoesBack)
+TEST_F(Accessibility, TabReachesEveryControlAndShiftTabReversesTheOrder)
 {
     start();
     for (const char *name : panelActions) {
@@ -260,8 +260,8 @@ TEST_F(Accessibility, TabReachesEverythingAndShiftTabGoesBack)
     }
 }
 
-// Rows from the top to the bottom, in a row from the left to the right. The numbers beside a wheel are a column.
-TEST_F(Accessibility, TabGoesDownwardsAndEndsAtThePreview)
+// Rows from top to bottom, each row from left to right. The numbers beside a wheel form a column.
+TEST_F(Accessibility, TabOrderIsTopToBottomAndEndsAtThePreview)
 {
     start();
     for (const char *name : panelActions) {
@@ -278,7 +278,7 @@ TEST_F(Accessibility, TabGoesDownwardsAndEndsAtThePreview)
     }
 }
 
-TEST_F(Accessibility, TheFocusIsSeenOnEveryControl)
+TEST_F(Accessibility, FocusIsVisibleOnEveryControl)
 {
     start();
     for (const char *name : panelActions) {

@@ -15,11 +15,11 @@ namespace
 
 using namespace grisal::test;
 
-/// Takes down what the status bar and the cursor were at each paint of the status bar.
-class PaintWatch : public QObject
+/// Records the status text and the cursor at each paint of the status bar.
+class PaintRecorder : public QObject
 {
 public:
-    explicit PaintWatch(QStatusBar &statusBar, const QProgressBar &progressBar)
+    explicit PaintRecorder(QStatusBar &statusBar, const QProgressBar &progressBar)
         : m_statusBar(statusBar), m_progressBar(progressBar)
     {
         statusBar.installEventFilter(this);
@@ -51,7 +51,7 @@ protected:
         FilesTest::SetUp();
         if (!IsSkipped()) {
             start();
-            ASSERT_TRUE(paintAgain(preview()));
+            ASSERT_TRUE(repaintAndWait(preview()));
         }
     }
 
@@ -66,47 +66,47 @@ protected:
     }
 };
 
-TEST_F(BusyNotice, ReadingIsShown)
+TEST_F(BusyNotice, IsShownWhileReading)
 {
     const QString path = makePicture(QStringLiteral("a.png"), 61, 47);
-    const PaintWatch watch(statusBar(), progressBar());
+    const PaintRecorder recorder(statusBar(), progressBar());
     window.openImage(path);
-    EXPECT_EQ(watch.texts, QStringList("Reading a.png"));
-    EXPECT_EQ(watch.barsSeen, 1);
+    EXPECT_EQ(recorder.texts, QStringList("Reading a.png"));
+    EXPECT_EQ(recorder.barsSeen, 1);
     expectNothingShown();
 }
 
-TEST_F(BusyNotice, RenderingAndWritingAreShown)
+TEST_F(BusyNotice, IsShownWhileRenderingAndWriting)
 {
     window.openImage(makePicture(QStringLiteral("a.png"), 2052, 40));
-    const PaintWatch watch(statusBar(), progressBar());
+    const PaintRecorder recorder(statusBar(), progressBar());
     window.saveImage(inHome(QStringLiteral("b.png")));
-    ASSERT_GE(watch.texts.size(), 2);
-    EXPECT_EQ(watch.texts.first(), "Rendering tile 1 of 4");
-    EXPECT_EQ(watch.texts.last(), "Writing b.png");
-    EXPECT_EQ(watch.barsSeen, watch.texts.size());
+    ASSERT_GE(recorder.texts.size(), 2);
+    EXPECT_EQ(recorder.texts.first(), "Rendering tile 1 of 4");
+    EXPECT_EQ(recorder.texts.last(), "Writing b.png");
+    EXPECT_EQ(recorder.barsSeen, recorder.texts.size());
     expectNothingShown();
 }
 
-TEST_F(BusyNotice, TheProgressBarIsPaintedOnTheScreen)
+TEST_F(BusyNotice, ProgressBarIsPaintedOnTheScreen)
 {
     QImage shown;
-    const auto lookAtIt = [&] { QGuiApplication::primaryScreen()->grabWindow(0).toImage().swap(shown); };
-    lookAtIt();
+    const auto grab = [&] { QGuiApplication::primaryScreen()->grabWindow(0).toImage().swap(shown); };
+    grab();
     const QPoint corner = progressBar().mapToGlobal(QPoint(0, 0));
     const QRect place(corner, progressBar().size());
     const QImage before = shown.copy(place);
     QObject::connect(&statusBar(), &QStatusBar::messageChanged, &window, [&](const QString &text) {
         if (text.isEmpty() && shown.copy(place) == before) {
-            lookAtIt(); // the work is over, and no event has been processed: what is on the screen was painted by it
+            grab(); // the work is finished and no event was processed, so the work itself has painted this
         }
     });
     window.openImage(makePicture(QStringLiteral("a.png"), 61, 47));
     EXPECT_NE(shown.copy(place), before);
 }
 
-// The filters then have the sizes of tiles, and the preview must not take part in that.
-TEST_F(BusyNotice, APreviewThatWantsToBePaintedDoesNotSpoilTheFile)
+// During a render the filters have the sizes of tiles; a repaint of the preview must not affect the result.
+TEST_F(BusyNotice, PreviewRepaintDuringRenderingKeepsTheFileCorrect)
 {
     const QString source = makePicture(QStringLiteral("a.png"), 2052, 40);
     window.openImage(source);
@@ -125,7 +125,7 @@ TEST_F(BusyNotice, APreviewThatWantsToBePaintedDoesNotSpoilTheFile)
     EXPECT_EQ(samplesOf(source).size(), samplesOf(inHome(QStringLiteral("b.png"))).size());
 }
 
-TEST_F(BusyNotice, NoEventIsProcessedMeanwhile)
+TEST_F(BusyNotice, NoEventIsProcessedWhileReadingAndSaving)
 {
     const QString path = makePicture(QStringLiteral("a.png"), 300, 200);
     int events = 0;
@@ -136,7 +136,7 @@ TEST_F(BusyNotice, NoEventIsProcessedMeanwhile)
     EXPECT_TRUE(QTest::qWaitFor([&] { return events == 1; }));
 }
 
-TEST_F(BusyNotice, IsOverWhenSomethingIsToldOfTheWork)
+TEST_F(BusyNotice, EndsBeforeTheErrorBoxOpens)
 {
     expectWarning(QStringLiteral("No JPEG, PNG or TIFF picture in "));
     writeFile(inHome(QStringLiteral("a.png")), "rubbish");
@@ -150,7 +150,7 @@ TEST_F(BusyNotice, IsOverWhenSomethingIsToldOfTheWork)
     expectNothingShown();
 }
 
-TEST_F(BusyNotice, WhatIsToldAtTheEndStays)
+TEST_F(BusyNotice, ErrorTextStaysInTheStatusBar)
 {
     expectWarning(QStringLiteral("The name ends in none of .jpg, .jpeg, .png, .tif and .tiff"));
     window.openImage(makePicture(QStringLiteral("a.png"), 8, 8));

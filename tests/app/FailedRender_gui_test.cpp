@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The driver fails in the middle of a save: the next save has to be whole, whatever was left of the failed one.
+// After an OpenGL failure during a save, the next save has to be correct.
 #include "graphics/gl/GL.h"
 #include "tests/app/FilesTest.h"
 
@@ -16,7 +16,7 @@ int calls = 0;
 
 } // namespace
 
-/// Stands in for the driver's.
+/// Replaces the function of the OpenGL driver.
 extern "C" GLenum GLAPIENTRY glGetError()
 {
     static const auto real = reinterpret_cast<GLenum(GLAPIENTRY *)()>(dlsym(RTLD_NEXT, "glGetError"));
@@ -32,7 +32,7 @@ using namespace grisal::test;
 class FailedRender : public FilesTest
 {
 protected:
-    /// Opens a picture of four tiles, saves it once in the right way, and again with the driver failing half way.
+    /// Opens an image of four tiles, saves it, and saves it again with an OpenGL failure half way through.
     void failToSave(const QString &name, int depth)
     {
         start();
@@ -56,20 +56,20 @@ protected:
     }
 };
 
-TEST_F(FailedRender, TheNextSaveIsWhole)
+TEST_F(FailedRender, NextSaveOf8BitsIsCorrect)
 {
     failToSave(QStringLiteral("a.png"), 8);
     expectNextSaveIsRight();
 }
 
-TEST_F(FailedRender, TheNextSaveOf16BitsIsWhole)
+TEST_F(FailedRender, NextSaveOf16BitsIsCorrect)
 {
     failToSave(QStringLiteral("a.tif"), 16);
     expectNextSaveIsRight();
 }
 
-// What is there of the picture is opened again instead of a file that is not there any more.
-TEST_F(FailedRender, ASaveAfterAMissingFileIsWhole)
+// If a file is missing, the open image is opened again.
+TEST_F(FailedRender, SaveAfterOpeningMissingFileIsCorrect)
 {
     failToSave(QStringLiteral("a.png"), 8);
     expectWarning(QStringLiteral("missing.png"));

@@ -39,7 +39,7 @@ void storeRecent(const QStringList &paths)
 class FileDealerTest : public GuiTest
 {
 protected:
-    /// Path of an empty file in a folder of the home.
+    /// Creates an empty file in a folder of the home directory; returns its path.
     QString makeFile(const QString &name, const QString &folder = QStringLiteral("pictures")) const
     {
         QDir().mkpath(inHome(folder));
@@ -48,7 +48,7 @@ protected:
         return file.fileName();
     }
 
-    /// What the window does with a path from the open dialog that turns out to be a picture.
+    /// Opens an image as the window does: with the open dialog and then addToRecent().
     void open(const QString &path)
     {
         const FileDialogAnswer answer(path);
@@ -72,7 +72,7 @@ protected:
     QMenu menu;
 };
 
-TEST_F(FileDealerTest, TheMenuGetsFiveHiddenItems)
+TEST_F(FileDealerTest, MenuGetsFiveHiddenItems)
 {
     dealer.setUpRecentMenu(&menu);
     ASSERT_EQ(menu.actions().size(), 5);
@@ -82,7 +82,7 @@ TEST_F(FileDealerTest, TheMenuGetsFiveHiddenItems)
     }
 }
 
-TEST_F(FileDealerTest, TheMenuShowsWhatAnEarlierRunOpened)
+TEST_F(FileDealerTest, MenuShowsImagesOfAnEarlierRun)
 {
     const QString path = makeFile(QStringLiteral("a.png"));
     storeRecent({path});
@@ -91,7 +91,7 @@ TEST_F(FileDealerTest, TheMenuShowsWhatAnEarlierRunOpened)
     EXPECT_EQ(menu.actions()[0]->data().toString(), path);
 }
 
-TEST_F(FileDealerTest, AnAmpersandIsShownAsOne)
+TEST_F(FileDealerTest, AmpersandInAFileNameIsShownLiterally)
 {
     const QString path = makeFile(QStringLiteral("Black & White.jpg"));
     storeRecent({path});
@@ -100,13 +100,13 @@ TEST_F(FileDealerTest, AnAmpersandIsShownAsOne)
     EXPECT_EQ(menu.actions()[0]->data().toString(), path);
 }
 
-TEST_F(FileDealerTest, ACancelledSaveDialogGivesNoPath)
+TEST_F(FileDealerTest, CancelledSaveDialogReturnsEmptyPath)
 {
     const FileDialogAnswer cancel({});
     EXPECT_TRUE(dealer.saveDialog().isEmpty());
 }
 
-TEST_F(FileDealerTest, SettingsThatHoldOtherThingsAreNoHindrance)
+TEST_F(FileDealerTest, InvalidSettingsAreIgnoredAndReplaced)
 {
     settings().setValue(QStringLiteral("recentImages"), QByteArray("\0\xff\xfe rubbish", 10));
     settings().setValue(QStringLiteral("lastDirectory"), QStringList{QStringLiteral("a"), QStringLiteral("b")});
@@ -118,7 +118,7 @@ TEST_F(FileDealerTest, SettingsThatHoldOtherThingsAreNoHindrance)
     EXPECT_EQ(storedDirectory(), inHome(QStringLiteral("pictures")));
 }
 
-TEST_F(FileDealerTest, AListOfThousandsIsCutWithTheNextPicture)
+TEST_F(FileDealerTest, StoredListOfThousandsIsCutToFiveWhenAnImageIsAdded)
 {
     QStringList paths;
     for (int i = 0; i < 10000; ++i) {
@@ -132,7 +132,7 @@ TEST_F(FileDealerTest, AListOfThousandsIsCutWithTheNextPicture)
     EXPECT_EQ(shown(), QStringList(QStringLiteral("a.png Alt+1")));
 }
 
-TEST_F(FileDealerTest, TheLastFiveOfSixAreShownNewestFirst)
+TEST_F(FileDealerTest, LastFiveOfSixAreShownNewestFirst)
 {
     dealer.setUpRecentMenu(&menu);
     for (const char name : std::string("abcdef")) {
@@ -143,7 +143,7 @@ TEST_F(FileDealerTest, TheLastFiveOfSixAreShownNewestFirst)
     EXPECT_EQ(storedRecent().size(), 5);
 }
 
-TEST_F(FileDealerTest, APictureThatIsOpenedAgainMovesToTheFront)
+TEST_F(FileDealerTest, ReopenedImageMovesToTheFront)
 {
     dealer.setUpRecentMenu(&menu);
     const QString a = makeFile(QStringLiteral("a.png"));
@@ -154,7 +154,7 @@ TEST_F(FileDealerTest, APictureThatIsOpenedAgainMovesToTheFront)
     EXPECT_EQ(storedRecent(), (QStringList{a, b}));
 }
 
-TEST_F(FileDealerTest, PathsThatDifferInCaseAreDifferentPictures)
+TEST_F(FileDealerTest, PathsThatDifferInCaseAreDifferentImages)
 {
     const QString lower = makeFile(QStringLiteral("a.png"));
     const QString upper = makeFile(QStringLiteral("A.PNG"));
@@ -163,8 +163,8 @@ TEST_F(FileDealerTest, PathsThatDifferInCaseAreDifferentPictures)
     EXPECT_EQ(storedRecent(), (QStringList{upper, lower}));
 }
 
-// A picture on a drive that is unplugged: digits count what is there, and the item waits as it was.
-TEST_F(FileDealerTest, AMissingPictureLeavesItsItemAsItWas)
+// For example an image on an unplugged drive: only existing files get a digit, and the item stays in the list.
+TEST_F(FileDealerTest, MissingImageIsStoredButItsItemStaysHidden)
 {
     const QString a = makeFile(QStringLiteral("a.png"));
     const QString b = makeFile(QStringLiteral("b.png"));
@@ -182,7 +182,7 @@ TEST_F(FileDealerTest, AMissingPictureLeavesItsItemAsItWas)
     EXPECT_EQ(menu.actions()[1]->data().toString(), c);
 }
 
-TEST_F(FileDealerTest, AMissingPictureInTheMiddleTakesNoDigit)
+TEST_F(FileDealerTest, MissingImageInTheMiddleGetsNoDigit)
 {
     storeRecent(
         {makeFile(QStringLiteral("a.png")), inHome(QStringLiteral("b.png")), makeFile(QStringLiteral("c.png"))});
@@ -203,7 +203,7 @@ TEST_F(FileDealerTest, ItemsBeyondTheListAreHidden)
     EXPECT_EQ(shown(), QStringList(QStringLiteral("a.png Alt+1")));
 }
 
-TEST_F(FileDealerTest, AListThatIsTooLongShowsItsFirstFive)
+TEST_F(FileDealerTest, TooLongListShowsItsFirstFive)
 {
     QStringList paths;
     for (const char name : std::string("abcdefg")) {
@@ -215,7 +215,7 @@ TEST_F(FileDealerTest, AListThatIsTooLongShowsItsFirstFive)
     EXPECT_EQ(shown().last(), QStringLiteral("e.png Alt+5"));
 }
 
-TEST_F(FileDealerTest, AnItemAsksForItsPicture)
+TEST_F(FileDealerTest, TriggeredItemEmitsThePathOfItsImage)
 {
     const QString path = makeFile(QStringLiteral("a.png"));
     storeRecent({path});
@@ -226,15 +226,15 @@ TEST_F(FileDealerTest, AnItemAsksForItsPicture)
     EXPECT_EQ(asked[0][0].toString(), path);
 }
 
-TEST_F(FileDealerTest, WithoutASenderNothingIsAskedFor)
+TEST_F(FileDealerTest, OpenRecentWithoutSenderEmitsNothing)
 {
     const QSignalSpy asked(&dealer, &FileDealer::signalOpenImage);
     dealer.openRecent();
     EXPECT_TRUE(asked.isEmpty());
 }
 
-// Save writes to the path of the last dialog, and so it is this path that the list tells: not the recent picture's.
-TEST_F(FileDealerTest, APictureFromTheMenuRecordsThePathOfTheLastDialog)
+// Save writes to the path of the last dialog, so the list contains this path instead of that of the recent image.
+TEST_F(FileDealerTest, ImageFromTheMenuStoresThePathOfTheLastDialog)
 {
     dealer.setUpRecentMenu(&menu);
     const QString a = makeFile(QStringLiteral("a.png"));
@@ -247,8 +247,8 @@ TEST_F(FileDealerTest, APictureFromTheMenuRecordsThePathOfTheLastDialog)
     EXPECT_EQ(dealer.currentPath(), b);
 }
 
-// The consequence of the above before any dialog: an empty path in front, which no file exists for and nothing shows.
-TEST_F(FileDealerTest, APictureFromTheMenuBeforeAnyDialogRecordsAnEmptyPath)
+// Before any dialog this path is empty: it is the first in the list, but not shown.
+TEST_F(FileDealerTest, ImageFromTheMenuBeforeAnyDialogStoresAnEmptyPath)
 {
     const QString a = makeFile(QStringLiteral("a.png"));
     storeRecent({a});
@@ -261,7 +261,7 @@ TEST_F(FileDealerTest, APictureFromTheMenuBeforeAnyDialogRecordsAnEmptyPath)
     EXPECT_EQ(shown()[1], QStringLiteral("a.png Alt+1"));
 }
 
-TEST_F(FileDealerTest, TheFirstDialogsStartInTheHome)
+TEST_F(FileDealerTest, FirstDialogsStartInTheHomeDirectory)
 {
     FileDialogAnswer open({});
     dealer.openDialog();
@@ -271,7 +271,7 @@ TEST_F(FileDealerTest, TheFirstDialogsStartInTheHome)
     EXPECT_EQ(save.directory, open.directory);
 }
 
-TEST_F(FileDealerTest, DialogsStartWhereAPictureWasOpenedLast)
+TEST_F(FileDealerTest, DialogsStartInTheDirectoryOfTheLastOpenedImage)
 {
     open(makeFile(QStringLiteral("a.png"), QStringLiteral("travels")));
     EXPECT_EQ(storedDirectory(), inHome(QStringLiteral("travels")));
@@ -283,7 +283,7 @@ TEST_F(FileDealerTest, DialogsStartWhereAPictureWasOpenedLast)
     EXPECT_EQ(save.directory, inHome(QStringLiteral("travels")));
 }
 
-TEST_F(FileDealerTest, DialogsHaveTheirCaptionsAndOfferPictures)
+TEST_F(FileDealerTest, DialogsHaveCaptionsAndImageFilters)
 {
     const QStringList filters(QStringLiteral("Images (*.jpg *.jpeg *.JPG *.JPEG *.png *.PNG *.tif *.TIF)"));
     FileDialogAnswer open({});
@@ -298,12 +298,12 @@ TEST_F(FileDealerTest, DialogsHaveTheirCaptionsAndOfferPictures)
     EXPECT_FALSE(save.hasParent);
 }
 
-TEST_F(FileDealerTest, ThereIsNoCurrentPathBeforeADialog)
+TEST_F(FileDealerTest, CurrentPathIsEmptyBeforeADialog)
 {
     EXPECT_TRUE(dealer.currentPath().isEmpty());
 }
 
-TEST_F(FileDealerTest, ACancelledOpenDialogEmptiesTheCurrentPath)
+TEST_F(FileDealerTest, CancelledOpenDialogClearsTheCurrentPath)
 {
     open(makeFile(QStringLiteral("a.png")));
     const FileDialogAnswer cancel({});
@@ -311,7 +311,7 @@ TEST_F(FileDealerTest, ACancelledOpenDialogEmptiesTheCurrentPath)
     EXPECT_TRUE(dealer.currentPath().isEmpty());
 }
 
-TEST_F(FileDealerTest, TheSaveDialogIsNotRemembered)
+TEST_F(FileDealerTest, SaveDialogChangesNeitherCurrentPathNorSettings)
 {
     const QString a = makeFile(QStringLiteral("a.png"));
     open(a);
@@ -323,7 +323,7 @@ TEST_F(FileDealerTest, TheSaveDialogIsNotRemembered)
     EXPECT_EQ(storedDirectory(), inHome(QStringLiteral("pictures")));
 }
 
-TEST_F(FileDealerTest, ThePlaceOfAPictureThatIsGoneIsNotRemembered)
+TEST_F(FileDealerTest, DirectoryOfARemovedImageIsNotStored)
 {
     const QString a = makeFile(QStringLiteral("a.png"));
     const FileDialogAnswer answer(a);
@@ -334,7 +334,7 @@ TEST_F(FileDealerTest, ThePlaceOfAPictureThatIsGoneIsNotRemembered)
     EXPECT_EQ(storedRecent(), QStringList(a));
 }
 
-TEST_F(FileDealerTest, ForgettingTheDirectoryLeavesTheRecentImages)
+TEST_F(FileDealerTest, ForgettingTheDirectoryKeepsTheRecentImages)
 {
     const QString a = makeFile(QStringLiteral("a.png"));
     open(a);
@@ -348,7 +348,7 @@ TEST_F(FileDealerTest, ForgettingTheDirectoryLeavesTheRecentImages)
     EXPECT_EQ(save.directory, homePath());
 }
 
-TEST_F(FileDealerTest, ForgettingTheRecentImagesEmptiesTheMenuAndLeavesTheDirectory)
+TEST_F(FileDealerTest, ForgettingTheRecentImagesClearsTheMenuAndKeepsTheDirectory)
 {
     dealer.setUpRecentMenu(&menu);
     open(makeFile(QStringLiteral("a.png")));

@@ -13,11 +13,11 @@
 namespace grisal::test
 {
 
-/// A test of the window with picture files in the home.
+/// A test of the window with image files in the home directory.
 class FilesTest : public WindowTest
 {
 protected:
-    /// Paints a picture file, with the format of its extension and `depth` bits a channel; returns its path.
+    /// Writes an image file in the format of its extension with `depth` bits per channel; returns its path.
     QString makePicture(const QString &name, int width, int height, int depth = 8, const Painter &painter = colourful)
     {
         const QString path = inHome(name);
@@ -25,14 +25,14 @@ protected:
         return path;
     }
 
-    /// Opens a picture as the user does, with File, Open.
+    /// Opens an image with File, Open.
     void openWithDialog(const QString &path)
     {
         const FileDialogAnswer answer(path);
         trigger(window, "actionOpen");
     }
 
-    /// Saves as the user does, with File, Save As.
+    /// Saves with File, Save As.
     void saveWithDialog(const QString &path)
     {
         const FileDialogAnswer answer(path);
@@ -48,8 +48,8 @@ protected:
             .toStringList();
     }
 
-    /// Colours that differ from pixel to pixel and channel to channel and use all 16 bits; as bytes they are exact in
-    /// files of 8 bits.
+    /// Colours that differ between adjacent pixels and between channels and use all 16 bits, but are exact in files of
+    /// 8 bits, too.
     static Samples colourful(int x, int y)
     {
         const auto byte = [](int value) { return static_cast<std::uint16_t>((value % 256) * 257); };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Whenever the program is killed, a file that it was saving over is the whole old picture or the whole new one. A few
-// kills by default; as many as GRISAL_KILLED_SAVES says.
+// If the program is killed while it replaces a file, the file contains the complete old or the complete new image.
+// GRISAL_KILLED_SAVES sets the number of kills, which is small by default.
 #include "tests/graphics/files/PictureFiles.h"
 #include "tests/support/GlPresence.h"
 
@@ -47,7 +47,7 @@ protected:
         process.start(QStringLiteral(GRISAL_SAVING_PROGRAM), {m_source, target, QString::number(saves)});
     }
 
-    /// What the target is after that many saves that nobody disturbs.
+    /// The contents of the target after this number of undisturbed saves.
     QByteArray savedAfter(const QString &target, int saves) const
     {
         QProcess process;
@@ -56,7 +56,7 @@ protected:
         return ended ? contentsOf(target) : QByteArray();
     }
 
-    /// Kills the program in its first or second save, once a random part of the new file is written.
+    /// Kills the program during its first or second save after a random part of the new file is written.
     void expectWholeFiles(const QString &name)
     {
         const QString target = QDir(m_folder.path()).filePath(name);
@@ -90,7 +90,7 @@ private:
         ASSERT_EQ(process.readLine(), "saving\n");
     }
 
-    /// The size of the file that a process has open in the folder, with a name or without one; -1 where there is none.
+    /// The size of the file in the folder that the process has open, with or without a name; -1 if there is none.
     qint64 openFileSize(qint64 process) const
     {
         std::error_code error;
@@ -105,8 +105,8 @@ private:
         return -1;
     }
 
-    /// Kills the program in its save of that number, once the file that it writes has as many bytes; returns false
-    /// where it never has.
+    /// Kills the program during the save with this number when the written file has this number of bytes; returns
+    /// false if it never has.
     bool killIn(const QString &target, int save, qint64 bytes) const
     {
         QProcess process;
@@ -124,7 +124,7 @@ private:
         return reached;
     }
 
-    /// A program that dies just before it renames a new file cannot take it away.
+    /// A program that is killed just before it renames the new file cannot remove it.
     void expectWholeLeftovers(const QString &name, const QByteArray &grainy, const QByteArray &smooth) const
     {
         const QDir folder(m_folder.path());
@@ -140,12 +140,12 @@ private:
     std::mt19937 m_random{seed};
 };
 
-TEST_F(KilledSave, LeavesAWholeJpeg)
+TEST_F(KilledSave, LeavesACompleteJpeg)
 {
     expectWholeFiles(QStringLiteral("a.jpg"));
 }
 
-TEST_F(KilledSave, LeavesAWholePng)
+TEST_F(KilledSave, LeavesACompletePng)
 {
     expectWholeFiles(QStringLiteral("a.png"));
 }

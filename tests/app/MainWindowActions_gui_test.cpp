@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// What the window's actions do, but for files: panels and filters, view, help, quit.
+// The effects of the window's actions other than those on files: panels and filters, view, help, quit.
 #include "tests/app/WindowTest.h"
 
 #include "graphics/filters/IFilter.h"
 #include "tests/support/Modal.h"
-#include "tests/support/UrlTaker.h"
+#include "tests/support/UrlInterceptor.h"
 #include "ui/panels/Curves.h"
 #include "ui/panels/Grain.h"
 #include "ui/panels/Mixer.h"
@@ -36,7 +36,7 @@ using grisal::graphics::Look;
 using grisal::graphics::MixerFilter;
 using grisal::graphics::VignetteFilter;
 
-/// A panel with a filter that its action switches on and off.
+/// A panel and its filter, which the action enables and disables.
 struct FilterRow {
     const char *action;
     const char *panel;
@@ -54,7 +54,7 @@ constexpr std::array<FilterRow, 4> filterTable{{
      "split tone filter is invalid"},
 }};
 
-/// Closes the dialog of a class with what was seen in it.
+/// Calls a function with the dialog and closes it.
 class AboutAnswer : public ModalAnswer
 {
 public:
@@ -101,7 +101,7 @@ TEST_F(MainWindowActions, KeysShowThePanels)
     EXPECT_EQ(shown.join(QLatin1Char(' ')).toStdString(), "Curves Sharpen Vignette Grain SplitTone Mixer");
 }
 
-TEST_F(MainWindowActions, AKeyPressedTwiceSwitchesTheFilterOnAndOffAndGoesBackToTheMixer)
+TEST_F(MainWindowActions, SecondKeyPressDisablesTheFilterAndShowsTheMixer)
 {
     start();
     for (const FilterRow &row : filterTable) {
@@ -116,7 +116,7 @@ TEST_F(MainWindowActions, AKeyPressedTwiceSwitchesTheFilterOnAndOffAndGoesBackTo
     }
 }
 
-TEST_F(MainWindowActions, GoingToAnotherPanelLeavesTheFilterOn)
+TEST_F(MainWindowActions, ChangingThePanelKeepsTheFilterEnabled)
 {
     start();
     for (const FilterRow &row : filterTable) {
@@ -129,7 +129,7 @@ TEST_F(MainWindowActions, GoingToAnotherPanelLeavesTheFilterOn)
     }
 }
 
-TEST_F(MainWindowActions, ComingBackToAPanelLeavesItsFilterOn)
+TEST_F(MainWindowActions, ReturningToAPanelKeepsItsFilterEnabled)
 {
     start();
     trigger(window, "actionVignette");
@@ -151,7 +151,7 @@ TEST_F(MainWindowActions, SharpenShowsAPanelWithoutAFilter)
     EXPECT_FALSE(action("actionSharpen").isChecked());
 }
 
-TEST_F(MainWindowActions, WithoutAPictureTheMissingFilterIsToldAndThePanelShown)
+TEST_F(MainWindowActions, WithoutAnImageThePanelIsShownAndAWarningLogged)
 {
     for (const FilterRow &row : filterTable) {
         expectWarning(QString::fromLatin1(row.problem));
@@ -161,7 +161,7 @@ TEST_F(MainWindowActions, WithoutAPictureTheMissingFilterIsToldAndThePanelShown)
     }
 }
 
-TEST_F(MainWindowActions, ResettingTheActionsUnchecksThemAllAndShowsTheMixer)
+TEST_F(MainWindowActions, ResettingTheActionsUnchecksAllAndShowsTheMixer)
 {
     start();
     for (const FilterRow &row : filterTable) {
@@ -175,14 +175,14 @@ TEST_F(MainWindowActions, ResettingTheActionsUnchecksThemAllAndShowsTheMixer)
     }
 }
 
-TEST_F(MainWindowActions, TheMixerReachesThePreview)
+TEST_F(MainWindowActions, MixerPanelSetsThePreviewParameters)
 {
     start();
     child<QComboBox>(panel<Mixer>(), "comboPresets").setCurrentText(QStringLiteral("Rochester Tri-X"));
     EXPECT_EQ(preview().look().get<MixerFilter>().weights, (ColorRGB<float>{64 / 255.0F, 89 / 255.0F, 102 / 255.0F}));
 }
 
-TEST_F(MainWindowActions, TheVignettePanelReachesThePreview)
+TEST_F(MainWindowActions, VignettePanelSetsThePreviewParameters)
 {
     start();
     emit panel<Vignette>().signalVignette(1, 2, 3, 4, true);
@@ -194,7 +194,7 @@ TEST_F(MainWindowActions, TheVignettePanelReachesThePreview)
     EXPECT_TRUE(now.get<VignetteFilter>().extraBlur);
 }
 
-TEST_F(MainWindowActions, TheSplitTonePanelReachesThePreview)
+TEST_F(MainWindowActions, SplitTonePanelSetsThePreviewParameters)
 {
     start();
     emit panel<SplitTone>().signalSplit(0.5F, 0.1F, 0.2F, 0.3F, 0.4F, 0.6F, 0.7F);
@@ -204,7 +204,7 @@ TEST_F(MainWindowActions, TheSplitTonePanelReachesThePreview)
     EXPECT_EQ(now.get<HalfToneFilter>().shadows, (ColorRGB<float>{0.4F, 0.6F, 0.7F}));
 }
 
-TEST_F(MainWindowActions, TheGrainPanelReachesThePreview)
+TEST_F(MainWindowActions, GrainPanelSetsThePreviewParameters)
 {
     start();
     emit panel<Grain>().signalGrain(QVector<float>(256, 0.25F), 2.5F);
@@ -212,14 +212,14 @@ TEST_F(MainWindowActions, TheGrainPanelReachesThePreview)
     EXPECT_EQ(preview().look().get<GrainFilter>().radius, 2.5F);
 }
 
-TEST_F(MainWindowActions, TheCurvesPanelReachesThePreview)
+TEST_F(MainWindowActions, CurvesPanelSetsThePreviewParameters)
 {
     start();
     emit panel<Curves>().signalCurves(QVector<float>(256, 0.75F));
     EXPECT_EQ(preview().look().get<CurveFilter>().curve, QVector<float>(256, 0.75F));
 }
 
-TEST_F(MainWindowActions, LoadingPixelsHandsTheirTonesToTheCurvesPanel)
+TEST_F(MainWindowActions, LoadingPixelsSetsTheHistogramOfTheCurvesPanel)
 {
     start();
     const QSignalSpy tones(&panel<Curves>(), &Curves::signalOutHistogram);
@@ -230,7 +230,7 @@ TEST_F(MainWindowActions, LoadingPixelsHandsTheirTonesToTheCurvesPanel)
     EXPECT_EQ(tones[0][0].value<QVector<float>>(), expected);
 }
 
-TEST_F(MainWindowActions, LoadingPixelsPutsAllParametersBack)
+TEST_F(MainWindowActions, LoadingPixelsResetsAllParameters)
 {
     start();
     emit panel<Mixer>().signalMixer(1, 0, 0);
@@ -256,7 +256,7 @@ TEST_F(MainWindowActions, LoadingPixelsPutsAllParametersBack)
     EXPECT_EQ(now.get<CurveFilter>().curve, initial.get<CurveFilter>().curve);
 }
 
-TEST_F(MainWindowActions, PanelsAreResetInTheirOrder)
+TEST_F(MainWindowActions, PanelsAreResetInFixedOrder)
 {
     start();
     QStringList senders;
@@ -279,7 +279,7 @@ TEST_F(MainWindowActions, PanelsAreResetInTheirOrder)
     EXPECT_EQ(senders, order);
 }
 
-TEST_F(MainWindowActions, LoadingNoPixelsIsToldAndChangesNothing)
+TEST_F(MainWindowActions, LoadingNullPixelsLogsAWarningAndChangesNothing)
 {
     start();
     emit panel<Mixer>().signalMixer(1, 0, 0);
@@ -289,7 +289,7 @@ TEST_F(MainWindowActions, LoadingNoPixelsIsToldAndChangesNothing)
     EXPECT_EQ(preview().look().get<MixerFilter>().weights, (ColorRGB<float>{1, 0, 0}));
 }
 
-TEST_F(MainWindowActions, LoadingPixelsStartsTheGraphicsAgain)
+TEST_F(MainWindowActions, LoadingPixelsInitialisesOpenGlAgain)
 {
     start();
     log.clear();
@@ -297,7 +297,7 @@ TEST_F(MainWindowActions, LoadingPixelsStartsTheGraphicsAgain)
     EXPECT_TRUE(log.contains(QStringLiteral("INITIALIZE GL")));
 }
 
-TEST_F(MainWindowActions, ZoomGoesInStepsOfATwentyFifth)
+TEST_F(MainWindowActions, ZoomActionsChangeTheScaleByOneTwentyFifth)
 {
     start();
     const float before = preview().scale();
@@ -320,7 +320,7 @@ TEST_F(MainWindowActions, FitAndActualPixelsSetTheScale)
     EXPECT_FLOAT_EQ(preview().scale(), 1);
 }
 
-TEST_F(MainWindowActions, QuitSaysGoodbyeAndClosesTheWindow)
+TEST_F(MainWindowActions, QuitLogsAMessageAndClosesTheWindow)
 {
     start();
     const QSignalSpy finished(&window, &grisal::ui::MainWindow::signalFinished);
@@ -330,14 +330,14 @@ TEST_F(MainWindowActions, QuitSaysGoodbyeAndClosesTheWindow)
     EXPECT_FALSE(window.isVisible());
 }
 
-TEST_F(MainWindowActions, TheWebsiteOpensInTheBrowser)
+TEST_F(MainWindowActions, WebsiteOpensInTheBrowser)
 {
-    const UrlTaker browser(QStringLiteral("https"));
+    const UrlInterceptor browser(QStringLiteral("https"));
     trigger(window, "actionWebsite");
-    EXPECT_EQ(browser.taken, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
+    EXPECT_EQ(browser.urls, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
 }
 
-TEST_F(MainWindowActions, AboutTellsWhatTheProgramIsAndWhenItWasBuilt)
+TEST_F(MainWindowActions, AboutShowsDescriptionAndVersion)
 {
     start();
     QString title;
@@ -359,13 +359,13 @@ TEST_F(MainWindowActions, AboutTellsWhatTheProgramIsAndWhenItWasBuilt)
     EXPECT_EQ(tab, QStringLiteral("tabAbout"));
 }
 
-TEST_F(MainWindowActions, AboutOpensTheWebsiteToo)
+TEST_F(MainWindowActions, AboutOpensTheWebsite)
 {
     start();
-    const UrlTaker browser(QStringLiteral("https"));
+    const UrlInterceptor browser(QStringLiteral("https"));
     const AboutAnswer answer([](QDialog &about) { child<QPushButton>(about, "buttonWebsite").click(); });
     trigger(window, "actionAbout");
-    EXPECT_EQ(browser.taken, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
+    EXPECT_EQ(browser.urls, QList<QUrl>{QUrl(QStringLiteral("https://grisal.example/"))});
 }
 
 } // namespace

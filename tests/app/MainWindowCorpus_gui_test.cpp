@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Hundreds of hostile files and real pictures go through one window, one after the other.
+// Opens hundreds of hostile and real files one after the other in the same window.
 #include "tests/app/FilesTest.h"
 
 #include "tests/graphics/files/Corpus.h"
@@ -16,7 +16,7 @@ namespace
 
 using namespace grisal::test;
 
-/// Closes every message box that comes while it lives, and counts them.
+/// Closes and counts all message boxes that open during its lifetime.
 class BoxCloser : public QObject
 {
 public:
@@ -37,7 +37,7 @@ private:
     QTimer m_look;
 };
 
-/// The memory that the process has, in megabytes.
+/// The memory use of the process in megabytes.
 long residentMegabytes()
 {
     QFile status(QStringLiteral("/proc/self/statm"));
@@ -48,7 +48,7 @@ long residentMegabytes()
     return status.readAll().split(' ').value(1).toLong() / pagesPerMegabyte;
 }
 
-/// What may come and go, in megabytes. A sanitizer keeps freed memory for a while.
+/// The allowed variation of the memory use in megabytes. Sanitizers keep freed memory for a while.
 #ifdef __SANITIZE_ADDRESS__
 constexpr long growth = 1000;
 #else
@@ -74,7 +74,7 @@ protected:
         }
     }
 
-    /// Opens a file; returns whether it was refused, which changes nothing but the box.
+    /// Opens a file; returns whether it was rejected, which only opens a box.
     bool refuses(const QString &path)
     {
         const std::string before = title();
@@ -88,7 +88,7 @@ protected:
     BoxCloser boxes;
 };
 
-TEST_F(MainWindowCorpus, ThePictureOutlivesEveryHostileFile)
+TEST_F(MainWindowCorpus, OpenImageIsKeptAfterEveryHostileFile)
 {
     start();
     const QTemporaryDir folder;
@@ -100,7 +100,7 @@ TEST_F(MainWindowCorpus, ThePictureOutlivesEveryHostileFile)
     int refused = 0;
     for (const QString &path : files) {
         if (QFileInfo(path).isSymLink() && !QFileInfo::exists(path)) {
-            continue; // names nothing: the picture that is open is opened again
+            continue; // missing target: the open image is opened again
         }
         if (!refuses(path)) {
             window.openImage(good);
@@ -116,7 +116,7 @@ TEST_F(MainWindowCorpus, ThePictureOutlivesEveryHostileFile)
     EXPECT_GT(refused, 100);
 }
 
-TEST_F(MainWindowCorpus, HundredsOfPicturesInARowLeaveTheMemoryAsItWas)
+TEST_F(MainWindowCorpus, HundredsOfImagesDoNotIncreaseTheMemoryUse)
 {
     constexpr int opens = 300;
     constexpr int settled = 10;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Pictures of every format, depth and size go through the window and come out again with the chosen look.
+// Images of every format, depth and size are opened, given a look and saved.
 #include "tests/app/FilesTest.h"
 #include "tests/graphics/files/MetadataFiles.h"
 
@@ -19,7 +19,7 @@ using namespace grisal::test;
 
 struct Case {
     const char *extension;
-    int depth; ///< bits a channel; 0 where the format does not tell
+    int depth; ///< bits per channel; 0 if the format does not contain it
     int width;
     int height;
     double tolerance; ///< in 65536 levels
@@ -30,7 +30,7 @@ struct Case {
     }
 };
 
-/// One level of 8 bits; what half floats keep of 16; what the JPEG format loses of soft colours.
+/// One 8-bit level; the rounding of half floats; the loss of JPEG in smooth colours.
 constexpr double oneLevel = 257;
 constexpr double halfFloats = 64;
 constexpr double jpegLoss = 4 * 257;
@@ -62,7 +62,7 @@ protected:
         child<QComboBox>(*window.findChild<Mixer *>(), "comboPresets").setCurrentText(QStringLiteral("Luma"));
     }
 
-    /// The largest distance of the saved samples from the weighted sum of the source's.
+    /// The largest difference between the saved samples and the weighted sum of the source's samples.
     static double distanceFromLuma(const Samples16 &saved, const Samples16 &source)
     {
         if (saved.size() != source.size() || saved.empty()) {
@@ -78,7 +78,7 @@ protected:
     }
 };
 
-TEST_P(MainWindowFormats, ALookIsSavedWithSizeAndDepthAndOpensAgain)
+TEST_P(MainWindowFormats, SavedImageHasLookSizeAndDepthAndOpensAgain)
 {
     start();
     const QString source = makeSource(QStringLiteral("source"));
@@ -105,16 +105,16 @@ INSTANTIATE_TEST_SUITE_P(SmallPictures, MainWindowFormats,
                                          Case{"png", 8, 2, 3, oneLevel}, Case{"tif", 16, 1, 5, halfFloats},
                                          Case{"tif", 16, 5, 1, halfFloats}));
 
-// Above 2048 pixels a side is rendered in four tiles: 4 tiles, 4 tiles one above the other, 16 tiles.
+// A side of more than 2048 pixels is divided into four tiles: 4 side by side, 4 one above the other, 16 tiles.
 INSTANTIATE_TEST_SUITE_P(TiledPictures, MainWindowFormats,
                          testing::Values(Case{"tif", 16, 2055, 6, halfFloats}, Case{"png", 16, 7, 2054, halfFloats},
                                          Case{"png", 8, 2049, 2055, oneLevel}));
 
-class MainWindowTurnedPictures : public FilesTest
+class MainWindowRotatedImages : public FilesTest
 {
 protected:
-    /// A photograph that was taken upright, as cameras keep it: lying.
-    QString makeTurned(const QString &name)
+    /// A photograph in portrait orientation as cameras store it: rotated.
+    QString makeRotated(const QString &name)
     {
         const QString path = makePicture(name, 60, 40);
         Metadata metadata;
@@ -126,20 +126,20 @@ protected:
     }
 };
 
-TEST_F(MainWindowTurnedPictures, StandUprightInTitlePreviewAndLog)
+TEST_F(MainWindowRotatedImages, HaveNormalisedOrientationInTitlePreviewAndLog)
 {
     start();
-    openWithDialog(makeTurned(QStringLiteral("a.jpg")));
+    openWithDialog(makeRotated(QStringLiteral("a.jpg")));
     EXPECT_EQ(title(), "Lumio Grisal (Alpha) - a.jpg 40x60");
     EXPECT_EQ(preview().previewWidth(), 40);
     EXPECT_EQ(preview().previewHeight(), 60);
     EXPECT_TRUE(log.contains(QStringLiteral("  width :     40")));
 }
 
-TEST_F(MainWindowTurnedPictures, AreSavedUprightWithWhatWasSaidAboutThem)
+TEST_F(MainWindowRotatedImages, AreSavedWithNormalisedOrientationAndMetadata)
 {
     start();
-    openWithDialog(makeTurned(QStringLiteral("a.jpg")));
+    openWithDialog(makeRotated(QStringLiteral("a.jpg")));
     for (const char *name : {"b.jpg", "b.png", "b.tif"}) {
         const QString path = inHome(QString::fromLatin1(name));
         saveWithDialog(path);
@@ -158,7 +158,7 @@ class MainWindowManyPictures : public FilesTest
 {
 };
 
-TEST_F(MainWindowManyPictures, FiftyInARowKeepTheWindowAtWork)
+TEST_F(MainWindowManyPictures, LastOfFiftyImagesIsShownAndSaved)
 {
     start();
     const QString wide = makePicture(QStringLiteral("wide.png"), 301, 40);
@@ -175,7 +175,7 @@ TEST_F(MainWindowManyPictures, FiftyInARowKeepTheWindowAtWork)
     EXPECT_EQ(samplesOf(inHome(QStringLiteral("saved.tif"))).size(), std::size_t{30} * 203 * 3);
 }
 
-TEST_F(MainWindowManyPictures, APictureIsSavedAgainAndAgainOverItself)
+TEST_F(MainWindowManyPictures, ImageCanBeSavedRepeatedlyOverItself)
 {
     start();
     const auto grey = [](int x, int y) {
@@ -193,7 +193,7 @@ TEST_F(MainWindowManyPictures, APictureIsSavedAgainAndAgainOverItself)
     EXPECT_EQ(bitsPerChannel(path), 8);
 }
 
-TEST_F(MainWindowManyPictures, AFolderInTheWayOfASavedFileStays)
+TEST_F(MainWindowManyPictures, SavingToTheNameOfAFolderFailsAndKeepsTheFolder)
 {
     start();
     window.openImage(makePicture(QStringLiteral("a.png"), 8, 4));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A look, from the mouse in a panel to the preview and to the saved file.
+// Looks are set by mouse and keyboard in the panels and compared in the preview and in saved files.
 #include "tests/app/FilesTest.h"
 
 #include "graphics/filters/IFilter.h"
@@ -37,7 +37,7 @@ protected:
     static constexpr int width = 240;
     static constexpr int height = 160;
 
-    /// Opens a picture of 240 x 160 pixels, 8 bits, and shows it one to one in the middle of the preview.
+    /// Opens an 8-bit image of 240 x 160 pixels and shows it at scale 1 in the middle of the preview.
     void openSmall()
     {
         startEven();
@@ -68,7 +68,7 @@ protected:
 
     void press(Qt::Key key) { QTest::keyClick(&window, key, Qt::ControlModifier); }
 
-    /// Drags from one place of a frame to another, both as fractions of its size.
+    /// Drags from one position in a frame to another, both as fractions of its size.
     static void drag(QWidget &frame, QPointF from, QPointF to)
     {
         const auto place = [&](QPointF share) {
@@ -80,7 +80,7 @@ protected:
         QTest::mouseRelease(&frame, Qt::LeftButton, {}, place(to));
     }
 
-    /// What the panels sent last, and which filters their actions have switched on.
+    /// The parameters that the panels emitted last, and the filters that are enabled.
     Look look()
     {
         Look now;
@@ -113,7 +113,7 @@ protected:
         return now;
     }
 
-    /// Expects the screen to show the small picture with the look.
+    /// Expects the small image with the look on the screen.
     void expectOnScreen(const Look &wanted)
     {
         const BytePixels noise =
@@ -131,25 +131,25 @@ protected:
         EXPECT_TRUE(picturesNear("screen", shown, expected, {2, 0.01}));
     }
 
-    /// Expects that a saved picture is the one that was opened, with the look.
+    /// Expects the opened image with the look in a saved file.
     template <typename T>
     void expectInFile(const QString &path, const Pixels<T> &opened, const Look &wanted, const Limits &limits)
     {
         const BytePixels noise =
             reference::blurredNoise(reference::noiseMap(), wanted.parameters.get<GrainFilter>().radius);
         const Pixels<T> expected = reference::fileOf(opened, wanted, noise);
-        const Samples16 words = samplesOf(path);
-        ASSERT_EQ(words.size(), expected.values.size());
+        const Samples16 samples16 = samplesOf(path);
+        ASSERT_EQ(samples16.size(), expected.values.size());
         Pixels<T> saved = expected;
-        std::transform(words.begin(), words.end(), saved.values.begin(),
-                       [](std::uint16_t word) { return static_cast<T>(sizeof(T) == 1 ? word / 257 : word); });
+        std::transform(samples16.begin(), samples16.end(), saved.values.begin(),
+                       [](std::uint16_t sample) { return static_cast<T>(sizeof(T) == 1 ? sample / 257 : sample); });
         if (wanted.grain) {
             reference::leaveOutNoiseBoundaries(saved, expected, true);
         }
         EXPECT_TRUE(picturesNear(path.section(QLatin1Char('/'), -1).toStdString(), saved, expected, limits));
     }
 
-    /// Expects the small picture with the panels' look on the screen and in a file that is saved now.
+    /// Expects the small image with the look of the panels on the screen and in a file that is saved now.
     void expectEverywhere()
     {
         expectOnScreen(look());
@@ -158,7 +158,7 @@ protected:
         expectInFile(path, small, look(), {2, 0.01});
     }
 
-    /// Switches all five filters on, with settings made by mouse and keys.
+    /// Enables all five filters and sets their parameters by mouse and keyboard.
     void chooseEverything()
     {
         child<QComboBox>(panel<Mixer>(), "comboPresets").setCurrentText(QStringLiteral("Redbridge FP4"));
@@ -191,7 +191,7 @@ private:
 
     BytePixels pictureOnScreen()
     {
-        const BytePixels area = onScreen(preview());
+        const BytePixels area = grabScreen(preview());
         BytePixels picture(width, height);
         for (int y = 0; y < height; ++y) {
             for (int x = 0; x < width; ++x) {
@@ -204,7 +204,7 @@ private:
     }
 };
 
-TEST_F(MainWindowLooks, AFilmIsChosenWithTheKeyboard)
+TEST_F(MainWindowLooks, FilmSelectedByKeyIsShownAndSaved)
 {
     openSmall();
     auto &presets = child<QComboBox>(panel<Mixer>(), "comboPresets");
@@ -223,7 +223,7 @@ TEST_F(MainWindowLooks, AFilmIsChosenWithTheKeyboard)
     EXPECT_LE(worst, 1);
 }
 
-TEST_F(MainWindowLooks, WeightsArePickedOnTheWheel)
+TEST_F(MainWindowLooks, WeightsPickedOnTheWheelAreShownAndSaved)
 {
     openSmall();
     drag(child<YUVFrame>(panel<Mixer>(), "frameYUV"), {0.5, 0.5}, {0.5625, 0.4375});
@@ -231,7 +231,7 @@ TEST_F(MainWindowLooks, WeightsArePickedOnTheWheel)
     expectEverywhere();
 }
 
-TEST_F(MainWindowLooks, ACurveIsDrawn)
+TEST_F(MainWindowLooks, DrawnCurveIsShownAndSaved)
 {
     openSmall();
     press(Qt::Key_2);
@@ -242,8 +242,8 @@ TEST_F(MainWindowLooks, ACurveIsDrawn)
     expectEverywhere();
 }
 
-// The grain is strongest where the tones are once the curve has bent them.
-TEST_F(MainWindowLooks, TheGrainPanelShowsTheTonesBehindTheCurve)
+// The grain depends on the tones after the curve.
+TEST_F(MainWindowLooks, GrainPanelShowsTheHistogramAfterTheCurve)
 {
     openSmall();
     const auto &behind = child<CurveFrame>(panel<Grain>(), "frameCurve");
@@ -255,7 +255,7 @@ TEST_F(MainWindowLooks, TheGrainPanelShowsTheTonesBehindTheCurve)
     EXPECT_EQ(behind.histogram(), histogramBehind(look().parameters.get<CurveFilter>().curve, editor.histogram()));
 }
 
-TEST_F(MainWindowLooks, TheVignetteIsPlacedWithTheMouse)
+TEST_F(MainWindowLooks, VignetteSetByMouseIsShownAndSaved)
 {
     openSmall();
     press(Qt::Key_4);
@@ -265,7 +265,7 @@ TEST_F(MainWindowLooks, TheVignetteIsPlacedWithTheMouse)
     expectEverywhere();
 }
 
-TEST_F(MainWindowLooks, TheVignetteIsSetWithTheKeyboard)
+TEST_F(MainWindowLooks, VignetteSetByKeyIsShownAndSaved)
 {
     openSmall();
     press(Qt::Key_4);
@@ -276,7 +276,7 @@ TEST_F(MainWindowLooks, TheVignetteIsSetWithTheKeyboard)
     expectEverywhere();
 }
 
-TEST_F(MainWindowLooks, GrainIsDrawnAndBlurred)
+TEST_F(MainWindowLooks, GrainCurveAndBlurAreShownAndSaved)
 {
     openSmall();
     press(Qt::Key_5);
@@ -288,7 +288,7 @@ TEST_F(MainWindowLooks, GrainIsDrawnAndBlurred)
     expectEverywhere();
 }
 
-TEST_F(MainWindowLooks, TonesAreTintedOnTheWheel)
+TEST_F(MainWindowLooks, TintsPickedOnTheWheelAreShownAndSaved)
 {
     openSmall();
     press(Qt::Key_6);
@@ -297,7 +297,7 @@ TEST_F(MainWindowLooks, TonesAreTintedOnTheWheel)
     expectEverywhere();
 }
 
-TEST_F(MainWindowLooks, AFilterThatIsSwitchedOffLeavesThePicture)
+TEST_F(MainWindowLooks, DisabledFiltersAreNeitherShownNorSaved)
 {
     openSmall();
     chooseEverything();
@@ -314,14 +314,14 @@ TEST_F(MainWindowLooks, AFilterThatIsSwitchedOffLeavesThePicture)
     expectOnScreen(look());
 }
 
-TEST_F(MainWindowLooks, AllFiltersTogether)
+TEST_F(MainWindowLooks, AllFiltersTogetherAreShownAndSaved)
 {
     openSmall();
     chooseEverything();
     expectEverywhere();
 }
 
-/// A picture laid side by side as often as it takes: painting a large one takes longer than all the rest.
+/// An image that repeats `part`: painting a large image would take most of the time of the test.
 template <typename T>
 Pixels<T> repeated(const Pixels<T> &picture, int width, int height)
 {
@@ -336,7 +336,7 @@ Pixels<T> repeated(const Pixels<T> &picture, int width, int height)
     return result;
 }
 
-TEST_F(MainWindowLooks, AllFiltersTogetherInALargePictureOfEightBits)
+TEST_F(MainWindowLooks, AllFiltersTogetherAreSavedInALarge8BitImage)
 {
     start();
     const BytePixels part(600, 400, 3, grisal::sample::asBytes(grisal::sample::paintScene(600, 400)));
@@ -349,7 +349,7 @@ TEST_F(MainWindowLooks, AllFiltersTogetherInALargePictureOfEightBits)
     expectInFile(path, large, look(), {2, 0.001});
 }
 
-TEST_F(MainWindowLooks, AllFiltersTogetherInSixteenTilesOfSixteenBits)
+TEST_F(MainWindowLooks, AllFiltersTogetherAreSavedInSixteenTilesOf16Bits)
 {
     start();
     const Samples16Image part(600, 400, 3, grisal::sample::paintScene(600, 400));
@@ -359,7 +359,7 @@ TEST_F(MainWindowLooks, AllFiltersTogetherInSixteenTilesOfSixteenBits)
     const QString path = inHome(QStringLiteral("saved.tif"));
     saveWithDialog(path);
     EXPECT_EQ(bitsPerChannel(path), 16);
-    // What half floats keep of 16 bits, and half a level of grain.
+    // The rounding of half floats, and half a level of grain.
     expectInFile(path, large, look(), {100, 0});
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// How pictures come into the window.
+// Opening images in the window.
 #include "tests/app/FilesTest.h"
 
-#include "tests/support/ClosedFolder.h"
+#include "tests/support/InaccessibleFolder.h"
 #include "ui/panels/Mixer.h"
 
 #include <QComboBox>
@@ -19,7 +19,7 @@ using grisal::graphics::MixerFilter;
 class MainWindowOpen : public FilesTest
 {
 protected:
-    /// A file that is there and no picture.
+    /// An existing file that is not an image.
     QString makeRubbish(const QString &name)
     {
         writeFile(inHome(name), "no picture at all");
@@ -37,7 +37,7 @@ protected:
     const ColorRGB<float> luma{77 / 255.0F, 150 / 255.0F, 28 / 255.0F};
 };
 
-TEST_F(MainWindowOpen, APictureIsShownUnderItsNameAndSize)
+TEST_F(MainWindowOpen, OpenedImageIsShownWithNameAndSizeInTheTitle)
 {
     start();
     openWithDialog(makePicture(QStringLiteral("a.png"), 300, 200));
@@ -46,14 +46,14 @@ TEST_F(MainWindowOpen, APictureIsShownUnderItsNameAndSize)
     EXPECT_EQ(preview().previewHeight(), 200);
 }
 
-TEST_F(MainWindowOpen, NamesWithPercentSignsAreShownAsTheyAre)
+TEST_F(MainWindowOpen, PercentSignsInNamesAreShownLiterally)
 {
     start();
     window.openImage(makePicture(QStringLiteral("50%3 off.png"), 8, 4));
     EXPECT_EQ(title(), "Lumio Grisal (Alpha) - 50%3 off.png 8x4");
 }
 
-TEST_F(MainWindowOpen, NamesInAnyScriptWork)
+TEST_F(MainWindowOpen, FilesWithNonLatinNamesOpen)
 {
     start();
     openWithDialog(makePicture(QStringLiteral("Größe 写真.png"), 8, 4));
@@ -61,7 +61,7 @@ TEST_F(MainWindowOpen, NamesInAnyScriptWork)
     EXPECT_EQ(storedRecent(), QStringList(inHome(QStringLiteral("Größe 写真.png"))));
 }
 
-TEST_F(MainWindowOpen, APictureOf16BitsIsShownWith8)
+TEST_F(MainWindowOpen, ImageOf16BitsIsShownWith8Bits)
 {
     start();
     log.clear();
@@ -70,7 +70,7 @@ TEST_F(MainWindowOpen, APictureOf16BitsIsShownWith8)
     EXPECT_TRUE(log.contains(QStringLiteral("Element Type(GLUB):    true")));
 }
 
-TEST_F(MainWindowOpen, ThePictureIsDescribedInTheLog)
+TEST_F(MainWindowOpen, OpeningLogsADescriptionOfTheImage)
 {
     start();
     window.openImage(makePicture(QStringLiteral("a.jpg"), 40, 20));
@@ -78,7 +78,7 @@ TEST_F(MainWindowOpen, ThePictureIsDescribedInTheLog)
     EXPECT_TRUE(log.contains(QStringLiteral("  width :     40")));
 }
 
-TEST_F(MainWindowOpen, ANewPictureStartsWithThePanelsAndActionsOfTheFirst)
+TEST_F(MainWindowOpen, OpeningAnotherImageResetsPanelsAndActions)
 {
     start();
     window.openImage(makePicture(QStringLiteral("a.png"), 40, 20));
@@ -91,7 +91,7 @@ TEST_F(MainWindowOpen, ANewPictureStartsWithThePanelsAndActionsOfTheFirst)
     EXPECT_EQ(title(), "Lumio Grisal (Alpha) - b.png 20x40");
 }
 
-TEST_F(MainWindowOpen, ACancelledDialogChangesNothing)
+TEST_F(MainWindowOpen, CancelledDialogChangesNothing)
 {
     start();
     window.openImage(makePicture(QStringLiteral("a.png"), 40, 20));
@@ -101,7 +101,7 @@ TEST_F(MainWindowOpen, ACancelledDialogChangesNothing)
     EXPECT_EQ(weights(), luma);
 }
 
-TEST_F(MainWindowOpen, OpenedPicturesAreRecorded)
+TEST_F(MainWindowOpen, OpenedImagesAreAddedToTheRecentImages)
 {
     start();
     const QString a = makePicture(QStringLiteral("a.png"), 40, 20);
@@ -111,7 +111,7 @@ TEST_F(MainWindowOpen, OpenedPicturesAreRecorded)
     EXPECT_EQ(storedRecent(), (QStringList{b, a}));
 }
 
-TEST_F(MainWindowOpen, TheRecentMenuOpensItsPicture)
+TEST_F(MainWindowOpen, RecentMenuItemOpensItsImage)
 {
     start();
     openWithDialog(makePicture(QStringLiteral("a.png"), 40, 20));
@@ -120,7 +120,7 @@ TEST_F(MainWindowOpen, TheRecentMenuOpensItsPicture)
     EXPECT_EQ(title(), "Lumio Grisal (Alpha) - a.png 40x20");
 }
 
-TEST_F(MainWindowOpen, AMissingFileBeforeAnyPictureIsToldInABox)
+TEST_F(MainWindowOpen, MissingFileWithoutOpenImageShowsABox)
 {
     start();
     choose("Luma");
@@ -136,9 +136,9 @@ TEST_F(MainWindowOpen, AMissingFileBeforeAnyPictureIsToldInABox)
     EXPECT_TRUE(storedRecent().isEmpty());
 }
 
-// The picture that is held is opened once more, under the name that was asked for: the way the program has always
-// treated a recent picture that was moved away.
-TEST_F(MainWindowOpen, AMissingFileOverAPictureOpensThePictureAgain)
+// The open image is opened again under the requested name: the program has always treated recent images that were
+// moved in this way.
+TEST_F(MainWindowOpen, MissingFileReopensTheOpenImageUnderItsName)
 {
     start();
     const QString a = makePicture(QStringLiteral("a.png"), 40, 20);
@@ -156,7 +156,7 @@ TEST_F(MainWindowOpen, AMissingFileOverAPictureOpensThePictureAgain)
     EXPECT_EQ(storedRecent(), QStringList(a));
 }
 
-TEST_F(MainWindowOpen, AFileThatIsNoPictureIsToldAndChangesNothing)
+TEST_F(MainWindowOpen, InvalidFileShowsABoxAndChangesNothing)
 {
     start();
     const QString a = makePicture(QStringLiteral("a.png"), 40, 20);
@@ -175,7 +175,7 @@ TEST_F(MainWindowOpen, AFileThatIsNoPictureIsToldAndChangesNothing)
     EXPECT_EQ(storedRecent(), QStringList(a));
 }
 
-TEST_F(MainWindowOpen, APictureIsStillSavedAfterAFileThatIsNone)
+TEST_F(MainWindowOpen, OpenImageCanBeSavedAfterAnInvalidFile)
 {
     start();
     window.openImage(makePicture(QStringLiteral("a.png"), 40, 20));
@@ -188,7 +188,7 @@ TEST_F(MainWindowOpen, APictureIsStillSavedAfterAFileThatIsNone)
     EXPECT_EQ(samplesOf(inHome(QStringLiteral("saved.png"))).size(), std::size_t{40} * 20 * 3);
 }
 
-TEST_F(MainWindowOpen, AFolderIsToldLikeAFileThatIsNoPicture)
+TEST_F(MainWindowOpen, FolderShowsTheBoxOfAnInvalidFile)
 {
     start();
     window.openImage(makePicture(QStringLiteral("a.png"), 40, 20));
@@ -199,7 +199,7 @@ TEST_F(MainWindowOpen, AFolderIsToldLikeAFileThatIsNoPicture)
     EXPECT_EQ(title(), "Lumio Grisal (Alpha) - a.png 40x20");
 }
 
-TEST_F(MainWindowOpen, ALinkWithoutATargetIsToldLikeAFileThatIsNoPicture)
+TEST_F(MainWindowOpen, DanglingLinkShowsTheBoxOfAnInvalidFile)
 {
     start();
     window.openImage(makePicture(QStringLiteral("a.png"), 40, 20));
@@ -211,8 +211,8 @@ TEST_F(MainWindowOpen, ALinkWithoutATargetIsToldLikeAFileThatIsNoPicture)
     EXPECT_EQ(title(), "Lumio Grisal (Alpha) - a.png 40x20");
 }
 
-// It may well be there: shown as missing, the open picture would get its name, and Save would write over it.
-TEST_F(MainWindowOpen, AFileInAFolderWithoutAccessChangesNothing)
+// The file may exist: if it were treated as missing, the open image would get its name and Save would overwrite it.
+TEST_F(MainWindowOpen, InaccessibleFileShowsABoxAndChangesNothing)
 {
     start();
     const QString a = makePicture(QStringLiteral("a.png"), 40, 20);
@@ -224,7 +224,7 @@ TEST_F(MainWindowOpen, AFileInAFolderWithoutAccessChangesNothing)
     expectWarning(path);
     MessageBoxAnswer box(QMessageBox::Ok);
     {
-        const ClosedFolder closed(inHome(QStringLiteral("closed")));
+        const InaccessibleFolder closed(inHome(QStringLiteral("closed")));
         window.openImage(path);
     }
     EXPECT_EQ(box.text, QStringLiteral("Cannot load %1.").arg(path));
@@ -234,7 +234,7 @@ TEST_F(MainWindowOpen, AFileInAFolderWithoutAccessChangesNothing)
     EXPECT_EQ(storedRecent(), QStringList(a));
 }
 
-TEST_F(MainWindowOpen, AJpegCutShortOpensAndIsToldInTheStatusBar)
+TEST_F(MainWindowOpen, TruncatedJpegOpensWithAWarningInTheStatusBar)
 {
     start();
     const QString path = makePicture(QStringLiteral("a.jpg"), 64, 64);
@@ -247,7 +247,7 @@ TEST_F(MainWindowOpen, AJpegCutShortOpensAndIsToldInTheStatusBar)
     EXPECT_EQ(status(), log.warnings().first().toStdString());
 }
 
-TEST_F(MainWindowOpen, PicturesOfOneToThreePixelsOpen)
+TEST_F(MainWindowOpen, ImagesOfOneToThreePixelsOpen)
 {
     start();
     for (int side = 1; side <= 3; ++side) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How pictures leave the window.
+// Saving images from the window.
 #include "tests/app/FilesTest.h"
 
 #include "ui/panels/Mixer.h"
@@ -25,19 +25,19 @@ struct Weights {
     double b;
 };
 
-/// One level of 8 bits, in the samples that the library reads.
+/// One 8-bit level in the samples that GraphicsMagick reads.
 constexpr double level = 257;
 
 constexpr Weights triX{64 / 255.0, 89 / 255.0, 102 / 255.0};
 
-/// The quantisation tables of a JPEG file, one behind the other.
+/// The concatenated quantisation tables of a JPEG file.
 QByteArray quantisationTables(const QString &path)
 {
     constexpr char table = '\xdb';
     constexpr char startOfScan = '\xda';
     const QByteArray file = contentsOf(path);
     QByteArray tables;
-    // A segment is 0xff, its kind, a length that counts itself, and its contents.
+    // A segment consists of 0xff, its marker, a length that includes itself, and its contents.
     for (qsizetype segment = 2; segment + 4 <= file.size() && file[segment + 1] != startOfScan;) {
         const qsizetype length = qFromBigEndian<quint16>(file.constData() + segment + 2);
         if (file[segment + 1] == table) {
@@ -54,12 +54,12 @@ protected:
     void chooseTriX()
     {
         auto &presets = child<QComboBox>(*window.findChild<Mixer *>(), "comboPresets");
-        // A picture that is opened takes back the look but leaves its name: only another one is a choice.
+        // Opening an image resets the look but not the preset box, so another preset is selected first.
         presets.setCurrentIndex(0);
         presets.setCurrentText(QStringLiteral("Rochester Tri-X"));
     }
 
-    /// The largest distance of a saved file's samples from the weighted sum of the source's.
+    /// The largest difference between a saved file's samples and the weighted sum of the source's samples.
     static double distanceFromGrey(const Samples16 &saved, const Samples16 &source, const Weights &weights)
     {
         if (saved.size() != source.size() || saved.empty()) {
@@ -75,7 +75,7 @@ protected:
         return worst;
     }
 
-    /// Opens `source`, chooses a look, saves as `target` and expects the look in a picture of the same depth.
+    /// Opens `source`, selects a look, saves as `target` and expects the look in an image of the same depth.
     void expectSavedWithTriX(const QString &source, const QString &target, int depth)
     {
         openWithDialog(source);
@@ -89,26 +89,26 @@ protected:
 constexpr int width = 45;
 constexpr int height = 31;
 
-TEST_F(MainWindowSave, ATiffOf16BitsStaysOne)
+TEST_F(MainWindowSave, TiffOf16BitsIsSavedAsTiffOf16Bits)
 {
     start();
     expectSavedWithTriX(makePicture(QStringLiteral("a.tif"), width, height, 16, fine), inHome(QStringLiteral("b.tif")),
                         16);
 }
 
-TEST_F(MainWindowSave, APngOf8BitsStaysOne)
+TEST_F(MainWindowSave, PngOf8BitsIsSavedAsPngOf8Bits)
 {
     start();
     expectSavedWithTriX(makePicture(QStringLiteral("a.png"), width, height), inHome(QStringLiteral("b.png")), 8);
 }
 
-TEST_F(MainWindowSave, AJpegIsSavedAsAPngOf8Bits)
+TEST_F(MainWindowSave, JpegIsSavedAsPngOf8Bits)
 {
     start();
     expectSavedWithTriX(makePicture(QStringLiteral("a.jpg"), width, height), inHome(QStringLiteral("b.png")), 8);
 }
 
-TEST_F(MainWindowSave, TheSavedPictureHasTheSizeOfTheSource)
+TEST_F(MainWindowSave, SavedImageHasTheSizeOfTheSource)
 {
     start();
     window.openImage(makePicture(QStringLiteral("a.jpg"), width, height));
@@ -119,7 +119,7 @@ TEST_F(MainWindowSave, TheSavedPictureHasTheSizeOfTheSource)
     EXPECT_EQ(saved.height(), height);
 }
 
-TEST_F(MainWindowSave, AJpegIsWrittenWithQuality90)
+TEST_F(MainWindowSave, JpegIsWrittenWithQuality90)
 {
     start();
     window.openImage(makePicture(QStringLiteral("a.jpg"), width, height));
@@ -139,7 +139,7 @@ TEST_F(MainWindowSave, AJpegIsWrittenWithQuality90)
     EXPECT_NE(tables, tablesOfQuality(91));
 }
 
-TEST_F(MainWindowSave, SavingWithoutAPictureIsTold)
+TEST_F(MainWindowSave, SavingWithoutAnImageShowsAStatusAndWritesNothing)
 {
     start();
     expectWarning(QStringLiteral("MainWindow::saveImage(): Image is Null"));
@@ -148,7 +148,7 @@ TEST_F(MainWindowSave, SavingWithoutAPictureIsTold)
     EXPECT_FALSE(QFile::exists(inHome(QStringLiteral("a.png"))));
 }
 
-TEST_F(MainWindowSave, WithoutAPictureNothingIsRendered)
+TEST_F(MainWindowSave, FinalRenderingWithoutAnImageFails)
 {
     start();
     expectWarning(QStringLiteral("The picture could not be rendered. No picture is open"));
@@ -156,7 +156,7 @@ TEST_F(MainWindowSave, WithoutAPictureNothingIsRendered)
     EXPECT_EQ(status(), "The picture could not be rendered. Nothing was saved; the log tells more.");
 }
 
-TEST_F(MainWindowSave, ACancelledSaveAsIsToldForTwoSeconds)
+TEST_F(MainWindowSave, CancelledSaveAsShowsAStatusForTwoSeconds)
 {
     start();
     window.openImage(makePicture(QStringLiteral("a.png"), width, height));
@@ -176,7 +176,7 @@ TEST_F(MainWindowSave, SaveWithoutACurrentPathDoesNothing)
     EXPECT_EQ(status(), "");
 }
 
-TEST_F(MainWindowSave, SaveToAPathThatIsGoneDoesNothing)
+TEST_F(MainWindowSave, SaveToARemovedFileDoesNothing)
 {
     start();
     const QString path = makePicture(QStringLiteral("a.png"), width, height);
@@ -187,7 +187,7 @@ TEST_F(MainWindowSave, SaveToAPathThatIsGoneDoesNothing)
     EXPECT_FALSE(QFile::exists(path));
 }
 
-TEST_F(MainWindowSave, SaveAsksBeforeItReplaces)
+TEST_F(MainWindowSave, SaveAsksBeforeReplacingAFile)
 {
     start();
     const QString path = makePicture(QStringLiteral("a.b.png"), width, height);
@@ -214,8 +214,8 @@ TEST_F(MainWindowSave, SaveReplacesNothingOnCancel)
     EXPECT_EQ(contentsOf(path), before);
 }
 
-// The path that Save writes to is the one of the last dialog, whatever the Recent menu has opened since.
-TEST_F(MainWindowSave, SaveAsksForThePathOfTheLastDialog)
+// Save writes to the path of the last dialog, even after another image is opened from the Recent menu.
+TEST_F(MainWindowSave, SaveAsksAboutTheFileOfTheLastDialog)
 {
     start();
     openWithDialog(makePicture(QStringLiteral("a.png"), width, height));
@@ -226,7 +226,7 @@ TEST_F(MainWindowSave, SaveAsksForThePathOfTheLastDialog)
     EXPECT_EQ(box.text, QStringLiteral("File b already exists.\n Do you want to replace it?"));
 }
 
-TEST_F(MainWindowSave, SaveWritesThePictureShownToThePathOfTheLastDialog)
+TEST_F(MainWindowSave, SaveWritesTheShownImageToThePathOfTheLastDialog)
 {
     start();
     const QString shown = makePicture(QStringLiteral("a.png"), width, height);
@@ -244,8 +244,8 @@ TEST_F(MainWindowSave, SaveWritesThePictureShownToThePathOfTheLastDialog)
     EXPECT_LE(distanceFromGrey(samplesOf(chosen), source, triX), level);
 }
 
-// The file dialog has asked already.
-TEST_F(MainWindowSave, SaveAsReplacesAFileWithoutAQuestionOfTheWindow)
+// The file dialog has already asked.
+TEST_F(MainWindowSave, SaveAsReplacesAFileWithoutAnotherQuestion)
 {
     start();
     const QString source = makePicture(QStringLiteral("a.png"), width, height);
@@ -258,7 +258,7 @@ TEST_F(MainWindowSave, SaveAsReplacesAFileWithoutAQuestionOfTheWindow)
     EXPECT_LE(distanceFromGrey(samplesOf(target), samplesOf(source), triX), level);
 }
 
-TEST_F(MainWindowSave, ASavedPictureIsNotRecorded)
+TEST_F(MainWindowSave, SavedImageIsNotAddedToTheRecentImages)
 {
     start();
     const QString source = makePicture(QStringLiteral("a.png"), width, height);
@@ -273,7 +273,7 @@ TEST_F(MainWindowSave, ASavedPictureIsNotRecorded)
               homePath());
 }
 
-TEST_F(MainWindowSave, APathThatCannotBeWrittenIsTold)
+TEST_F(MainWindowSave, UnwritablePathShowsAStatusAndKeepsTheTitle)
 {
     start();
     window.openImage(makePicture(QStringLiteral("a.png"), width, height));
@@ -284,9 +284,9 @@ TEST_F(MainWindowSave, APathThatCannotBeWrittenIsTold)
     EXPECT_EQ(title(), QStringLiteral("Lumio Grisal (Alpha) - a.png %1x%2").arg(width).arg(height).toStdString());
 }
 
-TEST_F(MainWindowSave, NothingIsWrittenOfAPictureThatCouldNotBeRendered)
+TEST_F(MainWindowSave, FailedRenderingWritesNoFile)
 {
-    // A window that was never shown has no graphics.
+    // A window that was never shown has no GL context.
     window.openImage(makePicture(QStringLiteral("a.png"), width, height));
     expectWarning(QStringLiteral("The picture could not be rendered."));
     window.saveImage(inHome(QStringLiteral("b.png")));
@@ -294,7 +294,7 @@ TEST_F(MainWindowSave, NothingIsWrittenOfAPictureThatCouldNotBeRendered)
     EXPECT_FALSE(QFile::exists(inHome(QStringLiteral("b.png"))));
 }
 
-TEST_F(MainWindowSave, SavingAgainAndAgainWithNeutralSettingsChangesNothing)
+TEST_F(MainWindowSave, RepeatedSavingWithNeutralSettingsChangesNothing)
 {
     start();
     const auto grey = [](int x, int y) {
@@ -312,7 +312,7 @@ TEST_F(MainWindowSave, SavingAgainAndAgainWithNeutralSettingsChangesNothing)
     }
 }
 
-TEST_F(MainWindowSave, PicturesOfOneToThreePixelsAreSaved)
+TEST_F(MainWindowSave, ImagesOfOneToThreePixelsAreSaved)
 {
     start();
     for (int side = 1; side <= 3; ++side) {

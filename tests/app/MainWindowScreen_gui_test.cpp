@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the user sees: the picture on the screen.
+// The image on the screen.
 #include "tests/app/FilesTest.h"
 
 #include "tests/support/PictureCompare.h"
@@ -28,7 +28,7 @@ protected:
         return {value, value, value};
     }
 
-    /// The preview's area with a grey picture in its middle, one picture pixel per pixel, all else black.
+    /// The area of the preview with a grey image at scale 1 in its middle, black elsewhere.
     BytePixels centredRamp()
     {
         const QSize size = (QSizeF(preview().size()) * preview().devicePixelRatioF()).toSize();
@@ -44,7 +44,7 @@ protected:
         return area;
     }
 
-    /// Opens a ramp of grey and shows it one to one; returns the screen, once the ramp is on it.
+    /// Opens a grey ramp, shows it at scale 1 and waits until it is on the screen; returns the screen.
     BytePixels showRamp()
     {
         window.openImage(makePicture(QStringLiteral("ramp.png"), rampWidth, rampHeight, 8, ramp));
@@ -52,10 +52,10 @@ protected:
         return screenOnceLike(centredRamp());
     }
 
-    BytePixels screenOnceLike(const BytePixels &expected) { return onScreenOnceLike(preview(), expected); }
+    BytePixels screenOnceLike(const BytePixels &expected) { return grabScreenOnceEqual(preview(), expected); }
 };
 
-TEST_F(MainWindowScreen, ThePanelsReachTheEdgeOfTheirFrame)
+TEST_F(MainWindowScreen, PanelsReachTheEdgeOfTheirFrame)
 {
     start();
     EXPECT_EQ(child<QFrame>(window, "container").contentsMargins(), QMargins());
@@ -63,14 +63,14 @@ TEST_F(MainWindowScreen, ThePanelsReachTheEdgeOfTheirFrame)
     EXPECT_LE(child<QFrame>(window, "container").width(), 400);
 }
 
-TEST_F(MainWindowScreen, AnOpenedPictureIsOnTheScreen)
+TEST_F(MainWindowScreen, OpenedImageIsOnTheScreen)
 {
     startEven();
     EXPECT_TRUE(picturesNear("screen", showRamp(), centredRamp()));
 }
 
-// Its middle lies between two pixels then.
-TEST_F(MainWindowScreen, APreviewOfOddHeightShowsEveryRowOnce)
+// The middle of the image is then between two pixels.
+TEST_F(MainWindowScreen, PreviewOfOddHeightShowsEveryRowOnce)
 {
     startEven();
     window.resize(window.width(), window.height() + 1);
@@ -78,7 +78,7 @@ TEST_F(MainWindowScreen, APreviewOfOddHeightShowsEveryRowOnce)
     EXPECT_TRUE(picturesNear("screen", showRamp(), centredRamp()));
 }
 
-TEST_F(MainWindowScreen, PicturesOfOneToThreePixelsAreOnTheScreen)
+TEST_F(MainWindowScreen, ImagesOfOneToThreePixelsAreOnTheScreen)
 {
     start();
     for (const auto &[width, height] : {std::pair{1, 1}, std::pair{3, 2}, std::pair{2, 3}}) {
@@ -89,14 +89,14 @@ TEST_F(MainWindowScreen, PicturesOfOneToThreePixelsAreOnTheScreen)
         };
         window.openImage(makePicture(QStringLiteral("small.png"), width, height, 8, flat));
         const auto middle = [this] {
-            const BytePixels now = onScreen(preview());
+            const BytePixels now = grabScreen(preview());
             return now.at(now.width / 2, now.height / 2, 0);
         };
         EXPECT_TRUE(QTest::qWaitFor([&] { return middle() == level; })) << width << " x " << height;
     }
 }
 
-TEST_F(MainWindowScreen, AFileThatIsNoPictureLeavesTheScreenAsItIs)
+TEST_F(MainWindowScreen, InvalidFileLeavesTheScreenUnchanged)
 {
     startEven();
     const BytePixels before = showRamp();
@@ -110,8 +110,8 @@ TEST_F(MainWindowScreen, AFileThatIsNoPictureLeavesTheScreenAsItIs)
     EXPECT_TRUE(picturesNear("screen", screenOnceLike(before), before));
 }
 
-// A missing file opens the present picture once more, and a picture that is opened is fitted.
-TEST_F(MainWindowScreen, AMissingFileFitsThePictureAgain)
+// If a file is missing, the open image is opened again, and opening fits the image to the window.
+TEST_F(MainWindowScreen, MissingFileFitsTheOpenImageAgain)
 {
     startEven();
     showRamp();
@@ -120,17 +120,17 @@ TEST_F(MainWindowScreen, AMissingFileFitsThePictureAgain)
     EXPECT_GT(preview().scale(), 1.5F);
 }
 
-TEST_F(MainWindowScreen, SavingLeavesTheScreenAsItIs)
+TEST_F(MainWindowScreen, SavingLeavesTheScreenUnchanged)
 {
     startEven();
     const BytePixels before = showRamp();
     window.saveImage(inHome(QStringLiteral("saved.png")));
-    ASSERT_TRUE(paintAgain(preview()));
+    ASSERT_TRUE(repaintAndWait(preview()));
     EXPECT_TRUE(picturesNear("screen", screenOnceLike(before), before));
 }
 
-// Also for 16 bits the tones are those of the preview, which has 8.
-TEST_F(MainWindowScreen, TheTonesOfAnOpenedPictureReachTheCurves)
+// The histogram of 16-bit images is also that of the preview, which has 8 bits.
+TEST_F(MainWindowScreen, OpeningAnImageSetsTheHistogramOfTheCurvesPanel)
 {
     start();
     const auto halfWhite = [](int x, int) {

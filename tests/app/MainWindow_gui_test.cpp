@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the window is made up: actions, menus, tool bar, panels.
+// The parts of the window: actions, menus, tool bar, panels.
 #include "tests/app/WindowTest.h"
 
 #include <QFrame>
@@ -66,7 +66,7 @@ protected:
     }
 };
 
-TEST_F(MainWindowTest, ActionsHaveTheirTextsTipsAndShortcuts)
+TEST_F(MainWindowTest, ActionsHaveTextsTipsAndShortcuts)
 {
     for (const ActionRow &row : actionTable) {
         const QAction &found = action(row.name);
@@ -78,8 +78,8 @@ TEST_F(MainWindowTest, ActionsHaveTheirTextsTipsAndShortcuts)
     }
 }
 
-// Each icon is the picture of its name, there is another for high-DPI screens, and no two actions look alike.
-TEST_F(MainWindowTest, ActionsHaveTheirIcons)
+// Each icon is loaded from its own file, has a second one for high-DPI screens and differs from all others.
+TEST_F(MainWindowTest, ActionsHaveDistinctIcons)
 {
     constexpr int side = 32;
     std::vector<QImage> seen;
@@ -104,7 +104,7 @@ TEST_F(MainWindowTest, ActionsHaveTheirIcons)
     }
 }
 
-TEST_F(MainWindowTest, TheWindowHasTheProgramsIcon)
+TEST_F(MainWindowTest, WindowHasTheIconOfTheProgram)
 {
     const QImage icon(QStringLiteral(":/Icons/Icons/grisal.png"));
     EXPECT_EQ(icon.size(), QSize(256, 256));
@@ -112,14 +112,14 @@ TEST_F(MainWindowTest, TheWindowHasTheProgramsIcon)
     EXPECT_EQ(shown, icon.convertToFormat(shown.format()));
 }
 
-TEST_F(MainWindowTest, TheFormHasItsTitleAndSize)
+TEST_F(MainWindowTest, FormHasTitleAndSize)
 {
     EXPECT_EQ(window.windowTitle(), QStringLiteral("Lumio Grisal (Alpha)"));
     EXPECT_EQ(window.size(), QSize(663, 572));
     EXPECT_EQ(window.contextMenuPolicy(), Qt::NoContextMenu);
 }
 
-TEST_F(MainWindowTest, ThePreviewStandsLeftOfThePanels)
+TEST_F(MainWindowTest, PreviewIsLeftOfThePanels)
 {
     const auto &splitter = child<QSplitter>(window, "splitter");
     EXPECT_EQ(splitter.orientation(), Qt::Horizontal);
@@ -134,7 +134,7 @@ TEST_F(MainWindowTest, ThePreviewStandsLeftOfThePanels)
     EXPECT_EQ(container.layout()->contentsMargins(), QMargins(0, 0, 4, 0));
 }
 
-TEST_F(MainWindowTest, MenusHaveTheirOrder)
+TEST_F(MainWindowTest, MenusAreInFixedOrder)
 {
     QStringList titles;
     for (const QAction *item : child<QMenuBar>(window, "menubar").actions()) {
@@ -151,7 +151,7 @@ TEST_F(MainWindowTest, MenusHaveTheirOrder)
     EXPECT_EQ(child<QMenu>(window, "menuRecent").title(), QStringLiteral("Recent"));
 }
 
-TEST_F(MainWindowTest, TheToolBarStandsAtTheLeftForGood)
+TEST_F(MainWindowTest, ToolBarIsOnTheLeftAndNotMovable)
 {
     EXPECT_EQ(window.toolBarArea(&toolBar()), Qt::LeftToolBarArea);
     EXPECT_EQ(toolBar().allowedAreas(), Qt::LeftToolBarArea);
@@ -160,7 +160,7 @@ TEST_F(MainWindowTest, TheToolBarStandsAtTheLeftForGood)
     EXPECT_EQ(toolBar().toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
 }
 
-TEST_F(MainWindowTest, TheToolBarHasItsOrder)
+TEST_F(MainWindowTest, ToolBarIsInFixedOrder)
 {
     QStringList found;
     for (QAction *item : toolBar().actions()) {
@@ -182,7 +182,7 @@ TEST_F(MainWindowTest, TheToolBarHasItsOrder)
     EXPECT_EQ(stretch.verticalPolicy(), QSizePolicy::Expanding);
 }
 
-TEST_F(MainWindowTest, ThePanelsHaveTheirOrderAndTheMixerIsInFront)
+TEST_F(MainWindowTest, PanelsAreInFixedOrderAndTheMixerIsShown)
 {
     QStringList names;
     for (int i = 0; i < panels().count(); ++i) {
@@ -192,7 +192,7 @@ TEST_F(MainWindowTest, ThePanelsHaveTheirOrderAndTheMixerIsInFront)
     EXPECT_EQ(shownPanel(), "Mixer");
 }
 
-TEST_F(MainWindowTest, SlotsHaveTheirNamesAndOrder)
+TEST_F(MainWindowTest, SlotsHaveFixedNamesAndOrder)
 {
     EXPECT_EQ(methodsOf(grisal::ui::MainWindow::staticMetaObject, '\n'), "signalFinished()\n"
                                                                          "on_actionMixer_triggered()\n"
@@ -219,7 +219,7 @@ TEST_F(MainWindowTest, SlotsHaveTheirNamesAndOrder)
                                                                          "on_actionActualPixels_triggered()");
 }
 
-TEST_F(MainWindowTest, StatusTipsShowInTheStatusBar)
+TEST_F(MainWindowTest, StatusTipsAreShownInTheStatusBar)
 {
     start();
     auto *button = qobject_cast<QToolButton *>(toolBar().widgetForAction(&action("actionVignette")));

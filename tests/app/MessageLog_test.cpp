@@ -29,7 +29,7 @@ private:
     QByteArray m_homeBefore;
 };
 
-/// All messages of the program into the log while it lives.
+/// Redirects all messages of the program to the log during its lifetime.
 class InstalledLog
 {
 public:
@@ -66,12 +66,12 @@ TEST(MessageLogLine, HasNoLevelForOtherTypes)
               QStringLiteral("00:00:00.005 so"));
 }
 
-TEST_F(MessageLog, LiesInTheHome)
+TEST_F(MessageLog, FileIsInTheHomeDirectory)
 {
     EXPECT_EQ(message_log::path(), home.path() + QStringLiteral("/GrisalLog.txt"));
 }
 
-TEST_F(MessageLog, AMessageIsALineThatEndsWithALineFeed)
+TEST_F(MessageLog, MessageIsOneLineEndingWithALineFeed)
 {
     write(QtWarningMsg, "Buffer is invalid!");
     const QRegularExpression pattern(
@@ -79,7 +79,7 @@ TEST_F(MessageLog, AMessageIsALineThatEndsWithALineFeed)
     EXPECT_TRUE(pattern.match(QString::fromUtf8(logged())).hasMatch()) << logged().toStdString();
 }
 
-TEST_F(MessageLog, EarlierLinesStay)
+TEST_F(MessageLog, KeepsEarlierLines)
 {
     QFile file(home.filePath(QStringLiteral("GrisalLog.txt")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -101,7 +101,7 @@ TEST_F(MessageLog, TextIsUtf8)
     EXPECT_TRUE(logged().endsWith("Warning: Größe → 3 µm\n")) << logged().toStdString();
 }
 
-TEST_F(MessageLog, TakesTheToolkitsMessagesOnceInstalled)
+TEST_F(MessageLog, ReceivesMessagesOfQtOnceInstalled)
 {
     const InstalledLog log;
     qDebug("a");
@@ -113,7 +113,7 @@ TEST_F(MessageLog, TakesTheToolkitsMessagesOnceInstalled)
     EXPECT_EQ(text.toStdString(), " Debug: a\n b\n Warning: c\n Critical: d\n");
 }
 
-TEST_F(MessageLog, WithoutAHomeMessagesAreDropped)
+TEST_F(MessageLog, DropsMessagesWithoutAHomeDirectory)
 {
     qputenv("HOME", home.filePath(QStringLiteral("missing")).toLocal8Bit());
     write(QtCriticalMsg, "nobody reads this");
@@ -122,13 +122,13 @@ TEST_F(MessageLog, WithoutAHomeMessagesAreDropped)
 
 using MessageLogDeathTest = MessageLog;
 
-TEST_F(MessageLogDeathTest, AFatalMessageIsWrittenAndEndsTheProcess)
+TEST_F(MessageLogDeathTest, FatalMessageIsWrittenAndEndsTheProcess)
 {
     EXPECT_EXIT(write(QtFatalMsg, "the end"), testing::KilledBySignal(SIGABRT), "");
     EXPECT_TRUE(logged().endsWith(" Fatal: the end\n")) << logged().toStdString();
 }
 
-TEST_F(MessageLogDeathTest, AFatalMessageEndsTheProcessWithoutAHomeToo)
+TEST_F(MessageLogDeathTest, FatalMessageWithoutAHomeDirectoryEndsTheProcess)
 {
     qputenv("HOME", home.filePath(QStringLiteral("missing")).toLocal8Bit());
     EXPECT_EXIT(write(QtFatalMsg, "the end"), testing::KilledBySignal(SIGABRT), "");

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Preferences.h"
 #include "tests/app/FilesTest.h"
-#include "tests/support/UrlTaker.h"
+#include "tests/support/UrlInterceptor.h"
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>
@@ -55,7 +55,7 @@ protected:
     FileDealer dealer;
 };
 
-TEST_F(PreferencesTest, ShowsWhatIsRemembered)
+TEST_F(PreferencesTest, ShowsStoredDirectoryAndRecentImages)
 {
     const QStringList recent{QStringLiteral("/pictures/a.png"), QStringLiteral("/else<i>where/b.tif")};
     remember(QStringLiteral("/pictures"), recent);
@@ -67,7 +67,7 @@ TEST_F(PreferencesTest, ShowsWhatIsRemembered)
     EXPECT_TRUE(button(preferences, "buttonForgetRecent").isEnabled());
 }
 
-TEST_F(PreferencesTest, WithNothingRememberedThereIsNothingToForget)
+TEST_F(PreferencesTest, ForgetButtonsAreDisabledWithoutStoredValues)
 {
     const Preferences preferences(dealer);
     EXPECT_TRUE(directoryIn(preferences).isEmpty());
@@ -76,7 +76,7 @@ TEST_F(PreferencesTest, WithNothingRememberedThereIsNothingToForget)
     EXPECT_FALSE(button(preferences, "buttonForgetRecent").isEnabled());
 }
 
-TEST_F(PreferencesTest, AnImageWithoutAPathIsNotShownButForgotten)
+TEST_F(PreferencesTest, RecentImageWithoutPathIsNotShownButForgotten)
 {
     remember(QString(), {QString()});
     const Preferences preferences(dealer);
@@ -85,7 +85,7 @@ TEST_F(PreferencesTest, AnImageWithoutAPathIsNotShownButForgotten)
     EXPECT_FALSE(settings().contains(QStringLiteral("recentImages")));
 }
 
-TEST_F(PreferencesTest, ForgetsTheDirectoryAlone)
+TEST_F(PreferencesTest, ForgetsOnlyTheDirectory)
 {
     const QStringList recent(QStringLiteral("/pictures/a.png"));
     remember(QStringLiteral("/pictures"), recent);
@@ -97,7 +97,7 @@ TEST_F(PreferencesTest, ForgetsTheDirectoryAlone)
     EXPECT_EQ(settings().allKeys(), QStringList(QStringLiteral("recentImages")));
 }
 
-TEST_F(PreferencesTest, ForgetsTheRecentImagesAlone)
+TEST_F(PreferencesTest, ForgetsOnlyTheRecentImages)
 {
     remember(QStringLiteral("/pictures"), {QStringLiteral("/pictures/a.png")});
     const Preferences preferences(dealer);
@@ -108,7 +108,7 @@ TEST_F(PreferencesTest, ForgetsTheRecentImagesAlone)
     EXPECT_EQ(settings().allKeys(), QStringList(QStringLiteral("lastDirectory")));
 }
 
-TEST_F(PreferencesTest, ForgettingReachesTheFile)
+TEST_F(PreferencesTest, ForgettingIsWrittenToTheSettingsFile)
 {
     remember(inHome(QStringLiteral("secret")), {inHome(QStringLiteral("secret/a.png"))});
     const auto stored = [] {
@@ -133,36 +133,36 @@ TEST_F(PreferencesTest, ShowsWhereLogAndSettingsAre)
 TEST_F(PreferencesTest, OpensTheFolders)
 {
     remember(QStringLiteral("/pictures"), {});
-    const UrlTaker fileManager(QStringLiteral("file"));
+    const UrlInterceptor fileManager(QStringLiteral("file"));
     const Preferences preferences(dealer);
     button(preferences, "buttonOpenLog").click();
     button(preferences, "buttonOpenSettings").click();
-    EXPECT_EQ(fileManager.taken, (QList<QUrl>{QUrl::fromLocalFile(homePath()),
-                                              QUrl::fromLocalFile(inHome(QStringLiteral(".config/grisal.example")))}));
+    EXPECT_EQ(fileManager.urls, (QList<QUrl>{QUrl::fromLocalFile(homePath()),
+                                             QUrl::fromLocalFile(inHome(QStringLiteral(".config/grisal.example")))}));
 }
 
-TEST_F(PreferencesTest, BeforeThereAreSettingsOpensTheNearestFolderAbove)
+TEST_F(PreferencesTest, OpensTheNearestExistingFolderWithoutSettings)
 {
-    const UrlTaker fileManager(QStringLiteral("file"));
+    const UrlInterceptor fileManager(QStringLiteral("file"));
     const Preferences preferences(dealer);
     button(preferences, "buttonOpenSettings").click();
-    EXPECT_EQ(fileManager.taken, QList<QUrl>{QUrl::fromLocalFile(homePath())});
+    EXPECT_EQ(fileManager.urls, QList<QUrl>{QUrl::fromLocalFile(homePath())});
 }
 
-TEST_F(PreferencesTest, TellsThatNoProgramOpensTheFolder)
+TEST_F(PreferencesTest, ShowsABoxIfNoProgramOpensTheFolder)
 {
     const QByteArray programs = qgetenv("PATH");
     qputenv("PATH", homePath().toLocal8Bit());
     expectWarning(QStringLiteral("Unable to detect a launcher"));
     expectWarning(QStringLiteral("No program opens the folder"));
-    MessageBoxAnswer told(QMessageBox::Ok);
+    MessageBoxAnswer box(QMessageBox::Ok);
     const Preferences preferences(dealer);
     button(preferences, "buttonOpenLog").click();
     qputenv("PATH", programs);
-    EXPECT_TRUE(told.text.contains(homePath())) << told.text.toStdString();
+    EXPECT_TRUE(box.text.contains(homePath())) << box.text.toStdString();
 }
 
-TEST_F(PreferencesTest, CloseAndEscapeCloseIt)
+TEST_F(PreferencesTest, CloseAndEscapeCloseTheDialog)
 {
     Preferences preferences(dealer);
     preferences.show();
@@ -187,7 +187,7 @@ TEST_F(PreferencesTest, EveryControlHasANameAndATip)
     }
 }
 
-/// Does something in the preferences and closes them.
+/// Calls a function with the preferences dialog and closes it.
 class PreferencesAnswer : public ModalAnswer
 {
 public:
@@ -220,7 +220,7 @@ protected:
     }
 };
 
-TEST_F(PreferencesOfTheWindow, TheRecentMenuFollows)
+TEST_F(PreferencesOfTheWindow, ForgettingUpdatesTheRecentMenu)
 {
     start();
     openWithDialog(makePicture(QStringLiteral("a.png"), 8, 8));
@@ -236,7 +236,7 @@ TEST_F(PreferencesOfTheWindow, TheRecentMenuFollows)
     EXPECT_TRUE(storedRecent().isEmpty());
 }
 
-TEST_F(PreferencesOfTheWindow, SaveStillKnowsTheOpenPicture)
+TEST_F(PreferencesOfTheWindow, SaveStillUsesThePathOfTheOpenImageAfterForgetting)
 {
     start();
     openWithDialog(makePicture(QStringLiteral("a.png"), 8, 8));

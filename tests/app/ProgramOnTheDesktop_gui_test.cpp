@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program as the desktop sees it: its windows, found by their titles, and its end, by a key.
+// Starts the program, finds its windows by their titles and quits it by key.
 #include <gtest/gtest.h>
 
 #include <QDeadlineTimer>
@@ -35,8 +35,8 @@ protected:
         }
     }
 
-    /// Starts the program in a home of its own, with a variable of the environment set if one is named. It
-    /// speaks English unless asked for another language: its windows are found by their titles.
+    /// Starts the program in its own home directory, optionally with an environment variable. Its language is English
+    /// unless another one is requested, because its windows are found by their titles.
     void start(const char *variable = nullptr, const char *value = nullptr, const char *language = "en")
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -51,7 +51,7 @@ protected:
         ASSERT_TRUE(m_process.waitForStarted());
     }
 
-    /// What the program is given on its command line; nothing unless this is called before start().
+    /// Sets the command line arguments, which are empty by default; to be called before start().
     void setArguments(const QStringList &arguments) { m_process.setArguments(arguments); }
 
     QString inHome(const QString &name) const { return m_home.filePath(name); }
@@ -64,7 +64,7 @@ protected:
         return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
     }
 
-    /// The visible windows of the program with that title, by the desktop's numbers.
+    /// The ids of the program's visible windows with this title.
     QStringList windowsNamed(const QString &title) const
     {
         const QString pattern = QLatin1Char('^') + QRegularExpression::escape(title) + QLatin1Char('$');
@@ -74,7 +74,7 @@ protected:
         return found.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     }
 
-    /// Waits for the window of that title, of which there must be one.
+    /// Waits for the window with this title, which must be the only one.
     QString windowNamed(const QString &title) const
     {
         QStringList windows;
@@ -93,11 +93,11 @@ protected:
     {
         xdotool({QStringLiteral("windowfocus"), QStringLiteral("--sync"), window});
         xdotool({QStringLiteral("key"), QStringLiteral("--window"), window, keys});
-        // A window that goes when a key is pressed does not see it go up: the next window would get it again and again.
+        // A window that closes on a key press does not receive the release, so the key would repeat in the next window.
         xdotool({QStringLiteral("keyup"), keys});
     }
 
-    /// The title of the dialog for opening pictures, in whatever language; empty where it is not there.
+    /// The title of the open dialog in any language; empty if there is no such dialog.
     std::string openTitle() const
     {
         for (const char *title : {"Open Image", "Bild öffnen", "Ouvrir une image"}) {
@@ -108,8 +108,8 @@ protected:
         return {};
     }
 
-    /// Opens the dialog for opening pictures; returns its title, empty if it does not come. The keys are pressed again
-    /// where the window did not have the keyboard yet.
+    /// Opens the open dialog and returns its title, empty if it does not appear. The keys are pressed again if the
+    /// window did not have the keyboard focus.
     std::string titleOfOpen()
     {
         const QString window = mainWindow();
@@ -125,10 +125,10 @@ protected:
         return title;
     }
 
-    /// What the program has written to the standard error stream.
+    /// The standard error output of the program.
     QByteArray consoleErrors() { return m_process.readAllStandardError(); }
 
-    /// The exit status, once the program has ended by itself; -1 if it does not or crashes.
+    /// Waits for the exit status; -1 if the program does not end or crashes.
     int exitStatus()
     {
         const bool stopped = m_process.state() == QProcess::NotRunning || m_process.waitForFinished(limit);
@@ -136,7 +136,7 @@ protected:
         return ended ? m_process.exitCode() : -1;
     }
 
-    /// The exit status once the keys were pressed in a window; again where the window did not have the keyboard yet.
+    /// The exit status after the keys were pressed in a window, repeatedly if it did not have the keyboard focus.
     int exitStatusAfter(const QString &window, const QString &keys)
     {
         QElapsedTimer timer;
@@ -159,14 +159,14 @@ private:
     QProcess m_process;
 };
 
-TEST_F(ProgramOnTheDesktop, QuitsByKeyWithAGoodbyeInTheLog)
+TEST_F(ProgramOnTheDesktop, QuitsByKeyAndLogsBye)
 {
     start();
     EXPECT_EQ(exitStatusAfter(mainWindow(), QStringLiteral("ctrl+q")), 0);
     EXPECT_TRUE(logged().endsWith(" Warning: Bye bye...\n\n\n\n")) << logged().toStdString();
 }
 
-TEST_F(ProgramOnTheDesktop, TellsInTheLogWhatDrawsThePictures)
+TEST_F(ProgramOnTheDesktop, LogsOpenGlVendorRendererAndVersion)
 {
     start();
     EXPECT_EQ(exitStatusAfter(mainWindow(), QStringLiteral("ctrl+q")), 0);
@@ -176,20 +176,20 @@ TEST_F(ProgramOnTheDesktop, TellsInTheLogWhatDrawsThePictures)
     }
 }
 
-TEST_F(ProgramOnTheDesktop, WarnsOfNothingInAPlainRun)
+TEST_F(ProgramOnTheDesktop, LogsNoWarningInAnOrdinaryRun)
 {
     start();
     EXPECT_EQ(exitStatusAfter(mainWindow(), QStringLiteral("ctrl+q")), 0);
     const QList<QByteArray> lines = logged().split('\n');
     for (const QByteArray &line : lines) {
         const bool plain = !line.contains(" Warning: ") && !line.contains(" Critical: ");
-        // A session without a runtime directory is none of the program's making.
+        // A missing runtime directory is not caused by the program.
         EXPECT_TRUE(plain || line.contains("Bye bye") || line.contains("XDG_RUNTIME_DIR")) << line.toStdString();
     }
 }
 
-// The goodbye comes after everything that the start has left for the event loop.
-TEST_F(ProgramOnTheDesktop, OpensNoFileOfItsCommandLine)
+// The message is logged after all events that are pending at the start.
+TEST_F(ProgramOnTheDesktop, IgnoresFilesOnTheCommandLine)
 {
     QImage picture(8, 4, QImage::Format_RGB32);
     picture.fill(Qt::black);
@@ -201,8 +201,8 @@ TEST_F(ProgramOnTheDesktop, OpensNoFileOfItsCommandLine)
     EXPECT_FALSE(logged().contains("LumioImage")) << logged().toStdString();
 }
 
-// The toolkit crashes when it paints a window with an OpenGL widget and no OpenGL: the window must be gone by then.
-TEST_F(ProgramOnTheDesktop, WithoutOpenGLOneBoxAndOneLineSaySoBeforeItEnds)
+// Without OpenGL, Qt crashes when it paints a window with an OpenGL widget, so the window must be closed before.
+TEST_F(ProgramOnTheDesktop, WithoutOpenGlShowsABoxLogsALineAndEnds)
 {
     start("QT_XCB_GL_INTEGRATION", "none");
     const QString box = windowNamed(QStringLiteral("No OpenGL"));
@@ -215,39 +215,39 @@ TEST_F(ProgramOnTheDesktop, WithoutOpenGLOneBoxAndOneLineSaySoBeforeItEnds)
         << console.toStdString();
 }
 
-TEST_F(ProgramOnTheDesktop, TooOldAnOpenGLIsToldAndEndsTheProgram)
+TEST_F(ProgramOnTheDesktop, WithTooOldOpenGlShowsABoxAndEnds)
 {
     start("MESA_GL_VERSION_OVERRIDE", "1.4");
     EXPECT_EQ(exitStatusAfter(windowNamed(QStringLiteral("No OpenGL")), QStringLiteral("Return")), EXIT_FAILURE);
     EXPECT_TRUE(logged().contains(" Critical: The graphics driver offers only OpenGL 1.4")) << logged().toStdString();
 }
 
-TEST_F(ProgramOnTheDesktop, SpeaksTheLanguageOfTheDesktop)
+TEST_F(ProgramOnTheDesktop, UsesTheLanguageOfTheDesktop)
 {
     start("LANGUAGE", "de_CH:en");
     EXPECT_EQ(titleOfOpen(), "Bild öffnen");
 }
 
-TEST_F(ProgramOnTheDesktop, SpeaksTheFirstLanguageThatItKnows)
+TEST_F(ProgramOnTheDesktop, UsesTheFirstLanguageThatHasACatalogue)
 {
     start("LANGUAGE", "nl:fr:de");
     EXPECT_EQ(titleOfOpen(), "Ouvrir une image");
 }
 
-TEST_F(ProgramOnTheDesktop, EnglishBeforeOtherLanguagesIsEnglish)
+TEST_F(ProgramOnTheDesktop, UsesEnglishIfItPrecedesOtherLanguages)
 {
     start("LANGUAGE", "en_GB:de");
     EXPECT_EQ(titleOfOpen(), "Open Image");
 }
 
-TEST_F(ProgramOnTheDesktop, TheBoxWithoutOpenGLIsTranslatedAndTheLogIsNot)
+TEST_F(ProgramOnTheDesktop, BoxWithoutOpenGlIsTranslatedButNotTheLog)
 {
     start("MESA_GL_VERSION_OVERRIDE", "1.4", "fr");
     EXPECT_EQ(exitStatusAfter(windowNamed(QStringLiteral("Pas d’OpenGL")), QStringLiteral("Return")), EXIT_FAILURE);
     EXPECT_TRUE(logged().contains(" Critical: The graphics driver offers only OpenGL 1.4")) << logged().toStdString();
 }
 
-// There is no GLX display then, as on a Wayland desktop; the entry points are found all the same.
+// With EGL there is no GLX display, as on a Wayland desktop; the OpenGL functions are found nevertheless.
 TEST_F(ProgramOnTheDesktop, StartsWithoutGlxDisplay)
 {
     start("QT_XCB_GL_INTEGRATION", "xcb_egl");

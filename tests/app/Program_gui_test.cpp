@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program itself, from outside: what it shows and logs.
+// The program as a process: its window and its log.
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <gtest/gtest.h>
@@ -75,10 +75,10 @@ protected:
     QProcess process;
 };
 
-TEST_F(Program, ShowsAGreyPictureAtItsStart)
+TEST_F(Program, ShowsAGreyPlaceholderAtTheStart)
 {
     start();
-    // The preview is 300 wide at least, and the picture of 300 x 200 fitted into it with a margin of 1 percent.
+    // The preview is at least 300 pixels wide, and the image of 300 x 200 is fitted into it with a margin of 1 percent.
     EXPECT_TRUE(QTest::qWaitFor([] { return greyPixels() > 297 * 197; }, 10000)) << greyPixels();
     EXPECT_TRUE(logged().contains("Preview Width:  300"));
     EXPECT_TRUE(logged().contains("Preview Height:  200"));
@@ -97,8 +97,8 @@ TEST_F(Program, AppendsToTheLogOfEarlierRuns)
     EXPECT_TRUE(logged().startsWith(first));
 }
 
-// Nothing can be logged then, which is no reason not to develop pictures.
-TEST_F(Program, WorksWhereTheLogIsAFolder)
+// The program works without a log.
+TEST_F(Program, RunsIfTheLogPathIsAFolder)
 {
     ASSERT_TRUE(QDir(home.path()).mkdir(QStringLiteral("GrisalLog.txt")));
     start();
@@ -108,7 +108,7 @@ TEST_F(Program, WorksWhereTheLogIsAFolder)
     EXPECT_TRUE(QFileInfo(home.filePath(QStringLiteral("GrisalLog.txt"))).isDir());
 }
 
-TEST_F(Program, NamesAMissingDisplayOnTheConsoleAndEndsWithStatus1)
+TEST_F(Program, ReportsAMissingDisplayOnTheConsoleAndEndsWithStatus1)
 {
     removeDisplay();
     start();
@@ -120,7 +120,7 @@ TEST_F(Program, NamesAMissingDisplayOnTheConsoleAndEndsWithStatus1)
     EXPECT_TRUE(logged().contains("Fatal: ")) << logged().toStdString();
 }
 
-// Without a display, Qt does not get beyond the making of the application object.
+// Without a display, Qt ends the program in the constructor of the application object.
 TEST_F(Program, StartsGraphicsMagickBeforeQt)
 {
     removeDisplay();

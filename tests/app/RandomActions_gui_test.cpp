@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Somebody who presses everything: random but repeatable actions in the window. A hundred of them by default; more, for
-// the sanitizers, for as many seconds as GRISAL_RANDOM_SECONDS says.
+// Random but repeatable actions in the window: a hundred by default, or as many as fit into GRISAL_RANDOM_SECONDS
+// seconds, for example under the sanitizers.
 #include "tests/app/FilesTest.h"
 
 #include <QAbstractButton>
@@ -69,7 +69,7 @@ protected:
         QCoreApplication::processEvents();
     }
 
-    /// Quits the program and starts it again, with the settings that it left.
+    /// Closes the window and creates it again with the stored settings.
     void restart()
     {
         if (player) {
@@ -152,7 +152,7 @@ private:
 
     void sendMouse(QWidget &widget, QEvent::Type type)
     {
-        // A quarter of the places lie outside.
+        // A quarter of the positions are outside.
         const QPointF place(below(widget.width() + 40) - 20, below(widget.height() + 40) - 20);
         QMouseEvent event(type, place, widget.mapToGlobal(place), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&widget, &event);
@@ -163,7 +163,7 @@ private:
     QTimer m_boxes;
 };
 
-TEST_F(RandomActions, DoNoHarm)
+TEST_F(RandomActions, LeaveAWindowThatOpensAndSaves)
 {
     const int seconds = qEnvironmentVariableIntValue("GRISAL_RANDOM_SECONDS");
     QElapsedTimer timer;

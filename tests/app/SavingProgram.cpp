@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A program to be killed: opens the picture of its first argument in the window and saves it to the file of its second,
-// with grain and without by turns, as often as its third says. Tells each save's start on its standard output.
+// A program that KilledSave_gui_test kills: SavingProgram IN OUT COUNT opens IN in the window and saves it COUNT times
+// to OUT, alternately with and without grain. Prints the start of each save to standard output.
 #include "app/MainWindow.h"
 #include "graphics/gl/SurfaceFormat.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Session.h"
 #include "tests/graphics/files/PictureFiles.h"
-#include "tests/support/ClosedFolder.h"
+#include "tests/support/InaccessibleFolder.h"
 #include "tests/support/LogCapture.h"
 
 #include <QDir>
@@ -35,7 +35,7 @@ struct SessionTest : testing::Test {
     Session session;
 };
 
-TEST_F(SessionTest, ReadsAPictureAtTheDepthOfItsFile)
+TEST_F(SessionTest, ReadsAnImageAtTheDepthOfItsFile)
 {
     const auto picture8 = session.read(makePicture("a.png", 8));
     ASSERT_TRUE(picture8);
@@ -50,13 +50,13 @@ TEST_F(SessionTest, ReadsAPictureAtTheDepthOfItsFile)
     EXPECT_EQ(std::get<Image16>(picture16->image).samples, samplesOf(path("a.tif")));
 }
 
-TEST_F(SessionTest, LogsTheDescriptionOfThePicture)
+TEST_F(SessionTest, LogsTheDescriptionOfTheImage)
 {
     ASSERT_TRUE(session.read(makePicture("a.png", 8)));
     EXPECT_TRUE(log.contains("  width :     4\n  height:     2\n  depth:      8"));
 }
 
-TEST_F(SessionTest, LeavesTheOpenPictureToItsOwner)
+TEST_F(SessionTest, ReadingDoesNotReplaceTheOpenImage)
 {
     open(makePicture("a.png", 8));
     const auto before = session.picture();
@@ -64,7 +64,7 @@ TEST_F(SessionTest, LeavesTheOpenPictureToItsOwner)
     EXPECT_EQ(session.picture(), before);
 }
 
-TEST_F(SessionTest, ReturnsTheOpenPictureForAMissingFile)
+TEST_F(SessionTest, ReturnsTheOpenImageForAMissingFile)
 {
     EXPECT_FALSE(session.read(path("missing.png")));
     open(makePicture("a.png", 8));
@@ -73,7 +73,7 @@ TEST_F(SessionTest, ReturnsTheOpenPictureForAMissingFile)
     EXPECT_EQ(log.warnings().size(), 3);
 }
 
-TEST_F(SessionTest, ReturnsNothingForAFileThatIsNoPicture)
+TEST_F(SessionTest, ReturnsNothingForAnInvalidFile)
 {
     open(makePicture("a.png", 8));
     writeFile(path("rubbish.png"), "no picture at all");
@@ -81,19 +81,19 @@ TEST_F(SessionTest, ReturnsNothingForAFileThatIsNoPicture)
     EXPECT_EQ(log.warnings().size(), 1);
 }
 
-// It may well be there: to show the open picture under its name would have the wrong file replaced by the next save.
-TEST_F(SessionTest, ReturnsNothingForAFileThatCannotBeExamined)
+// The file may exist: if the open image got its name, the next save would replace the wrong file.
+TEST_F(SessionTest, ReturnsNothingForAnInaccessibleFile)
 {
     open(makePicture("a.png", 8));
     ASSERT_TRUE(QDir(directory.path()).mkdir("closed"));
     {
-        const ClosedFolder closed(path("closed"));
+        const InaccessibleFolder closed(path("closed"));
         EXPECT_FALSE(session.read(path("closed/b.png")));
     }
     EXPECT_FALSE(session.read(path(QString(1000, QLatin1Char('x')) + ".png")));
 }
 
-TEST_F(SessionTest, WritesTheVerySamplesOfAnImage)
+TEST_F(SessionTest, WritesTheSamplesUnchanged)
 {
     Image8 image8(2, 1);
     image8.samples = {0, 1, 127, 128, 254, 255};
@@ -115,8 +115,8 @@ TEST_F(SessionTest, LogsWhyAFileCannotBeWritten)
     EXPECT_TRUE(log.warnings().first().startsWith("Cannot save " + path("nowhere/a.png")));
 }
 
-// A black picture would be written otherwise.
-TEST_F(SessionTest, WritesNothingWhereThereIsNoMemoryForTheImage)
+// Otherwise a black image would be written.
+TEST_F(SessionTest, WritesNothingIfMemoryIsInsufficient)
 {
     makePicture("a.png", 8);
     const QByteArray before = contentsOf(path("a.png"));
@@ -128,7 +128,7 @@ TEST_F(SessionTest, WritesNothingWhereThereIsNoMemoryForTheImage)
     EXPECT_FALSE(log.warnings().first().contains("Image is not valid")) << log.warnings().first().toStdString();
 }
 
-TEST_F(SessionTest, WarnsOfAFileThatIsCutShort)
+TEST_F(SessionTest, WarnsAboutATruncatedFile)
 {
     const QString file = path("a.jpg");
     painted(64, 64, 8, [](int x, int y) -> Samples {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program in the languages that it speaks.
+// The program in all its languages.
 #include "app/About.h"
 #include "app/Preferences.h"
 #include "app/Translation.h"
@@ -37,7 +37,7 @@ std::string menusOf(const QMainWindow &window)
     return titles.join(QLatin1Char(' ')).toStdString();
 }
 
-/// The keys of the window's actions, by the actions' names.
+/// The shortcuts of the window's actions, by object name.
 std::map<QString, QString> shortcutsOf(const QWidget &window)
 {
     std::map<QString, QString> shortcuts;
@@ -49,7 +49,7 @@ std::map<QString, QString> shortcutsOf(const QWidget &window)
     return shortcuts;
 }
 
-/// The film names and their weights, in their order, without the two looks that are no films.
+/// The names and weights of the films, in order, without the two looks that are not films.
 QStringList filmsOf(const QWidget &window)
 {
     QStringList films;
@@ -60,7 +60,7 @@ QStringList filmsOf(const QWidget &window)
     return films;
 }
 
-std::string toolkitButtonOf(const QDialog &dialog, QDialogButtonBox::StandardButton which)
+std::string qtButtonOf(const QDialog &dialog, QDialogButtonBox::StandardButton which)
 {
     QString text = child<QDialogButtonBox>(dialog, "buttonBox").button(which)->text();
     return text.remove(QLatin1Char('&')).toStdString();
@@ -75,7 +75,7 @@ class TranslationTest : public GuiTest
 {
 };
 
-TEST_F(TranslationTest, TheLocaleChoosesTheCatalogue)
+TEST_F(TranslationTest, LocaleSelectsTheCatalogue)
 {
     EXPECT_EQ(catalogueFor("de_DE"), QStringLiteral(":/Translations/grisal_de.qm"));
     EXPECT_EQ(catalogueFor("de_CH"), QStringLiteral(":/Translations/grisal_de.qm"));
@@ -85,7 +85,7 @@ TEST_F(TranslationTest, TheLocaleChoosesTheCatalogue)
     }
 }
 
-TEST_F(TranslationTest, MenusAreGermanWhileTheTranslationLives)
+TEST_F(TranslationTest, MenusAreGermanDuringTheLifetimeOfTheTranslation)
 {
     {
         const Translation translation{QLocale(QLocale::German)};
@@ -105,19 +105,19 @@ TEST_F(TranslationTest, MenusAreEnglishInALanguageWithoutACatalogue)
     const Translation translation{QLocale(QLocale::Dutch)};
     EXPECT_EQ(menusOf(grisal::ui::MainWindow()), "File Edit View Filter Help");
     FileDealer dealer;
-    EXPECT_EQ(toolkitButtonOf(Preferences(dealer), QDialogButtonBox::Close), "Close");
+    EXPECT_EQ(qtButtonOf(Preferences(dealer), QDialogButtonBox::Close), "Close");
 }
 
-TEST_F(TranslationTest, TheToolkitSpeaksTheSameLanguage)
+TEST_F(TranslationTest, TextsOfQtAreInTheSameLanguage)
 {
     const Translation translation{QLocale(QLocale::German)};
     FileDealer dealer;
     const Preferences preferences(dealer);
     EXPECT_EQ(preferences.windowTitle(), QStringLiteral("Einstellungen"));
-    EXPECT_EQ(toolkitButtonOf(preferences, QDialogButtonBox::Close), "Schließen");
+    EXPECT_EQ(qtButtonOf(preferences, QDialogButtonBox::Close), "Schließen");
 }
 
-TEST_F(TranslationTest, TextsInTheSourcesAreTranslatedLikeThoseInTheForms)
+TEST_F(TranslationTest, TextsInSourcesAndFormsAreTranslated)
 {
     const Translation translation{QLocale(QLocale::German)};
     const grisal::ui::MainWindow window;
@@ -129,7 +129,7 @@ TEST_F(TranslationTest, TextsInTheSourcesAreTranslatedLikeThoseInTheForms)
     EXPECT_TRUE(child<QLabel>(about, "labelVersion").text().startsWith(QStringLiteral("Version: ")));
 }
 
-/// One of the languages, from before the window is made until after its end.
+/// Installs a language before the window is created and until it is destroyed.
 struct InOneLanguage : testing::WithParamInterface<const char *> {
     std::unique_ptr<const Translation> translation =
         std::make_unique<const Translation>(QLocale(QString::fromLatin1(GetParam())));
@@ -140,7 +140,7 @@ class TranslatedWindow : public InOneLanguage, public FilesTest
 protected:
     static bool isGerman() { return qstrcmp(GetParam(), "de") == 0; }
 
-    /// Fails where a text of the widget has less room than it needs.
+    /// Fails if a text of the widget is truncated.
     static void expectRoom(const QWidget &widget)
     {
         for (const QWidget *part : widget.findChildren<QWidget *>()) {
@@ -158,7 +158,7 @@ protected:
     }
 };
 
-TEST_P(TranslatedWindow, HasTheShortcutsAndFilmsOfTheEnglishOne)
+TEST_P(TranslatedWindow, HasTheShortcutsAndFilmsOfTheEnglishWindow)
 {
     translation.reset();
     const grisal::ui::MainWindow english;
@@ -170,7 +170,7 @@ TEST_P(TranslatedWindow, HasTheShortcutsAndFilmsOfTheEnglishOne)
     EXPECT_EQ(filmsOf(window), filmsOf(english));
 }
 
-TEST_P(TranslatedWindow, NoMenuNamesTwoThingsAlike)
+TEST_P(TranslatedWindow, TextsInEachMenuAreUnique)
 {
     for (const QMenu *menu : window.menuBar()->findChildren<QMenu *>()) {
         QStringList texts;
@@ -184,7 +184,7 @@ TEST_P(TranslatedWindow, NoMenuNamesTwoThingsAlike)
     }
 }
 
-TEST_P(TranslatedWindow, OpensRemembersAndOpensAgain)
+TEST_P(TranslatedWindow, OpensAnImageAndOpensItAgainFromTheRecentMenu)
 {
     start();
     const QString path = makePicture(QStringLiteral("a.png"), 8, 6);
@@ -198,7 +198,7 @@ TEST_P(TranslatedWindow, OpensRemembersAndOpensAgain)
     EXPECT_EQ(title(), "Lumio Grisal (Alpha) - a.png 8x6");
 }
 
-TEST_P(TranslatedWindow, TheDialogsFindTheSameFiles)
+TEST_P(TranslatedWindow, DialogsHaveTheFilePatternsOfTheEnglishOnes)
 {
     start();
     FileDialogAnswer answer{QString()};
@@ -209,7 +209,7 @@ TEST_P(TranslatedWindow, TheDialogsFindTheSameFiles)
               (isGerman() ? QStringLiteral("Bilder") : QStringLiteral("Images")) + patterns);
 }
 
-TEST_P(TranslatedWindow, ThePresetsSetTheirWeights)
+TEST_P(TranslatedWindow, PresetsSetTheirWeights)
 {
     start();
     const auto &mixer = child<QWidget>(window, "Mixer");
@@ -221,7 +221,7 @@ TEST_P(TranslatedWindow, ThePresetsSetTheirWeights)
     EXPECT_EQ(child<QSpinBox>(mixer, "spinBoxB").value(), 102);
 }
 
-TEST_P(TranslatedWindow, EveryFilterShowsItsPanelWithRoomForItsWords)
+TEST_P(TranslatedWindow, TextsOfEveryPanelFit)
 {
     start();
     const std::map<const char *, const char *> panels{{"actionCurves", "Curves"},       {"actionSharpen", "Sharpen"},
@@ -235,7 +235,7 @@ TEST_P(TranslatedWindow, EveryFilterShowsItsPanelWithRoomForItsWords)
     }
 }
 
-TEST_P(TranslatedWindow, TheDialogsHaveRoomForTheirWords)
+TEST_P(TranslatedWindow, TextsOfTheDialogsFit)
 {
     FileDealer dealer;
     Preferences preferences(dealer);
@@ -248,7 +248,7 @@ TEST_P(TranslatedWindow, TheDialogsHaveRoomForTheirWords)
     }
 }
 
-TEST_P(TranslatedWindow, TheLogStaysEnglish)
+TEST_P(TranslatedWindow, LogIsInEnglish)
 {
     start();
     expectWarning(QStringLiteral("MainWindow::saveImage(): Invalid filename"));

@@ -34,9 +34,9 @@ QString sourceOf(const QString &guide)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/// What a guide consists of, as the toolkit read it.
+/// The parts of a guide as parsed by Qt.
 struct Parts {
-    QStringList places; ///< that links may lead to
+    QStringList places; ///< the targets of links
     QStringList links;
     QStringList pictures;
     QList<QColor> linkColours;
@@ -113,7 +113,7 @@ TEST_F(UserGuideTest, IsWrittenInThreeLanguages)
     EXPECT_EQ(guides().join(QLatin1Char(' ')).toStdString(), "guide.html guide_de.html guide_fr.html");
 }
 
-TEST_F(UserGuideTest, EveryLinkLeadsToAPlaceInTheSameGuide)
+TEST_F(UserGuideTest, EveryLinkTargetIsInTheSameGuide)
 {
     for (const QString &guide : guides()) {
         const Parts parts = partsOfGuide(guide);
@@ -127,7 +127,7 @@ TEST_F(UserGuideTest, EveryLinkLeadsToAPlaceInTheSameGuide)
     }
 }
 
-TEST_F(UserGuideTest, TheContentsNameEveryChapter)
+TEST_F(UserGuideTest, ContentsListEveryChapter)
 {
     for (const QString &guide : guides()) {
         Parts parts = partsOfGuide(guide);
@@ -140,7 +140,7 @@ TEST_F(UserGuideTest, TheContentsNameEveryChapter)
     }
 }
 
-TEST_F(UserGuideTest, EveryPictureIsThereInBothDensitiesAndInWords)
+TEST_F(UserGuideTest, EveryPictureHasTwoDensitiesAndATextAlternative)
 {
     for (const QString &guide : guides()) {
         const QStringList pictures = partsOfGuide(guide).pictures;
@@ -155,8 +155,8 @@ TEST_F(UserGuideTest, EveryPictureIsThereInBothDensitiesAndInWords)
             EXPECT_EQ(highDpi.width(), 2 * picture.width()) << name.toStdString();
             EXPECT_EQ(highDpi.height(), 2 * picture.height()) << name.toStdString();
         }
-        const QRegularExpression inWords(QStringLiteral("<img src=\"\\w+\\.png\" alt=\"[^\"]{8,}\">"));
-        EXPECT_EQ(sourceOf(guide).count(inWords), pictures.size()) << guide.toStdString();
+        const QRegularExpression textAlternative(QStringLiteral("<img src=\"\\w+\\.png\" alt=\"[^\"]{8,}\">"));
+        EXPECT_EQ(sourceOf(guide).count(textAlternative), pictures.size()) << guide.toStdString();
     }
 }
 
@@ -175,7 +175,7 @@ TEST_F(UserGuideTest, AllLanguagesHaveTheSameChapters)
     }
 }
 
-TEST_F(UserGuideTest, EveryLanguageTellsWhatTheLumaMakesOfATypedWeight)
+TEST_F(UserGuideTest, EveryLanguageContainsTheLumaExample)
 {
     for (const QString &guide : guides()) {
         const QRegularExpression example(QStringLiteral("\\b200\\b.+\\b256\\b.+\\b162, 47 .+ 47\\b"));
@@ -211,7 +211,7 @@ TEST_F(ShownUserGuide, PicturesAreShownInTheDensityOfTheScreen)
     }
 }
 
-TEST_F(ShownUserGuide, LinksAreFollowedWithTheKeyboardAndTheButtonsLeadBack)
+TEST_F(ShownUserGuide, KeyboardFollowsLinksAndButtonsGoBack)
 {
     QTest::keyClick(&browser, Qt::Key_Tab);
     QTest::keyClick(&browser, Qt::Key_Return);
@@ -231,20 +231,20 @@ TEST_F(ShownUserGuide, LinksAreFollowedWithTheKeyboardAndTheButtonsLeadBack)
     EXPECT_EQ(place(), 0);
 }
 
-TEST_F(ShownUserGuide, TheContentsAreAClickAwayFromWhereverTheUserScrolled)
+TEST_F(ShownUserGuide, ContentsButtonScrollsToTheTop)
 {
     browser.verticalScrollBar()->setValue(500);
     contents.click();
     EXPECT_EQ(place(), 0);
 }
 
-TEST_F(ShownUserGuide, EscapeClosesIt)
+TEST_F(ShownUserGuide, EscapeClosesTheGuide)
 {
     QTest::keyClick(&browser, Qt::Key_Escape);
     EXPECT_FALSE(guide.isVisible());
 }
 
-TEST_F(ShownUserGuide, LinksFollowTheColoursOfTheDesktop)
+TEST_F(ShownUserGuide, LinkColoursFollowThePalette)
 {
     browser.verticalScrollBar()->setValue(100);
     const QPalette before = QApplication::palette();
@@ -275,7 +275,7 @@ protected:
     QList<UserGuide *> opened() { return window.findChildren<UserGuide *>(); }
 };
 
-TEST_F(UserGuideOfTheWindow, HelpOpensOneGuideAndBringsItToTheFrontAgain)
+TEST_F(UserGuideOfTheWindow, HelpOpensOneGuideAndRaisesItAgain)
 {
     start();
     trigger(window, "actionHelp");
@@ -302,7 +302,7 @@ TEST_F(UserGuideOfTheWindow, HelpOpensTheGuideAgainAfterItWasClosed)
     EXPECT_TRUE(opened().front()->isVisible());
 }
 
-TEST_F(UserGuideOfTheWindow, AnOpenGuideDoesNotKeepTheProgramRunning)
+TEST_F(UserGuideOfTheWindow, OpenGuideDoesNotKeepTheProgramRunning)
 {
     start();
     trigger(window, "actionHelp");

@@ -27,12 +27,12 @@ protected:
     void SetUp() override
     {
         GRISAL_SKIP_WITHOUT_GL();
-        // The tool bar shows status tips under the mouse, wherever the last test left it.
+        // The mouse may still be over the tool bar, which would show a status tip.
         QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
     }
 
-    /// Shows the window with a placeholder of 300 x 200 mid-grey pixels, as the program does at its start. The test
-    /// ends where there are no graphics.
+    /// Shows the window with a placeholder of 300 x 200 mid-grey pixels like the program at its start. Ends the test if
+    /// there is no OpenGL.
     void start()
     {
         window.show();
@@ -46,12 +46,12 @@ protected:
         window.loadBuffer(greyImage(300, 200, 128));
     }
 
-    /// Shows the window with a preview that has a middle: of an even number of pixels each way.
+    /// Shows the window with a preview of even width and height, so that its middle is between two pixels.
     void startEven()
     {
         start();
         window.resize(window.width() + preview().width() % 2, window.height() + preview().height() % 2);
-        // The fit that follows a resize would come in between.
+        // Otherwise the delayed fit after the resize would change the scale later.
         timeOutNow(child<QTimer>(preview(), "resizeTimer"));
     }
 
@@ -63,7 +63,7 @@ protected:
         return *container.findChild<QStackedLayout *>();
     }
 
-    /// Class name of the panel that is shown.
+    /// Class name of the current panel.
     std::string shownPanel() { return panels().currentWidget()->metaObject()->className(); }
 
     std::string status() { return child<QStatusBar>(window, "statusbar").currentMessage().toStdString(); }

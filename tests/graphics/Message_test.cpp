@@ -11,7 +11,7 @@ namespace
 
 using grisal::graphics::Message;
 
-/// Knows one text of one context.
+/// Translates one text of one context.
 class OneText : public QTranslator
 {
 public:
@@ -24,7 +24,7 @@ public:
     }
 };
 
-TEST(MessageTest, StartsWithNothingToTell)
+TEST(MessageTest, IsEmptyInitially)
 {
     EXPECT_TRUE(Message().isEmpty());
     EXPECT_TRUE(Message().english().isEmpty());
@@ -32,7 +32,7 @@ TEST(MessageTest, StartsWithNothingToTell)
     EXPECT_TRUE(Message::quoting(QString()).isEmpty());
 }
 
-TEST(MessageTest, IsTranslatedForTheUserAlone)
+TEST(MessageTest, OnlyTheTextForUsersIsTranslated)
 {
     OneText translator;
     QCoreApplication::installTranslator(&translator);
@@ -42,12 +42,12 @@ TEST(MessageTest, IsTranslatedForTheUserAlone)
     EXPECT_EQ(message.translated(), QStringLiteral("/a.png ist unlesbar"));
 }
 
-TEST(MessageTest, WithoutATranslationItIsEnglish)
+TEST(MessageTest, IsEnglishWithoutATranslation)
 {
     EXPECT_EQ(Message("All went well").translated(), QStringLiteral("All went well"));
 }
 
-TEST(MessageTest, AQuotationIsTheSameInEveryLanguage)
+TEST(MessageTest, QuotationIsNotTranslated)
 {
     OneText translator;
     QCoreApplication::installTranslator(&translator);
@@ -56,7 +56,7 @@ TEST(MessageTest, AQuotationIsTheSameInEveryLanguage)
     EXPECT_EQ(message.translated(), QStringLiteral("Cannot read %1"));
 }
 
-TEST(MessageTest, WordsAreReplacedInTheDetail)
+TEST(MessageTest, ReplacementChangesOnlyTheDetail)
 {
     Message message("Cannot read %1", QStringLiteral("/proc/self/fd/7"));
     message.replaceInDetail(QStringLiteral("/proc/self/fd/7"), QStringLiteral("/read.png"));

@@ -33,17 +33,17 @@ BSplineBase<float> withPoints(int count, double wavelength, int numNodes)
     return {x.data(), count, wavelength, 2, numNodes};
 }
 
-/// What a spline tells while the debug switch is on.
+/// The debug output of a spline.
 template <typename Work>
-std::string toldBy(bool debug, Work work)
+std::string debugOutputOf(bool debug, Work work)
 {
-    const std::ostringstream told;
-    std::streambuf *const before = std::cerr.rdbuf(told.rdbuf());
+    const std::ostringstream output;
+    std::streambuf *const before = std::cerr.rdbuf(output.rdbuf());
     BSplineBase<float>::setDebug(debug);
     work();
     BSplineBase<float>::setDebug(false);
     std::cerr.rdbuf(before);
-    return told.str();
+    return output.str();
 }
 
 void fitLine(int numNodes)
@@ -52,7 +52,7 @@ void fitLine(int numNodes)
     const BSpline<float> spline(x.data(), 5, x.data(), 0.25, 2, numNodes);
 }
 
-TEST(BSplineBase, AGivenNumberOfNodesFixesTheIntervals)
+TEST(BSplineBase, NumberOfNodesDeterminesTheIntervals)
 {
     const BSplineBase<float> base = withPoints(2, 0.005, 50);
     ASSERT_TRUE(base.ok());
@@ -61,7 +61,7 @@ TEST(BSplineBase, AGivenNumberOfNodesFixesTheIntervals)
     EXPECT_NEAR(base.alpha(), 2.3118e-6, 1e-10);
 }
 
-TEST(BSplineBase, TheSpacingFollowsTheSpanOfTheValuesInAnyOrder)
+TEST(BSplineBase, SpacingDependsOnTheSpanInAnyPointOrder)
 {
     const float x[] = {3, -2, 8, 1};
     const BSplineBase<float> base(x, 4, 1, 2, 6);
@@ -70,13 +70,13 @@ TEST(BSplineBase, TheSpacingFollowsTheSpanOfTheValuesInAnyOrder)
     EXPECT_NEAR(base.alpha(), std::pow(0.5 / 6.2831854, 4), 1e-12);
 }
 
-TEST(BSplineBase, AWavelengthOfZeroIsTakenForOne)
+TEST(BSplineBase, WavelengthOfZeroEqualsWavelengthOfOne)
 {
     EXPECT_EQ(withPoints(2, 0, 50).alpha(), withPoints(2, 1, 50).alpha());
     EXPECT_NEAR(withPoints(2, 0, 50).alpha(), 3698.8, 0.1);
 }
 
-TEST(BSplineBase, WithoutWavelengthAndNodesThereAreTwoIntervalsAPoint)
+TEST(BSplineBase, WithoutWavelengthAndNodesUsesTwoIntervalsPerPoint)
 {
     const BSplineBase<float> base = withPoints(7, 0, 0);
     ASSERT_TRUE(base.ok());
@@ -84,14 +84,14 @@ TEST(BSplineBase, WithoutWavelengthAndNodesThereAreTwoIntervalsAPoint)
     EXPECT_NEAR(base.alpha(), std::pow(14 / 6.2831854, 4), 1e-9);
 }
 
-TEST(BSplineBase, TheIntervalsAreTheFewestWithFourNodesAWavelength)
+TEST(BSplineBase, UsesTheFewestIntervalsWithFourNodesPerWavelength)
 {
     EXPECT_EQ(withPoints(101, 0.1, 0).nodeIntervals(), 40);
     EXPECT_EQ(withPoints(101, 0.15, 0).nodeIntervals(), 27);
     EXPECT_EQ(withPoints(101, 1, 0).nodeIntervals(), 10);
 }
 
-TEST(BSplineBase, FewPointsKeepTheIntervalsFew)
+TEST(BSplineBase, NumberOfPointsLimitsTheIntervals)
 {
     const BSplineBase<float> base = withPoints(31, 0.1, 0);
     EXPECT_TRUE(base.ok());
@@ -101,14 +101,14 @@ TEST(BSplineBase, FewPointsKeepTheIntervalsFew)
     EXPECT_FALSE(withPoints(10, 1, 0).ok());
 }
 
-TEST(BSplineBase, AWavelengthBeyondTheSpanChoosesNoNodes)
+TEST(BSplineBase, WavelengthBeyondTheSpanFailsWithoutNumberOfNodes)
 {
     EXPECT_TRUE(withPoints(101, 1, 0).ok());
     EXPECT_FALSE(withPoints(101, 1.01, 0).ok());
     EXPECT_TRUE(withPoints(101, 1.01, 50).ok());
 }
 
-TEST(BSplineBase, PointsAboveEachOtherChooseNoNodes)
+TEST(BSplineBase, PointsWithEqualXAreNotReady)
 {
     const float x[] = {0.5F, 0.5F, 0.5F};
     const BSplineBase<float> base(x, 3, 0.005, 2, 50);
@@ -116,21 +116,21 @@ TEST(BSplineBase, PointsAboveEachOtherChooseNoNodes)
     EXPECT_EQ(base.nodeIntervals(), 0);
 }
 
-TEST(BSplineBase, AMatrixThatTheNodesLeaveSingularIsNotReady)
+TEST(BSplineBase, SingularMatrixIsNotReady)
 {
-    // So short that its weight is nothing: 48 of the nodes hang in the air.
+    // The wavelength is so short that its weight is zero, so 48 of the nodes are not determined.
     EXPECT_FALSE(withPoints(2, 1e-90, 50).ok());
     EXPECT_FALSE(withPoints(2, std::numeric_limits<double>::infinity(), 50).ok());
 }
 
-TEST(BSplineBase, IsSilentByDefault)
+TEST(BSplineBase, PrintsNothingByDefault)
 {
-    EXPECT_EQ(toldBy(false, [] { fitLine(6); }), "");
+    EXPECT_EQ(debugOutputOf(false, [] { fitLine(6); }), "");
 }
 
-TEST(BSplineBase, DebuggingTellsEachStep)
+TEST(BSplineBase, DebugModePrintsEachStep)
 {
-    const std::string told = toldBy(true, [] { fitLine(6); });
+    const std::string output = debugOutputOf(true, [] { fitLine(6); });
     std::size_t from = 0;
     for (const char *text :
          {"Using M node intervals: 5 of length DX: 0.2\n", "X min: 0 ; X max: 1\n",
@@ -138,31 +138,31 @@ TEST(BSplineBase, DebuggingTellsEachStep)
           "Cutoff wavelength: 0.25\n", "Alpha: ", "Calculating Q...\n", "Calculating P...\n", "Done.\n",
           "Array Q after addition of P.\n", "Beginning LU factoring of P+Q...\n", "LU factor of (P+Q) =\n", "Done.\n",
           "Mean for y: 0.5\n", "Solving for B...\n", "Solution a for (P+Q)a = b\n"}) {
-        const std::size_t at = told.find(text, from);
-        ASSERT_NE(at, std::string::npos) << text << " in\n" << told;
+        const std::size_t at = output.find(text, from);
+        ASSERT_NE(at, std::string::npos) << text << " in\n" << output;
         from = at + std::string(text).size();
     }
 }
 
-TEST(BSplineBase, DebuggingPrintsSmallMatricesOnly)
+TEST(BSplineBase, DebugModePrintsSmallMatricesOnly)
 {
-    // 29 intervals are printed, 30 are not. Either way there is a line a coefficient.
-    const std::string small = toldBy(true, [] { fitLine(30); });
-    const std::string large = toldBy(true, [] { fitLine(31); });
+    // The matrices of 29 intervals are printed, those of 30 are not. The coefficients are printed in both cases.
+    const std::string small = debugOutputOf(true, [] { fitLine(30); });
+    const std::string large = debugOutputOf(true, [] { fitLine(31); });
     const auto lines = [](const std::string &text) { return std::count(text.begin(), text.end(), '\n'); };
     const auto matrices = (lines(small) - 30) - (lines(large) - 31);
     EXPECT_EQ(matrices, 3 * 30);
     EXPECT_NE(small.find("    0     0 "), std::string::npos);
 }
 
-TEST(BSplineBase, DebuggingTellsWhatFailed)
+TEST(BSplineBase, DebugModePrintsTheFailedStep)
 {
-    const std::string singular = toldBy(true, [] { withPoints(2, 1e-90, 50); });
+    const std::string singular = debugOutputOf(true, [] { withPoints(2, 1e-90, 50); });
     EXPECT_NE(singular.find("LU_factor_banded() failed.\nFactoring failed.\n"), std::string::npos);
 
     const float x[] = {0, 1};
     const float y[] = {0, std::numeric_limits<float>::quiet_NaN()};
-    const std::string unsolved = toldBy(true, [&] { const BSpline<float> spline(x, 2, y, 0.005, 2, 50); });
+    const std::string unsolved = debugOutputOf(true, [&] { const BSpline<float> spline(x, 2, y, 0.005, 2, 50); });
     EXPECT_NE(unsolved.find("LU_solve_banded() failed.\n"), std::string::npos);
     EXPECT_EQ(unsolved.find("Solution a"), std::string::npos);
 }

@@ -16,7 +16,7 @@ namespace
 
 using namespace grisal::math;
 
-// What the curve editor asks for.
+// The settings of the curve editor.
 constexpr double editorWavelength = 0.005;
 constexpr int editorBoundary = 2;
 constexpr int editorNodes = 50;
@@ -34,7 +34,7 @@ BSpline<float> fitted(const Points &points, double wavelength = editorWavelength
     return {points.x.data(), points.count(), points.y.data(), wavelength, boundaryType, numNodes};
 }
 
-/// Control points as a user can set them: the first at 0, the last at 1, no two nearer than the editor allows.
+/// Control points that a user can set: the first at 0, the last at 1, with the minimum distance of the editor.
 Points randomPoints(std::mt19937 &random, int count)
 {
     constexpr double nearest = 0.0201;
@@ -54,8 +54,8 @@ Points randomPoints(std::mt19937 &random, int count)
     return points;
 }
 
-/// The same minimum from first principles: double precision, a full matrix, the penalty integrated numerically, the
-/// phantom coefficients eliminated by the boundary conditions, and elimination with pivoting.
+/// Independent solution of the same minimisation: double precision, a dense matrix, numerical integration of the
+/// penalty, elimination of the phantom coefficients by the boundary conditions, and elimination with pivoting.
 class DenseSpline
 {
 public:
@@ -110,7 +110,7 @@ private:
         return z >= 1 ? 1.5 * (2 - z) : 4.5 * z - 3;
     }
 
-    /// The function of a node with its share in the phantom node next to the ends, whose coefficient is
+    /// The basis function of a node including its part of the phantom node next to the ends, whose coefficient is
     /// -4 a0 - a1 for a value of 0, a1 for a slope of 0, 2 a0 - a1 for a second derivative of 0.
     double shape(int node, double u, Function function) const
     {
@@ -190,7 +190,7 @@ void expectNotReady(const BSpline<float> &spline)
     }
 }
 
-TEST(BSpline, TwoPointsGiveTheLineThroughThem)
+TEST(BSpline, TwoPointsGiveAStraightLine)
 {
     const BSpline<float> spline = fitted({{0, 1}, {0, 1}});
     ASSERT_TRUE(spline.ok());
@@ -200,7 +200,7 @@ TEST(BSpline, TwoPointsGiveTheLineThroughThem)
     }
 }
 
-TEST(BSpline, TheResetCurveIsTheFallingLine)
+TEST(BSpline, ResetPointsGiveAFallingLine)
 {
     const BSpline<float> spline = fitted({{0, 0.5F, 1}, {1, 0.5F, 0}});
     ASSERT_TRUE(spline.ok());
@@ -210,7 +210,7 @@ TEST(BSpline, TheResetCurveIsTheFallingLine)
     }
 }
 
-TEST(BSpline, EveryControlPointIsMet)
+TEST(BSpline, CurvePassesThroughEveryControlPoint)
 {
     std::mt19937 random(20240607);
     double largest = 0;
@@ -227,7 +227,7 @@ TEST(BSpline, EveryControlPointIsMet)
     std::cout << "largest distance from a control point: " << largest << '\n';
 }
 
-TEST(BSpline, AgreesWithAFullSolveAtTheEditorsValues)
+TEST(BSpline, AgreesWithDenseSolveAtTheEditorSettings)
 {
     std::mt19937 random(7);
     double largest = 0;
@@ -241,7 +241,7 @@ TEST(BSpline, AgreesWithAFullSolveAtTheEditorsValues)
     std::cout << "largest difference from the full solve: " << largest << '\n';
 }
 
-TEST(BSpline, AgreesWithAFullSolveForAllBoundariesNodesAndWavelengths)
+TEST(BSpline, AgreesWithDenseSolveForAllBoundariesNodesAndWavelengths)
 {
     const Points points = {{-3, -1.5F, -1, 0.25F, 2, 2.75F, 4, 5}, {0.4F, 2, -1, 0.5F, 3, 2.5F, -0.5F, 1}};
     for (const int boundaryType : {0, 1, 2}) {
@@ -257,7 +257,7 @@ TEST(BSpline, AgreesWithAFullSolveForAllBoundariesNodesAndWavelengths)
     }
 }
 
-TEST(BSpline, TheBoundaryTypeRulesTheEnds)
+TEST(BSpline, BoundaryTypeDeterminesTheEnds)
 {
     const Points points = {{0, 0.2F, 0.45F, 0.7F, 1}, {1, 3, 2, 4, 5}};
     const float mean = 3;
@@ -268,7 +268,7 @@ TEST(BSpline, TheBoundaryTypeRulesTheEnds)
     EXPECT_NEAR(zeroValue.evaluate(0), mean, 1e-5);
     EXPECT_NEAR(zeroValue.evaluate(1), mean, 1e-5);
 
-    // The slope at the middle of a step, taken back to the end along a straight line.
+    // The slope at the middle of a step, extrapolated linearly to the end.
     const BSpline<float> zeroSlope = fitted(points, 0.1, 1, 11);
     const auto slope = [&](float x) {
         return (zeroSlope.evaluate(x + step) - zeroSlope.evaluate(x - step)) / 2 / step;
@@ -283,7 +283,7 @@ TEST(BSpline, TheBoundaryTypeRulesTheEnds)
     EXPECT_NEAR(bend(0.02F) * 2, bend(0.04F), std::abs(bend(0.04F)) * 0.02);
 }
 
-TEST(BSpline, AWavelengthOfZeroSmoothsStrongly)
+TEST(BSpline, WavelengthOfZeroSmoothsStrongly)
 {
     const Points points = {{0, 0.25F, 0.5F, 0.75F, 1}, {0, 1, 0, 1, 0}};
     const BSpline<float> smooth = fitted(points, 0);
@@ -297,7 +297,7 @@ TEST(BSpline, AWavelengthOfZeroSmoothsStrongly)
     }
 }
 
-TEST(BSpline, TheOrderOfThePointsDoesNotMatter)
+TEST(BSpline, OrderOfThePointsDoesNotMatter)
 {
     const BSpline<float> sorted = fitted({{0, 0.3F, 0.6F, 1}, {0.1F, 0.9F, 0.2F, 0.7F}});
     const BSpline<float> mixed = fitted({{0.6F, 0, 1, 0.3F}, {0.2F, 0.1F, 0.7F, 0.9F}});
@@ -307,7 +307,7 @@ TEST(BSpline, TheOrderOfThePointsDoesNotMatter)
     }
 }
 
-TEST(BSpline, PointsAboveEachOtherMeetHalfway)
+TEST(BSpline, PointsWithEqualXGiveTheirMean)
 {
     const BSpline<float> spline = fitted({{0, 0.4F, 0.4F, 1}, {0, 0.2F, 0.8F, 1}});
     ASSERT_TRUE(spline.ok());
@@ -317,9 +317,9 @@ TEST(BSpline, PointsAboveEachOtherMeetHalfway)
     }
 }
 
-TEST(BSpline, FewNodesAreEnough)
+TEST(BSpline, TwoToSixNodesAreSufficient)
 {
-    // Fewer than the boundary blocks are wide: neither may reach beyond the matrix.
+    // Fewer nodes than the width of the boundary blocks, which must not exceed the matrix.
     for (const int boundaryType : {0, 1, 2}) {
         for (const int numNodes : {2, 3, 4, 5, 6}) {
             const BSpline<float> spline = fitted({{0, 0.5F, 1}, {1, 0, 1}}, 0.5, boundaryType, numNodes);
@@ -331,19 +331,19 @@ TEST(BSpline, FewNodesAreEnough)
     }
 }
 
-TEST(BSpline, BeyondTheEndsTheMeanRemains)
+TEST(BSpline, ReturnsTheMeanFarBeyondTheEnds)
 {
     const BSpline<float> spline = fitted({{0, 1}, {0, 1}});
     const float infinite = std::numeric_limits<float>::infinity();
     for (const float x : {-1e30F, -5.0F, -0.1F, 1.1F, 5.0F, 1e30F, infinite, -infinite}) {
         EXPECT_EQ(spline.evaluate(x), 0.5F);
     }
-    // Half an interval outside, nodes of the inside still count.
+    // Half an interval beyond the ends, the inner nodes still contribute.
     EXPECT_NE(spline.evaluate(-0.01F), 0.5F);
     EXPECT_NE(spline.evaluate(1.01F), 0.5F);
 }
 
-TEST(BSpline, NothingToFitIsNotReady)
+TEST(BSpline, MissingPointsAreNotReady)
 {
     const Points none;
     expectNotReady(fitted(none));

@@ -29,7 +29,7 @@ BandMatrix symmetricThree()
     return matrix;
 }
 
-TEST(BandMatrix, IsZeroAtFirstAndOutsideTheBands)
+TEST(BandMatrix, IsZeroInitiallyAndOutsideTheBands)
 {
     BandMatrix matrix(6);
     EXPECT_EQ(matrix.order(), 6);
@@ -41,7 +41,7 @@ TEST(BandMatrix, IsZeroAtFirstAndOutsideTheBands)
     EXPECT_EQ(matrix.at(5, 2), 0);
 }
 
-TEST(BandMatrix, TheFactorsAreThoseWorkedOutByHand)
+TEST(BandMatrix, FactorsMatchAManualCalculation)
 {
     BandMatrix matrix = symmetricThree();
     ASSERT_TRUE(matrix.factor());
@@ -55,7 +55,7 @@ TEST(BandMatrix, TheFactorsAreThoseWorkedOutByHand)
     EXPECT_DOUBLE_EQ(matrix.at(2, 2), 4);
 }
 
-TEST(BandMatrix, ASystemIsSolved)
+TEST(BandMatrix, SolvesASymmetricSystem)
 {
     BandMatrix matrix = symmetricThree();
     ASSERT_TRUE(matrix.factor());
@@ -66,7 +66,7 @@ TEST(BandMatrix, ASystemIsSolved)
     EXPECT_DOUBLE_EQ(values[2], 3);
 }
 
-TEST(BandMatrix, AFullBandThatIsNotSymmetricIsSolved)
+TEST(BandMatrix, SolvesAnAsymmetricFullBand)
 {
     constexpr int order = 12;
     BandMatrix matrix(order);
@@ -85,7 +85,7 @@ TEST(BandMatrix, AFullBandThatIsNotSymmetricIsSolved)
     }
 }
 
-TEST(BandMatrix, APivotThatIsZeroOrNotFiniteFails)
+TEST(BandMatrix, FactoringFailsForZeroOrNonFinitePivot)
 {
     BandMatrix exchange(2);
     exchange.add(0, 1, 1);
@@ -100,7 +100,7 @@ TEST(BandMatrix, APivotThatIsZeroOrNotFiniteFails)
     EXPECT_FALSE(infinite.factor());
 }
 
-TEST(BandMatrix, ValuesThatDoNotFitOrAreNotFiniteFail)
+TEST(BandMatrix, SolvingFailsForWrongSizeOrNonFiniteValues)
 {
     BandMatrix matrix = symmetricThree();
     ASSERT_TRUE(matrix.factor());

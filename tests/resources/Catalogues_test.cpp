@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The catalogues as the translators write them: complete, with all that a text needs, and up to date.
+// The source files of the translations are complete, consistent with the original texts, and up to date.
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -22,7 +22,7 @@ struct Entry {
     QString source;
     QString comment;
     QString translation;
-    QString state; ///< empty where the translation is finished
+    QString state; ///< empty if the translation is finished
 };
 
 using Catalogue = std::vector<Entry>;
@@ -65,7 +65,7 @@ Catalogue readCatalogue(const QString &path)
     return catalogue;
 }
 
-/// What the parts that match are, in alphabetical order.
+/// The parts that match, in alphabetical order.
 QStringList partsOf(const QString &text, const QString &pattern)
 {
     QStringList parts;
@@ -86,7 +86,7 @@ QStringList sourceTexts(const Catalogue &catalogue)
     return texts;
 }
 
-/// The text with all spaces, protected ones and ends of lines too, as plain single ones.
+/// The text with each run of white space, including no-break spaces and line feeds, replaced by one space.
 QString plainSpaces(const QString &text)
 {
     return text.simplified().replace(QChar(QChar::Nbsp), QLatin1Char(' '));
@@ -109,7 +109,7 @@ protected:
     const Catalogue catalogue = readCatalogue(path());
 };
 
-TEST(CatalogueFolder, HoldsTheseLanguages)
+TEST(CatalogueFolder, ContainsGermanAndFrench)
 {
     EXPECT_EQ(QDir(catalogueFolder).entryList({QStringLiteral("*.ts")}).join(QLatin1Char(' ')).toStdString(),
               "grisal_de.ts grisal_fr.ts");
@@ -123,8 +123,8 @@ TEST_P(Catalogues, EveryTextIsTranslated)
     }
 }
 
-// A place marker may ask for the numbers of the language: %L1.
-TEST_P(Catalogues, PlaceMarkersMnemonicsAndMarkupAreThoseOfTheSource)
+// A place marker may use the number format of the language: %L1.
+TEST_P(Catalogues, PlaceMarkersMnemonicsAndMarkupMatchTheSource)
 {
     for (const Entry &entry : catalogue) {
         const QString translation = QString(entry.translation).replace(QLatin1String("%L"), QLatin1String("%"));
@@ -136,7 +136,7 @@ TEST_P(Catalogues, PlaceMarkersMnemonicsAndMarkupAreThoseOfTheSource)
     }
 }
 
-TEST_P(Catalogues, EndsOfSentencesAreThoseOfTheSource)
+TEST_P(Catalogues, EndsOfSentencesMatchTheSource)
 {
     for (const Entry &entry : catalogue) {
         const QString marks = QStringLiteral("[.:?]\\s*$");
@@ -159,9 +159,8 @@ TEST_P(Catalogues, AreUpToDate)
     EXPECT_EQ(sourceTexts(readCatalogue(fresh)), sourceTexts(catalogue)) << "build the target translations";
 }
 
-// What the English guide names in headings, in bold letters or in quotation marks is named in the others as the program
-// names it.
-TEST_P(Catalogues, TheGuideNamesThingsAsTheProgramDoes)
+// Terms that are headings, bold or quoted in the English guide are translated in the other guides as in the program.
+TEST_P(Catalogues, GuideUsesTheTermsOfTheProgram)
 {
     const QString english = guide(QStringLiteral("guide.html"));
     const QString translated = guide(QStringLiteral("guide_%1.html").arg(language()));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The noise of the film grain, as it is kept: white, neutral, and alike in all directions.
+// The stored noise of the film grain is white, has no bias and is isotropic.
 
 #include <gtest/gtest.h>
 
@@ -46,7 +46,7 @@ double varianceOf(const std::vector<double> &values)
     return sum / static_cast<double>(values.size());
 }
 
-/// Correlation of one channel with another that is moved by (dx, dy) and goes on at the opposite edge.
+/// Correlation of one channel with another that is shifted cyclically by (dx, dy).
 double correlation(const Channel &a, const Channel &b, std::size_t dx, std::size_t dy)
 {
     const double meanA = meanOf(a);
@@ -60,7 +60,7 @@ double correlation(const Channel &a, const Channel &b, std::size_t dx, std::size
     return sum / static_cast<double>(texels) / std::sqrt(varianceOf(a) * varianceOf(b));
 }
 
-/// In place, for a power of two of values that lie `stride` apart.
+/// Fourier transform in place, for a power of two of values at a distance of `stride`.
 void fourier(std::complex<double> *values, std::size_t count, std::size_t stride)
 {
     std::vector<std::complex<double>> in(count);
@@ -68,7 +68,7 @@ void fourier(std::complex<double> *values, std::size_t count, std::size_t stride
     for (std::size_t i = 0; i < count; ++i) {
         in[i] = values[i * stride];
     }
-    // Stockham's form: the parts double in length until one is left.
+    // Stockham's algorithm: the parts double in length until one is left.
     for (std::size_t length = 1; length < count; length *= 2) {
         const std::size_t parts = count / (2 * length);
         for (std::size_t k = 0; k < length; ++k) {
@@ -87,7 +87,7 @@ void fourier(std::complex<double> *values, std::size_t count, std::size_t stride
     }
 }
 
-/// Energy of every wave in the channel, over that of white noise with the same variance; the mean itself is left out.
+/// Energy of each frequency relative to white noise with the same variance; without frequency 0.
 std::vector<double> energies(const Channel &channel)
 {
     const double mean = meanOf(channel);
@@ -134,7 +134,7 @@ TEST_F(NoiseMapTest, EveryChannelUsesTheWholeRange)
     }
 }
 
-TEST_F(NoiseMapTest, EveryChannelIsNeutral)
+TEST_F(NoiseMapTest, EveryChannelHasTheMeanOfMiddleGrey)
 {
     for (const Channel &channel : m_channels) {
         EXPECT_NEAR(meanOf(channel), 127.5, 0.2);
@@ -151,7 +151,7 @@ TEST_F(NoiseMapTest, NeighboursAreUncorrelated)
     }
 }
 
-TEST_F(NoiseMapTest, NothingRepeatsAtUsualDistances)
+TEST_F(NoiseMapTest, PixelsAtTypicalPeriodsAreUncorrelated)
 {
     for (const Channel &channel : m_channels) {
         for (const std::size_t distance : {2U, 3U, 4U, 8U, 16U, 32U, 64U, 128U, 256U}) {
@@ -168,7 +168,7 @@ TEST_F(NoiseMapTest, ChannelsAreUncorrelated)
     EXPECT_NEAR(correlation(m_channels[1], m_channels[2], 0, 0), 0, 0.01);
 }
 
-// The mean of 512 independent values varies by a 512th of their variance; over 512 rows that is known to 6 %.
+// The mean of 512 independent values has a 512th of their variance; 512 rows estimate it with an error of 6 %.
 TEST_F(NoiseMapTest, RowsAndColumnsHaveTheMeansOfIndependentValues)
 {
     for (const Channel &channel : m_channels) {
@@ -185,9 +185,9 @@ TEST_F(NoiseMapTest, RowsAndColumnsHaveTheMeansOfIndependentValues)
     }
 }
 
-// Of 131072 independent waves the strongest has about ln 131072 = 12 times the mean energy, and 25 times once in a
-// million maps. A pattern in rows, columns or repeats stands out by hundreds.
-TEST_F(NoiseMapTest, NoWaveStandsOutOfTheSpectrum)
+// Of 131072 independent frequencies the strongest has about ln 131072 = 12 times the mean energy, and 25 times in one
+// of a million maps. A pattern in rows, columns or repetitions has hundreds of times the mean.
+TEST_F(NoiseMapTest, NoFrequencyDominatesTheSpectrum)
 {
     for (const Channel &channel : m_channels) {
         const std::vector<double> all = energies(channel);
@@ -199,7 +199,7 @@ TEST_F(NoiseMapTest, NoWaveStandsOutOfTheSpectrum)
     }
 }
 
-TEST_F(NoiseMapTest, TheSpectrumIsAsHighForCoarseAsForFineWaves)
+TEST_F(NoiseMapTest, SpectrumIsFlat)
 {
     constexpr std::size_t bands = 8;
     for (const Channel &channel : m_channels) {
@@ -214,7 +214,7 @@ TEST_F(NoiseMapTest, TheSpectrumIsAsHighForCoarseAsForFineWaves)
             count.at(band) += 1;
         }
 
-        // The narrowest band has 63 x 63 waves, half of them independent: known to 2 %.
+        // The narrowest band has 63 x 63 frequencies, half of them independent, so its error is 2 %.
         for (std::size_t band = 0; band < bands; ++band) {
             EXPECT_NEAR(energy.at(band) / count.at(band), 1, 0.1) << band;
         }

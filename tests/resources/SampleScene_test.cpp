@@ -22,18 +22,18 @@ std::size_t at(int x, int y)
 }
 
 /// Whether some pixel above the ramp is lighter by `lead` in a channel than in both others.
-bool hasSaturated(const Samples16 &words, std::size_t channel, int lead)
+bool hasSaturated(const Samples16 &samples, std::size_t channel, int lead)
 {
     for (std::size_t i = 0; i < at(0, rampTop(height)); i += 3) {
-        const int value = words[i + channel];
-        if (value - words[i + (channel + 1) % 3] > lead && value - words[i + (channel + 2) % 3] > lead) {
+        const int value = samples[i + channel];
+        if (value - samples[i + (channel + 1) % 3] > lead && value - samples[i + (channel + 2) % 3] > lead) {
             return true;
         }
     }
     return false;
 }
 
-TEST(SampleSceneTest, IsTheSameEveryTime)
+TEST(SampleSceneTest, IsDeterministic)
 {
     EXPECT_EQ(paintScene(width, height), paintScene(width, height));
 }
@@ -46,22 +46,22 @@ TEST(SampleSceneTest, FillsAnySize)
 
 TEST(SampleSceneTest, HasAContinuousRampFromBlackToWhite)
 {
-    const Samples16 words = paintScene(width, height);
+    const Samples16 samples = paintScene(width, height);
     const int y = rampTop(height);
     for (int x = 0; x < width; ++x) {
         const double grey = 65535.0 * x / (width - 1);
         for (std::size_t channel = 0; channel < 3; ++channel) {
-            ASSERT_NEAR(words[at(x, y) + channel], grey, 0.51) << "column " << x;
+            ASSERT_NEAR(samples[at(x, y) + channel], grey, 0.51) << "column " << x;
         }
     }
 }
 
 TEST(SampleSceneTest, HasARampOfElevenSteps)
 {
-    const Samples16 words = paintScene(width, height);
+    const Samples16 samples = paintScene(width, height);
     Samples16 levels;
     for (int x = 0; x < width; ++x) {
-        levels.push_back(words[at(x, height - 1)]);
+        levels.push_back(samples[at(x, height - 1)]);
     }
     EXPECT_TRUE(std::is_sorted(levels.begin(), levels.end()));
     EXPECT_EQ(levels.front(), 0);
@@ -72,14 +72,14 @@ TEST(SampleSceneTest, HasARampOfElevenSteps)
 
 TEST(SampleSceneTest, HasSaturatedColours)
 {
-    const Samples16 words = paintScene(width, height);
+    const Samples16 samples = paintScene(width, height);
     constexpr int half = 32768;
-    EXPECT_TRUE(hasSaturated(words, 0, half));
-    EXPECT_TRUE(hasSaturated(words, 1, half / 2));
-    EXPECT_TRUE(hasSaturated(words, 2, half / 2));
+    EXPECT_TRUE(hasSaturated(samples, 0, half));
+    EXPECT_TRUE(hasSaturated(samples, 1, half / 2));
+    EXPECT_TRUE(hasSaturated(samples, 2, half / 2));
 }
 
-TEST(SampleSceneTest, RoundsWordsToTheNearestByte)
+TEST(SampleSceneTest, Rounds16BitSamplesToTheNearestByte)
 {
     EXPECT_EQ(asBytes({0, 128, 129, 257, 65406, 65407, 65535}), (std::vector<std::uint8_t>{0, 0, 1, 1, 254, 255, 255}));
 }

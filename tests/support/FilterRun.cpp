@@ -18,7 +18,7 @@ namespace
 void runPassOf(graphics::IFilter &filter, GLuint texture, const RenderTarget &target)
 {
     filter.apply(texture, target.record());
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace

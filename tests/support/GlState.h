@@ -42,7 +42,7 @@ inline GLint bound1D(std::uint32_t unit)
 }
 
 /// Expects the state that every pass leaves: no program, framebuffer 0, no 2D texture on the unit of the source.
-inline void expectPassIsOver()
+inline void expectStateAfterPass()
 {
     EXPECT_EQ(glInteger(GL_CURRENT_PROGRAM), 0);
     EXPECT_EQ(glInteger(GL_FRAMEBUFFER_BINDING), 0);

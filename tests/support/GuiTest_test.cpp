@@ -12,7 +12,7 @@ using grisal::test::GuiTest;
 using grisal::test::timeOutNow;
 
 /// A GuiTest whose TearDown() can be called explicitly.
-class Ended : public GuiTest
+class EndableGuiTest : public GuiTest
 {
 public:
     using GuiTest::allowWarning;
@@ -22,9 +22,9 @@ public:
     void TestBody() override {}
 };
 
-TEST(GuiTestTest, FailsForAWarningThatIsNotAnnounced)
+TEST(GuiTestTest, FailsForUnexpectedWarning)
 {
-    Ended test;
+    EndableGuiTest test;
     test.expectWarning(QStringLiteral("one"));
     test.allowWarning(QStringLiteral("two"));
     qWarning("one");
@@ -32,16 +32,16 @@ TEST(GuiTestTest, FailsForAWarningThatIsNotAnnounced)
     EXPECT_NONFATAL_FAILURE(test.TearDown(), "unexpected warning: three");
 }
 
-TEST(GuiTestTest, FailsWithoutAWarningThatIsExpected)
+TEST(GuiTestTest, FailsForMissingExpectedWarning)
 {
-    Ended test;
+    EndableGuiTest test;
     test.expectWarning(QStringLiteral("one"));
     EXPECT_NONFATAL_FAILURE(test.TearDown(), "missing warning: one");
 }
 
-TEST(GuiTestTest, PassesWithTheAnnouncedWarnings)
+TEST(GuiTestTest, PassesWithExpectedAndAllowedWarnings)
 {
-    Ended test;
+    EndableGuiTest test;
     test.expectWarning(QStringLiteral("one"));
     test.allowWarning(QStringLiteral("two"));
     test.allowWarning(QStringLiteral("three"));
@@ -51,15 +51,15 @@ TEST(GuiTestTest, PassesWithTheAnnouncedWarnings)
     test.TearDown();
 }
 
-TEST(GuiTestTest, EmptyPartsAreRefused)
+TEST(GuiTestTest, ThrowsForEmptyPart)
 {
-    Ended test;
+    EndableGuiTest test;
     EXPECT_THROW(test.expectWarning(QString()), std::invalid_argument);
     EXPECT_THROW(test.expectWarning(QStringLiteral("")), std::invalid_argument);
     EXPECT_THROW(test.allowWarning(QString()), std::invalid_argument);
 }
 
-TEST(GuiTestTest, TimeOutNowEndsOnlyARunningTimer)
+TEST(GuiTestTest, TimeOutNowEndsOnlyRunningTimers)
 {
     QTimer timer;
     timer.setSingleShot(true);

@@ -32,9 +32,9 @@ inline float nearestHalfFloat(float value)
 }
 
 /// A 16-bit sample after it was uploaded as a half float and read back.
-inline std::uint16_t throughHalfFloat(std::uint16_t word)
+inline std::uint16_t throughHalfFloat(std::uint16_t sample)
 {
-    const float half = nearestHalfFloat(static_cast<float>(word) / 65535.0F);
+    const float half = nearestHalfFloat(static_cast<float>(sample) / 65535.0F);
     return static_cast<std::uint16_t>(std::lround(half * 65535.0F));
 }
 

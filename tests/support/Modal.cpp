@@ -16,16 +16,16 @@ namespace grisal::test
 namespace
 {
 
-constexpr int lookInterval = 10;
+constexpr int pollInterval = 10;
 constexpr int limit = 5000;
 
 } // namespace
 
 ModalAnswer::ModalAnswer()
 {
-    QObject::connect(&m_look, &QTimer::timeout, &m_look, [this] { look(); });
+    QObject::connect(&m_poll, &QTimer::timeout, &m_poll, [this] { poll(); });
     QObject::connect(&m_limit, &QTimer::timeout, &m_limit, [this] { giveUp(); });
-    m_look.start(lookInterval);
+    m_poll.start(pollInterval);
     m_limit.start(limit);
 }
 
@@ -34,17 +34,17 @@ ModalAnswer::~ModalAnswer()
     EXPECT_TRUE(m_answered) << "the dialog did not come";
 }
 
-void ModalAnswer::look()
+void ModalAnswer::poll()
 {
     QWidget *dialog = QApplication::activeModalWidget();
     if (dialog == nullptr || !dialog->isVisible()) {
         return;
     }
     // answer() may open the next dialog, with its own event loop.
-    m_look.stop();
+    m_poll.stop();
     m_answered = answer(*dialog);
     if (!m_answered) {
-        m_look.start(lookInterval);
+        m_poll.start(pollInterval);
     }
 }
 

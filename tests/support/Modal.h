@@ -26,10 +26,10 @@ protected:
     virtual bool answer(QWidget &dialog) = 0;
 
 private:
-    void look();
+    void poll();
     void giveUp();
 
-    QTimer m_look;
+    QTimer m_poll;
     QTimer m_limit;
     bool m_answered = false;
 };

@@ -53,14 +53,14 @@ bool mentions(const std::string &text, const std::string &part)
 
 } // namespace
 
-TEST_F(PictureCompareTest, EqualPicturesAreNear)
+TEST_F(PictureCompareTest, SucceedsForEqualImages)
 {
     const BytePixels picture = rampPicture<std::uint8_t>(5, 3);
 
     EXPECT_TRUE(picturesNear("equal", picture, picture));
 }
 
-TEST_F(PictureCompareTest, TheMeanIsTakenInsideTheRoot)
+TEST_F(PictureCompareTest, RmsIsTheRootOfTheMeanSquare)
 {
     const FloatPixels actual(2, 1, 1, {3, 4});
     const FloatPixels expected(2, 1, 1, {0, 0});
@@ -71,7 +71,7 @@ TEST_F(PictureCompareTest, TheMeanIsTakenInsideTheRoot)
     EXPECT_DOUBLE_EQ(d.rms, std::sqrt(12.5));
 }
 
-TEST_F(PictureCompareTest, TellsWhereTheWorstDifferenceIs)
+TEST_F(PictureCompareTest, ContainsThePositionOfTheLargestDifference)
 {
     const BytePixels expected = rampPicture<std::uint8_t>(3, 2);
     BytePixels actual = expected;
@@ -89,7 +89,7 @@ TEST_F(PictureCompareTest, TellsWhereTheWorstDifferenceIs)
     EXPECT_EQ(d.unequal, 3U);
 }
 
-TEST_F(PictureCompareTest, WordsDifferOverTheirWholeRange)
+TEST_F(PictureCompareTest, SixteenBitDifferencesUseTheWholeRange)
 {
     const Samples16Image actual(1, 1, 1, {0});
     const Samples16Image expected(1, 1, 1, {65535});
@@ -97,17 +97,17 @@ TEST_F(PictureCompareTest, WordsDifferOverTheirWholeRange)
     EXPECT_DOUBLE_EQ(difference(actual, expected).worst, 65535);
 }
 
-TEST_F(PictureCompareTest, AMissingReferenceFails)
+TEST_F(PictureCompareTest, FailsForMissingReference)
 {
     EXPECT_FALSE(picturesNear("missing", rampPicture<std::uint8_t>(3, 2), BytePixels{}));
 }
 
-TEST_F(PictureCompareTest, TwoEmptyPicturesFail)
+TEST_F(PictureCompareTest, FailsForTwoEmptyImages)
 {
     EXPECT_FALSE(picturesNear("empty", BytePixels{}, BytePixels{}));
 }
 
-TEST_F(PictureCompareTest, AReferenceOfAnotherShapeFails)
+TEST_F(PictureCompareTest, FailsForReferenceOfAnotherSize)
 {
     const BytePixels wide(3, 2);
     const BytePixels high(2, 3);
@@ -118,7 +118,7 @@ TEST_F(PictureCompareTest, AReferenceOfAnotherShapeFails)
     EXPECT_TRUE(mentions(result.message(), "3x2x3 against 2x3x3")) << result.message();
 }
 
-TEST_F(PictureCompareTest, NotANumberFailsWhateverTheLimit)
+TEST_F(PictureCompareTest, FailsForNaNWithAnyLimit)
 {
     const FloatPixels nothing(1, 1, 1, {std::numeric_limits<float>::quiet_NaN()});
     const FloatPixels something(1, 1, 1, {1});
@@ -128,7 +128,7 @@ TEST_F(PictureCompareTest, NotANumberFailsWhateverTheLimit)
     EXPECT_FALSE(picturesNear("nan", nothing, nothing, {1e30, 0}));
 }
 
-TEST_F(PictureCompareTest, TheWorstPixelMayReachItsLimitButNotPassIt)
+TEST_F(PictureCompareTest, WorstDifferenceMayReachButNotExceedItsLimit)
 {
     const BytePixels expected(1, 1, 1, {100});
     const BytePixels actual(1, 1, 1, {103});
@@ -137,7 +137,7 @@ TEST_F(PictureCompareTest, TheWorstPixelMayReachItsLimitButNotPassIt)
     EXPECT_FALSE(picturesNear("limit", actual, expected, {2, 0}));
 }
 
-TEST_F(PictureCompareTest, TheMeanHasALimitOfItsOwn)
+TEST_F(PictureCompareTest, MeanHasASeparateLimit)
 {
     const BytePixels expected(4, 1, 1, {10, 10, 10, 10});
     const BytePixels actual(4, 1, 1, {11, 11, 10, 10});
@@ -146,7 +146,7 @@ TEST_F(PictureCompareTest, TheMeanHasALimitOfItsOwn)
     EXPECT_FALSE(picturesNear("mean", actual, expected, {1, 0.4}));
 }
 
-TEST_F(PictureCompareTest, AFailureTellsThePositionAndBothValues)
+TEST_F(PictureCompareTest, FailureReportsThePositionAndBothValues)
 {
     BytePixels expected(4, 3);
     BytePixels actual = expected;
@@ -159,14 +159,14 @@ TEST_F(PictureCompareTest, AFailureTellsThePositionAndBothValues)
     EXPECT_TRUE(mentions(result.message(), "90 instead of 20 at x 3, y 2, component 1")) << result.message();
 }
 
-TEST_F(PictureCompareTest, AFailureSavesTheActualPicture)
+TEST_F(PictureCompareTest, FailureSavesTheActualImage)
 {
     ASSERT_FALSE(picturesNear("kept", BytePixels(1, 1, 3, {1, 2, 3}), BytePixels(1, 1)));
 
     EXPECT_TRUE(QFile::exists(QStringLiteral(GRISAL_TEST_PICTURES "/kept.png")));
 }
 
-TEST_F(PictureCompareTest, ASuccessPrintsTheLargestDifference)
+TEST_F(PictureCompareTest, SuccessPrintsTheLargestDifference)
 {
     const CapturedOutput output;
 

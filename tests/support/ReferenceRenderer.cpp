@@ -102,14 +102,14 @@ private:
     const BytePixels &m_noise;
 };
 
-std::uint16_t toWord(float value)
+std::uint16_t toSample16(float value)
 {
     return static_cast<std::uint16_t>(std::lround(std::clamp(value, 0.0F, 1.0F) * 65535.0F));
 }
 
-float fromWord(std::uint16_t word)
+float fromSample16(std::uint16_t sample)
 {
-    return nearestHalfFloat(static_cast<float>(word) / 65535.0F);
+    return nearestHalfFloat(static_cast<float>(sample) / 65535.0F);
 }
 
 } // namespace
@@ -168,11 +168,12 @@ Samples16Image fileOf(const Samples16Image &picture, const Look &look, const Byt
     Samples16Image result(picture.width, picture.height);
     for (int y = 0; y < picture.height; ++y) {
         for (int x = 0; x < picture.width; ++x) {
-            const Rgb colour = passes(
-                x, y, {fromWord(picture.at(x, y, 0)), fromWord(picture.at(x, y, 1)), fromWord(picture.at(x, y, 2))});
-            result.at(x, y, 0) = toWord(colour.r);
-            result.at(x, y, 1) = toWord(colour.g);
-            result.at(x, y, 2) = toWord(colour.b);
+            const Rgb colour = passes(x, y,
+                                      {fromSample16(picture.at(x, y, 0)), fromSample16(picture.at(x, y, 1)),
+                                       fromSample16(picture.at(x, y, 2))});
+            result.at(x, y, 0) = toSample16(colour.r);
+            result.at(x, y, 1) = toSample16(colour.g);
+            result.at(x, y, 2) = toSample16(colour.b);
         }
     }
     return result;

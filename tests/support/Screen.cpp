@@ -19,7 +19,7 @@ constexpr int limit = 20000; // milliseconds
 
 } // namespace
 
-BytePixels onScreen(const QWidget &widget)
+BytePixels grabScreen(const QWidget &widget)
 {
     const QImage screen = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
     const double ratio = widget.devicePixelRatioF();
@@ -37,18 +37,18 @@ BytePixels onScreen(const QWidget &widget)
     return pixels;
 }
 
-BytePixels onScreenOnceLike(const QWidget &widget, const BytePixels &expected)
+BytePixels grabScreenOnceEqual(const QWidget &widget, const BytePixels &expected)
 {
     BytePixels shown;
     const auto isLikeExpected = [&] {
-        shown = onScreen(widget);
+        shown = grabScreen(widget);
         return shown.values == expected.values;
     };
     static_cast<void>(QTest::qWaitFor(isLikeExpected, limit));
     return shown;
 }
 
-bool paintAgain(QOpenGLWidget &widget)
+bool repaintAndWait(QOpenGLWidget &widget)
 {
     QSignalSpy frames(&widget, &QOpenGLWidget::frameSwapped);
     widget.update();

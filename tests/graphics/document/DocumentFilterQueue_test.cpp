@@ -30,12 +30,12 @@ protected:
 
 } // namespace
 
-TEST_F(DocumentFilterQueueTest, IsEmptyAtFirst)
+TEST_F(DocumentFilterQueueTest, IsEmptyInitially)
 {
     EXPECT_TRUE(DocumentFilterQueue().filters().empty());
 }
 
-TEST_F(DocumentFilterQueueTest, KeepsTheOrderOfAdding)
+TEST_F(DocumentFilterQueueTest, KeepsTheOrderOfAddition)
 {
     DocumentFilterQueue queue;
     queue.add(&m_off);
@@ -44,7 +44,7 @@ TEST_F(DocumentFilterQueueTest, KeepsTheOrderOfAdding)
     EXPECT_EQ(queue.filters(), (Filters{&m_off, &m_on}));
 }
 
-TEST_F(DocumentFilterQueueTest, TakesTheSameFilterTwice)
+TEST_F(DocumentFilterQueueTest, AcceptsTheSameFilterTwice)
 {
     DocumentFilterQueue queue;
     queue.add(&m_on);
@@ -53,7 +53,7 @@ TEST_F(DocumentFilterQueueTest, TakesTheSameFilterTwice)
     EXPECT_EQ(queue.filters(), (Filters{&m_on, &m_on}));
 }
 
-TEST_F(DocumentFilterQueueTest, HandsOutACopy)
+TEST_F(DocumentFilterQueueTest, ReturnsACopyOfItsFilters)
 {
     DocumentFilterQueue queue;
     queue.add(&m_on);
@@ -64,7 +64,7 @@ TEST_F(DocumentFilterQueueTest, HandsOutACopy)
     EXPECT_EQ(queue.filters(), Filters{&m_on});
 }
 
-TEST_F(DocumentFilterQueueTest, CanBeEmptied)
+TEST_F(DocumentFilterQueueTest, ClearRemovesAllFilters)
 {
     DocumentFilterQueue queue;
     queue.add(&m_on);
@@ -74,7 +74,7 @@ TEST_F(DocumentFilterQueueTest, CanBeEmptied)
     EXPECT_TRUE(queue.filters().empty());
 }
 
-TEST_F(DocumentFilterQueueTest, LeavesItsFiltersAliveAndAlone)
+TEST_F(DocumentFilterQueueTest, NeitherDeletesNorRunsItsFilters)
 {
     {
         DocumentFilterQueue queue;
@@ -84,7 +84,7 @@ TEST_F(DocumentFilterQueueTest, LeavesItsFiltersAliveAndAlone)
     EXPECT_TRUE(m_passes.empty());
 }
 
-TEST_F(DocumentFilterQueueTest, CanBeDestroyedThroughADerivedKind)
+TEST_F(DocumentFilterQueueTest, HasAVirtualDestructor)
 {
     EXPECT_TRUE(std::has_virtual_destructor_v<DocumentFilterQueue>);
 }
@@ -96,7 +96,7 @@ TEST_F(DocumentFilterQueueTest, CountsTheEnabledFilters)
     EXPECT_EQ(countEnabled({&m_on, &m_off, &m_on}), 2);
 }
 
-TEST_F(DocumentFilterQueueTest, KnowsWhetherAnEnabledFilterFollows)
+TEST_F(DocumentFilterQueueTest, FindsEnabledFiltersFromAnIndexOn)
 {
     const Filters filters{&m_off, &m_on, &m_off};
 

@@ -16,7 +16,7 @@ using graphics::DocumentFilterQueue;
 
 } // namespace
 
-TEST(DocumentTest, HasSourceAndQueueButNoViewAtFirst)
+TEST(DocumentTest, HasSourceAndQueueButNoViewInitially)
 {
     DocumentFilterQueue queue;
     const Document document(17, &queue);
@@ -26,14 +26,14 @@ TEST(DocumentTest, HasSourceAndQueueButNoViewAtFirst)
     EXPECT_EQ(document.view(), nullptr);
 }
 
-TEST(DocumentTest, IsNotBypassedAtFirst)
+TEST(DocumentTest, IsNotBypassedInitially)
 {
     DocumentFilterQueue queue;
 
     EXPECT_FALSE(Document(17, &queue).bypass());
 }
 
-TEST(DocumentTest, TheBypassCanBeSetAndCleared)
+TEST(DocumentTest, BypassCanBeSetAndCleared)
 {
     DocumentFilterQueue queue;
     Document document(17, &queue);
@@ -45,7 +45,7 @@ TEST(DocumentTest, TheBypassCanBeSetAndCleared)
     EXPECT_FALSE(document.bypass());
 }
 
-TEST(DocumentTest, AFilterIsAppendedToTheQueue)
+TEST(DocumentTest, AddedFilterIsAppendedToTheQueue)
 {
     std::vector<RecordedPass> passes;
     RecordingFilter first("first", true, passes);

@@ -26,7 +26,7 @@ class FlexibleDocumentViewTest : public GlTest
 {
 };
 
-/// A view of a picture of 30 x 20 in a viewport of 200 x 100.
+/// A view of an image of 30 x 20 in a viewport of 200 x 100.
 FlexibleDocumentView smallView()
 {
     return {200, 100, 30, 20, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE};
@@ -46,7 +46,7 @@ std::array<GLint, 4> viewport()
     return values;
 }
 
-/// Where a picture point lands in the viewport, in pixels.
+/// The position in the viewport of a point of the image, in pixels.
 std::pair<double, double> landing(double x, double y)
 {
     std::array<double, 16> modelView{};
@@ -82,7 +82,7 @@ void drawTexture(GLuint texture, int width, int height)
 
 } // namespace
 
-TEST_F(FlexibleDocumentViewTest, StartsInTheMiddleAtOneToOne)
+TEST_F(FlexibleDocumentViewTest, IsCentredAtScaleOneInitially)
 {
     const FlexibleDocumentView view = smallView();
 
@@ -93,7 +93,7 @@ TEST_F(FlexibleDocumentViewTest, StartsInTheMiddleAtOneToOne)
     EXPECT_EQ(view.viewportHeight(), 100.0F);
 }
 
-TEST_F(FlexibleDocumentViewTest, ItsTargetHasTheTruncatedSizeAndTheFormatOfThePicture)
+TEST_F(FlexibleDocumentViewTest, TargetHasTheTruncatedSizeAndTheFormatOfTheImage)
 {
     const FlexibleDocumentView view(200, 100, 30.9F, 20.9F, GL_RGB16, GL_RGB, GL_UNSIGNED_SHORT);
 
@@ -106,7 +106,7 @@ TEST_F(FlexibleDocumentViewTest, ItsTargetHasTheTruncatedSizeAndTheFormatOfThePi
     EXPECT_EQ(found, (std::array<GLint, 3>{30, 20, GL_RGB16}));
 }
 
-TEST_F(FlexibleDocumentViewTest, ItsTargetGoesWithIt)
+TEST_F(FlexibleDocumentViewTest, DestructorDeletesTheTarget)
 {
     auto view = std::make_unique<FlexibleDocumentView>(200.0F, 100.0F, 30.0F, 20.0F, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE);
     const graphics::FramebufferObject target = view->target();
@@ -129,7 +129,7 @@ TEST_F(FlexibleDocumentViewTest, SetupCoversTheViewport)
     EXPECT_EQ(matrix(GL_PROJECTION_MATRIX), (Matrix{0.01F, 0, 0, 0, 0, 0.02F, 0, 0, 0, 0, -1, 0, -1, -1, 0, 1}));
 }
 
-TEST_F(FlexibleDocumentViewTest, ABrokenViewportIsTruncatedForTheWindowOnly)
+TEST_F(FlexibleDocumentViewTest, FractionalViewportIsTruncatedInTheGlViewportOnly)
 {
     FlexibleDocumentView view = smallView();
     view.setViewportSize(160.75F, 80.5F);
@@ -141,8 +141,8 @@ TEST_F(FlexibleDocumentViewTest, ABrokenViewportIsTruncatedForTheWindowOnly)
     EXPECT_FLOAT_EQ(matrix(GL_PROJECTION_MATRIX)[5], 2 / 80.5F);
 }
 
-// A picture has no depth to scale: the z factor is 0.
-TEST_F(FlexibleDocumentViewTest, SetupMovesAndScalesThePictureFlat)
+// An image has no depth, so the z factor is 0.
+TEST_F(FlexibleDocumentViewTest, SetupTranslatesAndScalesWithZeroDepth)
 {
     FlexibleDocumentView view = smallView();
     view.setOffset(70, 40);
@@ -154,7 +154,7 @@ TEST_F(FlexibleDocumentViewTest, SetupMovesAndScalesThePictureFlat)
     EXPECT_EQ(matrix(GL_MODELVIEW_MATRIX), (Matrix{2.5F, 0, 0, 0, 0, 2.5F, 0, 0, 0, 0, 0, 0, 32.5F, 15, 0, 1}));
 }
 
-TEST_F(FlexibleDocumentViewTest, SetupStartsAfreshEveryTime)
+TEST_F(FlexibleDocumentViewTest, SetupReplacesTheFormerMatrices)
 {
     FlexibleDocumentView view = smallView();
     view.setup();
@@ -165,7 +165,7 @@ TEST_F(FlexibleDocumentViewTest, SetupStartsAfreshEveryTime)
     EXPECT_EQ(matrix(GL_MODELVIEW_MATRIX), first);
 }
 
-TEST_F(FlexibleDocumentViewTest, APointLandsAtTheOffsetPlusItsScaledDistanceFromTheMiddle)
+TEST_F(FlexibleDocumentViewTest, PointIsAtOffsetPlusScaledDistanceFromTheMiddle)
 {
     FlexibleDocumentView view = smallView();
     view.setOffset(70, 40);
@@ -183,7 +183,7 @@ TEST_F(FlexibleDocumentViewTest, APointLandsAtTheOffsetPlusItsScaledDistanceFrom
     EXPECT_NEAR(someY, 40 + 2 * (4 - 10), 1e-4);
 }
 
-TEST_F(FlexibleDocumentViewTest, TheDrawnPictureCoversThosePixels)
+TEST_F(FlexibleDocumentViewTest, DrawnImageCoversTheComputedPixels)
 {
     const RenderTarget screen(200, 100, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     FlexibleDocumentView view = smallView();
@@ -204,8 +204,8 @@ TEST_F(FlexibleDocumentViewTest, TheDrawnPictureCoversThosePixels)
     EXPECT_EQ(pixels.at(114, 60, 0), 0);
 }
 
-// Between two device pixels, rows and columns would be drawn twice or not at all.
-TEST_F(FlexibleDocumentViewTest, EveryPixelIsDrawnOnceAtOneToOneWhereverTheViewIs)
+// At a position between two device pixels, rows and columns would be drawn twice or not at all.
+TEST_F(FlexibleDocumentViewTest, EveryPixelIsDrawnOnceAtScaleOneForAnyOffset)
 {
     constexpr int width = 30;
     constexpr int height = 20;
@@ -253,14 +253,14 @@ TEST_F(FlexibleDocumentViewTest, EveryPixelIsDrawnOnceAtOneToOneWhereverTheViewI
         EXPECT_EQ(wrong, 0) << "offset " << x << ", " << y << " scale " << scale;
         EXPECT_EQ(drawn.at(left - 1, bottom, 0), 0);
         EXPECT_EQ(drawn.at(left + width, bottom + height - 1, 0), 0);
-        // What is asked for stays as it was.
+        // The stored offset is not changed.
         EXPECT_EQ(view.scale(), scale);
         EXPECT_EQ(view.offsetX(), x);
         EXPECT_EQ(view.offsetY(), y);
     }
 }
 
-TEST_F(FlexibleDocumentViewTest, OtherScalesAreDrawnAtTheOffsetItself)
+TEST_F(FlexibleDocumentViewTest, OtherScalesKeepFractionalOffsets)
 {
     FlexibleDocumentView view = smallView();
     view.setOffset(70.25F, 40.5F);
@@ -271,7 +271,7 @@ TEST_F(FlexibleDocumentViewTest, OtherScalesAreDrawnAtTheOffsetItself)
     EXPECT_NEAR(y, 40.5, 1e-4);
 }
 
-TEST_F(FlexibleDocumentViewTest, CentringTakesHalfTheViewport)
+TEST_F(FlexibleDocumentViewTest, CentringSetsTheOffsetToHalfTheViewport)
 {
     FlexibleDocumentView view = smallView();
     view.setOffset(3, 4);
@@ -283,7 +283,7 @@ TEST_F(FlexibleDocumentViewTest, CentringTakesHalfTheViewport)
     EXPECT_EQ(view.offsetY(), 240.5F);
 }
 
-TEST_F(FlexibleDocumentViewTest, AnotherViewportAloneMovesNothing)
+TEST_F(FlexibleDocumentViewTest, ChangedViewportKeepsTheOffset)
 {
     FlexibleDocumentView view = smallView();
 
@@ -293,7 +293,7 @@ TEST_F(FlexibleDocumentViewTest, AnotherViewportAloneMovesNothing)
     EXPECT_EQ(view.offsetY(), 50.0F);
 }
 
-TEST_F(FlexibleDocumentViewTest, ADocumentHandsOutTheViewItWasGiven)
+TEST_F(FlexibleDocumentViewTest, DocumentReturnsTheViewThatWasSet)
 {
     FlexibleDocumentView view = smallView();
     graphics::DocumentFilterQueue queue;

@@ -7,15 +7,15 @@
 namespace grisal::test
 {
 
-/// The folder of pictures, real and hostile, that the environment variable GRISAL_CORPUS names; empty without it. They
-/// are too many and too large to come with the sources: a test that needs them is skipped where they are missing.
+/// The folder of real and hostile images, from the environment variable GRISAL_CORPUS; empty if it is not set. These
+/// files are too many and too large for the source tree: tests that need them are skipped if they are missing.
 QString corpusFolder();
 
-/// The real images that GraphicsMagick is known to read, some with a warning.
+/// The real images that GraphicsMagick reads, some with a warning.
 QStringList realPictures();
 
-/// The hostile files, those of the folder and those that its own program writes into `folder`: broken and malicious
-/// files, pipes, sockets, links to devices, files with unusual names.
+/// The hostile files of the corpus and those that its program writes into `folder`: broken and malicious files, pipes,
+/// sockets, links to devices, files with unusual names.
 QStringList hostileFiles(const QString &folder);
 
 } // namespace grisal::test

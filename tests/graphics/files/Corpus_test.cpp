@@ -50,9 +50,9 @@ enum Outcome { Refused = 0, Opened = 10, Incomplete = 11 };
 
 /// The result of a process that read one file.
 struct Reading {
-    int status = 0; ///< as wait() tells it
+    int status = 0; ///< as returned by wait()
     qint64 milliseconds = 0;
-    long kilobytes = 0; ///< the most memory it had
+    long kilobytes = 0; ///< peak memory
 
     bool ended() const { return WIFEXITED(status); }
     bool opened() const { return ended() && WEXITSTATUS(status) == Opened; }

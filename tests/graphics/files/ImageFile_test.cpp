@@ -60,7 +60,7 @@ TEST_F(ImageFileTest, RejectsOtherContents)
     }
 }
 
-TEST_F(ImageFileTest, RejectsWhatIsNoFileWithoutBlocking)
+TEST_F(ImageFileTest, RejectsNonRegularFilesWithoutBlocking)
 {
     ASSERT_EQ(mkfifo(path("pipe.jpg").toLocal8Bit().constData(), 0600), 0);
     ASSERT_TRUE(QFile::link("/dev/zero", path("endless.png")));
@@ -146,7 +146,7 @@ TEST_F(ImageFileTest, LimitsPixelsByTheSizeOfTheFile)
     EXPECT_FALSE(large.canHold(300'000'000));
 }
 
-TEST_F(ImageFileTest, HasACompleteEndOnlyWhenComplete)
+TEST_F(ImageFileTest, HasCompleteEndOnlyIfNotTruncated)
 {
     const auto ends = [this](ImageFormat format, const QByteArray &contents) {
         const ImageFile file(fileOf("a", contents));

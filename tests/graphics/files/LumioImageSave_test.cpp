@@ -30,11 +30,11 @@ Bytes countedBytes(std::size_t count)
 
 Samples16 spread(const Bytes &bytes)
 {
-    Samples16 words;
+    Samples16 samples16;
     for (const std::uint8_t byte : bytes) {
-        words.push_back(static_cast<std::uint16_t>(byte * 257));
+        samples16.push_back(static_cast<std::uint16_t>(byte * 257));
     }
-    return words;
+    return samples16;
 }
 
 struct LumioImageSaveTest : testing::Test {
@@ -200,10 +200,10 @@ TEST_F(LumioImageSaveTest, KeepsThePixels)
     ASSERT_TRUE(byteImage.save(path("a.png"), quality));
     EXPECT_EQ(bytesOf(byteImage), countedBytes(12));
 
-    const Samples16 words{1, 2, 3, 400, 50000, 65535};
-    LumioImage image16 = pictureOf(words, 2, 1);
+    const Samples16 samples16{1, 2, 3, 400, 50000, 65535};
+    LumioImage image16 = pictureOf(samples16, 2, 1);
     ASSERT_TRUE(image16.save(path("b.png"), quality));
-    EXPECT_EQ(samples16Of(image16), words);
+    EXPECT_EQ(samples16Of(image16), samples16);
 }
 
 // Only samples of 8-bit images are spread.
@@ -248,7 +248,7 @@ TEST_F(LumioImageSaveTest, SavesAJpegWithoutLossAsTiff)
 }
 
 /// Contents for which GraphicsMagick would by default write fewer or more bits, or fewer channels, than requested.
-struct Tempting {
+struct Reducible {
     const char *name;
     Samples (*painter)(int x, int y);
 };
@@ -259,7 +259,7 @@ Samples grey(int level)
     return {sample, sample, sample};
 }
 
-const Tempting temptingContents[] = {
+const Reducible reducibleContents[] = {
     {"black", [](int, int) { return grey(0); }},
     {"white", [](int, int) { return grey(255); }},
     {"lines", [](int x, int) { return grey(x % 2 * 255); }},
@@ -274,12 +274,12 @@ const Tempting temptingContents[] = {
      }},
 };
 
-class TemptingContents : public testing::TestWithParam<std::tuple<Tempting, const char *, int>>
+class ReducibleContents : public testing::TestWithParam<std::tuple<Reducible, const char *, int>>
 {
 protected:
     static constexpr int side = 16;
 
-    Samples16 words() const
+    Samples16 samples16() const
     {
         Samples16 all;
         for (int i = 0; i < side * side; ++i) {
@@ -291,8 +291,8 @@ protected:
     Bytes highBytes() const
     {
         Bytes bytes;
-        for (const std::uint16_t word : words()) {
-            bytes.push_back(static_cast<std::uint8_t>(word >> 8));
+        for (const std::uint16_t sample : samples16()) {
+            bytes.push_back(static_cast<std::uint8_t>(sample >> 8));
         }
         return bytes;
     }
@@ -300,21 +300,21 @@ protected:
     int depth() const { return std::get<2>(GetParam()); }
     LumioImage picture() const
     {
-        return depth() == 16 ? pictureOf(words(), side, side) : pictureOf(highBytes(), side, side);
+        return depth() == 16 ? pictureOf(samples16(), side, side) : pictureOf(highBytes(), side, side);
     }
 
     QTemporaryDir directory;
 };
 
-TEST_P(TemptingContents, AreWrittenWithTheDepthOfTheImage)
+TEST_P(ReducibleContents, AreWrittenWithTheDepthOfTheImage)
 {
     ASSERT_TRUE(picture().save(fileName("a"), quality));
     EXPECT_EQ(bitsPerChannel(fileName("a")), depth());
     EXPECT_EQ(channelsPerPixel(fileName("a")), 3);
-    EXPECT_EQ(samplesOf(fileName("a")), words());
+    EXPECT_EQ(samplesOf(fileName("a")), samples16());
 }
 
-TEST_P(TemptingContents, StayTheSameFromFileToFile)
+TEST_P(ReducibleContents, StayTheSameFromFileToFile)
 {
     ASSERT_TRUE(picture().save(fileName("0"), quality));
     for (int i = 0; i < 3; ++i) {
@@ -323,10 +323,10 @@ TEST_P(TemptingContents, StayTheSameFromFileToFile)
         ASSERT_TRUE(image.save(fileName(QString::number(i + 1)), quality));
     }
     EXPECT_EQ(bitsPerChannel(fileName("3")), depth());
-    EXPECT_EQ(samplesOf(fileName("3")), words());
+    EXPECT_EQ(samplesOf(fileName("3")), samples16());
 }
 
-TEST_P(TemptingContents, StayTheSameThroughAnOutputImage)
+TEST_P(ReducibleContents, StayTheSameThroughAnOutputImage)
 {
     ASSERT_TRUE(picture().save(fileName("0"), quality));
     for (int i = 0; i < 3; ++i) {
@@ -338,11 +338,11 @@ TEST_P(TemptingContents, StayTheSameThroughAnOutputImage)
         ASSERT_TRUE(output.save(fileName(QString::number(i + 1)), quality));
     }
     EXPECT_EQ(bitsPerChannel(fileName("3")), depth());
-    EXPECT_EQ(samplesOf(fileName("3")), words());
+    EXPECT_EQ(samplesOf(fileName("3")), samples16());
 }
 
-INSTANTIATE_TEST_SUITE_P(LumioImageSaveTest, TemptingContents,
-                         testing::Combine(testing::ValuesIn(temptingContents), testing::Values(".png", ".tif"),
+INSTANTIATE_TEST_SUITE_P(LumioImageSaveTest, ReducibleContents,
+                         testing::Combine(testing::ValuesIn(reducibleContents), testing::Values(".png", ".tif"),
                                           testing::Values(8, 16)),
                          [](const auto &test) {
                              return std::string(std::get<0>(test.param).name) + "_" + (std::get<1>(test.param) + 1) +

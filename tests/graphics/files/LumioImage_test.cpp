@@ -48,7 +48,7 @@ TEST(ImageLibraryTest, SetsLimits)
     EXPECT_GT(MagickLib::GetMagickResourceLimit(MagickLib::MemoryResource), 0);
 }
 
-TEST(LumioImageTest, IsNullAtFirst)
+TEST(LumioImageTest, IsNullInitially)
 {
     const LumioImage image;
     EXPECT_TRUE(image.isNull());
@@ -118,9 +118,9 @@ TEST(LumioImageTest, KeepsAByteInTheHighByteOfASample)
     LumioImage image = pictureOf(bytes, 1, 1);
     EXPECT_EQ(samples16Of(image), (Samples16{0, 256, 65280}));
     EXPECT_EQ(bytesOf(image), bytes);
-    const Samples16 words{1, 257, 65535};
-    ASSERT_TRUE(image.setPixels(words.data(), false, true));
-    EXPECT_EQ(samples16Of(image), words);
+    const Samples16 samples{1, 257, 65535};
+    ASSERT_TRUE(image.setPixels(samples.data(), false, true));
+    EXPECT_EQ(samples16Of(image), samples);
 }
 
 TEST(LumioImageTest, ReturnsEveryByteUnchanged)
@@ -133,10 +133,10 @@ TEST(LumioImageTest, ReturnsEveryByteUnchanged)
 
 TEST(LumioImageTest, ReturnsEvery16BitSampleUnchanged)
 {
-    Samples16 words(std::size_t{65536} * 3);
-    std::iota(words.begin(), words.end(), std::uint16_t{0});
-    LumioImage image = pictureOf(words, 256, 256);
-    EXPECT_EQ(samples16Of(image), words);
+    Samples16 samples(std::size_t{65536} * 3);
+    std::iota(samples.begin(), samples.end(), std::uint16_t{0});
+    LumioImage image = pictureOf(samples, 256, 256);
+    EXPECT_EQ(samples16Of(image), samples);
 }
 
 TEST(LumioImageTest, ReturnsTheHighBytesOf16BitSamples)
@@ -154,9 +154,9 @@ TEST(LumioImageTest, CopiesTheOpacityByteUnscaled)
     ASSERT_TRUE(image.getPixels(bytes.data(), true, false));
     EXPECT_EQ(bytes, (Bytes{1, 2, 3, 4, 5, 6, 7, 8}));
 
-    Samples16 words(8);
-    ASSERT_TRUE(image.getPixels(words.data(), true, true));
-    EXPECT_EQ(words, (Samples16{256, 512, 768, 4, 1280, 1536, 1792, 8}));
+    Samples16 samples(8);
+    ASSERT_TRUE(image.getPixels(samples.data(), true, true));
+    EXPECT_EQ(samples, (Samples16{256, 512, 768, 4, 1280, 1536, 1792, 8}));
 }
 
 TEST(LumioImageTest, CopiesThe16BitOpacityUnscaled)
@@ -164,9 +164,9 @@ TEST(LumioImageTest, CopiesThe16BitOpacityUnscaled)
     LumioImage image(1, 1, true);
     ASSERT_TRUE(image.setPixels(Samples16{1, 2, 3, 0x1234}.data(), true, true));
 
-    Samples16 words(4);
-    ASSERT_TRUE(image.getPixels(words.data(), true, true));
-    EXPECT_EQ(words, (Samples16{1, 2, 3, 0x1234}));
+    Samples16 samples(4);
+    ASSERT_TRUE(image.getPixels(samples.data(), true, true));
+    EXPECT_EQ(samples, (Samples16{1, 2, 3, 0x1234}));
 }
 
 // Unlike the high byte of the colours.
@@ -182,14 +182,14 @@ TEST(LumioImageTest, ReturnsTheLowByteOfTheOpacity)
 
 TEST(LumioImageTest, SetsTheLargestOpacityOfTheBufferWithoutAlpha)
 {
-    Samples16 words(4);
+    Samples16 samples(4);
     LumioImage byteImage = pictureOf(Bytes{1, 2, 3}, 1, 1);
-    ASSERT_TRUE(byteImage.getPixels(words.data(), true, true));
-    EXPECT_EQ(words[3], 255);
+    ASSERT_TRUE(byteImage.getPixels(samples.data(), true, true));
+    EXPECT_EQ(samples[3], 255);
 
     LumioImage image16 = pictureOf(Samples16{1, 2, 3}, 1, 1);
-    ASSERT_TRUE(image16.getPixels(words.data(), true, true));
-    EXPECT_EQ(words[3], 65535);
+    ASSERT_TRUE(image16.getPixels(samples.data(), true, true));
+    EXPECT_EQ(samples[3], 65535);
 }
 
 TEST(LumioImageTest, WritesNothingBehindTheLastPixel)
@@ -199,10 +199,10 @@ TEST(LumioImageTest, WritesNothingBehindTheLastPixel)
     ASSERT_TRUE(image.getPixels(bytes.data(), false, false));
     EXPECT_EQ(bytes, (Bytes{10, 20, 30, 40, 50, 60, 99, 99}));
 
-    Samples16 words(8, 999);
-    ASSERT_TRUE(image.getPixels(words.data(), false, true));
-    EXPECT_EQ(words[6], 999);
-    EXPECT_EQ(words[7], 999);
+    Samples16 samples(8, 999);
+    ASSERT_TRUE(image.getPixels(samples.data(), false, true));
+    EXPECT_EQ(samples[6], 999);
+    EXPECT_EQ(samples[7], 999);
 }
 
 TEST(LumioImageTest, CopiesAreIndependent)
@@ -221,12 +221,12 @@ class UnalignedWidths : public testing::TestWithParam<int>
 TEST_P(UnalignedWidths, RowsFollowEachOtherWithoutPadding)
 {
     const int width = GetParam();
-    Samples16 words(static_cast<std::size_t>(width) * 3 * 3);
-    std::iota(words.begin(), words.end(), std::uint16_t{300});
-    LumioImage image16 = pictureOf(words, width, 3);
-    EXPECT_EQ(samples16Of(image16), words);
+    Samples16 samples(static_cast<std::size_t>(width) * 3 * 3);
+    std::iota(samples.begin(), samples.end(), std::uint16_t{300});
+    LumioImage image16 = pictureOf(samples, width, 3);
+    EXPECT_EQ(samples16Of(image16), samples);
 
-    const Bytes bytes(words.begin(), words.end());
+    const Bytes bytes(samples.begin(), samples.end());
     LumioImage byteImage = pictureOf(bytes, width, 3);
     EXPECT_EQ(bytesOf(byteImage), bytes);
 }

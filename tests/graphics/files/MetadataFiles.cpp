@@ -53,7 +53,7 @@ Metadata metadataIn(const QString &path)
 void setMetadata(const QString &path, const Metadata &metadata)
 {
     const Exiv2::Image::AutoPtr image = opened(path);
-    image->readMetadata(); // a TIFF file keeps there what its pixels need
+    image->readMetadata(); // in a TIFF file the metadata include the entries that describe the pixels
     for (const Exiv2::Exifdatum &datum : metadata.exif) {
         image->exifData()[datum.key()] = datum;
     }
@@ -73,7 +73,7 @@ QByteArray profileFor(const char *colours, int size)
     profile[8] = 2; // the version
     profile.replace(12, 4, "mntr").replace(16, 4, colours).replace(20, 4, "XYZ ").replace(36, 4, "acsp");
     profile.replace(68, 12, QByteArray::fromHex("0000f6d6000100000000d32d")); // daylight
-    for (int i = 132; i < size; ++i) {                                        // behind a list of no tags
+    for (int i = 132; i < size; ++i) {                                        // after an empty list of tags
         profile[i] = static_cast<char>(i * 37 + i / 5);
     }
     return profile;

@@ -118,7 +118,7 @@ TEST_F(MetadataHostileTest, FilesWithBytesChangedAtRandomAreReadOrRejected)
             writeFile(path("bad"), bad);
             const bool isRead = image.read(path("bad"));
             read += isRead ? 1 : 0;
-            if (isRead && i % 10 == 0) { // to the disk it takes its time
+            if (isRead && i % 10 == 0) { // writing to the disk is slow
                 EXPECT_TRUE(image.save(path("saved.tif"), quality)) << name << ", " << i;
             }
         }
@@ -202,7 +202,7 @@ TEST_F(MetadataHostileTest, ATiffDirectoryThatContainsItselfIsRead)
 // Each of 200 inner directories is the outer one.
 TEST_F(MetadataHostileTest, CopiesOfRecursiveDirectoriesAreLimited)
 {
-    const auto words = [](std::initializer_list<quint16> numbers) {
+    const auto numbers16 = [](std::initializer_list<quint16> numbers) {
         QByteArray bytes;
         for (const quint16 number : numbers) {
             bytes += static_cast<char>(number % 256);
@@ -210,14 +210,14 @@ TEST_F(MetadataHostileTest, CopiesOfRecursiveDirectoriesAreLimited)
         }
         return bytes;
     };
-    QByteArray contents = QByteArray("II*\0\x08\0\0\0", 8) + words({209});
+    QByteArray contents = QByteArray("II*\0\x08\0\0\0", 8) + numbers16({209});
     for (const quint16 tag : {256, 257, 258, 259, 262, 273, 277, 278, 279}) {
-        contents += words({tag, 3, 1, 0, static_cast<quint16>(tag == 258 || tag == 273 ? 8 : 1), 0});
+        contents += numbers16({tag, 3, 1, 0, static_cast<quint16>(tag == 258 || tag == 273 ? 8 : 1), 0});
     }
     for (int i = 0; i < 200; ++i) {
-        contents += words({34665, 4, 1, 0, 8, 0});
+        contents += numbers16({34665, 4, 1, 0, 8, 0});
     }
-    writeFile(path("a.tif"), contents + words({0, 0}));
+    writeFile(path("a.tif"), contents + numbers16({0, 0}));
     const OpenFile file(open(path("a.tif").toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC));
     const grisal::graphics::MetadataBlocks blocks = extractMetadata(file, ImageFormat::Tiff);
     EXPECT_FALSE(blocks.complete);

@@ -37,7 +37,7 @@ const Kept allKept[] = {
 
 /// A letter is a square of this side, a JPEG block with subsampled chroma.
 constexpr int side = 16;
-constexpr std::size_t uprightWidth = std::size_t{3} * side;
+constexpr std::size_t normalisedWidth = std::size_t{3} * side;
 
 Samples colourOf(char letter)
 {
@@ -60,7 +60,7 @@ std::uint8_t lumaOf(char letter)
 }
 
 /// Numbers of 16 bits in little-endian order.
-QByteArray words(const std::vector<int> &numbers)
+QByteArray numbers16(const std::vector<int> &numbers)
 {
     QByteArray bytes;
     for (const int number : numbers) {
@@ -93,12 +93,12 @@ QByteArray lumaTiff(const Kept &kept, int rowsPerStrip)
     const int placesAt = depths + 6;
     const int sizesAt = placesAt + 2 * strips;
     const int directory = sizesAt + 2 * strips;
-    const auto line = [](int tag, int count, int value) { return words({tag, 3, count, 0, value, 0}); };
-    return QByteArray("II*\0", 4) + words({directory, 0}) + pixels + words({8, 8, 8}) + words(places) + words(sizes) +
-           words({11}) + line(256, 1, width) + line(257, 1, height) + line(258, 3, depths) + line(259, 1, 1) +
-           line(262, 1, 6) + line(273, strips, valueOr(places, placesAt)) + line(274, 1, kept.orientation) +
-           line(277, 1, 3) + line(278, 1, std::min(rowsPerStrip, height)) + line(279, strips, valueOr(sizes, sizesAt)) +
-           words({530, 3, 2, 0, 1, 1}) + words({0, 0});
+    const auto entry = [](int tag, int count, int value) { return numbers16({tag, 3, count, 0, value, 0}); };
+    return QByteArray("II*\0", 4) + numbers16({directory, 0}) + pixels + numbers16({8, 8, 8}) + numbers16(places) +
+           numbers16(sizes) + numbers16({11}) + entry(256, 1, width) + entry(257, 1, height) + entry(258, 3, depths) +
+           entry(259, 1, 1) + entry(262, 1, 6) + entry(273, strips, valueOr(places, placesAt)) +
+           entry(274, 1, kept.orientation) + entry(277, 1, 3) + entry(278, 1, std::min(rowsPerStrip, height)) +
+           entry(279, strips, valueOr(sizes, sizesAt)) + numbers16({530, 3, 2, 0, 1, 1}) + numbers16({0, 0});
 }
 
 Exiv2::ExifData exifOf(int orientation)
@@ -109,7 +109,7 @@ Exiv2::ExifData exifOf(int orientation)
 }
 
 /// Expects an image of ABC over DEF, within a tolerance in 8-bit levels.
-void expectUpright(LumioImage &image, int tolerance)
+void expectNormalised(LumioImage &image, int tolerance)
 {
     const std::vector<std::string> upright{"ABC", "DEF"};
     ASSERT_EQ(image.width(), 3 * side);
@@ -117,8 +117,8 @@ void expectUpright(LumioImage &image, int tolerance)
     constexpr std::size_t margin = 4;
     const Bytes bytes = bytesOf(image);
     for (std::size_t i = 0; i < bytes.size(); ++i) {
-        const std::size_t x = i / 3 % uprightWidth;
-        const std::size_t y = i / 3 / uprightWidth;
+        const std::size_t x = i / 3 % normalisedWidth;
+        const std::size_t y = i / 3 / normalisedWidth;
         const Samples wanted = colourOf(upright[y / side][x / side]);
         // JPEG mixes the colours along the edges.
         const bool inside = std::min(x % side, y % side) >= margin && std::max(x % side, y % side) < side - margin;
@@ -153,21 +153,21 @@ protected:
 TEST_P(Orientation, NormalisesAJpeg)
 {
     ASSERT_TRUE(image.read(kept("a.jpg"))) << image.problem().toStdString();
-    expectUpright(image, 4);
+    expectNormalised(image, 4);
     EXPECT_TRUE(image.warning().isEmpty());
 }
 
 TEST_P(Orientation, NormalisesATiff)
 {
     ASSERT_TRUE(image.read(kept("a.tif"))) << image.problem().toStdString();
-    expectUpright(image, 0);
+    expectNormalised(image, 0);
 }
 
 TEST_P(Orientation, NormalisesATiffOf16Bits)
 {
     ASSERT_TRUE(image.read(kept("a.tif", 16))) << image.problem().toStdString();
     EXPECT_TRUE(image.is16Bit());
-    expectUpright(image, 0);
+    expectNormalised(image, 0);
 }
 
 TEST_P(Orientation, NormalisesAPngWithAnExifChunk)
@@ -175,14 +175,14 @@ TEST_P(Orientation, NormalisesAPngWithAnExifChunk)
     const QString path = written("a.png", pictureOf(GetParam().rows));
     addChunk(path, "eXIf", exifBlock(exifOf(GetParam().orientation)));
     ASSERT_TRUE(image.read(path)) << image.problem().toStdString();
-    expectUpright(image, 0);
+    expectNormalised(image, 0);
 }
 
 TEST_P(Orientation, NormalisesAPngWithExifInAText)
 {
     ASSERT_TRUE(image.read(kept("a.png"))) << image.problem().toStdString();
     EXPECT_TRUE(contentsOf(directory.filePath("a.png")).contains("Raw profile type exif"));
-    expectUpright(image, 0);
+    expectNormalised(image, 0);
 }
 
 TEST_P(Orientation, NormalisesPaletteImages)
@@ -196,7 +196,7 @@ TEST_P(Orientation, NormalisesPaletteImages)
         metadata.exif = exifOf(GetParam().orientation);
         setMetadata(path, metadata);
         ASSERT_TRUE(image.read(path)) << image.problem().toStdString();
-        expectUpright(image, 0);
+        expectNormalised(image, 0);
     }
 }
 
@@ -209,7 +209,7 @@ TEST_P(Orientation, NormalisesATiffWithJpegCompression)
     metadata.exif = exifOf(GetParam().orientation);
     setMetadata(path, metadata);
     ASSERT_TRUE(image.read(path)) << image.problem().toStdString();
-    expectUpright(image, 8);
+    expectNormalised(image, 8);
 }
 
 // libtiff mirrors some of these images itself, strip by strip.
@@ -238,7 +238,7 @@ TEST_P(Orientation, IsNormalInSavedFiles)
         ASSERT_TRUE(image.save(path, 100));
         LumioImage again;
         ASSERT_TRUE(again.read(path));
-        expectUpright(again, 4);
+        expectNormalised(again, 4);
     }
 }
 

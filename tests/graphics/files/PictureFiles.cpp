@@ -27,15 +27,15 @@ constexpr quint16 tiffSamplesPerPixel = 277;
 // The first value of a tag of 16-bit numbers in the first directory of a little-endian TIFF file.
 int tiffValue(const QByteArray &file, quint16 wanted)
 {
-    const auto word = [&](qsizetype at) { return int{qFromLittleEndian<quint16>(file.constData() + at)}; };
+    const auto number16 = [&](qsizetype at) { return int{qFromLittleEndian<quint16>(file.constData() + at)}; };
     const auto offset = [&](qsizetype at) { return qsizetype{qFromLittleEndian<quint32>(file.constData() + at)}; };
     constexpr qsizetype entrySize = 12;
     const qsizetype directory = offset(4);
-    for (qsizetype i = 0; i < word(directory); ++i) {
+    for (qsizetype i = 0; i < number16(directory); ++i) {
         const qsizetype entry = directory + 2 + i * entrySize;
-        if (word(entry) == wanted) {
+        if (number16(entry) == wanted) {
             const bool inPlace = offset(entry + 4) <= 2;
-            return word(inPlace ? entry + 8 : offset(entry + 8));
+            return number16(inPlace ? entry + 8 : offset(entry + 8));
         }
     }
     return 1; // the default of both tags
@@ -116,10 +116,10 @@ graphics::LumioImage pictureOf(const Bytes &bytes, int width, int height)
     return image;
 }
 
-graphics::LumioImage pictureOf(const Samples16 &words, int width, int height)
+graphics::LumioImage pictureOf(const Samples16 &samples, int width, int height)
 {
     graphics::LumioImage image(width, height, true);
-    image.setPixels(words.data(), false, true);
+    image.setPixels(samples.data(), false, true);
     return image;
 }
 
@@ -132,9 +132,9 @@ Bytes bytesOf(graphics::LumioImage &image)
 
 Samples16 samples16Of(graphics::LumioImage &image)
 {
-    Samples16 words(componentsOf(image));
-    image.getPixels(words.data(), false, true);
-    return words;
+    Samples16 samples(componentsOf(image));
+    image.getPixels(samples.data(), false, true);
+    return samples;
 }
 
 } // namespace grisal::test

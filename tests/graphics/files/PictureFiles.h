@@ -36,9 +36,9 @@ int channelsPerPixel(const QString &path);
 QByteArray contentsOf(const QString &path);
 void writeFile(const QString &path, const QByteArray &contents);
 
-/// An image filled from `bytes` or `words`, R, G, B per pixel.
+/// An image filled from `bytes` or `samples`, R, G, B per pixel.
 graphics::LumioImage pictureOf(const Bytes &bytes, int width, int height);
-graphics::LumioImage pictureOf(const Samples16 &words, int width, int height);
+graphics::LumioImage pictureOf(const Samples16 &samples, int width, int height);
 
 /// All samples of an image, R, G, B.
 Bytes bytesOf(graphics::LumioImage &image);

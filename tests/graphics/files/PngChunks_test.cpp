@@ -61,7 +61,7 @@ TEST_F(PngChunksTest, VisitsChunksWithOffsetLengthAndStart)
     EXPECT_TRUE(chunks[1].start.startsWith("yz"));
 }
 
-TEST_F(PngChunksTest, EndsAtTheClosingChunkOrAtWhatIsNoChunk)
+TEST_F(PngChunksTest, EndsAtTheIendChunkOrAtInvalidData)
 {
     const QByteArray one = pngChunk("IDAT", "pixels");
     EXPECT_EQ(kindsIn(one + pngChunk("IEND", {}) + one), "IDAT ");
@@ -71,7 +71,7 @@ TEST_F(PngChunksTest, EndsAtTheClosingChunkOrAtWhatIsNoChunk)
     EXPECT_EQ(kindsIn({}), "");
 }
 
-TEST_F(PngChunksTest, EndsWhereTheVisitorDoes)
+TEST_F(PngChunksTest, EndsWhenTheVisitorReturnsFalse)
 {
     int visited = 0;
     EXPECT_FALSE(

@@ -34,7 +34,7 @@ Quanta quantaOf(const Magick::PixelPacket &pixel)
 const std::vector<Magick::PixelPacket> twoPixels{packet({0x12ff, 0xfe00, 0x00ff, 0x8143}),
                                                  packet({0xffff, 0x0100, 0x8080, 0x00ff})};
 
-/// Values in which neighbours differ.
+/// Values that differ from their neighbours.
 template <typename Values>
 Values mixed(std::size_t count)
 {
@@ -56,7 +56,7 @@ std::vector<Magick::PixelPacket> mixedPixels(std::size_t count)
     return pixels;
 }
 
-/// The number of pixels, and whether there is a fourth component. The large number is shared out to several threads.
+/// The number of pixels, and whether there is a fourth component. The large number is processed by several threads.
 class QuantumCopy : public testing::TestWithParam<std::tuple<std::size_t, bool>>
 {
 protected:
@@ -64,7 +64,7 @@ protected:
     bool alpha() const { return std::get<1>(GetParam()); }
     std::size_t components() const { return alpha() ? 4 : 3; }
 
-    /// Copies pixels out into a buffer with one value more, which has to stay, and returns the buffer.
+    /// Copies pixels out into a buffer with one extra value, which must not change, and returns the buffer.
     template <typename Values, typename Copy>
     Values copiedOut(const std::vector<Magick::PixelPacket> &pixels, Copy copy) const
     {
@@ -76,7 +76,7 @@ protected:
         return values;
     }
 
-    /// Copies values in before one pixel more, which has to stay, and returns all components of the pixels.
+    /// Copies values into pixels followed by an extra one, which must not change, and returns all components.
     template <typename Values, typename Copy>
     Samples copiedIn(const Values &values, Copy copy) const
     {
@@ -92,7 +92,7 @@ protected:
         return samples;
     }
 
-    /// What `value(component, index of the pixel)` makes of all components of the pixels or of the values.
+    /// The results of `value(component, index of the pixel)` for all components.
     template <typename Values, typename Value>
     Values expected(std::size_t componentCount, Value value) const
     {
@@ -129,7 +129,7 @@ TEST_P(QuantumCopy, SamplesOutAreTheQuanta)
     EXPECT_EQ(copiedOut<Samples>(pixels, copySamples16Out), expected<Samples>(components(), sample));
 }
 
-TEST_P(QuantumCopy, BytesInAreTheHighBytesAndTheOpacityAsItIs)
+TEST_P(QuantumCopy, BytesInAreTheHighBytesAndTheUnscaledOpacity)
 {
     const auto bytes = mixed<Bytes>(count() * components());
     const auto quantum = [&](std::size_t c, std::size_t i) {
@@ -148,7 +148,7 @@ TEST_P(QuantumCopy, SamplesInAreTheQuanta)
     EXPECT_EQ(copiedIn(samples, copySamples16In), expected<Samples>(4, quantum));
 }
 
-TEST_P(QuantumCopy, SamplesComeOutAsTheyWentIn)
+TEST_P(QuantumCopy, RoundTripKeepsSamples)
 {
     const auto samples = mixed<Samples>(count() * components());
     std::vector<Magick::PixelPacket> pixels(count());
@@ -156,7 +156,7 @@ TEST_P(QuantumCopy, SamplesComeOutAsTheyWentIn)
     EXPECT_EQ(copiedOut<Samples>(pixels, copySamples16Out), samples);
 }
 
-TEST_P(QuantumCopy, BytesComeOutAsTheyWentIn)
+TEST_P(QuantumCopy, RoundTripKeepsBytes)
 {
     const auto bytes = mixed<Bytes>(count() * components());
     std::vector<Magick::PixelPacket> pixels(count());
@@ -175,7 +175,7 @@ TEST(QuantumCopyTest, CopiesTwoPixelsOut)
     EXPECT_EQ(samples, (Samples{0x12ff, 0xfe00, 0x00ff, 0xffff, 0x0100, 0x8080}));
 }
 
-TEST(QuantumCopyTest, SpreadsTheHighBytesOfTheColoursAlone)
+TEST(QuantumCopyTest, SpreadsOnlyTheHighBytesOfTheColours)
 {
     std::vector<Magick::PixelPacket> pixels = twoPixels;
     spreadHighBytes(pixels.data(), 2);
@@ -194,7 +194,7 @@ TEST(QuantumCopyTest, SpreadsEveryByteToItsMultipleOf257)
     }
 }
 
-TEST(QuantumCopyTest, SpreadsOnlyAsManyPixelsAsAsked)
+TEST(QuantumCopyTest, SpreadsOnlyTheRequestedPixels)
 {
     std::vector<Magick::PixelPacket> pixels = twoPixels;
     spreadHighBytes(pixels.data(), 1);

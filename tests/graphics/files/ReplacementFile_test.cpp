@@ -49,8 +49,8 @@ protected:
         return file.commit();
     }
 
-    /// Replaces a file in a process of its own and kills it where it has begun or ended a number of system calls.
-    /// Returns false where the process has ended by itself before.
+    /// Replaces a file in a child process and kills it at the start or end of the system call with this number.
+    /// Returns false if the process has ended before.
     static bool replaceAndKill(const QString &path, const QByteArray &contents, int systemCallStops)
     {
         const pid_t process = fork();
@@ -198,8 +198,8 @@ TEST_F(ReplacementFileTest, KeepsUserAttributes)
     EXPECT_EQ(QByteArray(note, 4), "best");
 }
 
-// The list as the kernel keeps it: version 2, then tag, permissions and id of the owner, user 7, the group, the mask
-// and others.
+// The list in the format of the kernel: version 2, then tag, permissions and id of the owner, user 7, the group, the
+// mask and others.
 TEST_F(ReplacementFileTest, KeepsTheAccessList)
 {
     const QByteArray list = QByteArray::fromHex("02000000"
@@ -229,7 +229,7 @@ TEST_F(ReplacementFileTest, ReplacesAFileWithTheLongestName)
     EXPECT_EQ(names(), QStringList(name));
 }
 
-TEST_F(ReplacementFileTest, FailsForWhatIsNoFile)
+TEST_F(ReplacementFileTest, FailsForNonRegularFiles)
 {
     ASSERT_TRUE(QFile::link("/dev/full", path("full.png")));
     ASSERT_TRUE(QFile::link("loop-a.png", path("loop-b.png")));
@@ -254,7 +254,7 @@ TEST_F(ReplacementFileTest, FailsWhenTheFolderIsRemoved)
     EXPECT_FALSE(file.problem().isEmpty());
 }
 
-/// Runs a step as an ordinary user in a process of its own; returns its result.
+/// Runs a step as an ordinary user in a child process; returns its result.
 template <typename Step>
 bool asAnybody(Step step)
 {
@@ -300,7 +300,7 @@ TEST_F(ReplacementFileTest, IsCompleteWheneverTheProcessIsKilled)
         ASSERT_TRUE(now == "old" || now == "new") << "killed after " << kills << " stops: " << now.toStdString();
         replaced += now == "new" ? 1 : 0;
         ++kills;
-        // Every child process has the same random numbers: the next one would try the names of these first.
+        // Every child process generates the same random names, so the next one would collide with these files.
         for (const QString &name : names().filter(QStringLiteral(".grisal-"))) {
             QFile::remove(path(name));
         }

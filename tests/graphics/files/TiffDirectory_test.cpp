@@ -40,7 +40,7 @@ protected:
     }
 };
 
-TEST_P(TiffDirectory, IsDecodedAsItWasEncoded)
+TEST_P(TiffDirectory, RoundTripKeepsAllEntries)
 {
     const QByteArray encoded = bytes({{256, 3, 1, "abcd"}, {270, 2, 100, "efgh"}});
     EXPECT_EQ(encoded.size(), 2 + 2 * tiffEntrySize + 4);
@@ -64,7 +64,7 @@ TEST_P(TiffDirectory, OmitsEntriesOfUnknownTypesAndOfNoValues)
     EXPECT_EQ(entries[0].tag, 5);
 }
 
-TEST_P(TiffDirectory, DecodesTheCompleteEntriesOfOneCutShort)
+TEST_P(TiffDirectory, DecodesTheCompleteEntriesOfATruncatedDirectory)
 {
     const QByteArray encoded = bytes({{1, 3, 1, "...."}, {2, 3, 1, "...."}});
     EXPECT_EQ(decoded(encoded.first(26)).size(), 2U);
@@ -83,13 +83,13 @@ TEST_P(TiffDirectory, IsEmptyWithMoreEntriesThanTheLimit)
 INSTANTIATE_TEST_SUITE_P(ByteOrder, TiffDirectory, testing::Bool(),
                          [](const auto &test) { return test.param ? "BigEndian" : "LittleEndian"; });
 
-// 2^32 - 1 values of 8 bytes take more than 32 bits can count.
+// The size of 2^32 - 1 values of 8 bytes does not fit into 32 bits.
 TEST(TiffEntry, ComputesSizesBeyond32Bits)
 {
     EXPECT_EQ((TiffEntry{1, 12, 0xffffffff, {}}).size(), 0x7fffffff8U);
 }
 
-TEST(TiffTags, OfPixelsAreNoMetadata)
+TEST(TiffTags, OfPixelsAreNotMetadata)
 {
     for (const std::uint16_t tag : {254, 256, 273, 279, 325, 330, 347, 514, 34377, 50706, 51190}) {
         EXPECT_TRUE(describesPixels(tag)) << tag;

@@ -24,7 +24,7 @@ QByteArray number(std::uint32_t value)
     return order.bytesOf(value);
 }
 
-/// A file with a block of bytes behind its header and a first directory behind these.
+/// A file that consists of a header, a block of bytes and the first directory.
 QByteArray tiffOf(const QByteArray &block, const std::vector<TiffEntry> &directory)
 {
     return QByteArray("II*\0", 4) + number(static_cast<std::uint32_t>(tiffHeaderSize + block.size())) + block +
@@ -104,7 +104,7 @@ TEST_F(TiffMetadataTest, LeavesOutValuesBeyondTheEndOfTheFile)
     EXPECT_EQ(entries.count(315), 0U);
 }
 
-TEST_F(TiffMetadataTest, HasNoneInABigTiff)
+TEST_F(TiffMetadataTest, IsEmptyForBigTiff)
 {
     const MetadataBlocks blocks = extractTiffMetadata(opened(QByteArray("II+\0\x08\0\0\0", 8)));
     EXPECT_TRUE(blocks.file.isEmpty());

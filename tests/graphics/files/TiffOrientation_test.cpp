@@ -37,7 +37,7 @@ struct TiffOrientationTest : testing::Test {
     static QByteArray all(const OpenFile &file) { return file.bytesAt(0, static_cast<qsizetype>(file.size())); }
 };
 
-TEST_F(TiffOrientationTest, CopyDiffersInTheOrientationAlone)
+TEST_F(TiffOrientationTest, CopyDiffersOnlyInTheOrientation)
 {
     const QByteArray normal = fileWith({orientationTag, 3, 1, QByteArray("\0\1\0\0", 4)});
     for (const TiffEntry &entry :

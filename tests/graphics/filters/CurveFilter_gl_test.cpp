@@ -44,7 +44,7 @@ FloatPixels expectedOf(const BytePixels &picture, const QVector<float> &curve)
     return reference::eachPixel(picture, [&](int, int, Rgb colour) { return reference::curve(colour, curve); });
 }
 
-/// The four components that one red value becomes.
+/// The four components of the result for one red value.
 std::vector<float> looksUp(CurveFilter &filter, float red)
 {
     return runFilter(filter, FloatPixels(1, 1, 3, {red, 0.5F, 0.25F})).values;
@@ -57,7 +57,7 @@ std::vector<float> fourTimes(float value)
 
 } // namespace
 
-TEST_F(CurveFilterTest, StartsWithoutCurveSizeOrDuty)
+TEST_F(CurveFilterTest, IsDisabledWithoutCurveAndSizeInitially)
 {
     const CurveFilter filter;
 
@@ -69,7 +69,7 @@ TEST_F(CurveFilterTest, StartsWithoutCurveSizeOrDuty)
     EXPECT_FALSE(filter.enabled);
 }
 
-TEST_F(CurveFilterTest, ProgramIsLabelledAsTheFilter)
+TEST_F(CurveFilterTest, ProgramHasTheNameOfTheFilter)
 {
     const CurveFilter filter;
 
@@ -91,7 +91,7 @@ TEST_F(CurveFilterTest, SendsItsUniformsInOrder)
     EXPECT_EQ(recorder.programs(), std::vector<GLuint>{filter.program().program});
 }
 
-TEST_F(CurveFilterTest, RedPicksTheSampleForAllFourChannels)
+TEST_F(CurveFilterTest, RedSelectsTheSampleForAllFourChannels)
 {
     CurveFilter filter;
     filter.setCurve({0.1F, 0.4F, 0.7F, 0.9F});
@@ -110,7 +110,7 @@ TEST_F(CurveFilterTest, WhiteReadsTheLastSample)
     EXPECT_EQ(looksUp(filter, 1.0F), fourTimes(255.0F / 256));
 }
 
-TEST_F(CurveFilterTest, GreysBeyondTheScaleReadItsEnds)
+TEST_F(CurveFilterTest, GreysOutsideZeroToOneAreClamped)
 {
     CurveFilter filter;
     filter.setCurve({0.1F, 0.4F, 0.7F, 0.9F});
@@ -119,8 +119,8 @@ TEST_F(CurveFilterTest, GreysBeyondTheScaleReadItsEnds)
     EXPECT_EQ(looksUp(filter, 2.0F), fourTimes(0.9F));
 }
 
-// The curve i/256 is a hair darker than the identity: stored as bytes, the lighter half loses one level.
-TEST_F(CurveFilterTest, TheNeutralCurveTakesOneLevelOffTheLighterHalf)
+// The curve i/256 is slightly darker than the identity: rounded to bytes, the lighter half is one level darker.
+TEST_F(CurveFilterTest, NeutralCurveDarkensTheLighterHalfByOneLevel)
 {
     CurveFilter filter;
     filter.setCurve(sampled([](float grey) { return grey; }));
@@ -169,7 +169,7 @@ TEST_F(CurveFilterTest, KeepsACopyOfItsCurve)
     EXPECT_EQ(filter.curve(), (QVector<float>{0.1F, 0.4F}));
 }
 
-TEST_F(CurveFilterTest, ANewCurveFreesTheTextureOfTheFormer)
+TEST_F(CurveFilterTest, NewCurveDeletesTheFormerTexture)
 {
     CurveFilter filter;
     filter.setCurve({0.1F, 0.4F});
@@ -183,7 +183,7 @@ TEST_F(CurveFilterTest, ANewCurveFreesTheTextureOfTheFormer)
     EXPECT_EQ(looksUp(filter, 0.0F), fourTimes(0.2F));
 }
 
-TEST_F(CurveFilterTest, TheTextureGoesWithTheFilter)
+TEST_F(CurveFilterTest, DestructorDeletesTheTexture)
 {
     GLuint texture = 0;
     {
@@ -194,14 +194,14 @@ TEST_F(CurveFilterTest, TheTextureGoesWithTheFilter)
     EXPECT_FALSE(glIsTexture(texture));
 }
 
-TEST_F(CurveFilterTest, WithoutACurveEverythingIsBlack)
+TEST_F(CurveFilterTest, ResultIsBlackWithoutACurve)
 {
     CurveFilter filter;
 
     EXPECT_EQ(looksUp(filter, 0.7F), fourTimes(0.0F));
 }
 
-TEST_F(CurveFilterTest, LeavesUnitZeroActiveAndNoPictureBound)
+TEST_F(CurveFilterTest, LeavesUnitZeroActiveAndNo2DTextureBound)
 {
     CurveFilter filter;
     filter.setCurve({0.1F, 0.4F});
@@ -209,7 +209,7 @@ TEST_F(CurveFilterTest, LeavesUnitZeroActiveAndNoPictureBound)
     runFilter(filter, FloatPixels(1, 1));
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What every filter of the list declares holds for the filter itself.
+// The declaration of every filter in the list matches the filter.
 #include "graphics/filters/FilterSet.h"
 
 #include "tests/support/FilterRun.h"
@@ -38,7 +38,7 @@ using ParametersOf = typename std::decay_t<Filter>::Parameters;
 
 } // namespace
 
-TEST_F(FilterDeclarationsTest, NameTheClassOnceEach)
+TEST_F(FilterDeclarationsTest, HaveTheUniqueNameOfTheFilter)
 {
     QSet<QString> names;
     int count = 0;
@@ -92,8 +92,8 @@ TEST_F(FilterDeclarationsTest, HaveNeutralValuesThatChangeNothing)
     EXPECT_GE(neutralValues, 2) << "at least the grain's weights and the vignette's strength";
 }
 
-// Tiles have no border: a filter that reads its neighbours' pixels would leave a seam at the edge of each.
-TEST_F(FilterDeclarationsTest, NoneReadsNeighbours)
+// Tiles have no border: a filter that reads neighbouring pixels would cause seams at their edges.
+TEST_F(FilterDeclarationsTest, DeclareNoFilterThatReadsNeighbours)
 {
     forEachDeclaration([](const IFilter &, const auto &declaration) {
         EXPECT_FALSE(declaration.readsNeighbours) << declaration.name;

@@ -42,7 +42,7 @@ Look distinctParameters()
 
 } // namespace
 
-TEST_F(FilterSetTest, NoFilterIsEnabledAtFirst)
+TEST_F(FilterSetTest, NoFilterIsEnabledInitially)
 {
     const FilterSet filters;
 
@@ -53,7 +53,7 @@ TEST_F(FilterSetTest, NoFilterIsEnabledAtFirst)
     }
 }
 
-TEST_F(FilterSetTest, TheSizeReachesAllFiveFilters)
+TEST_F(FilterSetTest, SizeIsSetOnAllFiveFilters)
 {
     FilterSet filters;
 
@@ -67,7 +67,7 @@ TEST_F(FilterSetTest, TheSizeReachesAllFiveFilters)
     }
 }
 
-TEST_F(FilterSetTest, ThePictureSizeIsTheVignettesAlone)
+TEST_F(FilterSetTest, ImageSizeIsSetOnTheVignetteOnly)
 {
     FilterSet filters;
     filters.setSize(513, 515);
@@ -93,7 +93,7 @@ TEST_F(FilterSetTest, MixerCurveAndSplitToneGetTheirParameters)
     EXPECT_EQ(filters.get<HalfToneFilter>().secondColor, (ColorRGB<float>{0.7F, 0.8F, 0.9F}));
 }
 
-TEST_F(FilterSetTest, TheVignetteGetsItsParameters)
+TEST_F(FilterSetTest, VignetteGetsItsParameters)
 {
     FilterSet filters;
     filters.get<VignetteFilter>().parameters.center.z = 9;
@@ -107,7 +107,7 @@ TEST_F(FilterSetTest, TheVignetteGetsItsParameters)
     EXPECT_EQ(filters.get<VignetteFilter>().parameters.strength, 44);
 }
 
-TEST_F(FilterSetTest, TheGrainGetsItsWeights)
+TEST_F(FilterSetTest, GrainGetsItsWeights)
 {
     FilterSet filters;
 
@@ -120,7 +120,7 @@ TEST_F(FilterSetTest, TheGrainGetsItsWeights)
     EXPECT_EQ(weights, (std::vector<float>{0.5F, 0.1F}));
 }
 
-TEST_F(FilterSetTest, ParametersAloneBlurNoNoise)
+TEST_F(FilterSetTest, SettingTheLookDoesNotBlurTheNoise)
 {
     FilterSet filters;
 

@@ -21,7 +21,7 @@ class FinalVignetteFilterTest : public GlTest
 {
 };
 
-/// The mask for a picture of width x height, four components.
+/// The mask for an image of width x height, four components.
 FloatPixels maskOf(const Vignette &vignette, int width, int height)
 {
     FinalVignetteFilter filter;
@@ -29,7 +29,7 @@ FloatPixels maskOf(const Vignette &vignette, int width, int height)
     return runFilter(filter, FloatPixels(width, height));
 }
 
-/// The same by formula, (v, v, v, 0) in every pixel.
+/// The same computed by the formula, (v, v, v, 0) in every pixel.
 FloatPixels expectedMask(const Vignette &vignette, int width, int height)
 {
     FloatPixels mask(width, height, 4);
@@ -45,7 +45,7 @@ FloatPixels expectedMask(const Vignette &vignette, int width, int height)
 
 } // namespace
 
-TEST_F(FinalVignetteFilterTest, StartsAtTheFirstPixelWithoutSizeOrDuty)
+TEST_F(FinalVignetteFilterTest, IsCentredAtTheFirstPixelAndDisabledInitially)
 {
     const FinalVignetteFilter filter;
 
@@ -58,15 +58,15 @@ TEST_F(FinalVignetteFilterTest, StartsAtTheFirstPixelWithoutSizeOrDuty)
     EXPECT_FALSE(filter.enabled);
 }
 
-TEST_F(FinalVignetteFilterTest, ProgramIsLabelledFinalBWVignette)
+TEST_F(FinalVignetteFilterTest, ProgramIsNamedFinalBWVignette)
 {
     const FinalVignetteFilter filter;
 
     EXPECT_EQ(filter.program().name, "FinalBWVignette");
 }
 
-// As the vignette does, but without its two textures. The program has neither MaxPixel nor the three sizes of the
-// noise, and it does not read the size of the picture.
+// The uniforms of the vignette without its two textures. The program has neither MaxPixel nor the three sizes of the
+// noise, and it does not use the size of the image.
 TEST_F(FinalVignetteFilterTest, SendsItsUniformsInOrder)
 {
     FinalVignetteFilter filter;
@@ -91,8 +91,8 @@ TEST_F(FinalVignetteFilterTest, SendsItsUniformsInOrder)
     EXPECT_EQ(recorder.programs(), std::vector<GLuint>{filter.program().program});
 }
 
-// 100 x 100, centre (50.5, 50.5), a pixel's middle: 0.5 * d / 100.
-TEST_F(FinalVignetteFilterTest, TheMaskHasTheDistanceFromTheCentre)
+// 100 x 100, centre (50.5, 50.5), the centre of a pixel: 0.5 * d / 100.
+TEST_F(FinalVignetteFilterTest, MaskIsProportionalToTheDistanceFromTheCentre)
 {
     const FloatPixels mask = maskOf({50.5F, 50.5F, 50, 100}, 100, 100);
 
@@ -102,14 +102,14 @@ TEST_F(FinalVignetteFilterTest, TheMaskHasTheDistanceFromTheCentre)
     EXPECT_NEAR(mask.at(50 - 30, 50 + 40, 0), 0.25, 1e-6);
 }
 
-TEST_F(FinalVignetteFilterTest, WithoutStrengthTheMaskIsEmpty)
+TEST_F(FinalVignetteFilterTest, MaskIsZeroWithoutStrength)
 {
     const FloatPixels mask = maskOf({50, 50, 0, 100}, 13, 7);
 
     EXPECT_TRUE(picturesNear("mask-empty", mask, FloatPixels(13, 7, 4)));
 }
 
-TEST_F(FinalVignetteFilterTest, FollowsTheFormulaAndGoesBeyondOne)
+TEST_F(FinalVignetteFilterTest, FollowsTheFormulaAlsoAboveOne)
 {
     constexpr Vignette offCentre{30, 80, 90, 25};
 
@@ -119,7 +119,7 @@ TEST_F(FinalVignetteFilterTest, FollowsTheFormulaAndGoesBeyondOne)
     EXPECT_TRUE(picturesNear("mask-floats", mask, expectedMask(offCentre, 67, 41), {2e-6, 0}));
 }
 
-TEST_F(FinalVignetteFilterTest, GoesByTheSizeOfItsPassAlone)
+TEST_F(FinalVignetteFilterTest, DependsOnlyOnTheSizeOfThePass)
 {
     FinalVignetteFilter filter;
     filter.parameters = {{30, 80, 0}, 90, 25};
@@ -131,7 +131,7 @@ TEST_F(FinalVignetteFilterTest, GoesByTheSizeOfItsPassAlone)
     EXPECT_TRUE(picturesNear("mask-size", mask, expectedMask({30, 80, 90, 25}, 67, 41), {2e-6, 0}));
 }
 
-TEST_F(FinalVignetteFilterTest, DrawsAPartAsTheWholeHasIt)
+TEST_F(FinalVignetteFilterTest, PartEqualsTheSameAreaOfTheWhole)
 {
     FinalVignetteFilter filter;
     filter.parameters = {{30, 80, 0}, 90, 25};
@@ -140,7 +140,7 @@ TEST_F(FinalVignetteFilterTest, DrawsAPartAsTheWholeHasIt)
 
     filter.applyPart(47, 30, 20, 11, target.record());
 
-    expectPassIsOver();
+    expectStateAfterPass();
     FloatPixels part(20, 11, 1);
     graphics::readPixels(target.record(), 20, 11, GL_RED, GL_FLOAT, part.values.data());
     FloatPixels expected(20, 11, 1);
@@ -152,7 +152,7 @@ TEST_F(FinalVignetteFilterTest, DrawsAPartAsTheWholeHasIt)
     EXPECT_TRUE(picturesNear("mask-part", part, expected, {1e-6, 0}));
 }
 
-TEST_F(FinalVignetteFilterTest, KeepsItsParametersAfterAPart)
+TEST_F(FinalVignetteFilterTest, DrawingAPartKeepsTheParameters)
 {
     FinalVignetteFilter filter;
     filter.parameters = {{30, 80, 0}, 90, 25};
@@ -166,7 +166,7 @@ TEST_F(FinalVignetteFilterTest, KeepsItsParametersAfterAPart)
     EXPECT_TRUE(picturesNear("mask-after-part", runFilter(filter, FloatPixels(67, 41)), before));
 }
 
-TEST_F(FinalVignetteFilterTest, ReadsNoSource)
+TEST_F(FinalVignetteFilterTest, IgnoresTheSource)
 {
     FinalVignetteFilter filter;
     filter.parameters = {{30, 80, 0}, 90, 25};
@@ -181,7 +181,7 @@ TEST_F(FinalVignetteFilterTest, LeavesNothingBound)
     maskOf({30, 80, 90, 25}, 3, 2);
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

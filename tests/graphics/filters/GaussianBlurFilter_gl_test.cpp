@@ -28,7 +28,7 @@ class GaussianBlurFilterTest : public GlTest
 /// exp(-x * x / 0.5705) / 1.348363 for x = 0, 1, 2: the taps at a radius of 0.5.
 constexpr std::array<float, 3> halfPixelTaps{0.7416404F, 0.1285112F, 0.0006686F};
 
-/// What the exponential function and the sums may lose; llvmpipe loses 3e-7.
+/// Allowed error of the exponential function and of the sums; 3e-7 with llvmpipe.
 constexpr double exponential = 1e-6;
 
 FloatPixels blurred(const FloatPixels &picture, float radius)
@@ -51,7 +51,7 @@ FloatPixels expectedOf(const FloatPixels &picture, float radius)
     return blurredAlong(blurredAlong(picture, weights, true), weights, false);
 }
 
-/// Black but for one white pixel.
+/// A black image with one white pixel.
 FloatPixels singleDot(int width, int height, int x, int y)
 {
     FloatPixels picture(width, height);
@@ -69,7 +69,7 @@ double meanOf(const FloatPixels &picture)
 
 } // namespace
 
-TEST_F(GaussianBlurFilterTest, StartsWithWhatItIsMadeOfAndWithoutRadius)
+TEST_F(GaussianBlurFilterTest, HasTheConstructorArgumentsAndNoRadiusInitially)
 {
     const GaussianBlurFilter filter(2.5F, 64, 12, 8, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE);
 
@@ -104,7 +104,7 @@ TEST_F(GaussianBlurFilterTest, SendsItsUniformsInOrderAlongXFirst)
     EXPECT_EQ(recorder.programs(), (std::vector<GLuint>{filter.alongX().program, filter.alongY().program}));
 }
 
-TEST_F(GaussianBlurFilterTest, HalfAPixelIsFiveTapsInEachDirection)
+TEST_F(GaussianBlurFilterTest, RadiusOfHalfAPixelUsesFiveTapsInEachDirection)
 {
     const FloatPixels result = blurred(singleDot(11, 9, 5, 4), 0.5F);
 
@@ -121,7 +121,7 @@ TEST_F(GaussianBlurFilterTest, HalfAPixelIsFiveTapsInEachDirection)
     EXPECT_EQ(result.at(5, 1, 0), 0);
 }
 
-TEST_F(GaussianBlurFilterTest, ABrokenRadiusRoundsItsTapsUp)
+TEST_F(GaussianBlurFilterTest, FractionalRadiusRoundsTheTapsUp)
 {
     const FloatPixels result = blurred(singleDot(15, 1, 7, 0), 1.25F);
 
@@ -131,7 +131,7 @@ TEST_F(GaussianBlurFilterTest, ABrokenRadiusRoundsItsTapsUp)
     EXPECT_EQ(result.at(7 - 5, 0, 0), 0);
 }
 
-TEST_F(GaussianBlurFilterTest, ARadiusOfZeroOrLessCopies)
+TEST_F(GaussianBlurFilterTest, RadiusOfZeroOrLessCopies)
 {
     const FloatPixels ramp = reference::asFloats(rampPicture<std::uint8_t>(37, 23));
 
@@ -139,15 +139,15 @@ TEST_F(GaussianBlurFilterTest, ARadiusOfZeroOrLessCopies)
     EXPECT_TRUE(picturesNear("blur-negative", blurred(ramp, -1), ramp));
 }
 
-TEST_F(GaussianBlurFilterTest, ByteCopiesAreExactToo)
+TEST_F(GaussianBlurFilterTest, RadiusOfZeroCopiesBytesExactly)
 {
     const BytePixels ramp = rampPicture<std::uint8_t>(37, 23);
 
     EXPECT_TRUE(picturesNear("blur-none-bytes", blurred(ramp, 0), ramp));
 }
 
-// A dot in the corner: what falls out on the left and in the first row comes back in.
-TEST_F(GaussianBlurFilterTest, TheFirstEdgesMirror)
+// A dot in the corner: the parts beyond the first column and row are mirrored back.
+TEST_F(GaussianBlurFilterTest, FirstRowAndColumnAreMirrored)
 {
     const FloatPixels result = blurred(singleDot(9, 7, 0, 0), 0.5F);
 
@@ -157,7 +157,7 @@ TEST_F(GaussianBlurFilterTest, TheFirstEdgesMirror)
     EXPECT_NEAR(result.at(0, 1, 0), (w0 + w1) * (w1 + w2), exponential);
 }
 
-TEST_F(GaussianBlurFilterTest, TheLastEdgesMirror)
+TEST_F(GaussianBlurFilterTest, LastRowAndColumnAreMirrored)
 {
     const FloatPixels result = blurred(singleDot(9, 7, 8, 6), 0.5F);
 
@@ -167,8 +167,8 @@ TEST_F(GaussianBlurFilterTest, TheLastEdgesMirror)
     EXPECT_NEAR(result.at(8, 5, 0), (w0 + w1) * (w1 + w2), exponential);
 }
 
-// Crossed against the directions: the programs have been known by these names for as long as there were lists of them.
-TEST_F(GaussianBlurFilterTest, TheLabelsAreCrossed)
+// The names are crossed on purpose: the programs have always been listed under these names.
+TEST_F(GaussianBlurFilterTest, LabelsAreCrossed)
 {
     const GaussianBlurFilter filter(1, 1, 4, 4, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE);
     EXPECT_EQ(filter.alongX().name, "VerticalBlurFilter");
@@ -194,15 +194,15 @@ TEST_F(GaussianBlurFilterTest, FloatsFollowTheFormula)
 }
 
 // 13 taps over 3 x 2 pixels: mirrored more than once.
-TEST_F(GaussianBlurFilterTest, APictureSmallerThanTheKernelFollowsTheFormula)
+TEST_F(GaussianBlurFilterTest, ImageSmallerThanTheKernelFollowsTheFormula)
 {
     const FloatPixels ramp = reference::asFloats(rampPicture<std::uint8_t>(3, 2));
 
     EXPECT_TRUE(picturesNear("blur-small", blurred(ramp, 3), expectedOf(ramp, 3), {exponential, 0}));
 }
 
-// Rounded to bytes between the two passes as well. A level apart where a sum lies on the border between two levels;
-// none with llvmpipe.
+// The result of the first pass is rounded to bytes, too. Sums half way between two levels may differ by one level;
+// none does with llvmpipe.
 TEST_F(GaussianBlurFilterTest, BytesFollowTheFormula)
 {
     const BytePixels ramp = rampPicture<std::uint8_t>(37, 23);
@@ -213,7 +213,7 @@ TEST_F(GaussianBlurFilterTest, BytesFollowTheFormula)
     EXPECT_TRUE(picturesNear("blur-bytes", blurred(ramp, 1.5F), expected, {1, 0.001}));
 }
 
-TEST_F(GaussianBlurFilterTest, SigmaAndScaleChangeNothing)
+TEST_F(GaussianBlurFilterTest, SigmaAndScaleDoNotAffectTheResult)
 {
     const FloatPixels ramp = reference::asFloats(rampPicture<std::uint8_t>(37, 23));
     GaussianBlurFilter filter(1, 1, 37, 23, GL_RGBA32F, GL_RGBA, GL_FLOAT);
@@ -231,7 +231,7 @@ TEST_F(GaussianBlurFilterTest, LeavesNothingBound)
     blurred(FloatPixels(3, 2), 1);
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

@@ -33,7 +33,7 @@ class MeanGreyTest : public GlTest, public testing::WithParamInterface<float>
 const QVector<float> everywhere(256, 1.0F);
 const QVector<float> nowhere(256, 0.0F);
 
-/// Different for every grey, stronger with its lightness.
+/// Weights that differ for every grey and increase with its lightness.
 QVector<float> risingWeights()
 {
     QVector<float> weights(256);
@@ -48,7 +48,7 @@ BytePixels noiseOf(const GrainFilter &filter)
     return readBytes(filter.blurredNoise()->record(), noiseMapSide, noiseMapSide);
 }
 
-/// Overwrites the blurred noise, so that it shows whether it is blurred again.
+/// Overwrites the blurred noise in order to detect whether it is blurred again.
 void spoilNoise(const GrainFilter &filter)
 {
     const std::vector<std::uint8_t> black(std::size_t{noiseMapSide} * noiseMapSide * 3);
@@ -71,7 +71,7 @@ FloatPixels expectedOf(const Picture &picture, const BytePixels &noise, const QV
     });
 }
 
-/// Puts one picture's values into another's where the noise is read exactly between two texels.
+/// Copies the values of one image to another where the noise is read exactly between two texels.
 void levelBetweenTexels(FloatPixels &picture, const FloatPixels &other)
 {
     for (int y = 0; y < picture.height; ++y) {
@@ -92,7 +92,7 @@ double meanOf(const BytePixels &picture)
 
 } // namespace
 
-TEST_F(GrainFilterTest, StartsWithoutWeightsBlurSizeOrDuty)
+TEST_F(GrainFilterTest, IsDisabledWithoutWeightsBlurAndSizeInitially)
 {
     GrainFilter filter;
 
@@ -105,20 +105,20 @@ TEST_F(GrainFilterTest, StartsWithoutWeightsBlurSizeOrDuty)
     EXPECT_FALSE(filter.enabled);
 }
 
-TEST_F(GrainFilterTest, ProgramIsLabelledAsTheFilter)
+TEST_F(GrainFilterTest, ProgramHasTheNameOfTheFilter)
 {
     const GrainFilter filter;
 
     EXPECT_EQ(filter.program().name, "GrainFilter");
 }
 
-// The program has no MaxPixel and does not read Sigma.
+// The program has no MaxPixel and does not use Sigma.
 TEST_F(GrainFilterTest, SendsItsUniformsInOrder)
 {
     GrainFilter filter;
     filter.setSigma(1.5F);
     filter.setWeights(everywhere);
-    runFilter(filter, FloatPixels(5, 3)); // the noise is blurred by now
+    runFilter(filter, FloatPixels(5, 3)); // after this the noise is blurred
     const UniformRecorder recorder;
 
     runFilter(filter, FloatPixels(5, 3));
@@ -134,7 +134,7 @@ TEST_F(GrainFilterTest, SendsItsUniformsInOrder)
 }
 
 // The noise map begins with a red of 190: with I = 127.5 it is 0.49725 * (I + 2 * 190 * 0.0039 * I) * 0.0039.
-TEST_F(GrainFilterTest, TheNoiseIsOverlaidAsStronglyAsTheWeightSays)
+TEST_F(GrainFilterTest, NoiseIsOverlaidInProportionToTheWeight)
 {
     GrainFilter filter;
     filter.setSigma(0);
@@ -147,7 +147,7 @@ TEST_F(GrainFilterTest, TheNoiseIsOverlaidAsStronglyAsTheWeightSays)
     EXPECT_NEAR(runFilter(filter, grey).at(0, 0, 0), 0.5284233, 1e-6);
 }
 
-TEST_F(GrainFilterTest, OnlyTheRedOfTheNoiseIsUsed)
+TEST_F(GrainFilterTest, OnlyTheRedChannelOfTheNoiseIsUsed)
 {
     GrainFilter filter;
     filter.setSigma(0);
@@ -159,7 +159,7 @@ TEST_F(GrainFilterTest, OnlyTheRedOfTheNoiseIsUsed)
     EXPECT_EQ(result.at(0, 0, 2), result.at(0, 0, 0));
 }
 
-TEST_F(GrainFilterTest, RedPicksTheWeight)
+TEST_F(GrainFilterTest, RedSelectsTheWeight)
 {
     GrainFilter filter;
     filter.setSigma(0);
@@ -171,8 +171,8 @@ TEST_F(GrainFilterTest, RedPicksTheWeight)
     EXPECT_EQ(result.at(1, 0, 1), 80);
 }
 
-// The lookup is not clamped and the weights repeat, so that pure white has the grain of black. Pictures depend on it.
-TEST_F(GrainFilterTest, WhiteTakesTheWeightOfBlack)
+// The lookup repeats instead of being clamped, so pure white has the grain of black. Saved images depend on it.
+TEST_F(GrainFilterTest, WhiteUsesTheWeightOfBlack)
 {
     GrainFilter filter;
     filter.setSigma(0);
@@ -185,7 +185,7 @@ TEST_F(GrainFilterTest, WhiteTakesTheWeightOfBlack)
     EXPECT_NEAR(runFilter(filter, white).at(0, 0, 0), 0.9890302, 1e-6);
 }
 
-TEST_F(GrainFilterTest, WithoutWeightNothingChangesAtAll)
+TEST_F(GrainFilterTest, WeightsOfZeroChangeNothing)
 {
     GrainFilter filter;
     filter.setSigma(1.5F);
@@ -209,7 +209,7 @@ TEST_F(GrainFilterTest, FloatsFollowTheFormula)
     EXPECT_TRUE(picturesNear("grain-floats", result, expectedOf(ramp, noiseOf(filter), risingWeights()), {1e-6, 0}));
 }
 
-// A level apart where the result lies on the border between two levels; none with llvmpipe.
+// Results half way between two levels may differ by one level; none does with llvmpipe.
 TEST_F(GrainFilterTest, BytesFollowTheFormula)
 {
     GrainFilter filter;
@@ -222,7 +222,7 @@ TEST_F(GrainFilterTest, BytesFollowTheFormula)
     EXPECT_TRUE(picturesNear("grain-bytes", runFilter(filter, ramp), expected, {1, 0.001}));
 }
 
-TEST_F(GrainFilterTest, BeyondItsEdgesTheNoiseMirrorsAlongX)
+TEST_F(GrainFilterTest, NoiseIsMirroredBeyondItsEdgesAlongX)
 {
     GrainFilter filter;
     filter.setSigma(0);
@@ -236,7 +236,7 @@ TEST_F(GrainFilterTest, BeyondItsEdgesTheNoiseMirrorsAlongX)
     EXPECT_TRUE(picturesNear("grain-mirrored-x", result, expected, {1e-6, 0}));
 }
 
-TEST_F(GrainFilterTest, BeyondItsEdgesTheNoiseMirrorsAlongY)
+TEST_F(GrainFilterTest, NoiseIsMirroredBeyondItsEdgesAlongY)
 {
     GrainFilter filter;
     filter.setSigma(0);
@@ -250,8 +250,8 @@ TEST_F(GrainFilterTest, BeyondItsEdgesTheNoiseMirrorsAlongY)
     EXPECT_TRUE(picturesNear("grain-mirrored-y", result, expected, {1e-6, 0}));
 }
 
-// A level apart where a sum lies on the border between two levels: with llvmpipe 10 of 786432.
-TEST_F(GrainFilterTest, TheNoiseIsBlurredByTheSigma)
+// Sums half way between two levels may differ by one level: 10 of 786432 with llvmpipe.
+TEST_F(GrainFilterTest, NoiseIsBlurredByTheSigma)
 {
     GrainFilter filter;
     filter.setSigma(2.5F);
@@ -264,7 +264,7 @@ TEST_F(GrainFilterTest, TheNoiseIsBlurredByTheSigma)
     EXPECT_TRUE(picturesNear("grain-noise", noiseOf(filter), expected, {1, 0.001}));
 }
 
-TEST_F(GrainFilterTest, WithoutSigmaTheNoiseIsTheMapItself)
+TEST_F(GrainFilterTest, SigmaOfZeroLeavesTheNoiseUnblurred)
 {
     GrainFilter filter;
     filter.setSigma(0);
@@ -272,7 +272,7 @@ TEST_F(GrainFilterTest, WithoutSigmaTheNoiseIsTheMapItself)
     EXPECT_TRUE(picturesNear("grain-bare-noise", noiseOf(filter), bareNoise()));
 }
 
-TEST_F(GrainFilterTest, TheNoiseIsBlurredWhenTheSigmaIsSet)
+TEST_F(GrainFilterTest, SettingTheSigmaBlursTheNoise)
 {
     GrainFilter filter;
     filter.setSigma(0);
@@ -284,7 +284,7 @@ TEST_F(GrainFilterTest, TheNoiseIsBlurredWhenTheSigmaIsSet)
     EXPECT_NE(readTexture(texture, noiseMapSide, noiseMapSide).values, bare.values);
 }
 
-TEST_F(GrainFilterTest, TheSameSigmaAgainLeavesTheNoiseAsItIs)
+TEST_F(GrainFilterTest, SettingTheSameSigmaDoesNotBlurAgain)
 {
     GrainFilter filter;
     filter.setSigma(0);
@@ -295,7 +295,7 @@ TEST_F(GrainFilterTest, TheSameSigmaAgainLeavesTheNoiseAsItIs)
     EXPECT_EQ(noiseOf(filter).values, BytePixels(noiseMapSide, noiseMapSide).values);
 }
 
-TEST_F(GrainFilterTest, ForgottenNoiseIsBlurredAgainWithTheSameSigma)
+TEST_F(GrainFilterTest, DiscardedNoiseIsBlurredAgainWithTheSameSigma)
 {
     GrainFilter filter;
     filter.setSigma(0);
@@ -309,7 +309,7 @@ TEST_F(GrainFilterTest, ForgottenNoiseIsBlurredAgainWithTheSameSigma)
     EXPECT_TRUE(picturesNear("grain-forgotten", noiseOf(filter), bareNoise()));
 }
 
-TEST_F(GrainFilterTest, APassBlursNoNoise)
+TEST_F(GrainFilterTest, PassDoesNotBlurTheNoise)
 {
     GrainFilter filter;
     filter.setSigma(1);
@@ -321,7 +321,7 @@ TEST_F(GrainFilterTest, APassBlursNoNoise)
     EXPECT_EQ(filter.blurredNoise(), nullptr);
 }
 
-TEST_F(GrainFilterTest, ASecondSigmaBlursAfreshWithTheSameBlurAndTarget)
+TEST_F(GrainFilterTest, SecondSigmaBlursTheMapWithTheSameBlurAndTarget)
 {
     GrainFilter filter;
     filter.setSigma(3);
@@ -336,7 +336,7 @@ TEST_F(GrainFilterTest, ASecondSigmaBlursAfreshWithTheSameBlurAndTarget)
     EXPECT_TRUE(picturesNear("grain-again", noiseOf(filter), bareNoise()));
 }
 
-TEST_F(GrainFilterTest, TheSigmaIsTheRadiusOfTheBlur)
+TEST_F(GrainFilterTest, SigmaIsTheRadiusOfTheBlur)
 {
     GrainFilter filter;
 
@@ -348,7 +348,7 @@ TEST_F(GrainFilterTest, TheSigmaIsTheRadiusOfTheBlur)
     EXPECT_EQ(filter.blur()->scale, 1.0F);
 }
 
-TEST_F(GrainFilterTest, NewWeightsFreeTheTextureOfTheFormer)
+TEST_F(GrainFilterTest, NewWeightsDeleteTheFormerTexture)
 {
     GrainFilter filter;
     filter.setWeights(everywhere);
@@ -361,7 +361,7 @@ TEST_F(GrainFilterTest, NewWeightsFreeTheTextureOfTheFormer)
     EXPECT_TRUE(glIsTexture(filter.weightsTexture()));
 }
 
-TEST_F(GrainFilterTest, EverythingItMadeGoesWithIt)
+TEST_F(GrainFilterTest, DestructorDeletesItsTextures)
 {
     GLuint weights = 0;
     GLuint noise = 0;
@@ -376,7 +376,7 @@ TEST_F(GrainFilterTest, EverythingItMadeGoesWithIt)
     EXPECT_FALSE(glIsTexture(noise));
 }
 
-// Unlike the other filters, this one leaves its last unit active: whoever draws next has to choose a unit.
+// Unlike the other filters, this one leaves its last unit active: the next pass has to select its unit.
 TEST_F(GrainFilterTest, LeavesUnitTwoActiveAndNothingBound)
 {
     GrainFilter filter;
@@ -386,12 +386,12 @@ TEST_F(GrainFilterTest, LeavesUnitTwoActiveAndNothingBound)
     runFilter(filter, FloatPixels(3, 2));
 
     EXPECT_EQ(activeUnit(), 2);
-    expectPassIsOver();
+    expectStateAfterPass();
     EXPECT_EQ(bound2D(graphics::unit::extra), 0);
     EXPECT_EQ(bound1D(graphics::unit::weights), 0);
 }
 
-TEST_P(MeanGreyTest, OfAFlatPictureIsKept)
+TEST_P(MeanGreyTest, OfAFlatImageIsKept)
 {
     GrainFilter filter;
     filter.setSigma(GetParam());
@@ -402,7 +402,7 @@ TEST_P(MeanGreyTest, OfAFlatPictureIsKept)
 
         const double mean = meanOf(runFilter(filter, reference::flatGrey(512, 512, level)));
 
-        // What a noise of one middle grey makes of it: the constants alone take one or two levels.
+        // The result with a noise of uniform middle grey: the constants alone darken by one or two levels.
         const float base = reference::fromByte(level);
         const double expected = reference::tinted(Rgb{base, base, base}, middleNoise).r * 255;
         EXPECT_NEAR(mean, expected, 1.0) << grey;

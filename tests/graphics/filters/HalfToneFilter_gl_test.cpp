@@ -47,7 +47,7 @@ FloatPixels expectedOf(const Picture &picture, float weight)
 
 } // namespace
 
-TEST_F(HalfToneFilterTest, StartsWithoutTintSizeOrDuty)
+TEST_F(HalfToneFilterTest, IsDisabledWithoutTintAndSizeInitially)
 {
     const HalfToneFilter filter;
 
@@ -59,7 +59,7 @@ TEST_F(HalfToneFilterTest, StartsWithoutTintSizeOrDuty)
     EXPECT_FALSE(filter.enabled);
 }
 
-TEST_F(HalfToneFilterTest, ProgramIsLabelledHalfTone)
+TEST_F(HalfToneFilterTest, ProgramIsNamedHalfTone)
 {
     const HalfToneFilter filter;
 
@@ -88,7 +88,7 @@ TEST_F(HalfToneFilterTest, SendsItsUniformsInOrder)
 }
 
 // h = 0, s = 1, o = 0: 0.49725 * (127.5 + 2 * tint * 0.9945 * 127.5) * 0.0039 for a middle grey.
-TEST_F(HalfToneFilterTest, WithoutWeightTheSecondColourTintsEverything)
+TEST_F(HalfToneFilterTest, WeightOfZeroTintsWithTheSecondColourOnly)
 {
     HalfToneFilter filter;
     filter.weight = 0;
@@ -99,7 +99,7 @@ TEST_F(HalfToneFilterTest, WithoutWeightTheSecondColourTintsEverything)
 }
 
 // h = 0.5, s = 0.25, o = 0.25: overlay(first) * 0.5 + overlay(second) * 0.25 + 0.125, the overlays as above.
-TEST_F(HalfToneFilterTest, AMiddleGreyTakesSomethingOfBothColoursAndOfItself)
+TEST_F(HalfToneFilterTest, MiddleGreyMixesBothColoursAndItself)
 {
     HalfToneFilter filter;
     filter.weight = 1;
@@ -110,7 +110,7 @@ TEST_F(HalfToneFilterTest, AMiddleGreyTakesSomethingOfBothColoursAndOfItself)
 }
 
 // h = 1, s = 0, o = 0: 0.9945 * 255 * 0.0039, whatever the tint.
-TEST_F(HalfToneFilterTest, WhiteOnlyLosesWhatTheConstantTakes)
+TEST_F(HalfToneFilterTest, WhiteIsDarkenedByTheConstantOnly)
 {
     HalfToneFilter filter;
     filter.weight = 1;
@@ -130,8 +130,8 @@ TEST_F(HalfToneFilterTest, BlackStaysBlack)
     expectColour(runFilter(filter, grey(0)), 0, 0, 0);
 }
 
-// No tint is neutral. The one that comes nearest, 1 / (2 * 0.9945), multiplies every grey by 0.9945 * 0.9945.
-TEST_F(HalfToneFilterTest, AGreyTintKeepsTheTonesButForItsFactor)
+// No tint is neutral. The nearest one, 1 / (2 * 0.9945), multiplies every grey by 0.9945 * 0.9945.
+TEST_F(HalfToneFilterTest, GreyTintMultipliesTheTonesByAConstant)
 {
     HalfToneFilter filter;
     filter.weight = 0;
@@ -159,7 +159,7 @@ TEST_F(HalfToneFilterTest, FloatsFollowTheFormula)
     EXPECT_TRUE(picturesNear("split-floats", result, expectedOf(ramp, 0.7F), {1e-6, 0}));
 }
 
-// A level apart where the result lies on the border between two levels; none with llvmpipe.
+// Results half way between two levels may differ by one level; none does with llvmpipe.
 TEST_F(HalfToneFilterTest, BytesFollowTheFormula)
 {
     HalfToneFilter filter;
@@ -180,7 +180,7 @@ TEST_F(HalfToneFilterTest, LeavesNothingBound)
     runFilter(filter, grey(0.5F));
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

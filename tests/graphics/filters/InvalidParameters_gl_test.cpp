@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Parameters that are negative, infinite or not a number; no panel sends them. OpenGL leaves open what a target stores
-// where a result is not a number: such pixels are left out, all others are defined.
+// Parameters that are negative, infinite or NaN; no panel emits them. In OpenGL the value that a target stores for NaN
+// is undefined: such pixels are not compared.
 #include "graphics/filters/FilterSet.h"
 #include "graphics/filters/FinalVignetteFilter.h"
 #include "graphics/filters/OverlayFilter.h"
@@ -66,7 +66,7 @@ Look usualParameters()
     return parameters;
 }
 
-/// The results of the five filters, each for itself.
+/// The results of the five filters, each applied alone.
 std::vector<BytePixels> resultsOf(FilterSet &filters, const Look &parameters, const BytePixels &image)
 {
     filters.setLook(parameters);
@@ -77,7 +77,7 @@ std::vector<BytePixels> resultsOf(FilterSet &filters, const Look &parameters, co
              &filters.get<MixerFilter>(), &filters.get<CurveFilter>(), &filters.get<VignetteFilter>(),
              &filters.get<HalfToneFilter>(), &filters.get<GrainFilter>()}) {
         results.push_back(runFilter(*filter, image));
-        expectPassIsOver();
+        expectStateAfterPass();
     }
     return results;
 }
@@ -251,7 +251,7 @@ TEST_F(InvalidParametersTest, InvalidStrengthLeavesTheImageAndAnEmptyMask)
     }
 }
 
-// The darkening is infinite and its overlay not a number, which Mesa's drivers store as 0: black, as in the panel.
+// The darkening is infinite and its overlay NaN, which Mesa's drivers store as 0: black, as in the panel.
 TEST_F(InvalidParametersTest, VignetteWithoutRadiusIsBlack)
 {
     VignetteFilter filter;

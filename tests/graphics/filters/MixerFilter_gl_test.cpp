@@ -30,7 +30,7 @@ FloatPixels expectedOf(const BytePixels &picture, Rgb weights)
 
 } // namespace
 
-TEST_F(MixerFilterTest, StartsWithoutWeightSizeOrDuty)
+TEST_F(MixerFilterTest, IsDisabledWithoutWeightsAndSizeInitially)
 {
     const MixerFilter filter;
 
@@ -41,7 +41,7 @@ TEST_F(MixerFilterTest, StartsWithoutWeightSizeOrDuty)
     EXPECT_FALSE(filter.enabled);
 }
 
-TEST_F(MixerFilterTest, ProgramIsLabelledAsTheConversion)
+TEST_F(MixerFilterTest, ProgramIsNamedBWConversionMixer)
 {
     const MixerFilter filter;
 
@@ -65,7 +65,7 @@ TEST_F(MixerFilterTest, SendsItsUniformsInOrder)
     EXPECT_EQ(recorder.programs(), std::vector<GLuint>{filter.program().program});
 }
 
-TEST_F(MixerFilterTest, EachChannelCountsWithItsWeight)
+TEST_F(MixerFilterTest, EachChannelIsMultipliedByItsWeight)
 {
     MixerFilter filter;
     filter.weights = {0.3F, 0.59F, 0.11F};
@@ -89,7 +89,7 @@ TEST_F(MixerFilterTest, WeightsAreNotNormalised)
     EXPECT_EQ(runFilter(filter, redGreenBlueWhite).at(3, 0, 0), 3.0F);
 }
 
-TEST_F(MixerFilterTest, ABytePictureClampsAtWhite)
+TEST_F(MixerFilterTest, ByteImageIsClampedAtWhite)
 {
     MixerFilter filter;
     filter.weights = {1, 1, 1};
@@ -99,7 +99,7 @@ TEST_F(MixerFilterTest, ABytePictureClampsAtWhite)
     EXPECT_EQ(result.values, (std::vector<std::uint8_t>{255, 255, 255}));
 }
 
-TEST_F(MixerFilterTest, NegativeWeightsDarkenDownToBlack)
+TEST_F(MixerFilterTest, NegativeWeightsAreClampedAtBlack)
 {
     MixerFilter filter;
     filter.weights = {-0.5F, 1, 0};
@@ -109,7 +109,7 @@ TEST_F(MixerFilterTest, NegativeWeightsDarkenDownToBlack)
     EXPECT_EQ(result.values, (std::vector<std::uint8_t>{0, 0, 0, 50, 50, 50}));
 }
 
-TEST_F(MixerFilterTest, WeightsThatAddUpToOneKeepEveryGrey)
+TEST_F(MixerFilterTest, WeightsWithSumOneKeepEveryGrey)
 {
     MixerFilter filter;
     filter.weights = {0.25F, 0.5F, 0.25F};
@@ -130,7 +130,7 @@ TEST_F(MixerFilterTest, FloatsFollowTheFormula)
                              {1e-6, 0}));
 }
 
-// A level apart where the sum lies on the border between two levels; none with llvmpipe.
+// Sums half way between two levels may differ by one level; none does with llvmpipe.
 TEST_F(MixerFilterTest, BytesFollowTheFormula)
 {
     MixerFilter filter;
@@ -149,7 +149,7 @@ TEST_F(MixerFilterTest, LeavesNothingBound)
     runFilter(filter, redGreenBlueWhite);
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

@@ -41,7 +41,7 @@ private:
 
 } // namespace
 
-TEST_F(NoiseMapTest, TheTextureHasTheBytesOfTheFile)
+TEST_F(NoiseMapTest, TextureContainsTheBytesOfTheFile)
 {
     const BytePixels picture = rampPicture<std::uint8_t>(5, 3);
     const LogCapture log;
@@ -52,7 +52,7 @@ TEST_F(NoiseMapTest, TheTextureHasTheBytesOfTheFile)
     EXPECT_EQ(log.warnings(), QStringList());
 }
 
-TEST_F(NoiseMapTest, AFileOneByteShortIsLoggedAndStillMakesATexture)
+TEST_F(NoiseMapTest, FileOneByteTooShortIsLoggedAndGivesATexture)
 {
     BytePixels picture = rampPicture<std::uint8_t>(noiseMapSide, noiseMapSide);
     picture.values.pop_back();
@@ -66,7 +66,7 @@ TEST_F(NoiseMapTest, AFileOneByteShortIsLoggedAndStillMakesATexture)
     EXPECT_TRUE(picturesNear("raw-short", readTexture(texture.name(), noiseMapSide, noiseMapSide), picture));
 }
 
-TEST_F(NoiseMapTest, AFileTooLongIsLoggedAndItsBeginningUsed)
+TEST_F(NoiseMapTest, TooLongFileIsLoggedAndTruncated)
 {
     BytePixels picture = rampPicture<std::uint8_t>(5, 3);
     std::vector<std::uint8_t> bytes = picture.values;
@@ -80,7 +80,7 @@ TEST_F(NoiseMapTest, AFileTooLongIsLoggedAndItsBeginningUsed)
     EXPECT_TRUE(picturesNear("raw-long", readTexture(texture.name(), 5, 3), picture));
 }
 
-TEST_F(NoiseMapTest, AMissingFileIsLoggedAndStillMakesATexture)
+TEST_F(NoiseMapTest, MissingFileIsLoggedAndGivesATexture)
 {
     const LogCapture log;
 
@@ -90,7 +90,7 @@ TEST_F(NoiseMapTest, AMissingFileIsLoggedAndStillMakesATexture)
     EXPECT_TRUE(picturesNear("raw-missing", readTexture(texture.name(), 5, 3), BytePixels(5, 3)));
 }
 
-TEST_F(NoiseMapTest, FourChannelsAreLoggedAndTakenForThree)
+TEST_F(NoiseMapTest, FourChannelsAreLoggedAndReadAsThree)
 {
     BytePixels picture = rampPicture<std::uint8_t>(5, 3);
     std::vector<std::uint8_t> bytes = picture.values;
@@ -104,7 +104,7 @@ TEST_F(NoiseMapTest, FourChannelsAreLoggedAndTakenForThree)
     EXPECT_TRUE(picturesNear("raw-four", readTexture(texture.name(), 5, 3), picture));
 }
 
-TEST_F(NoiseMapTest, OneChannelIsLoggedAndTakenForThree)
+TEST_F(NoiseMapTest, OneChannelIsLoggedAndReadAsThree)
 {
     const QString path = fileWith(std::vector<std::uint8_t>(5 * 3, 9));
     const LogCapture log;
@@ -115,7 +115,7 @@ TEST_F(NoiseMapTest, OneChannelIsLoggedAndTakenForThree)
     EXPECT_EQ(readTexture(texture.name(), 5, 3).at(4, 0, 2), 9);
 }
 
-TEST_F(NoiseMapTest, TheProgramsOwnMapIsWholeAndLoadsWithoutAWord)
+TEST_F(NoiseMapTest, EmbeddedMapIsCompleteAndLoadsWithoutWarning)
 {
     QFile file(QStringLiteral(":/Icons/Icons/noiseMap_512x512x3.raw"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));

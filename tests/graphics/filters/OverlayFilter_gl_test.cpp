@@ -30,7 +30,7 @@ Texture maskTexture(const FloatPixels &mask)
     return Texture(graphics::createTexture(mask.width, mask.height, GL_R32F, GL_RED, GL_FLOAT, mask.values.data()));
 }
 
-/// One pixel of the given grey under one value of the mask.
+/// One pixel of the given grey, filtered with one value of the mask.
 float darkened(float grey, float maskValue)
 {
     const Texture mask = maskTexture(FloatPixels(1, 1, 1, {maskValue}));
@@ -39,7 +39,7 @@ float darkened(float grey, float maskValue)
     return runFilter(filter, FloatPixels(1, 1, 3, {grey, grey, grey})).at(0, 0, 0);
 }
 
-/// Different in every pixel, from 0 to beyond 1, not symmetric.
+/// An asymmetric mask that differs in every pixel, from 0 to more than 1.
 FloatPixels slantedMask(int width, int height)
 {
     FloatPixels mask(width, height, 1);
@@ -61,7 +61,7 @@ FloatPixels expectedOf(const Picture &picture, const FloatPixels &mask)
 
 } // namespace
 
-TEST_F(OverlayFilterTest, StartsWithoutMaskSizeOrDuty)
+TEST_F(OverlayFilterTest, IsDisabledWithoutMaskAndSizeInitially)
 {
     const OverlayFilter filter;
 
@@ -72,8 +72,8 @@ TEST_F(OverlayFilterTest, StartsWithoutMaskSizeOrDuty)
     EXPECT_FALSE(filter.enabled);
 }
 
-// The mixer's label, on purpose: both programs are listed under it.
-TEST_F(OverlayFilterTest, ProgramIsLabelledLikeTheMixers)
+// The name is that of the mixer on purpose: both programs are listed under it.
+TEST_F(OverlayFilterTest, ProgramHasTheNameOfTheMixerProgram)
 {
     const OverlayFilter filter;
 
@@ -94,8 +94,8 @@ TEST_F(OverlayFilterTest, SendsItsUniformsInOrder)
     EXPECT_EQ(recorder.programs(), std::vector<GLuint>{filter.program().program});
 }
 
-// A middle grey is 127.5: I * 0.0039 = 0.49725 without the mask, I * I * 0.0039 * 0.0039 = 0.2472576 with all of it.
-TEST_F(OverlayFilterTest, TheMaskBlendsThePixelWithItsSquare)
+// A middle grey is I = 127.5: I * 0.0039 = 0.49725 for a mask of 0, I * I * 0.0039 * 0.0039 = 0.2472576 for 1.
+TEST_F(OverlayFilterTest, MaskBlendsThePixelWithItsSquare)
 {
     EXPECT_NEAR(darkened(0.5F, 0), 0.49725, 1e-6);
     EXPECT_NEAR(darkened(0.5F, 0.25F), 0.4347519, 1e-6);
@@ -103,12 +103,12 @@ TEST_F(OverlayFilterTest, TheMaskBlendsThePixelWithItsSquare)
     EXPECT_NEAR(darkened(0.5F, 1), 0.2472576, 1e-6);
 }
 
-TEST_F(OverlayFilterTest, AMaskBeyondOneDarkensFurther)
+TEST_F(OverlayFilterTest, MaskAboveOneDarkensFurther)
 {
     EXPECT_NEAR(darkened(0.5F, 1.5F), 0.1222613, 1e-6);
 }
 
-TEST_F(OverlayFilterTest, AnEmptyMaskOnlyTakesWhatTheConstantTakes)
+TEST_F(OverlayFilterTest, MaskOfZeroDarkensByTheConstantOnly)
 {
     const FloatPixels ramp = reference::asFloats(rampPicture<std::uint8_t>(67, 41));
     const Texture mask = maskTexture(FloatPixels(67, 41, 1));
@@ -134,7 +134,7 @@ TEST_F(OverlayFilterTest, FloatsFollowTheFormula)
     EXPECT_TRUE(picturesNear("overlay-floats", result, expectedOf(ramp, values), {1e-6, 0}));
 }
 
-// A level apart where the result lies on the border between two levels; none with llvmpipe.
+// Results half way between two levels may differ by one level; none does with llvmpipe.
 TEST_F(OverlayFilterTest, BytesFollowTheFormula)
 {
     const BytePixels ramp = reference::greyRamp();
@@ -147,7 +147,7 @@ TEST_F(OverlayFilterTest, BytesFollowTheFormula)
                              {1, 0.001}));
 }
 
-TEST_F(OverlayFilterTest, TheMaskStaysWithWhoeverSetIt)
+TEST_F(OverlayFilterTest, DestructorKeepsTheMask)
 {
     const Texture mask = maskTexture(FloatPixels(1, 1, 1));
     {
@@ -157,12 +157,12 @@ TEST_F(OverlayFilterTest, TheMaskStaysWithWhoeverSetIt)
     EXPECT_TRUE(glIsTexture(mask.name()));
 }
 
-TEST_F(OverlayFilterTest, LeavesUnitZeroActiveAndNoPictureBound)
+TEST_F(OverlayFilterTest, LeavesUnitZeroActiveAndNo2DTextureBound)
 {
     darkened(0.5F, 0.5F);
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

@@ -29,7 +29,7 @@ void set(VignetteFilter &filter, const Vignette &vignette, float pictureWidth, f
     filter.maxHeight = pictureHeight;
 }
 
-/// The first pixel, a middle grey, of a picture of 1000 x 1000.
+/// The first pixel, a middle grey, of an image of 1000 x 1000.
 float firstPixelUnder(const Vignette &vignette)
 {
     VignetteFilter filter;
@@ -49,7 +49,7 @@ constexpr Vignette offCentre{30, 80, 70, 40};
 
 } // namespace
 
-TEST_F(VignetteFilterTest, StartsAtTheFirstPixelWithoutSizeOrDuty)
+TEST_F(VignetteFilterTest, IsCentredAtTheFirstPixelAndDisabledInitially)
 {
     const VignetteFilter filter;
 
@@ -62,14 +62,14 @@ TEST_F(VignetteFilterTest, StartsAtTheFirstPixelWithoutSizeOrDuty)
     EXPECT_FALSE(filter.enabled);
 }
 
-TEST_F(VignetteFilterTest, ProgramIsLabelledBWVignette)
+TEST_F(VignetteFilterTest, ProgramIsNamedBWVignette)
 {
     const VignetteFilter filter;
 
     EXPECT_EQ(filter.program().name, "BWVignette");
 }
 
-// The program has neither MaxPixel nor the three sizes of the noise, and it does not read the noise.
+// The program has neither MaxPixel nor the three sizes of the noise, and it does not use the noise.
 TEST_F(VignetteFilterTest, SendsItsUniformsInOrder)
 {
     VignetteFilter filter;
@@ -95,8 +95,9 @@ TEST_F(VignetteFilterTest, SendsItsUniformsInOrder)
     EXPECT_EQ(recorder.programs(), std::vector<GLuint>{filter.program().program});
 }
 
-// The first pixel's middle lies at (0.5, 0.5), that is 0.05 % of 1000. With a strength of 50 and a radius of 100 the
-// darkening is 0 there, 0.25 at 500 pixels from the centre and 0.5 at 1000: 0.0039 * (127.5 - v * (127.5 - 63.39...)).
+// The centre of the first pixel is at (0.5, 0.5), which is 0.05 % of 1000. With a strength of 50 and a radius of 100
+// the darkening is 0 there, 0.25 at 500 pixels from the centre and 0.5 at 1000: 0.0039 * (127.5 - v * (127.5
+// - 63.39...)).
 TEST_F(VignetteFilterTest, DarkensWithTheDistanceFromTheCentre)
 {
     EXPECT_NEAR(firstPixelUnder({0.05F, 0.05F, 50, 100}), 0.49725, 1e-6);
@@ -104,7 +105,7 @@ TEST_F(VignetteFilterTest, DarkensWithTheDistanceFromTheCentre)
     EXPECT_NEAR(firstPixelUnder({0.05F, 100.05F, 50, 100}), 0.3722538, 1e-6);
 }
 
-TEST_F(VignetteFilterTest, WithoutStrengthNothingChangesAtAll)
+TEST_F(VignetteFilterTest, StrengthOfZeroChangesNothing)
 {
     const BytePixels ramp = rampPicture<std::uint8_t>(67, 41);
     VignetteFilter filter;
@@ -115,7 +116,7 @@ TEST_F(VignetteFilterTest, WithoutStrengthNothingChangesAtAll)
     EXPECT_TRUE(picturesNear("vignette-neutral-floats", reference::withoutAlpha(runFilter(filter, floats)), floats));
 }
 
-TEST_F(VignetteFilterTest, ANegativeStrengthChangesNothingEither)
+TEST_F(VignetteFilterTest, NegativeStrengthChangesNothing)
 {
     const BytePixels ramp = rampPicture<std::uint8_t>(67, 41);
     VignetteFilter filter;
@@ -145,7 +146,7 @@ TEST_F(VignetteFilterTest, FloatsFollowTheFormula)
     EXPECT_TRUE(picturesNear("vignette-floats", result, expectedOf(ramp, offCentre, 67, 41), {2e-6, 0}));
 }
 
-// A level apart where the result lies on the border between two levels; none with llvmpipe.
+// Results half way between two levels may differ by one level; none does with llvmpipe.
 TEST_F(VignetteFilterTest, BytesFollowTheFormula)
 {
     const BytePixels ramp = reference::greyRamp();
@@ -157,7 +158,7 @@ TEST_F(VignetteFilterTest, BytesFollowTheFormula)
     EXPECT_TRUE(picturesNear("vignette-bytes", runFilter(filter, ramp), expected, {1, 0.001}));
 }
 
-TEST_F(VignetteFilterTest, GoesByTheSizeOfTheWholePicture)
+TEST_F(VignetteFilterTest, DependsOnTheSizeOfTheWholeImage)
 {
     const FloatPixels ramp = reference::asFloats(rampPicture<std::uint8_t>(67, 41));
     VignetteFilter filter;
@@ -176,8 +177,8 @@ TEST_F(VignetteFilterTest, LeavesNothingBound)
     runFilter(filter, FloatPixels(1, 1));
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
-    // The program does not read the noise, so that it is not bound either.
+    expectStateAfterPass();
+    // The program does not use the noise, so it is not bound.
     EXPECT_EQ(bound2D(graphics::unit::extra), 0);
 }
 

@@ -24,7 +24,7 @@ int masks = 0;
 
 } // namespace
 
-/// Stands in for the driver's and counts the textures of masks, drawn or computed: no other one has their format.
+/// Replaces the function of the OpenGL driver and counts the textures of masks, which are the only ones of this format.
 extern "C" void GLAPIENTRY glTexImage2D(GLenum target, GLint level, GLint internalFormat, GLsizei width, GLsizei height,
                                         GLint border, GLenum format, GLenum type, const void *pixels)
 {
@@ -45,8 +45,8 @@ using graphics::VignetteParameters;
 
 constexpr int width = 516;
 constexpr int height = 124;
-constexpr std::uint32_t roomForIt = 1024;
-constexpr std::uint32_t noRoomForIt = 515;
+constexpr std::uint32_t sufficientLimit = 1024;
+constexpr std::uint32_t insufficientLimit = 515;
 
 const VignetteParameters centred{{50, 50, 0}, 50, 50};
 const VignetteParameters offCentre{{30, 80, 0}, 90, 25};
@@ -69,11 +69,11 @@ class DrawnPieces : public GlTest, public testing::WithParamInterface<Case>
 {
 };
 
-/// How far pieces are from the whole that they are compared with.
+/// The differences between pieces and the whole.
 struct Apart {
     double largest = 0;          ///< largest difference of two values
     int mostLevels = 0;          ///< the same in levels of 1/255, both values rounded
-    std::size_t otherLevels = 0; ///< pixels whose level is another
+    std::size_t otherLevels = 0; ///< pixels of another level
     std::size_t pixels = 0;      ///< pixels compared
 
     void add(const std::vector<float> &piece, const TileArea &area, const std::vector<float> &whole,
@@ -138,30 +138,30 @@ double relativeDifference(const std::vector<float> &actual, const std::vector<fl
 
 } // namespace
 
-TEST_F(VignetteMaskTest, TheGpusMaskFollowsTheFormulaForItsOwnSize)
+TEST_F(VignetteMaskTest, GpuMaskFollowsTheFormulaForItsSize)
 {
-    const std::vector<float> mask = makeVignetteMask(offCentre, width, height, roomForIt);
+    const std::vector<float> mask = makeVignetteMask(offCentre, width, height, sufficientLimit);
 
     EXPECT_TRUE(picturesNear("mask-gpu", asPicture(mask), expectedMask(), {1e-5, 0}));
 }
 
-TEST_F(VignetteMaskTest, TheComputedMaskFollowsTheFormulaForItsOwnSize)
+TEST_F(VignetteMaskTest, CpuMaskFollowsTheFormulaForItsSize)
 {
-    const std::vector<float> mask = makeVignetteMask(offCentre, width, height, noRoomForIt);
+    const std::vector<float> mask = makeVignetteMask(offCentre, width, height, insufficientLimit);
 
     EXPECT_TRUE(picturesNear("mask-cpu", asPicture(mask), expectedMask(), {1e-5, 0}));
 }
 
-TEST_F(VignetteMaskTest, BothWaysAgree)
+TEST_F(VignetteMaskTest, GpuAndCpuMasksAgree)
 {
-    const double apart = relativeDifference(makeVignetteMask(offCentre, width, height, roomForIt),
-                                            makeVignetteMask(offCentre, width, height, noRoomForIt));
+    const double apart = relativeDifference(makeVignetteMask(offCentre, width, height, sufficientLimit),
+                                            makeVignetteMask(offCentre, width, height, insufficientLimit));
 
     std::cout << "masks: largest relative difference " << apart << "\n";
     EXPECT_LE(apart, 1e-4);
 }
 
-TEST_F(VignetteMaskTest, AMaskThatFitsIsDrawnWithoutAWord)
+TEST_F(VignetteMaskTest, MaskWithinTheSizeLimitIsDrawnWithoutLogging)
 {
     const LogCapture log;
 
@@ -170,7 +170,7 @@ TEST_F(VignetteMaskTest, AMaskThatFitsIsDrawnWithoutAWord)
     EXPECT_EQ(log.debugs() + log.warnings(), QStringList());
 }
 
-TEST_F(VignetteMaskTest, AMaskTooWideForTheGpuIsComputedAndTheLogSaysSo)
+TEST_F(VignetteMaskTest, MaskTooWideForTheGpuIsComputedAndLogged)
 {
     const LogCapture log;
 
@@ -180,7 +180,7 @@ TEST_F(VignetteMaskTest, AMaskTooWideForTheGpuIsComputedAndTheLogSaysSo)
               QStringList{"(INFO) Vignette mask computed without the GPU, its largest texture side is 515"});
 }
 
-TEST_F(VignetteMaskTest, AMaskTooHighForTheGpuIsComputedAndTheLogSaysSo)
+TEST_F(VignetteMaskTest, MaskTooHighForTheGpuIsComputedAndLogged)
 {
     const LogCapture log;
 
@@ -190,7 +190,7 @@ TEST_F(VignetteMaskTest, AMaskTooHighForTheGpuIsComputedAndTheLogSaysSo)
               QStringList{"(INFO) Vignette mask computed without the GPU, its largest texture side is 39"});
 }
 
-TEST_F(VignetteMaskTest, WithoutStrengthBothWaysAreEmpty)
+TEST_F(VignetteMaskTest, GpuAndCpuMasksAreZeroWithoutStrength)
 {
     const VignetteParameters nothing{{30, 80, 0}, 0, 25};
 
@@ -198,15 +198,15 @@ TEST_F(VignetteMaskTest, WithoutStrengthBothWaysAreEmpty)
     EXPECT_EQ(makeVignetteMask(nothing, 5, 3, 2), std::vector<float>(15, 0));
 }
 
-TEST_F(VignetteMaskTest, OddRowsComeBackWhole)
+TEST_F(VignetteMaskTest, UnalignedRowsAreReadCompletely)
 {
     EXPECT_LE(relativeDifference(makeVignetteMask(offCentre, 513, 3, 1024), makeVignetteMask(offCentre, 513, 3, 1)),
               1e-4);
 }
 
-TEST_F(VignetteMaskTest, AComputedPieceIsBitForBitThatOfTheWhole)
+TEST_F(VignetteMaskTest, PieceOfTheCpuMaskEqualsTheAreaOfTheWhole)
 {
-    VignetteMask mask(offCentre, width, height, noRoomForIt);
+    VignetteMask mask(offCentre, width, height, insufficientLimit);
     const std::vector<float> whole = pieceOf(mask, {0, 0, width, height});
     const std::vector<float> piece = pieceOf(mask, {387, 31, 129, 31});
     for (std::size_t i = 0; i < piece.size(); ++i) {
@@ -214,9 +214,9 @@ TEST_F(VignetteMaskTest, AComputedPieceIsBitForBitThatOfTheWhole)
     }
 }
 
-// A drawn piece has a centre of its own, a float in percent. Its rounding moves a value to the next of 255 levels at
-// most, and hardly any value at all.
-TEST_P(DrawnPieces, AreLevelForLevelThoseOfTheWhole)
+// A drawn piece has its own centre, a float in percent. Its rounding changes few values, and these by at most one of
+// 255 levels.
+TEST_P(DrawnPieces, HaveTheLevelsOfTheWhole)
 {
     const Case &mask = GetParam();
     VignetteMask drawn(mask.vignette, mask.width, mask.height, std::max(mask.width, mask.height));
@@ -246,7 +246,7 @@ INSTANTIATE_TEST_SUITE_P(Masks, DrawnPieces,
                                          Case{"SmallRadius", 2052, 2052, {{30, 80, 0}, 100, 1}}),
                          [](const auto &test) { return test.param.name; });
 
-TEST_F(VignetteMaskTest, IsMadeOnlyWhileTheVignetteIsOn)
+TEST_F(VignetteMaskTest, IsCreatedOnlyIfTheVignetteIsEnabled)
 {
     graphics::FlexibleDocumentView view(8, 8, 8, 8, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE);
     graphics::FilterSet filters;
@@ -266,10 +266,10 @@ TEST_F(VignetteMaskTest, IsMadeOnlyWhileTheVignetteIsOn)
 
 TEST_F(VignetteMaskTest, LeavesNothingBound)
 {
-    makeVignetteMask(offCentre, width, height, roomForIt);
+    makeVignetteMask(offCentre, width, height, sufficientLimit);
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
 } // namespace grisal::test

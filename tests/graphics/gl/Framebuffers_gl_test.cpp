@@ -23,7 +23,7 @@ class FramebuffersTest : public GlTest
 {
 };
 
-class OddReadBackTest : public GlTest, public testing::WithParamInterface<int>
+class UnalignedReadBackTest : public GlTest, public testing::WithParamInterface<int>
 {
 };
 
@@ -77,7 +77,7 @@ GLenum GLAPIENTRY checkWithFakedStatus(GLenum)
     return fakedStatus;
 }
 
-/// The warnings for a new target whose status the driver reports as `status`; it is a target all the same.
+/// The warnings for a new target whose status the OpenGL driver reports as `status`; expects that it is returned.
 QStringList warningsAbout(GLenum status)
 {
     const LogCapture log;
@@ -94,7 +94,7 @@ QStringList warningsAbout(GLenum status)
 
 } // namespace
 
-TEST_F(FramebuffersTest, ARecordNamesItsAttachments)
+TEST_F(FramebuffersTest, RecordContainsTheAttachments)
 {
     const RenderTarget target(6, 4, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
 
@@ -113,7 +113,7 @@ TEST_F(FramebuffersTest, ColourAndDepthHaveTheSizeOfTheTarget)
     EXPECT_EQ(depthParameter(target.record(), GL_RENDERBUFFER_HEIGHT), 4);
 }
 
-TEST_F(FramebuffersTest, TheSecondFormatIsTheInternalOne)
+TEST_F(FramebuffersTest, SecondFormatIsTheInternalFormat)
 {
     const RenderTarget target(6, 4, GL_RED, GL_R32F, GL_FLOAT);
 
@@ -128,19 +128,19 @@ TEST_F(FramebuffersTest, SixteenBitColourGetsASixteenBitDepth)
     EXPECT_EQ(depthParameter(target.record(), GL_RENDERBUFFER_DEPTH_SIZE), 16);
 }
 
-TEST_F(FramebuffersTest, AnyOtherColourGetsTheDriversDepth)
+TEST_F(FramebuffersTest, OtherColoursGetTheDefaultDepthOfTheDriver)
 {
     const RenderTarget bytes(6, 4, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
-    const RenderTarget halves(6, 4, GL_RGB, GL_RGB16F, GL_UNSIGNED_SHORT);
+    const RenderTarget halfFloats(6, 4, GL_RGB, GL_RGB16F, GL_UNSIGNED_SHORT);
     const RenderTarget mask(6, 4, GL_RED, GL_R32F, GL_FLOAT);
 
-    for (const RenderTarget *target : {&bytes, &halves, &mask}) {
+    for (const RenderTarget *target : {&bytes, &halfFloats, &mask}) {
         EXPECT_EQ(depthParameter(target->record(), GL_RENDERBUFFER_INTERNAL_FORMAT), GL_DEPTH_COMPONENT);
         EXPECT_GE(depthParameter(target->record(), GL_RENDERBUFFER_DEPTH_SIZE), 16);
     }
 }
 
-TEST_F(FramebuffersTest, EveryFormatInUseMakesACompleteTargetWithoutAWord)
+TEST_F(FramebuffersTest, EveryFormatInUseIsCompleteWithoutWarning)
 {
     struct Formats {
         GLenum format;
@@ -169,14 +169,14 @@ TEST_F(FramebuffersTest, LogsThreeStatesAndReturnsTheTarget)
               QStringList{"Failed to create Framebuffer: GL_FRAMEBUFFER_ARB not supported"});
 }
 
-TEST_F(FramebuffersTest, LogsNothingAboutAnyOtherStateAndReturnsTheTarget)
+TEST_F(FramebuffersTest, LogsNoOtherStateAndReturnsTheTarget)
 {
     EXPECT_EQ(warningsAbout(GL_FRAMEBUFFER_INCOMPLETE_DIMENSIONS_EXT), QStringList());
     EXPECT_EQ(warningsAbout(GL_FRAMEBUFFER_INCOMPLETE_MULTISAMPLE), QStringList());
     EXPECT_EQ(warningsAbout(0), QStringList());
 }
 
-TEST_F(FramebuffersTest, FramebufferZeroIsBoundAfterMakingOne)
+TEST_F(FramebuffersTest, CreationLeavesFramebufferZeroBound)
 {
     const RenderTarget first(6, 4, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     glBindFramebuffer(GL_FRAMEBUFFER, first.record().framebuffer);
@@ -186,7 +186,7 @@ TEST_F(FramebuffersTest, FramebufferZeroIsBoundAfterMakingOne)
     EXPECT_EQ(glInteger(GL_FRAMEBUFFER_BINDING), 0);
 }
 
-TEST_F(FramebuffersTest, AnIncompleteTargetIsLoggedAndReturned)
+TEST_F(FramebuffersTest, IncompleteTargetIsLoggedAndReturned)
 {
     const LogCapture log;
 
@@ -200,7 +200,7 @@ TEST_F(FramebuffersTest, AnIncompleteTargetIsLoggedAndReturned)
     clearGlErrors();
 }
 
-TEST_F(FramebuffersTest, AFailedTextureAndItsTargetAreLoggedOneAfterTheOther)
+TEST_F(FramebuffersTest, FailedTextureAndItsTargetAreLoggedInThisOrder)
 {
     const LogCapture log;
 
@@ -213,7 +213,7 @@ TEST_F(FramebuffersTest, AFailedTextureAndItsTargetAreLoggedOneAfterTheOther)
     clearGlErrors();
 }
 
-TEST_F(FramebuffersTest, AnOwnerDeletesAllThreeNames)
+TEST_F(FramebuffersTest, DestructorDeletesAllThreeObjects)
 {
     FramebufferObject record;
     {
@@ -228,7 +228,7 @@ TEST_F(FramebuffersTest, AnOwnerDeletesAllThreeNames)
     EXPECT_FALSE(glIsFramebuffer(record.framebuffer));
 }
 
-TEST_P(OddReadBackTest, WritesEveryPixelAndNothingBeyond)
+TEST_P(UnalignedReadBackTest, WritesEveryPixelAndNothingBeyond)
 {
     constexpr int height = 3;
     constexpr std::size_t guard = 64;
@@ -245,24 +245,24 @@ TEST_P(OddReadBackTest, WritesEveryPixelAndNothingBeyond)
     EXPECT_EQ(std::vector<std::uint8_t>(end, bytes.end()), std::vector<std::uint8_t>(guard, 0xA5));
 }
 
-TEST_P(OddReadBackTest, WritesEveryWordAndNothingBeyond)
+TEST_P(UnalignedReadBackTest, WritesEverySampleAndNothingBeyond)
 {
     constexpr int height = 3;
     constexpr std::size_t guard = 64;
     const RenderTarget target(GetParam(), height, GL_RGB, GL_RGB16F, GL_UNSIGNED_SHORT);
     fill(target.record(), 1, 1, 1);
     const std::size_t size = static_cast<std::size_t>(GetParam()) * height * 3;
-    std::vector<std::uint16_t> words(size + guard, 0xA5A5);
+    std::vector<std::uint16_t> samples(size + guard, 0xA5A5);
     glPixelStorei(GL_PACK_ALIGNMENT, 8);
 
-    graphics::readPixels(target.record(), GetParam(), height, GL_RGB, GL_UNSIGNED_SHORT, words.data());
+    graphics::readPixels(target.record(), GetParam(), height, GL_RGB, GL_UNSIGNED_SHORT, samples.data());
 
-    const auto end = words.begin() + static_cast<std::ptrdiff_t>(size);
-    EXPECT_EQ(std::vector<std::uint16_t>(words.begin(), end), std::vector<std::uint16_t>(size, 65535));
-    EXPECT_EQ(std::vector<std::uint16_t>(end, words.end()), std::vector<std::uint16_t>(guard, 0xA5A5));
+    const auto end = samples.begin() + static_cast<std::ptrdiff_t>(size);
+    EXPECT_EQ(std::vector<std::uint16_t>(samples.begin(), end), std::vector<std::uint16_t>(size, 65535));
+    EXPECT_EQ(std::vector<std::uint16_t>(end, samples.end()), std::vector<std::uint16_t>(guard, 0xA5A5));
 }
 
-INSTANTIATE_TEST_SUITE_P(Widths, OddReadBackTest, testing::Values(1, 3, 5, 513, 515));
+INSTANTIATE_TEST_SUITE_P(Widths, UnalignedReadBackTest, testing::Values(1, 3, 5, 513, 515));
 
 TEST_F(FramebuffersTest, ReadingBackLeavesFramebufferZeroBound)
 {
@@ -276,7 +276,7 @@ TEST_F(FramebuffersTest, ReadingBackLeavesFramebufferZeroBound)
     EXPECT_EQ(glInteger(GL_FRAMEBUFFER_BINDING), 0);
 }
 
-TEST_F(FramebuffersTest, AskingForCompletenessLeavesFramebufferZeroBound)
+TEST_F(FramebuffersTest, IsCompleteLeavesFramebufferZeroBound)
 {
     const RenderTarget target(1, 1, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     glBindFramebuffer(GL_FRAMEBUFFER, target.record().framebuffer);

@@ -6,7 +6,7 @@
 namespace grisal::graphics
 {
 
-TEST(FramebufferStatusTextTest, ThreeStatesHaveATextEach)
+TEST(FramebufferStatusTextTest, ThreeStatesHaveAText)
 {
     EXPECT_STREQ(framebufferStatusText(GL_FRAMEBUFFER_INCOMPLETE_ATTACHMENT),
                  "Failed to create Framebuffer: Broken attachment");
@@ -16,13 +16,13 @@ TEST(FramebufferStatusTextTest, ThreeStatesHaveATextEach)
                  "Failed to create Framebuffer: GL_FRAMEBUFFER_ARB not supported");
 }
 
-TEST(FramebufferStatusTextTest, NothingIsSaidAboutACompleteFramebuffer)
+TEST(FramebufferStatusTextTest, CompleteFramebufferHasNoText)
 {
     EXPECT_EQ(framebufferStatusText(GL_FRAMEBUFFER_COMPLETE), nullptr);
 }
 
-// Only the three states above are worth a line: the log stays free of what drivers report for passing reasons.
-TEST(FramebufferStatusTextTest, NothingIsSaidAboutAnyOtherState)
+// Only the three states above are logged: drivers report others for temporary reasons.
+TEST(FramebufferStatusTextTest, OtherStatesHaveNoText)
 {
     EXPECT_EQ(framebufferStatusText(GL_FRAMEBUFFER_INCOMPLETE_DIMENSIONS_EXT), nullptr);
     EXPECT_EQ(framebufferStatusText(GL_FRAMEBUFFER_INCOMPLETE_DRAW_BUFFER), nullptr);
@@ -30,20 +30,20 @@ TEST(FramebufferStatusTextTest, NothingIsSaidAboutAnyOtherState)
     EXPECT_EQ(framebufferStatusText(0), nullptr);
 }
 
-TEST(DepthFormatTest, SixteenBitsGoWithSixteenBitColour)
+TEST(DepthFormatTest, IsSixteenBitForSixteenBitColour)
 {
     EXPECT_EQ(depthFormatFor(GL_RGB16), static_cast<GLenum>(GL_DEPTH_COMPONENT16));
 }
 
-TEST(DepthFormatTest, AnyOtherColourLeavesTheDepthToTheDriver)
+TEST(DepthFormatTest, IsChosenByTheDriverForOtherColours)
 {
     for (const GLenum colour : {GL_RGB8, GL_RGBA8, GL_RGBA16, GL_RGB16F, GL_R32F}) {
         EXPECT_EQ(depthFormatFor(colour), static_cast<GLenum>(GL_DEPTH_COMPONENT)) << colour;
     }
 }
 
-// Owners and readers of records count on this order.
-TEST(FramebufferObjectTest, IsThreeNamesInAFixedOrder)
+// Code that initialises or reads records depends on this order.
+TEST(FramebufferObjectTest, ContainsThreeNamesInFixedOrder)
 {
     const FramebufferObject record{1, 2, 3};
 

@@ -26,7 +26,7 @@ class RenderToFramebufferTest : public GlTest
 {
 };
 
-class LeftOnTest : public GlTest, public testing::WithParamInterface<GLenum>
+class InterferingStateTest : public GlTest, public testing::WithParamInterface<GLenum>
 {
 };
 
@@ -46,7 +46,7 @@ BytePixels flat(std::uint8_t red, std::uint8_t green, std::uint8_t blue)
     return picture;
 }
 
-/// A content that no pass of these tests makes.
+/// Fills the target with a colour that no pass of these tests renders.
 void fillWithSentinel(const RenderTarget &target)
 {
     glBindFramebuffer(GL_FRAMEBUFFER, target.record().framebuffer);
@@ -76,7 +76,7 @@ TEST_F(RenderToFramebufferTest, EveryPixelOfTheTargetIsReplaced)
     EXPECT_TRUE(picturesNear("pass", readBytes(target.record(), width, height), flat(51, 102, 153)));
 }
 
-TEST_F(RenderToFramebufferTest, ASmallerPassClearsTheRestOfTheTarget)
+TEST_F(RenderToFramebufferTest, SmallerPassClearsTheRestOfTheTarget)
 {
     const RenderTarget target(width, height, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     const ShaderProgram program = fragmentProgram("gl_FragColor = vec4(1.0);");
@@ -93,7 +93,7 @@ TEST_F(RenderToFramebufferTest, ASmallerPassClearsTheRestOfTheTarget)
     EXPECT_TRUE(picturesNear("small-pass", readBytes(target.record(), width, height), expected));
 }
 
-TEST_P(LeftOnTest, AStateThatWouldHideThePassIsSwitchedOff)
+TEST_P(InterferingStateTest, IsDisabledByThePass)
 {
     const RenderTarget target(width, height, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     const ShaderProgram program = fragmentProgram("gl_FragColor = vec4(0.2, 0.4, 0.6, 1.0);");
@@ -110,10 +110,10 @@ TEST_P(LeftOnTest, AStateThatWouldHideThePassIsSwitchedOff)
     EXPECT_FALSE(glIsEnabled(GetParam()));
 }
 
-INSTANTIATE_TEST_SUITE_P(States, LeftOnTest,
+INSTANTIATE_TEST_SUITE_P(States, InterferingStateTest,
                          testing::Values(GL_BLEND, GL_SCISSOR_TEST, GL_DEPTH_TEST, GL_STENCIL_TEST));
 
-TEST_F(RenderToFramebufferTest, NoProgramAndNoFramebufferStayBehind)
+TEST_F(RenderToFramebufferTest, LeavesNoProgramAndNoFramebufferBound)
 {
     const RenderTarget target(width, height, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     const ShaderProgram program = fragmentProgram("gl_FragColor = vec4(1.0);");
@@ -125,7 +125,7 @@ TEST_F(RenderToFramebufferTest, NoProgramAndNoFramebufferStayBehind)
     EXPECT_EQ(glInteger(GL_FRAMEBUFFER_BINDING), 0);
 }
 
-TEST_F(RenderToFramebufferTest, ViewportAndMatricesAreThoseOfThePass)
+TEST_F(RenderToFramebufferTest, SetsViewportAndMatricesForThePass)
 {
     const RenderTarget target(width, height, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     const ShaderProgram program = fragmentProgram("gl_FragColor = vec4(1.0);");
@@ -142,7 +142,7 @@ TEST_F(RenderToFramebufferTest, ViewportAndMatricesAreThoseOfThePass)
               (std::array<float, 16>{2.0F / width, 0, 0, 0, 0, 2.0F / height, 0, 0, 0, 0, -1, 0, -1, -1, 0, 1}));
 }
 
-TEST_F(RenderToFramebufferTest, FragmentsCountFromTheFirstRow)
+TEST_F(RenderToFramebufferTest, FragmentCoordinatesStartAtTheFirstRow)
 {
     const RenderTarget target(width, height, GL_RGBA, GL_RGBA32F, GL_FLOAT);
     const ShaderProgram program = fragmentProgram("gl_FragColor = vec4(gl_FragCoord.xy, 0.0, 1.0);");
@@ -157,8 +157,9 @@ TEST_F(RenderToFramebufferTest, FragmentsCountFromTheFirstRow)
     EXPECT_FLOAT_EQ(result.at(5, 3, 1), 3.5F);
 }
 
-// The screen's programs put the first texture row on top by these coordinates; the filters do not use them.
-TEST_F(RenderToFramebufferTest, TextureCoordinatesRunAgainstTheRows)
+// With these coordinates the programs for the screen draw the first texture row at the top; the filters do not use
+// them.
+TEST_F(RenderToFramebufferTest, TextureCoordinatesDecreaseWithTheRows)
 {
     const RenderTarget target(width, height, GL_RGBA, GL_RGBA32F, GL_FLOAT);
     const ShaderProgram program = fragmentProgram("gl_FragColor = vec4(gl_TexCoord[0].xy, 0.0, 1.0);");
@@ -173,7 +174,7 @@ TEST_F(RenderToFramebufferTest, TextureCoordinatesRunAgainstTheRows)
     EXPECT_NEAR(result.at(5, 3, 1), 0.5 / height, 1e-6);
 }
 
-TEST_F(RenderToFramebufferTest, WithoutAProgramTheFixedPipelineDraws)
+TEST_F(RenderToFramebufferTest, FixedPipelineDrawsWithoutAProgram)
 {
     const RenderTarget target(width, height, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     fillWithSentinel(target);

@@ -8,7 +8,7 @@
 namespace grisal::graphics
 {
 
-TEST(SurfaceFormatTest, AsksForOpenGl21WithTheFixedPipeline)
+TEST(SurfaceFormatTest, RequestsOpenGl21WithTheFixedPipeline)
 {
     setDefaultSurfaceFormat();
 
@@ -18,7 +18,7 @@ TEST(SurfaceFormatTest, AsksForOpenGl21WithTheFixedPipeline)
     EXPECT_EQ(format.profile(), QSurfaceFormat::CompatibilityProfile);
 }
 
-TEST(SurfaceFormatTest, AsksForNoAlpha)
+TEST(SurfaceFormatTest, RequestsNoAlpha)
 {
     setDefaultSurfaceFormat();
 

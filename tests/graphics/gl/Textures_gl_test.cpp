@@ -15,7 +15,7 @@
 namespace
 {
 
-/// An error that one call of glGetError() returns instead of the driver's.
+/// An error that one call of glGetError() returns instead of that of the OpenGL driver.
 struct FakedError {
     GLenum error = GL_NO_ERROR;
     int call = 0; ///< which call, counted from 1; none at 0
@@ -26,7 +26,7 @@ FakedError faked;
 
 } // namespace
 
-/// Stands in for the driver's.
+/// Replaces the function of the OpenGL driver.
 extern "C" GLenum GLAPIENTRY glGetError()
 {
     static const auto real = reinterpret_cast<GLenum(GLAPIENTRY *)()>(dlsym(RTLD_NEXT, "glGetError"));
@@ -50,7 +50,7 @@ class TexturesTest : public GlTest
 {
 };
 
-class OddRowsTest : public GlTest, public testing::WithParamInterface<int>
+class UnalignedRowsTest : public GlTest, public testing::WithParamInterface<int>
 {
 };
 
@@ -63,7 +63,7 @@ GLint textureParameter(GLenum kind, GLuint texture, GLenum parameter)
     return value;
 }
 
-/// The red bytes that a fragment program makes of a texture in one row of `width` pixels.
+/// The red bytes that a fragment program renders from a texture into one row of `width` pixels.
 std::vector<int> reds(const std::string &fragment, GLenum kind, GLuint texture, int width, int height = 1)
 {
     const ShaderProgram program("test", graphics::vertexSource(), "#version 120\n" + fragment);
@@ -80,11 +80,11 @@ std::vector<int> reds(const std::string &fragment, GLenum kind, GLuint texture, 
 
 const std::vector<std::uint8_t> fourGreys{10, 10, 10, 20, 20, 20, 30, 30, 30, 40, 40, 40};
 
-/// The warnings for a texture after whose upload the driver reports `error`; it is a texture all the same.
+/// The warnings for a texture after whose upload the OpenGL driver reports `error`; expects that it is returned.
 QStringList warningsAfter(GLenum error)
 {
     const LogCapture log;
-    faked = {error, 2}; // the first call takes an error of the time before
+    faked = {error, 2}; // the first call clears an earlier error
     const Texture texture(createTexture(4, 1, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE, fourGreys.data()));
     EXPECT_EQ(faked.calls, 2) << "only the first error after the upload is read";
     faked = {};
@@ -98,7 +98,7 @@ QStringList warningsAfter(GLenum error)
 
 } // namespace
 
-TEST_P(OddRowsTest, BytesComeBackAsTheyWentIn)
+TEST_P(UnalignedRowsTest, RoundTripKeepsBytes)
 {
     const BytePixels picture = rampPicture<std::uint8_t>(GetParam(), 3);
     glPixelStorei(GL_UNPACK_ALIGNMENT, 8);
@@ -109,7 +109,7 @@ TEST_P(OddRowsTest, BytesComeBackAsTheyWentIn)
     EXPECT_TRUE(picturesNear("rows-bytes", readTexture(texture.name(), picture.width, picture.height), picture));
 }
 
-TEST_P(OddRowsTest, WordsComeBackAsTheyWentIn)
+TEST_P(UnalignedRowsTest, RoundTripKeepsSixteenBitSamples)
 {
     const Samples16Image picture = rampPicture<std::uint16_t>(GetParam(), 3);
     glPixelStorei(GL_UNPACK_ALIGNMENT, 8);
@@ -125,9 +125,9 @@ TEST_P(OddRowsTest, WordsComeBackAsTheyWentIn)
     EXPECT_TRUE(picturesNear("rows-words", result, picture));
 }
 
-INSTANTIATE_TEST_SUITE_P(Widths, OddRowsTest, testing::Values(1, 3, 5, 513, 515));
+INSTANTIATE_TEST_SUITE_P(Widths, UnalignedRowsTest, testing::Values(1, 3, 5, 513, 515));
 
-TEST_F(TexturesTest, NullDataStillGivesTheSize)
+TEST_F(TexturesTest, NullDataGivesATextureOfTheSize)
 {
     const Texture texture(createTexture(7, 5, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE, nullptr));
 
@@ -161,7 +161,7 @@ TEST_F(TexturesTest, A1DTextureIsNearestAndRepeated)
     EXPECT_EQ(textureParameter(GL_TEXTURE_1D, texture.name(), GL_TEXTURE_WRAP_S), GL_REPEAT);
 }
 
-TEST_F(TexturesTest, A1DTextureKeepsFloatsToTheLastBit)
+TEST_F(TexturesTest, A1DTextureKeepsFloatsExactly)
 {
     const std::vector<float> values{0.1F, -2.5F, 1e-7F, 3.0F, 0.999F};
 
@@ -208,7 +208,7 @@ TEST_F(TexturesTest, BeyondItsEndsA1DTextureRepeats)
     EXPECT_EQ(row, (std::vector<int>{10, 20, 30, 40, 10, 20, 30, 40, 10, 20, 30, 40}));
 }
 
-TEST_F(TexturesTest, BetweenTexelsNothingIsMixed)
+TEST_F(TexturesTest, TexelsAreNotInterpolated)
 {
     const Texture texture(createTexture(4, 1, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE, fourGreys.data()));
 
@@ -219,7 +219,7 @@ TEST_F(TexturesTest, BetweenTexelsNothingIsMixed)
     EXPECT_EQ(row, (std::vector<int>{10, 10, 10, 20, 20, 20, 30, 30, 30, 40, 40, 40}));
 }
 
-TEST_F(TexturesTest, MakingATextureLeavesUnitZeroActiveAndNothingBound)
+TEST_F(TexturesTest, CreationLeavesUnitZeroActiveAndNothingBound)
 {
     glActiveTexture(GL_TEXTURE0 + 2);
 
@@ -235,7 +235,7 @@ TEST_F(TexturesTest, MakingATextureLeavesUnitZeroActiveAndNothingBound)
     EXPECT_FALSE(glIsEnabled(GL_TEXTURE_1D));
 }
 
-TEST_F(TexturesTest, AnImpossibleSizeIsLoggedAndTheNameReturned)
+TEST_F(TexturesTest, InvalidSizeIsLoggedAndTheNameReturned)
 {
     const LogCapture log;
 
@@ -245,7 +245,7 @@ TEST_F(TexturesTest, AnImpossibleSizeIsLoggedAndTheNameReturned)
     EXPECT_EQ(log.warnings(), QStringList{"Failed to create texture: Invalid value"});
 }
 
-TEST_F(TexturesTest, AnUnknownTypeIsLoggedAndTheNameReturned)
+TEST_F(TexturesTest, UnknownTypeIsLoggedAndTheNameReturned)
 {
     const LogCapture log;
 
@@ -255,7 +255,7 @@ TEST_F(TexturesTest, AnUnknownTypeIsLoggedAndTheNameReturned)
     EXPECT_EQ(log.warnings(), QStringList{"Failed to create texture: Invalid enum"});
 }
 
-TEST_F(TexturesTest, FormatsThatDoNotGoTogetherAreLoggedAndTheNameReturned)
+TEST_F(TexturesTest, IncompatibleFormatsAreLoggedAndTheNameReturned)
 {
     const LogCapture log;
 
@@ -265,24 +265,24 @@ TEST_F(TexturesTest, FormatsThatDoNotGoTogetherAreLoggedAndTheNameReturned)
     EXPECT_EQ(log.warnings(), QStringList{"Failed to create texture: Invalid operation"});
 }
 
-// Made up: an upload cannot provoke this error.
-TEST_F(TexturesTest, LogsATableTooLargeAndReturnsTheName)
+// The error is simulated, because an upload cannot cause it.
+TEST_F(TexturesTest, LogsTooLargeTableAndReturnsTheName)
 {
     EXPECT_EQ(warningsAfter(GL_TABLE_TOO_LARGE), QStringList{"Failed to create texture: Table to large"});
 }
 
-TEST_F(TexturesTest, LogsMemoryThatRanOutAndReturnsTheName)
+TEST_F(TexturesTest, LogsOutOfMemoryAndReturnsTheName)
 {
     EXPECT_EQ(warningsAfter(GL_OUT_OF_MEMORY), QStringList{"Failed to create texture: Out of memory"});
 }
 
-TEST_F(TexturesTest, LogsNothingAboutAnyOtherErrorAndReturnsTheName)
+TEST_F(TexturesTest, LogsNoOtherErrorAndReturnsTheName)
 {
     EXPECT_EQ(warningsAfter(GL_INVALID_FRAMEBUFFER_OPERATION), QStringList());
     EXPECT_EQ(warningsAfter(GL_CONTEXT_LOST), QStringList());
 }
 
-TEST_F(TexturesTest, AnErrorOfSomeoneElseIsNotLogged)
+TEST_F(TexturesTest, ErrorBeforeCreationIsNotLogged)
 {
     const LogCapture log;
     glEnable(GL_NEAREST);
@@ -292,7 +292,7 @@ TEST_F(TexturesTest, AnErrorOfSomeoneElseIsNotLogged)
     EXPECT_EQ(log.warnings(), QStringList());
 }
 
-TEST_F(TexturesTest, Making1DTexturesLogsNothing)
+TEST_F(TexturesTest, Creating1DTexturesLogsNothing)
 {
     const LogCapture log;
 
@@ -302,7 +302,7 @@ TEST_F(TexturesTest, Making1DTexturesLogsNothing)
     clearGlErrors();
 }
 
-TEST_F(TexturesTest, AnOwnerDeletesItsTexture)
+TEST_F(TexturesTest, DestructorDeletesTheTexture)
 {
     const GLuint name = createTexture(4, 1, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE, fourGreys.data());
     {
@@ -312,7 +312,7 @@ TEST_F(TexturesTest, AnOwnerDeletesItsTexture)
     EXPECT_FALSE(glIsTexture(name));
 }
 
-TEST_F(TexturesTest, AMoveHandsTheTextureOn)
+TEST_F(TexturesTest, MoveTransfersTheTexture)
 {
     const GLuint name = createTexture(4, 1, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE, fourGreys.data());
     Texture first(name);
@@ -320,11 +320,11 @@ TEST_F(TexturesTest, AMoveHandsTheTextureOn)
     const Texture second(std::move(first));
 
     EXPECT_EQ(second.name(), name);
-    EXPECT_EQ(first.name(), 0U); // NOLINT(bugprone-use-after-move): what is left behind is the point
+    EXPECT_EQ(first.name(), 0U); // NOLINT(bugprone-use-after-move): the state after the move is tested
     EXPECT_TRUE(glIsTexture(name));
 }
 
-TEST_F(TexturesTest, AnAssignmentDeletesTheTextureItReplaces)
+TEST_F(TexturesTest, AssignmentDeletesTheReplacedTexture)
 {
     const GLuint before = createTexture(4, 1, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE, fourGreys.data());
     const GLuint after = createTexture(4, 1, GL_RGB8, GL_RGB, GL_UNSIGNED_BYTE, fourGreys.data());

@@ -6,7 +6,7 @@
 namespace grisal::graphics
 {
 
-TEST(TextureErrorTextTest, EveryKnownErrorHasItsText)
+TEST(TextureErrorTextTest, EveryKnownErrorHasAText)
 {
     EXPECT_STREQ(textureErrorText(GL_INVALID_ENUM), "Failed to create texture: Invalid enum");
     EXPECT_STREQ(textureErrorText(GL_INVALID_VALUE), "Failed to create texture: Invalid value");
@@ -16,19 +16,19 @@ TEST(TextureErrorTextTest, EveryKnownErrorHasItsText)
     EXPECT_STREQ(textureErrorText(GL_OUT_OF_MEMORY), "Failed to create texture: Out of memory");
 }
 
-// People search their logs for this line as it has always been spelt.
-TEST(TextureErrorTextTest, ATableTooLargeKeepsItsSpelling)
+// The misspelt text stays the same, because users search their logs for it.
+TEST(TextureErrorTextTest, TooLargeTableKeepsItsMisspelledText)
 {
     EXPECT_STREQ(textureErrorText(GL_TABLE_TOO_LARGE), "Failed to create texture: Table to large");
 }
 
-TEST(TextureErrorTextTest, NothingIsSaidWithoutAnErrorOrAboutAnUnknownOne)
+TEST(TextureErrorTextTest, NoErrorAndUnknownErrorsHaveNoText)
 {
     EXPECT_EQ(textureErrorText(GL_NO_ERROR), nullptr);
     EXPECT_EQ(textureErrorText(GL_INVALID_FRAMEBUFFER_OPERATION), nullptr);
 }
 
-TEST(TextureTest, HoldsNoNameAtFirst)
+TEST(TextureTest, HasNoNameInitially)
 {
     EXPECT_EQ(Texture().name(), 0U);
 }

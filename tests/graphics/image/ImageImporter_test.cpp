@@ -11,7 +11,7 @@ using namespace grisal::graphics;
 namespace
 {
 
-/// Writes its letter into a common record for every buffer it receives.
+/// Appends its letter to a shared record for every buffer that it receives.
 class Receiver final : public IImageReceiver
 {
 public:
@@ -38,7 +38,7 @@ struct ImageImporterTest : testing::Test {
     ImageImporter importer;
 };
 
-TEST_F(ImageImporterTest, HandsTheBufferToTheReceiversInTheOrderOfTheirAdding)
+TEST_F(ImageImporterTest, PassesTheBufferToReceiversInOrderOfAddition)
 {
     importer.addReceiver(&second);
     importer.addReceiver(&first);
@@ -57,7 +57,7 @@ TEST_F(ImageImporterTest, CallsAReceiverAsOftenAsItWasAdded)
     EXPECT_EQ(record, "aba");
 }
 
-TEST_F(ImageImporterTest, SkipsNullReceivers)
+TEST_F(ImageImporterTest, IgnoresNullReceivers)
 {
     importer.addReceiver(nullptr);
     importer.addReceiver(&first);
@@ -66,15 +66,15 @@ TEST_F(ImageImporterTest, SkipsNullReceivers)
     EXPECT_EQ(record, "a");
 }
 
-TEST_F(ImageImporterTest, HandsANullBufferToNobody)
+TEST_F(ImageImporterTest, IgnoresNullBuffer)
 {
     importer.addReceiver(&first);
     importer.importImage(nullptr);
     EXPECT_EQ(record, "");
 }
 
-// Callers of old ask for nothing but "was it taken over for good", which never happens here.
-TEST_F(ImageImporterTest, AlwaysReportsFalse)
+// The result true would mean that the buffer was taken over permanently, which never happens.
+TEST_F(ImageImporterTest, AlwaysReturnsFalse)
 {
     EXPECT_FALSE(importer.importImage(&buffer));
     EXPECT_FALSE(importer.importImage(nullptr));
@@ -91,7 +91,7 @@ TEST_F(ImageImporterTest, WorksThroughItsInterface)
     EXPECT_EQ(record, "aa");
 }
 
-TEST(ImageBufferTest, HasOneLayerAndOneFrameUnlessToldOtherwise)
+TEST(ImageBufferTest, HasOneLayerAndOneFrameByDefault)
 {
     int pixel = 0;
     const ImageBuffer buffer{&pixel, 4, 3};

@@ -8,7 +8,7 @@ using namespace grisal::graphics;
 namespace
 {
 
-TEST(ImageTest, IsBlackAtFirst)
+TEST(ImageTest, IsBlackInitially)
 {
     const Image8 image(3, 2);
     EXPECT_EQ(image.width, 3);
@@ -23,7 +23,7 @@ TEST(ImageTest, HasTheDepthOfItsSamples)
     EXPECT_TRUE(is16Bit(Image16(1, 1)));
 }
 
-TEST(ImageTest, HighBytesAreCutNotRounded)
+TEST(ImageTest, HighBytesAreTruncatedNotRounded)
 {
     Image16 image(2, 1);
     image.samples = {0, 0x00ff, 0x0100, 0x80ff, 0xfeff, 0xffff};

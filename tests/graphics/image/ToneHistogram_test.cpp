@@ -30,12 +30,12 @@ QVector<float> ofBytes(const Bytes &bytes, bool withAlpha = false)
     return histogramOf(bytes, withAlpha);
 }
 
-QVector<float> ofWords(const Samples16 &words, bool withAlpha = false)
+QVector<float> of16BitSamples(const Samples16 &samples, bool withAlpha = false)
 {
-    return histogramOf(words, withAlpha);
+    return histogramOf(samples, withAlpha);
 }
 
-/// All zeros but for the given bins.
+/// A histogram of zeros except for the given bins.
 QVector<float> bins(std::initializer_list<std::pair<int, float>> filled)
 {
     QVector<float> histogram(256, 0.0F);
@@ -51,7 +51,7 @@ TEST(ToneHistogramTest, IsEmptyWithoutPixels)
     EXPECT_EQ(toneHistogram(Image16()), bins({}));
 }
 
-TEST(ToneHistogramTest, GivesTheShareOfATonesPixelsTimesThirty)
+TEST(ToneHistogramTest, ContainsThirtyTimesTheShareOfEachTone)
 {
     EXPECT_EQ(ofBytes({10, 10, 10, 10, 10, 10, 10, 10, 10, 200, 200, 200}), bins({{10, 22.5F}, {200, 7.5F}}));
 }
@@ -72,7 +72,7 @@ TEST(ToneHistogramTest, TruncatesTheMeanOfTheChannels)
     EXPECT_EQ(ofBytes({255, 255, 255}), bins({{255, 30.0F}}));
 }
 
-TEST(ToneHistogramTest, PutsEveryGreyIntoItsOwnBin)
+TEST(ToneHistogramTest, CountsEveryGreyInItsOwnBin)
 {
     Bytes bytes;
     for (int level = 0; level < 256; ++level) {
@@ -84,37 +84,37 @@ TEST(ToneHistogramTest, PutsEveryGreyIntoItsOwnBin)
 TEST(ToneHistogramTest, SkipsTheFourthComponent)
 {
     EXPECT_EQ(ofBytes({10, 10, 10, 255, 20, 20, 20, 255}, true), bins({{10, 15.0F}, {20, 15.0F}}));
-    EXPECT_EQ(ofWords({255, 255, 255, 65535, 510, 510, 510, 65535}, true), bins({{1, 15.0F}, {2, 15.0F}}));
+    EXPECT_EQ(of16BitSamples({255, 255, 255, 65535, 510, 510, 510, 65535}, true), bins({{1, 15.0F}, {2, 15.0F}}));
 }
 
-// The curve panel has always drawn 16-bit tones by every 255th value, which leaves most of the others out.
+// The curve panel has always sampled only every 255th value of 16-bit images.
 TEST(ToneHistogramTest, SamplesEvery255thValueOf16Bits)
 {
-    EXPECT_EQ(ofWords({254, 254, 254}), bins({}));
-    EXPECT_EQ(ofWords({255, 255, 255}), bins({{1, 30.0F}}));
-    EXPECT_EQ(ofWords({256, 256, 256}), bins({}));
-    EXPECT_EQ(ofWords({25500, 25500, 25500}), bins({{100, 30.0F}}));
-    EXPECT_EQ(ofWords({65025, 65025, 65025}), bins({{255, 30.0F}}));
+    EXPECT_EQ(of16BitSamples({254, 254, 254}), bins({}));
+    EXPECT_EQ(of16BitSamples({255, 255, 255}), bins({{1, 30.0F}}));
+    EXPECT_EQ(of16BitSamples({256, 256, 256}), bins({}));
+    EXPECT_EQ(of16BitSamples({25500, 25500, 25500}), bins({{100, 30.0F}}));
+    EXPECT_EQ(of16BitSamples({65025, 65025, 65025}), bins({{255, 30.0F}}));
 }
 
-TEST(ToneHistogramTest, LeavesTheBrightest16BitTonesOut)
+TEST(ToneHistogramTest, OmitsTheBrightest16BitTones)
 {
-    EXPECT_EQ(ofWords({65535, 65535, 65535}), bins({}));
+    EXPECT_EQ(of16BitSamples({65535, 65535, 65535}), bins({}));
 }
 
 TEST(ToneHistogramTest, TruncatesTheMeanOf16BitChannels)
 {
-    EXPECT_EQ(ofWords({255, 255, 257}), bins({{1, 30.0F}}));
-    EXPECT_EQ(ofWords({765, 0, 0}), bins({{1, 30.0F}}));
+    EXPECT_EQ(of16BitSamples({255, 255, 257}), bins({{1, 30.0F}}));
+    EXPECT_EQ(of16BitSamples({765, 0, 0}), bins({{1, 30.0F}}));
 }
 
 TEST(ToneHistogramTest, CountsAllSampledValuesOfAFullRamp)
 {
-    Samples16 words;
+    Samples16 samples;
     for (int level = 0; level < 65536; ++level) {
-        words.insert(words.end(), 3, static_cast<std::uint16_t>(level));
+        samples.insert(samples.end(), 3, static_cast<std::uint16_t>(level));
     }
-    EXPECT_EQ(ofWords(words), QVector<float>(256, 30.0F / 65536.0F));
+    EXPECT_EQ(of16BitSamples(samples), QVector<float>(256, 30.0F / 65536.0F));
 }
 
 } // namespace

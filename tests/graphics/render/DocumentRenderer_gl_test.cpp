@@ -79,14 +79,14 @@ TEST_F(DocumentRendererTest, HasNoOutputBeforeTheFirstRender)
     EXPECT_EQ(m_renderer->output(), 0U);
 }
 
-TEST_F(DocumentRendererTest, AnEmptyQueueShowsTheSource)
+TEST_F(DocumentRendererTest, EmptyQueueOutputsTheSource)
 {
     EXPECT_TRUE(m_renderer->render(m_document));
 
     EXPECT_EQ(m_renderer->output(), source);
 }
 
-TEST_F(DocumentRendererTest, WithNothingEnabledTheSourceIsShownAndNothingRuns)
+TEST_F(DocumentRendererTest, WithoutEnabledFiltersOutputsTheSourceAndRunsNothing)
 {
     addRecording("mixer", false);
     addRecording("curve", false);
@@ -97,7 +97,7 @@ TEST_F(DocumentRendererTest, WithNothingEnabledTheSourceIsShownAndNothingRuns)
     EXPECT_EQ(m_passes, Passes{});
 }
 
-TEST_F(DocumentRendererTest, TheBypassShowsTheSourceAndNothingRuns)
+TEST_F(DocumentRendererTest, BypassOutputsTheSourceAndRunsNothing)
 {
     addRecording("mixer", true);
     m_document.setBypass(true);
@@ -108,8 +108,8 @@ TEST_F(DocumentRendererTest, TheBypassShowsTheSourceAndNothingRuns)
     EXPECT_EQ(m_passes, Passes{});
 }
 
-// The first filter brings the source in and runs once more over its own result: the preview's look depends on it.
-TEST_F(DocumentRendererTest, TheMixerAloneRunsTwiceIntoTheView)
+// The first filter runs on the source and again on its own result: the preview depends on it.
+TEST_F(DocumentRendererTest, MixerAloneRunsTwiceAndOutputsTheViewTarget)
 {
     addRecording("mixer", true);
     addRecording("curve", false);
@@ -120,7 +120,7 @@ TEST_F(DocumentRendererTest, TheMixerAloneRunsTwiceIntoTheView)
     EXPECT_EQ(m_renderer->output(), views().texture);
 }
 
-TEST_F(DocumentRendererTest, TwoFiltersEndInTheRenderersOwnTarget)
+TEST_F(DocumentRendererTest, TwoFiltersOutputTheTargetOfTheRenderer)
 {
     addRecording("mixer", true);
     addRecording("curve", true);
@@ -133,7 +133,7 @@ TEST_F(DocumentRendererTest, TwoFiltersEndInTheRenderersOwnTarget)
     EXPECT_EQ(m_renderer->output(), own().texture);
 }
 
-TEST_F(DocumentRendererTest, FiveFiltersAreSixPassesThatEndInTheView)
+TEST_F(DocumentRendererTest, FiveFiltersRunSixPassesAndOutputTheViewTarget)
 {
     for (const char *name : {"mixer", "curve", "grain", "split tone", "vignette"}) {
         addRecording(name, true);
@@ -150,7 +150,7 @@ TEST_F(DocumentRendererTest, FiveFiltersAreSixPassesThatEndInTheView)
     EXPECT_EQ(m_renderer->output(), views().texture);
 }
 
-TEST_F(DocumentRendererTest, ADisabledFirstFilterStillBringsTheSourceIn)
+TEST_F(DocumentRendererTest, DisabledFirstFilterRunsOnceOnTheSource)
 {
     addRecording("mixer", false);
     addRecording("curve", true);
@@ -161,7 +161,7 @@ TEST_F(DocumentRendererTest, ADisabledFirstFilterStillBringsTheSourceIn)
     EXPECT_EQ(m_renderer->output(), views().texture);
 }
 
-TEST_F(DocumentRendererTest, OtherDisabledFiltersAreLeftOut)
+TEST_F(DocumentRendererTest, OtherDisabledFiltersDoNotRun)
 {
     addRecording("mixer", true);
     addRecording("curve", false);
@@ -176,7 +176,7 @@ TEST_F(DocumentRendererTest, OtherDisabledFiltersAreLeftOut)
     EXPECT_EQ(m_renderer->output(), own().texture);
 }
 
-TEST_F(DocumentRendererTest, AFilterThatWasAddedTwiceRunsInBothPlaces)
+TEST_F(DocumentRendererTest, FilterAddedTwiceRunsInBothPositions)
 {
     addRecording("mixer", true);
     addRecording("curve", true);
@@ -190,7 +190,7 @@ TEST_F(DocumentRendererTest, AFilterThatWasAddedTwiceRunsInBothPlaces)
                                 {"mixer", own().texture, views().framebuffer}}));
 }
 
-TEST_F(DocumentRendererTest, EveryRenderStartsAgainWithItsOwnTarget)
+TEST_F(DocumentRendererTest, EveryRenderStartsWithTheTargetOfTheRenderer)
 {
     addRecording("mixer", true);
     addRecording("curve", true);
@@ -203,7 +203,7 @@ TEST_F(DocumentRendererTest, EveryRenderStartsAgainWithItsOwnTarget)
     EXPECT_EQ(m_passes, first);
 }
 
-TEST_F(DocumentRendererTest, TheViewIsSetUpEvenWhenNothingRuns)
+TEST_F(DocumentRendererTest, ViewIsSetUpEvenIfNothingRuns)
 {
     m_document.setBypass(true);
 
@@ -214,7 +214,7 @@ TEST_F(DocumentRendererTest, TheViewIsSetUpEvenWhenNothingRuns)
     EXPECT_EQ(viewport, (std::array<GLint, 4>{0, 0, 80, 60}));
 }
 
-TEST_F(DocumentRendererTest, TheQueueIsLeftAsItIs)
+TEST_F(DocumentRendererTest, QueueIsNotChanged)
 {
     addRecording("mixer", true);
     addRecording("curve", false);
@@ -225,8 +225,8 @@ TEST_F(DocumentRendererTest, TheQueueIsLeftAsItIs)
     EXPECT_EQ(m_queue.filters(), before);
 }
 
-// Weights that add up to 0.75: applied twice they leave 0.5625 of a grey.
-TEST_F(DocumentRendererTest, TheOutputHasThePixelsOfBothRunsOfTheMixer)
+// The sum of the weights is 0.75: applied twice, they multiply a grey by 0.5625.
+TEST_F(DocumentRendererTest, OutputIsTheMixerAppliedTwice)
 {
     const BytePixels grey = reference::flatGrey(width, height, 160);
     const Texture texture(

@@ -82,7 +82,7 @@ protected:
     Look parameters;
 };
 
-// Split toning before the grain: the preview has them the other way round, and files have always been made like this.
+// Saved images have always been rendered in this order; the preview has the opposite one.
 TEST_F(FinalRenderTest, QueueHasSplitToningBeforeTheGrain)
 {
     expectInOrder(filters->finalOrder(),
@@ -105,7 +105,7 @@ TEST_F(FinalRenderTest, KeepsTheFourthComponent)
     EXPECT_EQ(picture.values, (std::vector<std::uint16_t>{65535, 65535, 65535, 7, 0, 0, 0, 60000}));
 }
 
-TEST_F(FinalRenderTest, WithoutEnabledFilterThePixelsStay)
+TEST_F(FinalRenderTest, KeepsThePixelsWithoutEnabledFilters)
 {
     filters->get<MixerFilter>().enabled = false;
     BytePixels picture(2, 1, 3, {1, 2, 3, 4, 5, 6});
@@ -113,7 +113,7 @@ TEST_F(FinalRenderTest, WithoutEnabledFilterThePixelsStay)
     EXPECT_EQ(picture.values, (std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6}));
 }
 
-TEST_F(FinalRenderTest, GivesTheFiltersTheirSizesBack)
+TEST_F(FinalRenderTest, RestoresTheSizesOfTheFilters)
 {
     filters->setSize(12, 8);
     filters->setImageSize(12, 8);
@@ -142,7 +142,7 @@ TEST_F(FinalRenderTest, LogsSizesPlanAndValueRange)
     EXPECT_EQ(lines.mid(lines.size() - 2).join('\n').toStdString(), "Final vmin:  40\nFinal vmax:  200");
 }
 
-// The line stands before the parameters reach the filters: it has the weight of the last picture.
+// The weight is logged before the parameters are set on the filters, so it is that of the previous image.
 TEST_F(FinalRenderTest, LogsTheFormerWeightOfTheSplitTone)
 {
     filters->get<HalfToneFilter>().weight = 0.75F;
@@ -168,12 +168,12 @@ TEST_F(FinalRenderTest, BlursTheNoiseWithTheRadiusOfThePanel)
     EXPECT_EQ(noiseOf(filters->get<GrainFilter>()).values, noiseOf(expected).values);
 }
 
-TEST_F(FinalRenderTest, InvalidParametersLeaveAlphaAndTheNextRenderOfBytes)
+TEST_F(FinalRenderTest, InvalidParametersAffectNeitherAlphaNorTheNext8BitRender)
 {
     expectInvalidParametersToLeaveAlphaAndTheNextRender<std::uint8_t>();
 }
 
-TEST_F(FinalRenderTest, InvalidParametersLeaveAlphaAndTheNextRenderOf16Bits)
+TEST_F(FinalRenderTest, InvalidParametersAffectNeitherAlphaNorTheNext16BitRender)
 {
     expectInvalidParametersToLeaveAlphaAndTheNextRender<std::uint16_t>();
 }
@@ -196,7 +196,7 @@ TEST_F(FinalRenderTest, VignetteWithoutRadiusIsBlack)
         picturesNear("16 bits", rendered(rampPicture<std::uint16_t>(12, 8), parameters), Samples16Image(12, 8)));
 }
 
-// Half floats hold values beyond the scale, infinite ones included.
+// Half floats can represent values above 1 and infinity.
 TEST_F(FinalRenderTest, CurveSamplesBeyondTheScaleAreClampedIn16Bits)
 {
     filters->get<CurveFilter>().enabled = true;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What becomes of a final render when OpenGL fails somewhere in it.
+// Final renders in which an OpenGL call fails.
 #include "graphics/document/FlexibleDocumentView.h"
 #include "graphics/filters/FilterSet.h"
 #include "graphics/filters/NoiseMap.h"
@@ -38,7 +38,7 @@ GLenum GLAPIENTRY checkWithFault(GLenum target)
 
 } // namespace
 
-/// Stands in for the driver's.
+/// Replaces the function of the OpenGL driver.
 extern "C" GLenum GLAPIENTRY glGetError()
 {
     static const auto real = reinterpret_cast<GLenum(GLAPIENTRY *)()>(dlsym(RTLD_NEXT, "glGetError"));
@@ -85,7 +85,7 @@ protected:
         GlTest::TearDown();
     }
 
-    /// Renders the same picture, with these calls failing. False where that fails.
+    /// Renders the same image while these calls fail; returns false if the render fails.
     bool render(int failingError, int failingCheck)
     {
         picture = source;
@@ -97,8 +97,8 @@ protected:
         return rendered;
     }
 
-    /// Expects of a failing call that the render fails and says so, or that another way led to the right result, and
-    /// that the next render is right. Returns whether the render failed.
+    /// Expects that the render fails with a log message or gives the right result in another way, and that the next
+    /// render is right. Returns whether the render failed.
     bool expectNothingWrong(int failingError, int failingCheck)
     {
         log.clear();
@@ -133,7 +133,7 @@ protected:
     BytePixels right;
 };
 
-TEST_F(GlErrors, OutOfMemoryAnywhereMakesNoWrongPicture)
+TEST_F(GlErrors, OutOfMemoryInAnyCallGivesNoWrongImage)
 {
     ASSERT_TRUE(render(0, 0));
     right = picture;
@@ -146,7 +146,7 @@ TEST_F(GlErrors, OutOfMemoryAnywhereMakesNoWrongPicture)
     EXPECT_GT(failed, calls / 3);
 }
 
-TEST_F(GlErrors, IncompleteFramebuffersMakeNoWrongPicture)
+TEST_F(GlErrors, IncompleteFramebuffersGiveNoWrongImage)
 {
     ASSERT_TRUE(render(0, 0));
     right = picture;
@@ -159,8 +159,8 @@ TEST_F(GlErrors, IncompleteFramebuffersMakeNoWrongPicture)
     EXPECT_GT(failed, calls / 3);
 }
 
-// Whatever failed may have drawn into the noise: the next render blurs it again, though its radius is the same.
-TEST_F(GlErrors, AFailedRenderBlursTheNoiseAgain)
+// A failed render may have changed the noise: the next render blurs it again, even with the same radius.
+TEST_F(GlErrors, RenderAfterAFailureBlursTheNoiseAgain)
 {
     ASSERT_TRUE(render(0, 0));
     right = picture;
@@ -174,7 +174,7 @@ TEST_F(GlErrors, AFailedRenderBlursTheNoiseAgain)
     EXPECT_EQ(picture.values, right.values);
 }
 
-TEST_F(GlErrors, NoiseThatCouldNotBeBlurredIsBlurredAgain)
+TEST_F(GlErrors, NoiseIsBlurredAgainAfterAFailedBlur)
 {
     filters->get<GrainFilter>().setSigma(1.5F);
     const BytePixels expected = noise();
@@ -183,8 +183,8 @@ TEST_F(GlErrors, NoiseThatCouldNotBeBlurredIsBlurredAgain)
     filters->get<GrainFilter>().setSigma(1.5F);
     const int calls = errorFault.calls;
     ASSERT_GT(calls, 3);
-    constexpr int ofTheTimeBefore = 1;
-    for (int call = ofTheTimeBefore + 1; call <= calls; ++call) {
+    constexpr int earlierError = 1;
+    for (int call = earlierError + 1; call <= calls; ++call) {
         filters->get<GrainFilter>().discardNoise();
         errorFault = {call, 0};
         filters->get<GrainFilter>().setSigma(1.5F);
@@ -195,16 +195,16 @@ TEST_F(GlErrors, NoiseThatCouldNotBeBlurredIsBlurredAgain)
     }
 }
 
-TEST_F(GlErrors, AnErrorOfTheTimeBeforeIsNoFault)
+TEST_F(GlErrors, ErrorBeforeConstructionIsNotCounted)
 {
     glEnable(GL_INVALID_VALUE);
-    const GlErrorScope watch;
-    EXPECT_TRUE(watch.isClean());
+    const GlErrorScope scope;
+    EXPECT_TRUE(scope.isClean());
     glEnable(GL_INVALID_VALUE);
-    EXPECT_FALSE(watch.isClean());
+    EXPECT_FALSE(scope.isClean());
 }
 
-TEST_F(GlErrors, AForgivenFaultIsNone)
+TEST_F(GlErrors, ClearedErrorIsNotCounted)
 {
     const GlErrorScope outer;
     GlErrorScope inner;

@@ -22,7 +22,7 @@ std::vector<std::uint16_t> everyValue()
     return values;
 }
 
-/// What comes out as `to` of a target of half floats that these went into as `from`.
+/// The values after an upload as `from` into a target of half floats and a read-back as `to`.
 std::vector<std::uint16_t> throughTheDriver(const std::vector<std::uint16_t> &values, GLenum from, GLenum to)
 {
     const graphics::RenderTarget target(side, side, GL_RGB, GL_RGB16F, from);
@@ -54,7 +54,7 @@ std::uint16_t halfFloatOf(std::uint16_t sample)
     return bits;
 }
 
-TEST_F(HalfFloatsTest, SomeHalfFloatsBecomeSamples)
+TEST_F(HalfFloatsTest, ConvertsSelectedHalfFloatsToSamples)
 {
     EXPECT_EQ(sampleOf(0x0000), 0);
     EXPECT_EQ(sampleOf(0x3c00), 65535);
@@ -65,7 +65,7 @@ TEST_F(HalfFloatsTest, SomeHalfFloatsBecomeSamples)
     EXPECT_EQ(sampleOf(0x7e00), 0) << "not a number";
 }
 
-TEST_F(HalfFloatsTest, EveryHalfFloatBecomesTheSampleOfTheDriver)
+TEST_F(HalfFloatsTest, ConvertsEveryHalfFloatLikeTheDriver)
 {
     const std::vector<std::uint16_t> halfFloats = everyValue();
     const std::vector<std::uint16_t> expected = throughTheDriver(halfFloats, GL_HALF_FLOAT, GL_UNSIGNED_SHORT);
@@ -78,7 +78,7 @@ TEST_F(HalfFloatsTest, EveryHalfFloatBecomesTheSampleOfTheDriver)
     }
 }
 
-TEST_F(HalfFloatsTest, SomeSamplesBecomeHalfFloats)
+TEST_F(HalfFloatsTest, ConvertsSelectedSamplesToHalfFloats)
 {
     EXPECT_EQ(halfFloatOf(0), 0x0000);
     EXPECT_EQ(halfFloatOf(65535), 0x3c00);
@@ -88,7 +88,7 @@ TEST_F(HalfFloatsTest, SomeSamplesBecomeHalfFloats)
     EXPECT_EQ(halfFloatOf(32768), 0x3800);
 }
 
-TEST_F(HalfFloatsTest, EverySampleBecomesTheHalfFloatOfTheDriver)
+TEST_F(HalfFloatsTest, ConvertsEverySampleLikeTheDriver)
 {
     const std::vector<std::uint16_t> samples = everyValue();
     const std::vector<std::uint16_t> expected = throughTheDriver(samples, GL_UNSIGNED_SHORT, GL_HALF_FLOAT);
@@ -96,7 +96,7 @@ TEST_F(HalfFloatsTest, EverySampleBecomesTheHalfFloatOfTheDriver)
     std::vector<std::uint16_t> halfFloats(samples.size());
     graphics::convertToHalfFloats(samples.data(), samples.size(), reinterpret_cast<qfloat16 *>(halfFloats.data()));
     for (std::size_t i = 0; i < halfFloats.size(); i += 3) {
-        // Another driver may round another way; what is uploaded is the same everywhere.
+        // Other OpenGL drivers may round differently at the upload; the conversion is the same for all drivers.
         ASSERT_NEAR(halfFloats[i], expected[i], isLlvmpipe() ? 0 : 1) << "sample " << samples[i];
     }
 }

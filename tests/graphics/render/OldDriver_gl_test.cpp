@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The final render on a driver of OpenGL 2.1 whose transfers have no half floats.
+// The final render with an OpenGL 2.1 driver that does not support half floats in transfers.
 #include "graphics/document/FlexibleDocumentView.h"
 #include "graphics/filters/FilterSet.h"
 #include "graphics/render/FinalRender.h"
@@ -20,7 +20,7 @@ namespace
 
 bool refusesHalfFloats = false;
 
-/// The driver under the tests answers an unknown type with GL_INVALID_ENUM.
+/// Such a driver reports GL_INVALID_ENUM for the unknown type.
 GLenum typeForTheOldDriver(GLenum type)
 {
     return refusesHalfFloats && type == GL_HALF_FLOAT ? GL_NONE : type;
@@ -34,7 +34,7 @@ Function *theDrivers(const char *name)
 
 } // namespace
 
-/// Stand in for the driver's.
+/// Replace the functions of the OpenGL driver.
 extern "C" void GLAPIENTRY glTexImage2D(GLenum target, GLint level, GLint internalFormat, GLsizei width, GLsizei height,
                                         GLint border, GLenum format, GLenum type, const void *pixels)
 {
@@ -79,7 +79,7 @@ protected:
         GlTest::TearDown();
     }
 
-    /// What is rendered with these flags of the driver; no pixels where that fails.
+    /// The render result with these driver flags; without pixels if the render fails.
     Samples16Image render(bool version30, bool halfFloatPixel, int components)
     {
         const bool hasVersion = std::exchange(__GLEW_VERSION_3_0, version30 ? GL_TRUE : GL_FALSE) == GL_TRUE;
@@ -107,7 +107,7 @@ protected:
     Look parameters;
 };
 
-TEST_F(OldDriver, RendersSixteenBitPicturesAsAnyOther)
+TEST_F(OldDriver, RendersSixteenBitImagesLikeOtherDrivers)
 {
     // At the upload llvmpipe rounds to the nearest half float; another driver may be one half float away.
     const double limit = isLlvmpipe() ? 0 : halfFloatStep;
@@ -120,7 +120,7 @@ TEST_F(OldDriver, RendersSixteenBitPicturesAsAnyOther)
     }
 }
 
-TEST_F(OldDriver, RefusesHalfFloatsWhereItsFlagsSayOtherwise)
+TEST_F(OldDriver, RenderFailsIfHalfFloatsAreWronglyAdvertised)
 {
     EXPECT_TRUE(renderOnTheOldDriver(true, false, 3).values.empty());
     EXPECT_TRUE(renderOnTheOldDriver(false, true, 3).values.empty());

@@ -53,7 +53,7 @@ protected:
     std::unique_ptr<PreviewStage> stage;
 };
 
-TEST_F(PreviewStageTest, HasNothingBeforeTheFirstLoad)
+TEST_F(PreviewStageTest, HasNoPreviewAndNoFiltersBeforeTheFirstLoad)
 {
     EXPECT_EQ(stage->preview(), nullptr);
     EXPECT_EQ(stage->filters(), nullptr);
@@ -62,7 +62,7 @@ TEST_F(PreviewStageTest, HasNothingBeforeTheFirstLoad)
     EXPECT_EQ(pixel.values, (std::vector<std::uint8_t>{1, 2, 3}));
 }
 
-TEST_F(PreviewStageTest, RefusesAFinalPictureWithoutPixels)
+TEST_F(PreviewStageTest, FinalRenderFailsWithoutPixels)
 {
     load(rampPicture<std::uint8_t>(4, 4));
     Image empty;
@@ -71,7 +71,7 @@ TEST_F(PreviewStageTest, RefusesAFinalPictureWithoutPixels)
     EXPECT_FALSE(stage->renderFinal(withoutWidth));
 }
 
-TEST_F(PreviewStageTest, ALoadSwitchesTheMixerOnAndTheOthersOff)
+TEST_F(PreviewStageTest, LoadEnablesOnlyTheMixer)
 {
     load(rampPicture<std::uint8_t>(4, 4));
     const FilterSet &filters = *stage->filters();
@@ -87,7 +87,7 @@ TEST_F(PreviewStageTest, ALoadSwitchesTheMixerOnAndTheOthersOff)
     EXPECT_EQ(filters.get<VignetteFilter>().maxWidth, 8);
 }
 
-TEST_F(PreviewStageTest, ParametersSetBeforeTheFirstLoadReachTheFilters)
+TEST_F(PreviewStageTest, ParametersSetBeforeTheFirstLoadAreApplied)
 {
     stage->set<MixerFilter>({{0.1F, 0.2F, 0.3F}});
     stage->set<VignetteFilter>({{{10, 20, 0}, 40, 30}, true});
@@ -102,7 +102,7 @@ TEST_F(PreviewStageTest, ParametersSetBeforeTheFirstLoadReachTheFilters)
     EXPECT_EQ(filters.get<HalfToneFilter>().secondColor, (ColorRGB<float>{0, 1, 0}));
 }
 
-TEST_F(PreviewStageTest, NoiseIsBlurredAtThreeAtALoadAndAtThePanelsRadiusAfterwards)
+TEST_F(PreviewStageTest, LoadBlursTheNoiseAtThreeAndSetGrainAtItsRadius)
 {
     load(rampPicture<std::uint8_t>(4, 4));
     EXPECT_EQ(stage->filters()->get<GrainFilter>().sigma(), 3.0F);
@@ -110,9 +110,9 @@ TEST_F(PreviewStageTest, NoiseIsBlurredAtThreeAtALoadAndAtThePanelsRadiusAfterwa
     EXPECT_EQ(stage->filters()->get<GrainFilter>().sigma(), 0.5F);
 }
 
-// The mixer brings the source in and, being enabled, runs over its own result once more: with weights that sum to 1
-// nobody sees it, with others the preview is brighter or darker than the file. Users know the preview like this.
-TEST_F(PreviewStageTest, TheMixerRunsTwiceInThePreviewAndOnceInTheFile)
+// An enabled mixer runs on the source and again on its own result. This is invisible for weights with sum 1; with
+// others the preview is brighter or darker than the file, as it has always been.
+TEST_F(PreviewStageTest, MixerRunsTwiceInThePreviewAndOnceInTheFile)
 {
     BytePixels white(4, 4, 3, std::vector<std::uint8_t>(48, 255));
     load(white);
@@ -122,7 +122,7 @@ TEST_F(PreviewStageTest, TheMixerRunsTwiceInThePreviewAndOnceInTheFile)
     EXPECT_EQ(white.at(0, 0, 0), 128);
 }
 
-TEST_F(PreviewStageTest, APreview2250PixelsWideComesOutPixelForPixel)
+TEST_F(PreviewStageTest, PreviewOf2250PixelsIsExact)
 {
     const auto picture = rampPicture<std::uint8_t>(2250, 3);
     load(picture);
@@ -136,7 +136,7 @@ TEST_F(PreviewStageTest, APreview2250PixelsWideComesOutPixelForPixel)
     EXPECT_TRUE(picturesNear("2250 wide", shown(2250, 3), expected));
 }
 
-TEST_F(PreviewStageTest, SixteenBitPreviewsTakeWords)
+TEST_F(PreviewStageTest, SixteenBitPreviewAcceptsSixteenBitSamples)
 {
     Image16 image(2, 1);
     image.samples = {65535, 0, 0, 32896, 0, 0};
@@ -145,8 +145,8 @@ TEST_F(PreviewStageTest, SixteenBitPreviewsTakeWords)
     EXPECT_EQ(shown(2, 1).values, (std::vector<std::uint8_t>{255, 255, 255, 128, 128, 128}));
 }
 
-/// How many textures, framebuffers, renderbuffers and programs there are. Names count upwards, so that the newest tells
-/// how far to look.
+/// The number of existing textures, framebuffers, renderbuffers and programs. Names are assigned in ascending order, so
+/// a new one limits the search.
 int liveObjects()
 {
     const RenderTarget newest(1, 1, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
@@ -161,7 +161,7 @@ int liveObjects()
     return count - madeToCount;
 }
 
-TEST_F(PreviewStageTest, AThousandSliderMovesLeaveNothingBehind)
+TEST_F(PreviewStageTest, ThousandSliderMovesLeakNoGlObjects)
 {
     load(rampPicture<std::uint8_t>(4, 4));
     stage->setGrain({QVector<float>(256, 0.5F), 0.1F});
@@ -174,7 +174,7 @@ TEST_F(PreviewStageTest, AThousandSliderMovesLeaveNothingBehind)
     EXPECT_EQ(liveObjects(), before);
 }
 
-TEST_F(PreviewStageTest, FiftyPicturesLeaveNothingBehind)
+TEST_F(PreviewStageTest, FiftyImagesLeakNoGlObjects)
 {
     const auto picture = rampPicture<std::uint8_t>(64, 64);
     load(picture);
@@ -185,12 +185,12 @@ TEST_F(PreviewStageTest, FiftyPicturesLeaveNothingBehind)
     EXPECT_EQ(liveObjects(), before);
 }
 
-TEST_F(PreviewStageTest, SavingLeavesNothingBehind)
+TEST_F(PreviewStageTest, SavingLeaksNoGlObjects)
 {
     load(rampPicture<std::uint8_t>(8, 8));
     stage->filters()->get<VignetteFilter>().enabled = true;
     auto picture = rampPicture<std::uint8_t>(9, 7);
-    // The first one makes what the filters need and keep.
+    // The first save creates the objects that the filters keep.
     EXPECT_TRUE(renderFinal(picture));
     const int before = liveObjects();
     for (int i = 0; i < 5; ++i) {
@@ -199,7 +199,7 @@ TEST_F(PreviewStageTest, SavingLeavesNothingBehind)
     EXPECT_EQ(liveObjects(), before);
 }
 
-TEST_F(PreviewStageTest, ReleasingLeavesNothingBehind)
+TEST_F(PreviewStageTest, ReleaseDeletesAllGlObjects)
 {
     const int before = liveObjects();
     load(rampPicture<std::uint8_t>(8, 8));

@@ -63,8 +63,8 @@ TEST(PixelFormatsTest, FollowDepthAndAlpha)
     }
 }
 
-// Unlike in the saved picture, grain comes before split toning.
-TEST_F(PreviewTest, ItsFiltersComeInTheOrderOfThePreview)
+// Unlike in the final render, grain comes before split toning.
+TEST_F(PreviewTest, FiltersAreInTheOrderOfThePreview)
 {
     FilterSet filters;
 
@@ -72,7 +72,7 @@ TEST_F(PreviewTest, ItsFiltersComeInTheOrderOfThePreview)
                   {"MixerFilter", "CurveFilter", "GrainFilter", "HalfToneFilter", "VignetteFilter"});
 }
 
-TEST_F(PreviewTest, AnEmptyQueueShowsThePicture)
+TEST_F(PreviewTest, EmptyQueueOutputsTheImage)
 {
     const BytePixels picture = rampPicture<std::uint8_t>(12, 8);
     Preview preview(imageOf(picture), formats8, 80, 60);
@@ -83,7 +83,7 @@ TEST_F(PreviewTest, AnEmptyQueueShowsThePicture)
     EXPECT_TRUE(picturesNear("preview-source", readTexture(preview.output(), 12, 8), picture));
 }
 
-TEST_F(PreviewTest, FormatsWithAlphaStillTakeThreeComponents)
+TEST_F(PreviewTest, FormatsWithAlphaAcceptThreeComponents)
 {
     const BytePixels picture = rampPicture<std::uint8_t>(12, 8);
     const LogCapture log;
@@ -95,7 +95,7 @@ TEST_F(PreviewTest, FormatsWithAlphaStillTakeThreeComponents)
     EXPECT_EQ(log.warnings(), QStringList());
 }
 
-TEST_F(PreviewTest, SixteenBitsKeepTheirDepth)
+TEST_F(PreviewTest, SixteenBitImageGetsSixteenBitTextures)
 {
     const Image16 image = imageOf(rampPicture<std::uint16_t>(4, 4));
 
@@ -105,7 +105,7 @@ TEST_F(PreviewTest, SixteenBitsKeepTheirDepth)
     EXPECT_EQ(sizeParameter(preview.view().target().texture, GL_TEXTURE_INTERNAL_FORMAT), GL_RGB16);
 }
 
-TEST_F(PreviewTest, TheViewHasThePicturesSizeAndSitsInTheMiddle)
+TEST_F(PreviewTest, ViewHasTheSizeOfTheImageAndIsCentred)
 {
     Preview preview(imageOf(rampPicture<std::uint8_t>(12, 8)), formats8, 80, 60);
 
@@ -116,7 +116,7 @@ TEST_F(PreviewTest, TheViewHasThePicturesSizeAndSitsInTheMiddle)
     EXPECT_EQ(preview.document().view(), &preview.view());
 }
 
-TEST_F(PreviewTest, TheQueueRunsOverThePicture)
+TEST_F(PreviewTest, QueueIsAppliedToTheImage)
 {
     const BytePixels picture = rampPicture<std::uint8_t>(12, 8);
     Preview preview(imageOf(picture), formats8, 80, 60);
@@ -137,7 +137,7 @@ TEST_F(PreviewTest, TheQueueRunsOverThePicture)
     EXPECT_TRUE(picturesNear("preview-green", readTexture(preview.output(), 12, 8), green));
 }
 
-TEST_F(PreviewTest, EverythingGoesWithIt)
+TEST_F(PreviewTest, DestructorDeletesItsTextures)
 {
     GLuint source = 0;
     GLuint target = 0;

@@ -36,31 +36,31 @@ const BytePixels sixPixels(3, 2, 3, {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13, 14, 
 
 } // namespace
 
-TEST(CutTileTest, TakesTheAreaRowByRow)
+TEST(CutTileTest, CopiesTheAreaRowByRow)
 {
     EXPECT_EQ(cut(sixPixels, {1, 0, 2, 2}), (Bytes{4, 5, 6, 7, 8, 9, 14, 15, 16, 17, 18, 19}));
     EXPECT_EQ(cut(sixPixels, {0, 1, 1, 1}), (Bytes{11, 12, 13}));
 }
 
-TEST(CutTileTest, FillsUpWithBlackBeyondThePicture)
+TEST(CutTileTest, FillsWithBlackBeyondTheImage)
 {
     EXPECT_EQ(cut(sixPixels, {2, 1, 2, 2}), (Bytes{17, 18, 19, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
 }
 
-TEST(CutTileTest, AnAreaOutsideThePictureIsBlack)
+TEST(CutTileTest, AreaOutsideTheImageIsBlack)
 {
     EXPECT_EQ(cut(sixPixels, {3, 0, 1, 1}), (Bytes{0, 0, 0}));
     EXPECT_EQ(cut(sixPixels, {0, 2, 1, 1}), (Bytes{0, 0, 0}));
 }
 
-TEST(CutTileTest, LeavesAFourthComponentOut)
+TEST(CutTileTest, OmitsAFourthComponent)
 {
     const BytePixels picture(2, 1, 4, {1, 2, 3, 99, 4, 5, 6, 98});
 
     EXPECT_EQ(cut(picture, {0, 0, 2, 1}), (Bytes{1, 2, 3, 4, 5, 6}));
 }
 
-TEST(CutTileTest, ForgetsWhatTheTileHeldBefore)
+TEST(CutTileTest, ReplacesTheFormerContents)
 {
     Bytes tile(100, 77);
 
@@ -69,7 +69,7 @@ TEST(CutTileTest, ForgetsWhatTheTileHeldBefore)
     EXPECT_EQ(tile, (Bytes{7, 8, 9, 0, 0, 0}));
 }
 
-TEST(CutTileTest, TakesWordsToo)
+TEST(CutTileTest, CopiesSixteenBitSamples)
 {
     const std::vector<std::uint16_t> picture{1000, 2000, 3000, 65535, 0, 256};
     std::vector<std::uint16_t> tile;
@@ -79,7 +79,7 @@ TEST(CutTileTest, TakesWordsToo)
     EXPECT_EQ(tile, (std::vector<std::uint16_t>{65535, 0, 256}));
 }
 
-TEST(PlaceTileTest, PutsTheAreaRowByRow)
+TEST(PlaceTileTest, WritesTheAreaRowByRow)
 {
     BytePixels picture(3, 2);
 
@@ -88,7 +88,7 @@ TEST(PlaceTileTest, PutsTheAreaRowByRow)
     EXPECT_EQ(picture.values, (Bytes{0, 0, 0, 4, 5, 6, 7, 8, 9, 0, 0, 0, 14, 15, 16, 17, 18, 19}));
 }
 
-TEST(PlaceTileTest, DropsWhatReachesBeyondThePicture)
+TEST(PlaceTileTest, DropsPixelsBeyondTheImage)
 {
     BytePixels picture(3, 2);
 
@@ -106,7 +106,7 @@ TEST(PlaceTileTest, KeepsAFourthComponent)
     EXPECT_EQ(picture.values, (Bytes{1, 2, 3, 99, 4, 5, 6, 98}));
 }
 
-TEST(PlaceTileTest, SixteenTilesCutAndPlacedMakeThePictureAgain)
+TEST(PlaceTileTest, SixteenTilesCutAndPlacedRestoreTheImage)
 {
     const BytePixels picture = rampPicture<std::uint8_t>(17, 13, 4);
     BytePixels result(17, 13, 4);

@@ -29,7 +29,7 @@ class TilePlanTest : public testing::TestWithParam<Plan>
 
 } // namespace
 
-TEST_P(TilePlanTest, PadsAndCuts)
+TEST_P(TilePlanTest, HasPaddedLengthTileLengthAndCount)
 {
     const Plan &expected = GetParam();
 
@@ -39,8 +39,8 @@ TEST_P(TilePlanTest, PadsAndCuts)
     EXPECT_EQ(tileCount(side), expected.count);
 }
 
-// The remainder is added, not the distance to the next multiple of 4: 1003, 2047 and 2055 get more than they need.
-// Whether a side is cut follows from its size before padding: 2047 is one tile of 2052.
+// The remainder is added, not the distance to the next multiple of 4: 1003, 2047 and 2055 are padded more than needed.
+// The number of tiles depends on the size before padding: 2047 is one tile of 2052.
 INSTANTIATE_TEST_SUITE_P(Sizes, TilePlanTest,
                          testing::Values(Plan{1, 4, 4, 1}, Plan{2, 4, 4, 1}, Plan{3, 8, 8, 1}, Plan{4, 4, 4, 1},
                                          Plan{5, 8, 8, 1}, Plan{1001, 1004, 1004, 1}, Plan{1002, 1004, 1004, 1},
@@ -49,7 +49,7 @@ INSTANTIATE_TEST_SUITE_P(Sizes, TilePlanTest,
                                          Plan{2055, 2060, 515, 4}, Plan{6000, 6000, 1500, 4},
                                          Plan{9000, 9000, 2250, 4}));
 
-TEST(TilePlanPropertiesTest, TilesFillThePaddedSideWhichHoldsThePicture)
+TEST(TilePlanPropertiesTest, TilesCoverThePaddedSideAndThePaddedSideCoversTheImage)
 {
     for (std::uint32_t size = 1; size <= 10000; ++size) {
         const TileSide side = planTileSide(size);
@@ -62,7 +62,7 @@ TEST(TilePlanPropertiesTest, TilesFillThePaddedSideWhichHoldsThePicture)
     }
 }
 
-TEST(TilePlanPropertiesTest, ASideOfNothingIsOneTileOfNothing)
+TEST(TilePlanPropertiesTest, SideOfZeroIsOneTileOfZero)
 {
     EXPECT_EQ(planTileSide(0), (TileSide{0, 0}));
     EXPECT_EQ(tileCount(TileSide{0, 0}), 1U);

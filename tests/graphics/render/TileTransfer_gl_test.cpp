@@ -22,7 +22,7 @@ using graphics::TileFormats;
 using graphics::tileFormatsFor;
 using graphics::TileTransfer;
 
-// Odd on purpose: no row is a multiple of 4 bytes long.
+// With these sizes, no row is a multiple of 4 bytes long.
 constexpr int width = 7;
 constexpr int height = 5;
 
@@ -37,7 +37,7 @@ constexpr Place places[] = {
     {"Outside", {8, 6, 2, 3}},
 };
 
-/// One way of a transfer: where the tile lies, the components of the image, and how 16-bit samples travel.
+/// One kind of transfer: position of the tile, components of the image, and format of transferred 16-bit samples.
 struct Case {
     Place place;
     int components;
@@ -64,7 +64,7 @@ std::vector<Case> everyCase()
 template <typename T>
 constexpr GLenum pixelType = sizeof(T) == 1 ? GL_UNSIGNED_BYTE : GL_UNSIGNED_SHORT;
 
-/// Samples that half floats hold without loss, so that what is compared is where they go.
+/// Samples that half floats represent exactly, so that only positions are compared.
 template <typename T>
 Pixels<T> image(int imageWidth, int imageHeight, int components)
 {
@@ -155,7 +155,7 @@ protected:
         EXPECT_TRUE(picturesNear("download", actual, expected, limits<T>()));
     }
 
-    /// Visits the colour components that the area has in common with the image, by their place in both.
+    /// Visits the colour components of the intersection of area and image, with their index in both.
     template <typename Visit>
     void forEachCommonComponent(Visit visit) const
     {
@@ -174,27 +174,27 @@ protected:
 
 } // namespace
 
-TEST_P(TileTransfers, UploadTakesBytesOfTheAreaAndBlackBeyond)
+TEST_P(TileTransfers, UploadCopiesBytesOfTheAreaAndBlackBeyond)
 {
     expectTheAreaInTheTexture<std::uint8_t>();
 }
 
-TEST_P(TileTransfers, UploadTakesSamplesOfTheAreaAndBlackBeyond)
+TEST_P(TileTransfers, UploadCopiesSamplesOfTheAreaAndBlackBeyond)
 {
     expectTheAreaInTheTexture<std::uint16_t>();
 }
 
-TEST_P(TileTransfers, DownloadPutsBytesIntoTheAreaAlone)
+TEST_P(TileTransfers, DownloadWritesBytesInTheAreaOnly)
 {
     expectTheTileInTheArea<std::uint8_t>();
 }
 
-TEST_P(TileTransfers, DownloadPutsSamplesIntoTheAreaAlone)
+TEST_P(TileTransfers, DownloadWritesSamplesInTheAreaOnly)
 {
     expectTheTileInTheArea<std::uint16_t>();
 }
 
-TEST_P(TileTransfers, LeaveNoRowLengthBehind)
+TEST_P(TileTransfers, RestoreTheRowLengths)
 {
     const auto source = image<std::uint16_t>(width, height, GetParam().components);
     auto destination = source;
@@ -214,8 +214,8 @@ TEST_P(TileTransfers, LeaveNoRowLengthBehind)
 INSTANTIATE_TEST_SUITE_P(Places, TileTransfers, testing::ValuesIn(everyCase()),
                          [](const auto &test) { return testing::PrintToString(test.param); });
 
-// Tiles of one image differ in what they need of the buffers.
-TEST_F(TileTransferTest, ASmallTileAfterALargeOneHasNothingOfIt)
+// The buffers are reused for tiles of different size.
+TEST_F(TileTransferTest, SmallTileContainsNothingOfAFormerLargeTile)
 {
     const auto source = image<std::uint16_t>(width, height, 4);
     TileTransfer<std::uint16_t> transfer(width, height, 4, tileFormatsFor<std::uint16_t>(true, false));
@@ -231,8 +231,8 @@ TEST_F(TileTransferTest, ASmallTileAfterALargeOneHasNothingOfIt)
     EXPECT_TRUE(picturesNear("small after large", content, expected, limits<std::uint16_t>()));
 }
 
-// Every 16-bit sample, in and out again.
-TEST_F(TileTransferTest, BothWaysOfSamplesGiveTheSame)
+// Upload and download of every 16-bit sample.
+TEST_F(TileTransferTest, HalfFloatAndSampleTransfersAgree)
 {
     constexpr int side = 256;
     Samples16Image every(side, side);
@@ -265,7 +265,7 @@ TEST(TileFormatsTest, HalfFloatTransfersNeedVersion3OrTheExtension)
     EXPECT_TRUE(tileFormatsFor<std::uint16_t>(true, true).halfFloatTransfers);
 }
 
-TEST(TileFormatsTest, BytesGoWithRgb8AndSamplesWithHalfFloats)
+TEST(TileFormatsTest, BytesUseRgb8AndSamplesUseHalfFloats)
 {
     const TileFormats bytes = tileFormatsFor<std::uint8_t>(true, true);
     EXPECT_EQ(bytes.pixelFormat, static_cast<GLenum>(GL_RGB));

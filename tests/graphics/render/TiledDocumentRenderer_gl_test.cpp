@@ -22,13 +22,13 @@ using namespace grisal::graphics;
 using namespace grisal::test;
 
 constexpr TileFormats byteFormats{GL_RGB, GL_UNSIGNED_BYTE, GL_RGB8};
-constexpr TileFormats wordFormats{GL_RGB, GL_UNSIGNED_SHORT, GL_RGB16F};
+constexpr TileFormats sixteenBitFormats{GL_RGB, GL_UNSIGNED_SHORT, GL_RGB16F};
 
-/// Counts its passes and passes the source on, darkened to half.
-class HalvingFilter : public MixerFilter
+/// Counts its passes and renders the source at half its brightness.
+class DarkeningFilter : public MixerFilter
 {
 public:
-    HalvingFilter() { weights = {0.5F, 0, 0}; }
+    DarkeningFilter() { weights = {0.5F, 0, 0}; }
 
     void apply(GLuint source, const FramebufferObject &target) override
     {
@@ -91,7 +91,7 @@ protected:
     std::unique_ptr<FlexibleDocumentView> view;
 };
 
-/// What a mixer that takes only red makes of a picture.
+/// The result of a mixer with the weight of red only.
 template <typename T>
 Pixels<T> redAsGrey(Pixels<T> picture)
 {
@@ -113,7 +113,7 @@ class TiledSizes : public TiledDocumentRendererTest, public testing::WithParamIn
 {
 };
 
-// One tile, four side by side, four on top of each other, sixteen; sides that are padded and sides that are not.
+// One tile, four side by side, four one above the other, sixteen; with and without padding.
 INSTANTIATE_TEST_SUITE_P(Pictures, TiledSizes,
                          testing::Values(Size{1, 1}, Size{3, 2}, Size{2, 3}, Size{5, 1}, Size{1, 5}, Size{1001, 3},
                                          Size{3, 1003}, Size{1003, 2}, Size{2047, 2}, Size{2048, 3}, Size{2049, 5},
@@ -122,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(Pictures, TiledSizes,
                              return std::to_string(test.param.width) + "x" + std::to_string(test.param.height);
                          });
 
-TEST_P(TiledSizes, EightBitPicturesComeOutPixelForPixel)
+TEST_P(TiledSizes, EightBitImagesAreExact)
 {
     const auto source = rampPicture<std::uint8_t>(GetParam().width, GetParam().height);
     MixerFilter mixer;
@@ -131,7 +131,7 @@ TEST_P(TiledSizes, EightBitPicturesComeOutPixelForPixel)
     EXPECT_TRUE(picturesNear("8 bits", render(source, {&mixer}, byteFormats), redAsGrey(source)));
 }
 
-TEST_P(TiledSizes, SixteenBitPicturesComeOutAsTheirHalfFloats)
+TEST_P(TiledSizes, SixteenBitImagesAreRoundedToHalfFloats)
 {
     const auto source = rampPicture<std::uint16_t>(GetParam().width, GetParam().height);
     MixerFilter mixer;
@@ -144,7 +144,7 @@ TEST_P(TiledSizes, SixteenBitPicturesComeOutAsTheirHalfFloats)
     // At the upload llvmpipe rounds to the nearest half float; another driver may be one half float away, half of one
     // on average.
     const double limit = isLlvmpipe() ? 0 : halfFloatStep;
-    EXPECT_TRUE(picturesNear("16 bits", render(source, {&mixer}, wordFormats), expected, {limit, limit / 2}));
+    EXPECT_TRUE(picturesNear("16 bits", render(source, {&mixer}, sixteenBitFormats), expected, {limit, limit / 2}));
 }
 
 TEST_F(TiledDocumentRendererTest, AlphaOfTheSourceIsKept)
@@ -156,37 +156,37 @@ TEST_F(TiledDocumentRendererTest, AlphaOfTheSourceIsKept)
     EXPECT_TRUE(picturesNear("alpha", render(source, {&mixer}, byteFormats), redAsGrey(source)));
 }
 
-TEST_F(TiledDocumentRendererTest, WithoutEnabledFilterTheSourceIsTheResult)
+TEST_F(TiledDocumentRendererTest, ResultIsTheSourceWithoutEnabledFilters)
 {
     const auto source = rampPicture<std::uint16_t>(5, 3, 4);
-    HalvingFilter filter;
-    EXPECT_TRUE(picturesNear("no filter", render(source, {&filter}, wordFormats), source));
+    DarkeningFilter filter;
+    EXPECT_TRUE(picturesNear("no filter", render(source, {&filter}, sixteenBitFormats), source));
     EXPECT_EQ(filter.passes, 0);
 }
 
-TEST_F(TiledDocumentRendererTest, AnEmptyQueueGivesTheSource)
+TEST_F(TiledDocumentRendererTest, ResultIsTheSourceForAnEmptyQueue)
 {
     const auto source = rampPicture<std::uint8_t>(5, 3);
     EXPECT_TRUE(picturesNear("empty queue", render(source, {}, byteFormats), source));
 }
 
-// With one filter enabled it is the first that runs, whichever it is: the mixer stands first and is always on, so that
-// files have never shown anything else.
-TEST_F(TiledDocumentRendererTest, OneEnabledFilterRunsTheFirstOfTheQueue)
+// If one filter is enabled, the first of the queue runs, whichever is enabled. In the program this is the mixer, which
+// is always enabled.
+TEST_F(TiledDocumentRendererTest, WithOneEnabledFilterTheFirstOfTheQueueRuns)
 {
-    HalvingFilter first;
-    HalvingFilter second;
+    DarkeningFilter first;
+    DarkeningFilter second;
     second.enabled = true;
     render(rampPicture<std::uint8_t>(4, 4), {&first, &second}, byteFormats);
     EXPECT_EQ(first.passes, 1);
     EXPECT_EQ(second.passes, 0);
 }
 
-// In the preview the first filter runs twice when it is enabled, in the file once: saved pictures depend on it.
-TEST_F(TiledDocumentRendererTest, TheFirstFilterRunsOncePerTile)
+// An enabled first filter runs twice in the preview but once in the final render: saved images depend on it.
+TEST_F(TiledDocumentRendererTest, FirstFilterRunsOncePerTile)
 {
-    HalvingFilter first;
-    HalvingFilter second;
+    DarkeningFilter first;
+    DarkeningFilter second;
     first.enabled = true;
     second.enabled = true;
     const BytePixels white(4, 4, 3, std::vector<std::uint8_t>(48, 255));
@@ -196,11 +196,11 @@ TEST_F(TiledDocumentRendererTest, TheFirstFilterRunsOncePerTile)
     EXPECT_EQ(result.at(0, 0, 0), 64);
 }
 
-TEST_F(TiledDocumentRendererTest, TheFirstFilterRunsAlsoWhenItIsDisabled)
+TEST_F(TiledDocumentRendererTest, FirstFilterRunsEvenIfDisabled)
 {
-    HalvingFilter first;
-    HalvingFilter second;
-    HalvingFilter third;
+    DarkeningFilter first;
+    DarkeningFilter second;
+    DarkeningFilter third;
     second.enabled = true;
     third.enabled = true;
     render(rampPicture<std::uint8_t>(4, 4), {&first, &second, &third}, byteFormats);
@@ -209,27 +209,27 @@ TEST_F(TiledDocumentRendererTest, TheFirstFilterRunsAlsoWhenItIsDisabled)
     EXPECT_EQ(third.passes, 1);
 }
 
-TEST_F(TiledDocumentRendererTest, DisabledFiltersInBetweenAreLeftOut)
+TEST_F(TiledDocumentRendererTest, DisabledFiltersInBetweenDoNotRun)
 {
-    HalvingFilter first;
-    HalvingFilter second;
-    HalvingFilter third;
+    DarkeningFilter first;
+    DarkeningFilter second;
+    DarkeningFilter third;
     first.enabled = true;
     third.enabled = true;
     render(rampPicture<std::uint8_t>(4, 4), {&first, &second, &third}, byteFormats);
     EXPECT_EQ(second.passes, 0);
 }
 
-TEST_F(TiledDocumentRendererTest, AnUnknownPixelTypeRendersNothing)
+TEST_F(TiledDocumentRendererTest, UnknownPixelTypeGivesNoResult)
 {
-    HalvingFilter filter;
+    DarkeningFilter filter;
     filter.enabled = true;
     const auto source = rampPicture<std::uint8_t>(4, 4);
     EXPECT_TRUE(render(source, {&filter}, {GL_RGB, GL_FLOAT, GL_RGB32F}).values.empty());
     EXPECT_EQ(filter.passes, 0);
 }
 
-/// The darkening written again: a mask over the padded size, the overlay blend on a scale of 0..255.
+/// Independent computation of the vignette: a mask over the padded size, the overlay on a scale of 0..255.
 float darkened(float value, int x, int y, int width, int height)
 {
     const TileSide horizontal = planTileSide(static_cast<std::uint32_t>(width));
@@ -243,7 +243,7 @@ float darkened(float value, int x, int y, int width, int height)
     return ((1 - mask) * scaled + mask * scaled * scaled * 0.0039F) * 0.0039F;
 }
 
-TEST_P(TiledSizes, TheVignetteSpansAllTiles)
+TEST_P(TiledSizes, VignetteSpansAllTiles)
 {
     const auto source = rampPicture<std::uint8_t>(GetParam().width, GetParam().height);
     MixerFilter mixer;
@@ -268,7 +268,7 @@ TEST_P(TiledSizes, TheVignetteSpansAllTiles)
     EXPECT_TRUE(picturesNear("vignette", render(source, {&mixer, &vignette}, byteFormats), expected, {1, 0}));
 }
 
-TEST_F(TiledDocumentRendererTest, ADisabledVignetteStaysInTheChain)
+TEST_F(TiledDocumentRendererTest, DisabledVignetteStaysInTheQueueWithoutEffect)
 {
     const LogCapture log;
     const auto source = rampPicture<std::uint8_t>(5, 4);
@@ -281,8 +281,8 @@ TEST_F(TiledDocumentRendererTest, ADisabledVignetteStaysInTheChain)
     EXPECT_TRUE(log.contains("(INFO) Total Filters:   2"));
 }
 
-// It is the first vignette of the chain that makes room for the overlay, enabled or not; there is one in the program.
-TEST_F(TiledDocumentRendererTest, TheFirstVignetteMakesRoomForTheOverlay)
+// The first vignette of the queue is replaced by the overlay, enabled or not; the program has only one.
+TEST_F(TiledDocumentRendererTest, OverlayReplacesTheFirstVignetteOnly)
 {
     const LogCapture log;
     MixerFilter mixer;
@@ -309,7 +309,7 @@ TEST_F(TiledDocumentRendererTest, TilesAreRenderedColumnByColumn)
     EXPECT_EQ(log.debugs().filter(QRegularExpression(QStringLiteral("i[XY]: "))), expected);
 }
 
-TEST_F(TiledDocumentRendererTest, TilesThatTheDriverCannotRenderGiveNoResult)
+TEST_F(TiledDocumentRendererTest, TooLargeTilesGiveNoResult)
 {
     const LogCapture log;
     MixerFilter mixer;
@@ -327,7 +327,7 @@ TEST_F(TiledDocumentRendererTest, TilesThatTheDriverCannotRenderGiveNoResult)
     clearGlErrors();
 }
 
-TEST_F(TiledDocumentRendererTest, LogsOneByteTileStepByStep)
+TEST_F(TiledDocumentRendererTest, LogsEveryStepOfAnEightBitTile)
 {
     const LogCapture log;
     MixerFilter mixer;
@@ -365,12 +365,12 @@ TEST_F(TiledDocumentRendererTest, LogsOneByteTileStepByStep)
                                                      "Finished");
 }
 
-TEST_F(TiledDocumentRendererTest, SixteenBitTilesLogLess)
+TEST_F(TiledDocumentRendererTest, LogsFewerStepsOfSixteenBitTiles)
 {
     const LogCapture log;
     MixerFilter mixer;
     mixer.enabled = true;
-    render(rampPicture<std::uint16_t>(5, 2049), {&mixer}, wordFormats);
+    render(rampPicture<std::uint16_t>(5, 2049), {&mixer}, sixteenBitFormats);
     EXPECT_TRUE(log.contains("(INFO) GL_RGB16 output image requested"));
     EXPECT_TRUE(log.contains("(INFO) Tiles requested"));
     EXPECT_TRUE(log.contains("(INFO) V Tiles:  4"));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Both queues from end to end against a second computation of the same formulas without a GPU.
+// Complete previews and final renders, compared with an independent CPU implementation.
 #include "graphics/filters/FilterSet.h"
 #include "graphics/render/PreviewStage.h"
 #include "resources/sample-picture/Scene.h"
@@ -23,7 +23,7 @@ using reference::Look;
 
 constexpr double oneInTenThousand = 0.0001;
 
-/// Of 16-bit files, in levels: Mesa's software drivers stay below 0.0015.
+/// Limit for 16-bit files, in levels; below 0.0015 with Mesa's software drivers.
 constexpr double meanLimitOf16Bits = 0.005;
 
 struct Case {
@@ -41,7 +41,7 @@ QVector<float> sCurve()
     return curve;
 }
 
-/// A triangle: none in black and white, half in the middle grey.
+/// A triangle: 0 for black and white, 0.5 for the middle grey.
 QVector<float> strongestInTheMiddle()
 {
     QVector<float> weights(256);
@@ -54,7 +54,7 @@ QVector<float> strongestInTheMiddle()
 grisal::graphics::Look strongParameters()
 {
     grisal::graphics::Look parameters;
-    // The weights of a look: in 255ths no sum of bytes lies exactly between two levels.
+    // The weights of a look: as multiples of 1/255, no sum of bytes is exactly half way between two levels.
     parameters.get<MixerFilter>().weights = {64 / 255.0F, 89 / 255.0F, 102 / 255.0F};
     parameters.get<CurveFilter>().curve = sCurve();
     parameters.get<GrainFilter>().weights = strongestInTheMiddle();
@@ -79,7 +79,7 @@ std::vector<Case> everyFilterAloneAndAllTogether()
             named("vignette", false, false, false, true),   named("all", true, true, true, true)};
 }
 
-/// Five filters and four: the passes of a tile end in either of its two targets.
+/// Five filters and four, so that the last pass of a tile uses each of its two targets.
 std::vector<Case> allFiltersAndAllButTheGrain()
 {
     return {named("all", true, true, true, true), named("all but grain", true, true, false, true)};
@@ -92,7 +92,7 @@ const BytePixels &blurredNoiseMap()
     return blurred;
 }
 
-/// The sample picture, laid side by side as often as it takes: painting it large takes longer than rendering.
+/// An image that repeats the sample picture: painting a large one would take longer than rendering.
 Samples16Image samplePicture(int width, int height)
 {
     constexpr int paintedWidth = 600;
@@ -180,7 +180,7 @@ protected:
         return picture;
     }
 
-    /// Two levels at the worst, one after a single pass, and hardly any component apart at all.
+    /// At most two levels, or one after a single pass, and very few components that differ.
     void expectAlike(const std::string &name, const Look &look, const BytePixels &actual, const BytePixels &expected,
                      bool tiled)
     {
@@ -216,7 +216,7 @@ protected:
             if constexpr (sizeof(T) == 1) {
                 expectAlike(title, look, actual, expected, true);
             } else {
-                // A texel of the blurred noise may be rounded to the next level: half a level of grain on top.
+                // A texel of the blurred noise may be rounded to another level, which adds half a level of grain.
                 const bool exact = !look.grain && !look.vignette && isLlvmpipe();
                 EXPECT_TRUE(picturesNear(title, actual, expected, {exact ? 0.0 : 100.0, meanLimitOf16Bits}));
             }
@@ -234,37 +234,37 @@ INSTANTIATE_TEST_SUITE_P(Pictures, WholeChain,
                              return std::to_string(test.param.width) + "x" + std::to_string(test.param.height);
                          });
 
-TEST_P(WholeChain, PreviewOfARamp)
+TEST_P(WholeChain, PreviewOfARampMatchesTheReference)
 {
     expectPreviewAlike("ramp", rampPicture<std::uint8_t>(width(), height()));
 }
 
-TEST_P(WholeChain, PreviewOfTheSample)
+TEST_P(WholeChain, PreviewOfTheSampleMatchesTheReference)
 {
     expectPreviewAlike("sample", sampleBytes());
 }
 
-TEST_P(WholeChain, EightBitFileOfARamp)
+TEST_P(WholeChain, EightBitFileOfARampMatchesTheReference)
 {
     expectFileAlike("ramp", rampPicture<std::uint8_t>(width(), height()));
 }
 
-TEST_P(WholeChain, EightBitFileOfTheSample)
+TEST_P(WholeChain, EightBitFileOfTheSampleMatchesTheReference)
 {
     expectFileAlike("sample", sampleBytes());
 }
 
-TEST_P(WholeChain, SixteenBitFileOfARamp)
+TEST_P(WholeChain, SixteenBitFileOfARampMatchesTheReference)
 {
     expectFileAlike("ramp", rampPicture<std::uint16_t>(width(), height()));
 }
 
-TEST_P(WholeChain, SixteenBitFileOfTheSample)
+TEST_P(WholeChain, SixteenBitFileOfTheSampleMatchesTheReference)
 {
     expectFileAlike("sample", sample());
 }
 
-// 2.25 million pixels in one tile: more than the filters run over at once.
+// One tile of 2.25 million pixels: more than the filters process at once.
 class LargeTile : public WholeChain
 {
 };
@@ -272,12 +272,12 @@ class LargeTile : public WholeChain
 INSTANTIATE_TEST_SUITE_P(Pictures, LargeTile, testing::Values(Size{2048, 1100}),
                          [](const auto &) { return "2048x1100"; });
 
-TEST_P(LargeTile, EightBitFile)
+TEST_P(LargeTile, EightBitFileMatchesTheReference)
 {
     expectFileAlike("large tile", rampPicture<std::uint8_t>(width(), height()), allFiltersAndAllButTheGrain());
 }
 
-TEST_P(LargeTile, SixteenBitFile)
+TEST_P(LargeTile, SixteenBitFileMatchesTheReference)
 {
     expectFileAlike("large tile", rampPicture<std::uint16_t>(width(), height()), allFiltersAndAllButTheGrain());
 }

@@ -69,7 +69,7 @@ GLuint smallTexture()
 
 } // namespace
 
-TEST_F(ShaderProgramTest, AnEmptySourceMakesNoShader)
+TEST_F(ShaderProgramTest, EmptySourceCreatesNoShader)
 {
     const LogCapture log;
 
@@ -79,7 +79,7 @@ TEST_F(ShaderProgramTest, AnEmptySourceMakesNoShader)
     EXPECT_EQ(log.debugs(), QStringList());
 }
 
-TEST_F(ShaderProgramTest, AGoodSourceCompilesWithoutAWord)
+TEST_F(ShaderProgramTest, ValidSourceCompilesWithoutLogging)
 {
     const LogCapture log;
 
@@ -91,7 +91,7 @@ TEST_F(ShaderProgramTest, AGoodSourceCompilesWithoutAWord)
     glDeleteShader(shader);
 }
 
-TEST_F(ShaderProgramTest, ABadSourceIsLoggedOnceAndItsShaderReturned)
+TEST_F(ShaderProgramTest, InvalidSourceIsLoggedOnceAndItsShaderReturned)
 {
     const LogCapture log;
 
@@ -105,7 +105,7 @@ TEST_F(ShaderProgramTest, ABadSourceIsLoggedOnceAndItsShaderReturned)
     glDeleteShader(shader);
 }
 
-TEST_F(ShaderProgramTest, ALinkFailureIsLoggedAndGivesZero)
+TEST_F(ShaderProgramTest, LinkFailureIsLoggedAndGivesZero)
 {
     const GLuint fragment = compileShader(badFragment, GL_FRAGMENT_SHADER).second;
     const LogCapture log;
@@ -117,7 +117,7 @@ TEST_F(ShaderProgramTest, ALinkFailureIsLoggedAndGivesZero)
     glDeleteShader(fragment);
 }
 
-TEST_F(ShaderProgramTest, ALinkedProgramHasTheShadersItWasGiven)
+TEST_F(ShaderProgramTest, LinkedProgramHasItsShadersAttached)
 {
     const GLuint vertex = compileShader(vertexSource(), GL_VERTEX_SHADER).second;
     const GLuint fragment = compileShader(goodFragment, GL_FRAGMENT_SHADER).second;
@@ -135,7 +135,7 @@ TEST_F(ShaderProgramTest, ALinkedProgramHasTheShadersItWasGiven)
     glDeleteProgram(program);
 }
 
-TEST_F(ShaderProgramTest, AProgramKeepsItsLabel)
+TEST_F(ShaderProgramTest, ProgramHasTheGivenName)
 {
     const ShaderProgram program("HalfTone", vertexSource(), goodFragment);
 
@@ -143,7 +143,7 @@ TEST_F(ShaderProgramTest, AProgramKeepsItsLabel)
     EXPECT_TRUE(glIsProgram(program.program));
 }
 
-TEST_F(ShaderProgramTest, AFailingFragmentShaderLeavesAnObjectWithoutAProgram)
+TEST_F(ShaderProgramTest, InvalidFragmentShaderGivesProgramZero)
 {
     const LogCapture log;
 
@@ -154,7 +154,7 @@ TEST_F(ShaderProgramTest, AFailingFragmentShaderLeavesAnObjectWithoutAProgram)
     EXPECT_EQ(log.debugs().filter("noSuchThing").size(), 1);
 }
 
-TEST_F(ShaderProgramTest, TheProgramGoesWithItsObject)
+TEST_F(ShaderProgramTest, DestructorDeletesTheProgram)
 {
     GLuint name = 0;
     {
@@ -165,7 +165,7 @@ TEST_F(ShaderProgramTest, TheProgramGoesWithItsObject)
     EXPECT_FALSE(glIsProgram(name));
 }
 
-TEST_F(ShaderProgramTest, AUniformIsSetAndNoProgramStaysInUse)
+TEST_F(ShaderProgramTest, SettingAUniformLeavesNoProgramInUse)
 {
     const ShaderProgram program("test", vertexSource(), goodFragment);
     glUseProgram(program.program);
@@ -188,7 +188,7 @@ TEST_F(ShaderProgramTest, ThreeFloatsAreSetInOrder)
     EXPECT_EQ(glInteger(GL_CURRENT_PROGRAM), 0);
 }
 
-TEST_F(ShaderProgramTest, AMissingUniformChangesNothing)
+TEST_F(ShaderProgramTest, MissingUniformChangesNothing)
 {
     const ShaderProgram program("test", vertexSource(), goodFragment);
     setUniform1f(program, "Amount", 0.75F);
@@ -203,7 +203,7 @@ TEST_F(ShaderProgramTest, AMissingUniformChangesNothing)
     EXPECT_EQ(log.debugs() + log.warnings(), QStringList());
 }
 
-TEST_F(ShaderProgramTest, AUniformThatTheShaderDoesNotUseCountsAsMissing)
+TEST_F(ShaderProgramTest, UnusedUniformIsTreatedAsMissing)
 {
     const ShaderProgram program("test", vertexSource(), goodFragment);
 
@@ -236,7 +236,7 @@ TEST_F(ShaderProgramTest, A1DTextureIsBoundToItsUnit)
     EXPECT_EQ(glInteger(GL_CURRENT_PROGRAM), 0);
 }
 
-TEST_F(ShaderProgramTest, AMissingSamplerBindsNothing)
+TEST_F(ShaderProgramTest, MissingSamplerBindsNothing)
 {
     const ShaderProgram program("test", vertexSource(), goodFragment);
     const Texture texture(smallTexture());
@@ -249,7 +249,7 @@ TEST_F(ShaderProgramTest, AMissingSamplerBindsNothing)
     EXPECT_EQ(activeUnit(), 0);
 }
 
-TEST_F(ShaderProgramTest, APassReadsTheTexelUnderEachFragment)
+TEST_F(ShaderProgramTest, PassReadsTheTexelAtEachFragment)
 {
     const BytePixels picture = rampPicture<std::uint8_t>(13, 7);
     const ShaderProgram program("test", vertexSource(), copyFragment);
@@ -263,7 +263,7 @@ TEST_F(ShaderProgramTest, APassReadsTheTexelUnderEachFragment)
     EXPECT_TRUE(picturesNear("copied", readBytes(target.record(), 13, 7), picture));
 }
 
-TEST_F(ShaderProgramTest, APassLeavesNothingBound)
+TEST_F(ShaderProgramTest, PassLeavesNothingBound)
 {
     const ShaderProgram program("test", vertexSource(), copyFragment);
     const Texture texture(smallTexture());
@@ -273,16 +273,16 @@ TEST_F(ShaderProgramTest, APassLeavesNothingBound)
     graphics::runPass(program, 1, 1, texture.name(), target.record());
 
     EXPECT_EQ(activeUnit(), 0);
-    expectPassIsOver();
+    expectStateAfterPass();
 }
 
-TEST_F(ShaderProgramTest, SourcesBeginWithTheVersionTheyAreWrittenIn)
+TEST_F(ShaderProgramTest, SourcesStartWithTheVersionLine)
 {
     EXPECT_EQ(vertexSource().rfind("#version 120\n", 0), 0U);
     EXPECT_EQ(fragmentSource("MixerFilter").rfind("#version 120\n", 0), 0U);
 }
 
-TEST_F(ShaderProgramTest, AnUnknownSourceIsEmptyAndLogged)
+TEST_F(ShaderProgramTest, UnknownSourceIsEmptyAndLogged)
 {
     const LogCapture log;
 

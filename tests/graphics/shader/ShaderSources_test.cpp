@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Saved pictures depend on every token of the shaders: the same settings have to give the same picture in every version
-// of the program. Comments and layout are free; anything else that changes here changes the pictures of users.
+// Saved images depend on every token of the shaders: the same settings have to give the same result in every version
+// of the program. Only comments and layout may change.
 #include "graphics/shader/ShaderProgram.h"
 
 #include <gtest/gtest.h>
@@ -38,7 +38,7 @@ constexpr Source sources[] = {
     {"VignetteFilter.frag", "894a7c6bb33f388552ee36374a89c106be85e6b10227bdf8ac14455e79e12870"},
 };
 
-/// Names, numbers, operators and the like, one a line, without comments.
+/// Names, numbers, operators and other tokens, one per line, without comments.
 QByteArray tokensOf(QString source)
 {
     static const QRegularExpression comment(QStringLiteral("//[^\\n]*|/\\*.*?\\*/"),
@@ -59,7 +59,7 @@ QString checksumOf(const QString &source)
     return QString::fromLatin1(QCryptographicHash::hash(tokensOf(source), QCryptographicHash::Sha256).toHex());
 }
 
-/// The source as the GL compiler gets it, version line included.
+/// The source as passed to the GLSL compiler, including the version line.
 QString compiledSource(const QString &file)
 {
     const QString stem = file.section(QLatin1Char('.'), 0, 0);
@@ -73,7 +73,7 @@ class ShaderSources : public testing::TestWithParam<Source>
 
 } // namespace
 
-TEST_P(ShaderSources, HaveTheTokensThatPicturesWereSavedWith)
+TEST_P(ShaderSources, HaveTheStoredChecksum)
 {
     EXPECT_EQ(checksumOf(compiledSource(GetParam().file)).toStdString(), GetParam().checksum);
 }
@@ -89,7 +89,7 @@ TEST(ShaderSourcesTest, ChecksumIgnoresCommentsAndLayout)
     EXPECT_EQ(checksumOf(source), checksumOf(sameTokens));
 }
 
-TEST(ShaderSourcesTest, ChecksumFollowsEveryToken)
+TEST(ShaderSourcesTest, ChecksumDependsOnEveryToken)
 {
     const QString checksum = checksumOf(QStringLiteral("x *= 0.0039 ;"));
 

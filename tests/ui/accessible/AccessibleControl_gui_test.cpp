@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/accessible/AccessibleControl.h"
 
+#include "tests/support/AccessibilityEventRecorder.h"
 #include "tests/support/GuiTest.h"
-#include "tests/support/Hearing.h"
 
 #include <QTest>
 #include <QWidget>
@@ -42,55 +42,55 @@ protected:
     Lamp lamp;
 };
 
-TEST_F(AccessibleControlTest, IsAskedForRoleAndValue)
+TEST_F(AccessibleControlTest, InterfaceReturnsRoleAndValue)
 {
     EXPECT_EQ(roleOf(lamp), QAccessible::Indicator);
-    EXPECT_EQ(spoken(lamp, QAccessible::Value), QStringLiteral("off"));
+    EXPECT_EQ(accessibleText(lamp, QAccessible::Value), QStringLiteral("off"));
     lamp.set(true);
-    EXPECT_EQ(spoken(lamp, QAccessible::Value), QStringLiteral("on"));
+    EXPECT_EQ(accessibleText(lamp, QAccessible::Value), QStringLiteral("on"));
 }
 
-TEST_F(AccessibleControlTest, TheValueLeadsTheDescription)
+TEST_F(AccessibleControlTest, DescriptionStartsWithTheValue)
 {
-    EXPECT_EQ(spoken(lamp, QAccessible::Description), QStringLiteral("off"));
+    EXPECT_EQ(accessibleText(lamp, QAccessible::Description), QStringLiteral("off"));
     lamp.setAccessibleDescription(QStringLiteral("Press it"));
-    EXPECT_EQ(spoken(lamp, QAccessible::Description), QStringLiteral("off. Press it"));
+    EXPECT_EQ(accessibleText(lamp, QAccessible::Description), QStringLiteral("off. Press it"));
 }
 
-TEST_F(AccessibleControlTest, OtherWordsAreTheWidgets)
+TEST_F(AccessibleControlTest, NameIsTheNameOfTheWidget)
 {
     lamp.setAccessibleName(QStringLiteral("Lamp"));
-    EXPECT_EQ(spoken(lamp, QAccessible::Name), QStringLiteral("Lamp"));
+    EXPECT_EQ(accessibleText(lamp, QAccessible::Name), QStringLiteral("Lamp"));
 }
 
-TEST_F(AccessibleControlTest, AnotherValueIsToldOnce)
+TEST_F(AccessibleControlTest, ChangedValueIsReportedOnce)
 {
     show();
-    Hearing hearing;
+    AccessibilityEventRecorder recorder;
     lamp.set(true);
     lamp.set(true);
-    EXPECT_EQ(hearing.valuesOf(lamp), QStringList(QStringLiteral("on")));
+    EXPECT_EQ(recorder.valuesOf(lamp), QStringList(QStringLiteral("on")));
     lamp.set(false);
-    EXPECT_EQ(hearing.valuesOf(lamp), QStringList(QStringLiteral("off")));
+    EXPECT_EQ(recorder.valuesOf(lamp), QStringList(QStringLiteral("off")));
 }
 
-TEST_F(AccessibleControlTest, WhatIsHiddenIsSilent)
+TEST_F(AccessibleControlTest, HiddenControlReportsNothing)
 {
     show();
     lamp.hide();
-    Hearing hearing;
+    AccessibilityEventRecorder recorder;
     lamp.set(true);
-    EXPECT_TRUE(hearing.valuesOf(lamp).isEmpty());
+    EXPECT_TRUE(recorder.valuesOf(lamp).isEmpty());
     lamp.show();
     lamp.set(false);
-    EXPECT_EQ(hearing.valuesOf(lamp), QStringList(QStringLiteral("off")));
+    EXPECT_EQ(recorder.valuesOf(lamp), QStringList(QStringLiteral("off")));
 }
 
-TEST_F(AccessibleControlTest, OrdinaryWidgetsStayAsTheyAre)
+TEST_F(AccessibleControlTest, OrdinaryWidgetsAreNotAffected)
 {
     QWidget plain;
     EXPECT_EQ(roleOf(plain), QAccessible::Client);
-    EXPECT_EQ(spoken(plain, QAccessible::Value), QString());
+    EXPECT_EQ(accessibleText(plain, QAccessible::Value), QString());
 }
 
 } // namespace

@@ -57,13 +57,13 @@ protected:
     Marked *second = new Marked;
 };
 
-TEST_F(FocusMarkTest, TheFirstFocusOfAWindowIsNotMarked)
+TEST_F(FocusMarkTest, FirstFocusOfAWindowIsNotMarked)
 {
     EXPECT_TRUE(first->hasFocus());
     EXPECT_FALSE(first->mark.isSeen());
 }
 
-TEST_F(FocusMarkTest, TheTabKeyMarks)
+TEST_F(FocusMarkTest, TabKeyShowsTheMark)
 {
     QTest::keyClick(first, Qt::Key_Tab);
     EXPECT_TRUE(second->mark.isSeen());
@@ -73,7 +73,7 @@ TEST_F(FocusMarkTest, TheTabKeyMarks)
     EXPECT_FALSE(second->mark.isSeen());
 }
 
-TEST_F(FocusMarkTest, TheMouseDoesNotMarkUntilAKeyIsUsed)
+TEST_F(FocusMarkTest, MouseShowsNoMarkUntilAKeyIsPressed)
 {
     QTest::mouseClick(second, Qt::LeftButton);
     EXPECT_TRUE(second->hasFocus());
@@ -85,7 +85,7 @@ TEST_F(FocusMarkTest, TheMouseDoesNotMarkUntilAKeyIsUsed)
     EXPECT_FALSE(second->mark.isSeen());
 }
 
-TEST_F(FocusMarkTest, AFocusThatComesBackIsWhatItWas)
+TEST_F(FocusMarkTest, ReturningFocusHasItsFormerMark)
 {
     QTest::keyClick(first, Qt::Key_Tab);
     second->clearFocus();
@@ -97,7 +97,7 @@ TEST_F(FocusMarkTest, AFocusThatComesBackIsWhatItWas)
     EXPECT_FALSE(first->mark.isSeen());
 }
 
-TEST_F(FocusMarkTest, IsALineBetweenTwoAtTheEdge)
+TEST_F(FocusMarkTest, IsALineBetweenTwoLinesAtTheEdge)
 {
     QTest::keyClick(first, Qt::Key_Tab);
     const QImage seen = second->grab().toImage();
@@ -120,7 +120,7 @@ TEST_F(FocusMarkTest, IsALineBetweenTwoAtTheEdge)
     EXPECT_EQ(second->grab().toImage().pixelColor(1, 15), QColor(Qt::red));
 }
 
-TEST(FocusMarkLines, GrowWithTheScreensDensity)
+TEST(FocusMarkLines, ScaleWithTheScreenDensity)
 {
     const auto lines = focusMarkLines(QRect(0, 0, 100, 80), 2);
     EXPECT_EQ(lines.front().place, QRect(0, 0, 100, 8));

@@ -13,7 +13,7 @@ QKeyEvent pressed(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     return {QEvent::KeyPress, key, modifiers};
 }
 
-TEST(Keys, ArrowsPointAsOnTheScreen)
+TEST(Keys, ArrowKeysGiveScreenDirections)
 {
     EXPECT_EQ(arrowOf(pressed(Qt::Key_Left)), QPoint(-1, 0));
     EXPECT_EQ(arrowOf(pressed(Qt::Key_Right)), QPoint(1, 0));
@@ -23,7 +23,7 @@ TEST(Keys, ArrowsPointAsOnTheScreen)
     EXPECT_TRUE(arrowOf(pressed(Qt::Key_Tab)).isNull());
 }
 
-TEST(Keys, CommandsAreNoArrows)
+TEST(Keys, ArrowKeysWithModifiersAreIgnored)
 {
     for (const Qt::KeyboardModifier modifier : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier}) {
         EXPECT_FALSE(isPlain(pressed(Qt::Key_Left, modifier)));
@@ -33,7 +33,7 @@ TEST(Keys, CommandsAreNoArrows)
     EXPECT_TRUE(isPlain(pressed(Qt::Key_Plus, Qt::KeypadModifier)));
 }
 
-TEST(Keys, APageIsANotchOfTheWheel)
+TEST(Keys, PageKeyEqualsOneWheelNotch)
 {
     EXPECT_EQ(wheelTurnOf(pressed(Qt::Key_PageUp)), 120);
     EXPECT_EQ(wheelTurnOf(pressed(Qt::Key_PageDown)), -120);

@@ -12,7 +12,7 @@ namespace
 
 constexpr ChromaPlane middle{-341, 341, -341, 341};
 
-TEST(ChromaPlane, ModesHaveTheirRanges)
+TEST(ChromaPlane, ModesHaveFixedRanges)
 {
     EXPECT_EQ(chromaPlaneOf(0), (ChromaPlane{-170, 170, -170, 170}));
     EXPECT_EQ(chromaPlaneOf(1), middle);
@@ -21,7 +21,7 @@ TEST(ChromaPlane, ModesHaveTheirRanges)
     EXPECT_FALSE(chromaPlaneOf(-1));
 }
 
-TEST(ChromaPlane, NoChromaIsInTheMiddle)
+TEST(ChromaPlane, ZeroChromaIsInTheMiddle)
 {
     EXPECT_EQ(markerAt(middle, {0, 0}), QPointF(0.5, 0.5));
     EXPECT_EQ(chromaAt(middle, {0.5, 0.5}).u, 0);
@@ -36,14 +36,14 @@ TEST(ChromaPlane, BlueIsToTheRightAndRedUpwards)
     EXPECT_EQ(chromaAt(middle, {1, 0}).v, 341);
 }
 
-TEST(ChromaPlane, PlacesBeyondTheEdgeHaveTheirChroma)
+TEST(ChromaPlane, PositionsBeyondTheEdgeAreNotClamped)
 {
     EXPECT_EQ(chromaAt(middle, {-0.5, 1.5}).u, -682);
     EXPECT_EQ(chromaAt(middle, {-0.5, 1.5}).v, -682);
     EXPECT_EQ(markerAt(middle, {682, 682}), QPointF(1.5, -0.5));
 }
 
-TEST(ChromaPlane, MarkerAndChromaAreEachOthersWayBack)
+TEST(ChromaPlane, MarkerAndChromaConversionsAreInverse)
 {
     for (int mode = 0; mode < 3; ++mode) {
         const ChromaPlane plane = *chromaPlaneOf(mode);
@@ -53,7 +53,7 @@ TEST(ChromaPlane, MarkerAndChromaAreEachOthersWayBack)
     }
 }
 
-TEST(ChromaPlane, NothingButZeroIsNearZero)
+TEST(ChromaPlane, WeightsAreComparedRelativeToTheirSize)
 {
     EXPECT_TRUE(nearlyEqualWeights(0, 0));
     EXPECT_FALSE(nearlyEqualWeights(0, 1e-30F));
@@ -63,7 +63,7 @@ TEST(ChromaPlane, NothingButZeroIsNearZero)
     EXPECT_FALSE(nearlyEqualWeights(-100, 100));
 }
 
-TEST(ChromaPlane, TheMouseWheelCountsWholeFifths)
+TEST(ChromaPlane, MouseWheelDeltaIsTruncatedToMultiplesOfFive)
 {
     EXPECT_FLOAT_EQ(lumaAfterWheel(85, 120), 86.2F);
     EXPECT_FLOAT_EQ(lumaAfterWheel(85, -120), 83.8F);
@@ -73,13 +73,13 @@ TEST(ChromaPlane, TheMouseWheelCountsWholeFifths)
     EXPECT_FLOAT_EQ(lumaAfterWheel(85, -9), 84.95F);
 }
 
-TEST(ChromaPlane, TheMouseWheelEndsAtTheLimits)
+TEST(ChromaPlane, MouseWheelStopsAtTheLimits)
 {
     EXPECT_EQ(lumaAfterWheel(511.5F, 120), 512);
     EXPECT_EQ(lumaAfterWheel(-511.5F, -120), -512);
 }
 
-/// A colour of the plane, as the sum over its channels tells it.
+/// The colour of the plane for a luma and a chroma, computed by the formula.
 QRgb colourAt(float luma, int u, int v)
 {
     const auto cut = [](double level) { return static_cast<int>(std::clamp(level, 0.0, 255.0)); };
@@ -103,7 +103,7 @@ class WheelImage : public testing::TestWithParam<WheelCase>
 {
 };
 
-TEST_P(WheelImage, ShowsTheColourOfEveryPlace)
+TEST_P(WheelImage, ShowsTheColourOfEveryPosition)
 {
     const ChromaPlane plane = *chromaPlaneOf(GetParam().mode);
     const QImage image = wheelImageOf(plane, GetParam().luma);
@@ -125,8 +125,8 @@ INSTANTIATE_TEST_SUITE_P(ModesAndLevels, WheelImage,
                                          WheelCase{2, 85}, WheelCase{2, 255}, WheelCase{2, -3.7F}, WheelCase{2, 128.6F},
                                          WheelCase{1, 85.5F}));
 
-// The green of these colours lies halfway between two levels: whether it is rounded up goes by the third of green.
-TEST(WheelImage, RoundsHalfLevelsOfGreenByItsOwnThird)
+// The green of these colours is half way between two levels; the third of green determines the rounding.
+TEST(WheelImage, RoundsGreenWithItsOwnThird)
 {
     const QImage image = wheelImageOf(middle, 85.5F);
     const auto colour = [&image](int u, int v) { return image.pixel(u + 341, 340 - v); };
@@ -140,7 +140,7 @@ TEST(WheelImage, HasGreyInTheMiddle)
     EXPECT_EQ(image.pixel(341, 340), qRgb(85, 85, 85));
 }
 
-TEST(ChromaPlane, StepsOfTheMarkerEndAtTheEdgesAndLeadBackFromBeyond)
+TEST(ChromaPlane, MarkerStepsStopAtTheEdgesAndReturnFromBeyond)
 {
     EXPECT_DOUBLE_EQ(markerAfterStep(0.5, 0.01), 0.51);
     EXPECT_EQ(markerAfterStep(0.995, 0.01), 1);
@@ -151,7 +151,7 @@ TEST(ChromaPlane, StepsOfTheMarkerEndAtTheEdgesAndLeadBackFromBeyond)
     EXPECT_DOUBLE_EQ(markerAfterStep(-0.5, 0.01), -0.49);
 }
 
-TEST(ChromaPlane, HuesAreTheNearestFullColours)
+TEST(ChromaPlane, HueIsTheNearestSaturatedColour)
 {
     EXPECT_EQ(hueOf({0, 0}), Hue::Grey);
     EXPECT_EQ(hueOf({0.4F, -0.4F}), Hue::Grey);
@@ -161,7 +161,7 @@ TEST(ChromaPlane, HuesAreTheNearestFullColours)
     EXPECT_EQ(hueOf({85, -170}), Hue::Cyan);
     EXPECT_EQ(hueOf({200, -85}), Hue::Blue);
     EXPECT_EQ(hueOf({85, 85}), Hue::Magenta);
-    // 77, 150, 28 lies 3/5 of the way from yellow to green.
+    // 77, 150, 28 is at 3/5 of the distance from yellow to green.
     EXPECT_EQ(hueOf({-57, -8}), Hue::Green);
     EXPECT_EQ(hueOf({10, 300}), Hue::Magenta);
     EXPECT_EQ(hueOf({-20, 200}), Hue::Red);

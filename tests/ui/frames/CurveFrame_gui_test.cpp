@@ -15,7 +15,7 @@ namespace
 
 using namespace grisal::test;
 
-/// The editor with its events and its drawing in the open.
+/// The editor with public event handlers and painting functions.
 class OpenFrame : public CurveFrame
 {
 public:
@@ -30,12 +30,12 @@ class CurveFrameTest : public GuiTest
 protected:
     CurveFrameTest()
     {
-        // With its border of one pixel, the contents are 200 x 100.
+        // Without the border of one pixel, the contents are 200 x 100.
         frame.resize(202, 102);
         frame.setPoints({0, 0.5F, 1}, {1, 0.5F, 0});
     }
 
-    /// Sends a mouse event at a place in the unit square, counted from the top.
+    /// Sends a mouse event at a position in the unit square, measured from the top.
     void mouse(QEvent::Type type, double x, double y, Qt::MouseButton button = Qt::LeftButton)
     {
         const QPointF place(x * 200, y * 100);
@@ -62,7 +62,7 @@ protected:
     QSignalSpy moved{&frame, &CurveFrame::signalMoved};
 };
 
-TEST_F(CurveFrameTest, StartsFlatAndSmooth)
+TEST_F(CurveFrameTest, IsFlatAndSmoothInitially)
 {
     const CurveFrame fresh;
     EXPECT_EQ(fresh.points().xs, (QVector<float>{0, 1}));
@@ -74,14 +74,14 @@ TEST_F(CurveFrameTest, StartsFlatAndSmooth)
     EXPECT_EQ(fresh.frameStyle(), QFrame::Box | QFrame::Plain);
 }
 
-TEST_F(CurveFrameTest, SignalsAndSlotsHaveTheirNamesAndOrder)
+TEST_F(CurveFrameTest, SignalsAndSlotsHaveFixedNamesAndOrder)
 {
     EXPECT_EQ(methodsOf(CurveFrame::staticMetaObject),
               "signalPressed() signalMoved(float,float) slotSetInterpolation(CurveFrame::interpolationType) "
               "slotSetActiveTo(float,float) slotSetInactive()");
 }
 
-TEST_F(CurveFrameTest, APressTakesThePointInItsColumn)
+TEST_F(CurveFrameTest, PressSelectsThePointInItsColumn)
 {
     press(0.51, 0.9);
     EXPECT_EQ(frame.selected(), 1);
@@ -90,7 +90,7 @@ TEST_F(CurveFrameTest, APressTakesThePointInItsColumn)
     EXPECT_TRUE(moved.isEmpty());
 }
 
-TEST_F(CurveFrameTest, APressElsewhereAddsAPoint)
+TEST_F(CurveFrameTest, PressElsewhereAddsAPoint)
 {
     press(0.25, 0.6);
     EXPECT_EQ(frame.points().xs, (QVector<float>{0, 0.25F, 0.5F, 1}));
@@ -99,7 +99,7 @@ TEST_F(CurveFrameTest, APressElsewhereAddsAPoint)
     EXPECT_EQ(pressed.count(), 1);
 }
 
-TEST_F(CurveFrameTest, APressBehindTheLastPointAddsNone)
+TEST_F(CurveFrameTest, PressAfterTheLastPointAddsNone)
 {
     frame.setPoints({0, 0.5F}, {1, 0});
     press(0.75, 0.5);
@@ -115,7 +115,7 @@ TEST_F(CurveFrameTest, OtherButtonsDoNothing)
     EXPECT_EQ(frame.selected(), -1);
 }
 
-TEST_F(CurveFrameTest, ADragIsToldOnceAtItsEnd)
+TEST_F(CurveFrameTest, DragEmitsOnceAtItsEnd)
 {
     press(0.5, 0.5);
     drag(0.4, 0.3);
@@ -128,7 +128,7 @@ TEST_F(CurveFrameTest, ADragIsToldOnceAtItsEnd)
     EXPECT_EQ(frame.points().xs[1], 0.375F);
 }
 
-TEST_F(CurveFrameTest, ADragEndsAtTopAndBottom)
+TEST_F(CurveFrameTest, DragStopsAtTopAndBottom)
 {
     press(0.5, 0.5);
     drag(0.5, -0.5);
@@ -137,7 +137,7 @@ TEST_F(CurveFrameTest, ADragEndsAtTopAndBottom)
     EXPECT_EQ(frame.points().ys[1], 1);
 }
 
-TEST_F(CurveFrameTest, ADragStopsSidewaysAtANeighbourAndGoesOnUpAndDown)
+TEST_F(CurveFrameTest, DragStopsAtANeighbourAndContinuesVertically)
 {
     press(0.5, 0.5);
     drag(0.05, 0.5);
@@ -146,7 +146,7 @@ TEST_F(CurveFrameTest, ADragStopsSidewaysAtANeighbourAndGoesOnUpAndDown)
     EXPECT_EQ(frame.points().ys[1], 0.25F);
 }
 
-TEST_F(CurveFrameTest, AReleaseWithoutASelectionSaysNothing)
+TEST_F(CurveFrameTest, ReleaseWithoutSelectionEmitsNothing)
 {
     press(0.5, 0.5);
     frame.slotSetInactive();
@@ -156,7 +156,7 @@ TEST_F(CurveFrameTest, AReleaseWithoutASelectionSaysNothing)
     EXPECT_EQ(frame.points().xs[1], 0.5F);
 }
 
-TEST_F(CurveFrameTest, EventsThatAreNoneAreTold)
+TEST_F(CurveFrameTest, NullEventsAreLogged)
 {
     expectWarning(QStringLiteral("ERROR: Invalid event"));
     frame.mousePressEvent(nullptr);
@@ -167,7 +167,7 @@ TEST_F(CurveFrameTest, EventsThatAreNoneAreTold)
     EXPECT_TRUE(moved.isEmpty());
 }
 
-TEST_F(CurveFrameTest, TheSelectedPointCanBeSet)
+TEST_F(CurveFrameTest, SelectedPointCanBeSet)
 {
     frame.slotSetActiveTo(0.3F, 0.3F);
     EXPECT_TRUE(moved.isEmpty());
@@ -178,7 +178,7 @@ TEST_F(CurveFrameTest, TheSelectedPointCanBeSet)
     expectMoved(0.25F, 0.125F);
 }
 
-TEST_F(CurveFrameTest, DeleteTakesTheSelectedPointAndSelectsTheOneBefore)
+TEST_F(CurveFrameTest, DeleteRemovesTheSelectedPointAndSelectsTheOneBefore)
 {
     press(0.5, 0.5);
     release();
@@ -200,7 +200,7 @@ TEST_F(CurveFrameTest, DeleteEndsTheDragOfItsPoint)
     EXPECT_TRUE(moved.isEmpty());
 }
 
-TEST_F(CurveFrameTest, DeleteLeavesTheEnds)
+TEST_F(CurveFrameTest, DeleteKeepsTheEndPoints)
 {
     for (const double x : {0.0, 1.0}) {
         press(x, 0.5);
@@ -210,7 +210,7 @@ TEST_F(CurveFrameTest, DeleteLeavesTheEnds)
     }
 }
 
-TEST_F(CurveFrameTest, PointsFromOutsideAreKeptWithinTheFrameSidewaysOnly)
+TEST_F(CurveFrameTest, SetPointsClampsHorizontallyOnly)
 {
     press(0.5, 0.5);
     frame.setPoints({-1, 0.5F, 2}, {-1, 0.5F, 2});
@@ -220,7 +220,7 @@ TEST_F(CurveFrameTest, PointsFromOutsideAreKeptWithinTheFrameSidewaysOnly)
     EXPECT_TRUE(moved.isEmpty());
 }
 
-TEST_F(CurveFrameTest, AnUnequalNumberOfCoordinatesIsTold)
+TEST_F(CurveFrameTest, UnequalNumberOfCoordinatesIsLogged)
 {
     expectWarning(QStringLiteral("xs.size() != ys.size()"));
     frame.setPoints({0, 0.5F, 1}, {1, 0.5F});
@@ -230,7 +230,7 @@ TEST_F(CurveFrameTest, AnUnequalNumberOfCoordinatesIsTold)
     EXPECT_EQ(log.warnings().size(), 2);
 }
 
-TEST_F(CurveFrameTest, SamplesFollowTheKindOfCurve)
+TEST_F(CurveFrameTest, SamplesDependOnTheInterpolation)
 {
     frame.setPoints({0, 0.5F, 1}, {1, 0.25F, 0});
     EXPECT_EQ(frame.sample(256), smoothCurve(frame.points(), 256));
@@ -240,7 +240,7 @@ TEST_F(CurveFrameTest, SamplesFollowTheKindOfCurve)
     EXPECT_EQ(frame.sample(10), linearCurve(frame.points(), 10));
 }
 
-TEST_F(CurveFrameTest, AHistogramOfAnotherSizeIsToldAndRefused)
+TEST_F(CurveFrameTest, HistogramOfWrongSizeIsLoggedAndRejected)
 {
     QVector<float> histogram(256, 0.5F);
     frame.setHistogram(histogram);
@@ -249,8 +249,8 @@ TEST_F(CurveFrameTest, AHistogramOfAnotherSizeIsToldAndRefused)
     EXPECT_EQ(frame.histogram(), histogram);
 }
 
-// The line on the frame moves with the point, the picture and what it counts do not until the button is released.
-TEST_F(CurveFrameTest, DrawingTheCurveLeavesWhatWasSampled)
+// During a drag only the line in the frame follows the point; samples and histogram change at the release.
+TEST_F(CurveFrameTest, PaintingDoesNotChangeTheSamples)
 {
     QVector<float> histogram(256, 0.0F);
     histogram[128] = 1;
@@ -267,7 +267,7 @@ TEST_F(CurveFrameTest, DrawingTheCurveLeavesWhatWasSampled)
     EXPECT_NE(frame.outputHistogram(), before);
 }
 
-TEST_F(CurveFrameTest, TheGroundIsLightAtTheTopRight)
+TEST_F(CurveFrameTest, BackgroundIsLightAtTheTopRight)
 {
     frame.setHistogram(QVector<float>(256, 0.0F));
     const QImage shown = frame.grab().toImage();
@@ -277,7 +277,7 @@ TEST_F(CurveFrameTest, TheGroundIsLightAtTheTopRight)
     EXPECT_NEAR(grey(10, 10), 163, 2);
 }
 
-TEST_F(CurveFrameTest, TonesCurvePointsAndTheSelectedPointDiffer)
+TEST_F(CurveFrameTest, HistogramCurveAndPointsHaveDifferentColours)
 {
     QVector<float> histogram(256, 0.0F);
     histogram[192] = 2;
@@ -294,7 +294,7 @@ TEST_F(CurveFrameTest, TonesCurvePointsAndTheSelectedPointDiffer)
     EXPECT_LT(at(150, 5).red(), ground - 40);
 }
 
-TEST_F(CurveFrameTest, AHistogramWithoutBinsIsTold)
+TEST_F(CurveFrameTest, EmptyHistogramIsLogged)
 {
     QImage image(10, 10, QImage::Format_ARGB32);
     QPainter painter(&image);
@@ -333,7 +333,7 @@ protected:
 
     void selectMiddle() { QTest::mouseClick(frame, Qt::LeftButton, {}, frame->rect().center()); }
 
-    /// A key as the window gets it from the desktop.
+    /// Sends a key to the window, as the desktop does.
     void key(Qt::Key key) { QTest::keyClick(window.windowHandle(), key); }
 
     QWidget window;
@@ -342,7 +342,7 @@ protected:
     CurveFrameEventFilter filter{frame};
 };
 
-TEST_F(DeleteKeyTest, WorksWhereverTheFocusIs)
+TEST_F(DeleteKeyTest, DeletesThePointWhereverTheFocusIs)
 {
     show();
     selectMiddle();
@@ -352,7 +352,7 @@ TEST_F(DeleteKeyTest, WorksWhereverTheFocusIs)
     EXPECT_EQ(edit->text(), QStringLiteral("abc"));
 }
 
-TEST_F(DeleteKeyTest, IsTheTextsWhereNothingIsSelected)
+TEST_F(DeleteKeyTest, EditsTextIfNoPointIsSelected)
 {
     show();
     key(Qt::Key_Delete);
@@ -360,7 +360,7 @@ TEST_F(DeleteKeyTest, IsTheTextsWhereNothingIsSelected)
     EXPECT_EQ(edit->text(), QStringLiteral("bc"));
 }
 
-TEST_F(DeleteKeyTest, IsTheTextsWhereTheCurveIsHidden)
+TEST_F(DeleteKeyTest, EditsTextIfTheCurveIsHidden)
 {
     show();
     selectMiddle();
@@ -371,7 +371,7 @@ TEST_F(DeleteKeyTest, IsTheTextsWhereTheCurveIsHidden)
     EXPECT_EQ(edit->text(), QStringLiteral("bc"));
 }
 
-TEST_F(DeleteKeyTest, OtherKeysGoOn)
+TEST_F(DeleteKeyTest, OtherKeysAreNotIntercepted)
 {
     show();
     selectMiddle();
@@ -381,7 +381,7 @@ TEST_F(DeleteKeyTest, OtherKeysGoOn)
     EXPECT_EQ(edit->text(), QStringLiteral("xabc"));
 }
 
-TEST_F(DeleteKeyTest, IsTheTextsOnceTheCurveIsGone)
+TEST_F(DeleteKeyTest, EditsTextAfterTheCurveIsDestroyed)
 {
     show();
     selectMiddle();

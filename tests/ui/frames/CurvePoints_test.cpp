@@ -15,14 +15,14 @@ CurvePoints identity()
     return {{0, 0.5F, 1}, {1, 0.5F, 0}};
 }
 
-TEST(CurvePoints, AreTwoAtHalfHeightAtFirst)
+TEST(CurvePoints, AreTwoAtHalfHeightInitially)
 {
     const CurvePoints points;
     EXPECT_EQ(points.xs, (QVector<float>{0, 1}));
     EXPECT_EQ(points.ys, (QVector<float>{0.5F, 0.5F}));
 }
 
-TEST(CurvePoints, APointIsFoundInItsColumnAlone)
+TEST(CurvePoints, PointIsFoundInItsColumnOnly)
 {
     EXPECT_EQ(pointAt(identity(), 0), 0);
     EXPECT_EQ(pointAt(identity(), 0.0199F), 0);
@@ -34,7 +34,7 @@ TEST(CurvePoints, APointIsFoundInItsColumnAlone)
     EXPECT_EQ(pointAt(identity(), 1.01F), 2);
 }
 
-TEST(CurvePoints, OfTwoInReachTheFirstPairFindsItsNearer)
+TEST(CurvePoints, NearerOfTheFirstTwoPointsInReachIsFound)
 {
     const CurvePoints atTheStart{{0, 0.03125F, 1}, {1, 0.5F, 0}};
     EXPECT_EQ(pointAt(atTheStart, 0.015F), 0);
@@ -46,7 +46,7 @@ TEST(CurvePoints, OfTwoInReachTheFirstPairFindsItsNearer)
     EXPECT_EQ(pointAt(inTheMiddle, 0.5205F), 2);
 }
 
-TEST(CurvePoints, APointIsAddedBetweenItsNeighbours)
+TEST(CurvePoints, PointIsAddedBetweenItsNeighbours)
 {
     CurvePoints points = identity();
     EXPECT_EQ(insertPoint(points, 0.75F, 1.25F), 2);
@@ -54,14 +54,14 @@ TEST(CurvePoints, APointIsAddedBetweenItsNeighbours)
     EXPECT_EQ(points.ys, (QVector<float>{1, 0.5F, 1.25F, 0}));
 }
 
-TEST(CurvePoints, NothingIsAddedBehindTheLast)
+TEST(CurvePoints, NoPointIsAddedAfterTheLast)
 {
     CurvePoints points{{0, 0.5F}, {1, 0}};
     EXPECT_EQ(insertPoint(points, 0.75F, 0), -1);
     EXPECT_EQ(points.count(), 2);
 }
 
-TEST(CurvePoints, EndsMoveUpAndDownOnly)
+TEST(CurvePoints, EndPointsMoveVerticallyOnly)
 {
     CurvePoints points = identity();
     movePoint(points, 0, 0.3F, 0.25F);
@@ -70,7 +70,7 @@ TEST(CurvePoints, EndsMoveUpAndDownOnly)
     EXPECT_EQ(points.ys, (QVector<float>{0.25F, 0.5F, 0.75F}));
 }
 
-TEST(CurvePoints, AnInnerPointStopsSidewaysBeforeItsNeighbours)
+TEST(CurvePoints, InnerPointStopsBeforeItsNeighbours)
 {
     CurvePoints points = identity();
     movePoint(points, 1, 0.03F, 0.25F);
@@ -85,7 +85,7 @@ TEST(CurvePoints, AnInnerPointStopsSidewaysBeforeItsNeighbours)
     EXPECT_EQ(points.ys[1], 0.5F);
 }
 
-TEST(CurvePoints, EndsAreNotRemoved)
+TEST(CurvePoints, EndPointsAreNotRemoved)
 {
     CurvePoints points = identity();
     EXPECT_FALSE(removePoint(points, -1));
@@ -98,7 +98,7 @@ TEST(CurvePoints, EndsAreNotRemoved)
     EXPECT_FALSE(removePoint(points, 1));
 }
 
-TEST(LinearCurve, OfTheDiagonalIsTheSamplePositions)
+TEST(LinearCurve, OfTheDiagonalEqualsTheSamplePositions)
 {
     const QVector<float> values = linearCurve(identity(), count);
     ASSERT_EQ(values.size(), count);
@@ -116,7 +116,7 @@ TEST(LinearCurve, RunsStraightBetweenThePoints)
     EXPECT_FLOAT_EQ(values[160], 0.375F);
 }
 
-TEST(LinearCurve, IsCutToTheFrame)
+TEST(LinearCurve, IsClampedToTheFrame)
 {
     const QVector<float> values = linearCurve({{0, 1}, {2, -1}}, count);
     EXPECT_EQ(values[0], 0);
@@ -125,14 +125,14 @@ TEST(LinearCurve, IsCutToTheFrame)
     EXPECT_EQ(values[255], 1);
 }
 
-TEST(LinearCurve, StaysAtItsLastPoint)
+TEST(LinearCurve, IsConstantAfterItsLastPoint)
 {
     const QVector<float> values = linearCurve({{0, 0.5F}, {1, 0.25F}}, count);
     EXPECT_FLOAT_EQ(values[128], 0.75F);
     EXPECT_FLOAT_EQ(values[255], 0.75F);
 }
 
-TEST(LinearCurve, JumpsWhereTwoPointsStandAboveEachOther)
+TEST(LinearCurve, JumpsAtPointsWithEqualX)
 {
     const QVector<float> values = linearCurve({{0, 0, 0.5F, 0.5F, 1}, {1, 0.75F, 0.75F, 0.25F, 0.25F}}, count);
     EXPECT_FLOAT_EQ(values[0], 0);
@@ -141,7 +141,7 @@ TEST(LinearCurve, JumpsWhereTwoPointsStandAboveEachOther)
     EXPECT_FLOAT_EQ(values[129], 0.75F);
 }
 
-TEST(SmoothCurve, OfTheDiagonalIsTheSamplePositions)
+TEST(SmoothCurve, OfTheDiagonalEqualsTheSamplePositions)
 {
     const QVector<float> values = smoothCurve(identity(), count);
     ASSERT_EQ(values.size(), count);
@@ -150,7 +150,7 @@ TEST(SmoothCurve, OfTheDiagonalIsTheSamplePositions)
     }
 }
 
-TEST(SmoothCurve, GoesThroughItsPoints)
+TEST(SmoothCurve, PassesThroughItsPoints)
 {
     std::mt19937 random(7);
     std::uniform_real_distribution<float> height(0.1F, 0.9F);
@@ -164,14 +164,14 @@ TEST(SmoothCurve, GoesThroughItsPoints)
     }
 }
 
-TEST(SmoothCurve, IsCutToTheFrame)
+TEST(SmoothCurve, IsClampedToTheFrame)
 {
     const QVector<float> values = smoothCurve({{0, 0.5F, 1}, {1, -0.5F, 1}}, count);
     EXPECT_EQ(values[0], 0);
     EXPECT_EQ(values[128], 1);
 }
 
-TEST(SmoothCurve, StaysAtItsLastPoint)
+TEST(SmoothCurve, IsConstantAfterItsLastPoint)
 {
     const QVector<float> values = smoothCurve({{0, 0.25F, 0.5F}, {1, 0.5F, 0.25F}}, count);
     EXPECT_NEAR(values[128], 0.75F, 1e-4);
@@ -179,14 +179,14 @@ TEST(SmoothCurve, StaysAtItsLastPoint)
     EXPECT_FLOAT_EQ(values[255], 0.75F);
 }
 
-TEST(Curves, OfOnePointAreItsHeightEverywhere)
+TEST(Curves, OfOnePointAreConstant)
 {
     const CurvePoints point{{0.25F}, {0.75F}};
     EXPECT_EQ(linearCurve(point, count), QVector<float>(count, 0.25F));
     EXPECT_EQ(smoothCurve(point, count), QVector<float>(count, 0.25F));
 }
 
-TEST(HistogramBehind, AStraightCurveLeavesTheTonesButBlack)
+TEST(HistogramBehind, StraightCurveKeepsAllTonesButBlack)
 {
     QVector<float> histogram(count);
     for (int i = 0; i < count; ++i) {
@@ -197,7 +197,7 @@ TEST(HistogramBehind, AStraightCurveLeavesTheTonesButBlack)
     EXPECT_EQ(histogramBehind(linearCurve(identity(), count), histogram), expected);
 }
 
-TEST(HistogramBehind, TheSmoothDiagonalLeavesTheTonesToo)
+TEST(HistogramBehind, SmoothDiagonalKeepsTheTones)
 {
     const QVector<float> histogram(count, 1.0F);
     const QVector<float> behind = histogramBehind(smoothCurve(identity(), count), histogram);
@@ -208,7 +208,7 @@ TEST(HistogramBehind, TheSmoothDiagonalLeavesTheTonesToo)
     EXPECT_EQ(moved, 0);
 }
 
-TEST(HistogramBehind, TonesGatherWhereTheCurvePutsThem)
+TEST(HistogramBehind, ConstantCurveCollectsAllTonesInOneBin)
 {
     QVector<float> histogram(count, 0.0F);
     histogram[10] = 2;
@@ -218,15 +218,15 @@ TEST(HistogramBehind, TonesGatherWhereTheCurvePutsThem)
     EXPECT_EQ(histogramBehind(QVector<float>(count, 0.25F), histogram), expected);
 }
 
-TEST(HistogramBehind, WhatBecomesWhiteFallsOut)
+TEST(HistogramBehind, TonesThatBecomeWhiteAreOmitted)
 {
     QVector<float> histogram(count, 0.0F);
     histogram[128] = 1;
     EXPECT_EQ(histogramBehind(QVector<float>(count, 1.0F), histogram), QVector<float>(count, 0.0F));
 }
 
-// A bin i goes to i * (1 / (i / 256)), which is 256 but for these, where the quotient is rounded down: they stay in.
-TEST(HistogramBehind, FourteenTonesOfAWhiteCurveLandInTheLastBin)
+// A bin i is mapped to i * (1 / (i / 256)), which is 256 except for these, where the quotient is rounded down.
+TEST(HistogramBehind, FourteenTonesOfAWhiteCurveAreInTheLastBin)
 {
     QVector<float> expected(count, 0.0F);
     expected[255] = 14;
@@ -239,7 +239,7 @@ TEST(HistogramBehind, FourteenTonesOfAWhiteCurveLandInTheLastBin)
     }
 }
 
-TEST(HistogramBehind, AnotherNumberOfValuesLeavesTheHistogram)
+TEST(HistogramBehind, WrongNumberOfValuesKeepsTheHistogram)
 {
     const QVector<float> histogram(count, 0.5F);
     EXPECT_EQ(histogramBehind(QVector<float>(255, 0.25F), histogram), histogram);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The frames without a mouse.
+// Keyboard use of the frames.
 #include "tests/support/GuiTest.h"
 #include "ui/frames/CurveFrame.h"
 #include "ui/frames/VFrame.h"
@@ -39,7 +39,7 @@ protected:
         ASSERT_TRUE(frame->hasFocus());
     }
 
-    /// A key as the window gets it from the desktop.
+    /// Sends a key to the window, as the desktop does.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         QTest::keyClick(window.windowHandle(), key, modifiers);
@@ -85,7 +85,7 @@ protected:
     QSignalSpy picked{frame, &YUVFrame::signalWeights};
 };
 
-TEST_F(WheelKeys, ArrowsMoveTheMarkerByAHundredthAndChoose)
+TEST_F(WheelKeys, ArrowsMoveTheMarkerByOnePercentAndEmit)
 {
     press(Qt::Key_Right);
     EXPECT_DOUBLE_EQ(frame->markerX(), 0.51);
@@ -99,7 +99,7 @@ TEST_F(WheelKeys, ArrowsMoveTheMarkerByAHundredthAndChoose)
     expectPicked(85, 85, 85);
 }
 
-TEST_F(WheelKeys, ArrowsEndAtTheEdge)
+TEST_F(WheelKeys, ArrowsStopAtTheEdge)
 {
     for (int i = 0; i < 60; ++i) {
         press(Qt::Key_Left);
@@ -109,7 +109,7 @@ TEST_F(WheelKeys, ArrowsEndAtTheEdge)
     EXPECT_EQ(frame->markerY(), 1);
 }
 
-TEST_F(WheelKeys, PagesMoveTheLevelAsTheMouseWheelDoes)
+TEST_F(WheelKeys, PageKeysChangeTheLevelLikeTheMouseWheel)
 {
     press(Qt::Key_PageUp);
     EXPECT_FLOAT_EQ(frame->luma(), 86.2F);
@@ -118,7 +118,7 @@ TEST_F(WheelKeys, PagesMoveTheLevelAsTheMouseWheelDoes)
     expectPicked(85, 85, 85);
 }
 
-TEST_F(WheelKeys, OtherKeysAreNotItsOwn)
+TEST_F(WheelKeys, OtherKeysAreIgnored)
 {
     press(Qt::Key_A);
     press(Qt::Key_Right, Qt::ControlModifier);
@@ -127,12 +127,12 @@ TEST_F(WheelKeys, OtherKeysAreNotItsOwn)
     expectLeftByTab();
 }
 
-TEST_F(WheelKeys, TheFocusIsSeen)
+TEST_F(WheelKeys, FocusIsVisible)
 {
     expectFocusSeen();
 }
 
-/// The frame with somebody who shows its centre in numbers.
+/// The frame with a receiver that shows its centre in percent.
 class VignetteKeys : public KeysTest<VFrame>
 {
 protected:
@@ -148,7 +148,7 @@ protected:
     QSignalSpy strength{frame, &VFrame::signalStrength};
 };
 
-TEST_F(VignetteKeys, ArrowsMoveTheCentreByAPercent)
+TEST_F(VignetteKeys, ArrowsMoveTheCentreByOnePercent)
 {
     press(Qt::Key_Right);
     press(Qt::Key_Right);
@@ -165,7 +165,7 @@ TEST_F(VignetteKeys, ArrowsMoveTheCentreByAPercent)
     EXPECT_DOUBLE_EQ(frame->posY(), 0.5);
 }
 
-TEST_F(VignetteKeys, ArrowsEndAtTheEdge)
+TEST_F(VignetteKeys, ArrowsStopAtTheEdge)
 {
     frame->slotSetX(0.015F);
     frame->slotSetY(1.7F);
@@ -179,7 +179,7 @@ TEST_F(VignetteKeys, ArrowsEndAtTheEdge)
     EXPECT_EQ(frame->posY(), 1);
 }
 
-TEST_F(VignetteKeys, PagesChangeRadiusAndStrengthAsTheMouseWheelDoes)
+TEST_F(VignetteKeys, PageKeysChangeRadiusAndStrengthLikeTheMouseWheel)
 {
     press(Qt::Key_PageUp);
     ASSERT_EQ(radius.count(), 1);
@@ -191,7 +191,7 @@ TEST_F(VignetteKeys, PagesChangeRadiusAndStrengthAsTheMouseWheelDoes)
     EXPECT_TRUE(position.isEmpty());
 }
 
-TEST_F(VignetteKeys, OtherKeysAreNotItsOwn)
+TEST_F(VignetteKeys, OtherKeysAreIgnored)
 {
     press(Qt::Key_A);
     press(Qt::Key_Right, Qt::AltModifier);
@@ -199,7 +199,7 @@ TEST_F(VignetteKeys, OtherKeysAreNotItsOwn)
     expectLeftByTab();
 }
 
-TEST_F(VignetteKeys, TheFocusIsSeen)
+TEST_F(VignetteKeys, FocusIsVisible)
 {
     expectFocusSeen();
 }
@@ -209,8 +209,8 @@ class CurveKeys : public KeysTest<CurveFrame>
 protected:
     CurveKeys() { frame->setPoints({0, 0.5F, 1}, {1, 0.5F, 0}); }
 
-    /// Expects what a click or a drag of the mouse would have told.
-    void expectTold(float x, float y)
+    /// Expects the signals that a click or a drag of the mouse would emit.
+    void expectEmitted(float x, float y)
     {
         EXPECT_EQ(pressed.count(), 1);
         ASSERT_EQ(moved.count(), 1);
@@ -224,11 +224,11 @@ protected:
     QSignalSpy moved{frame, &CurveFrame::signalMoved};
 };
 
-TEST_F(CurveKeys, PagesGoFromPointToPoint)
+TEST_F(CurveKeys, PageKeysSelectTheNextOrPreviousPoint)
 {
     press(Qt::Key_PageDown);
     EXPECT_EQ(frame->selected(), 0);
-    expectTold(0, 1);
+    expectEmitted(0, 1);
     press(Qt::Key_PageDown);
     press(Qt::Key_PageDown);
     press(Qt::Key_PageDown);
@@ -247,22 +247,22 @@ TEST_F(CurveKeys, ArrowsMoveThePoint)
     pressed.clear();
     moved.clear();
     press(Qt::Key_Right);
-    expectTold(0.51F, 0.5F);
+    expectEmitted(0.51F, 0.5F);
     press(Qt::Key_Up);
-    expectTold(0.51F, 0.49F);
+    expectEmitted(0.51F, 0.49F);
     press(Qt::Key_Left);
     press(Qt::Key_Down);
     EXPECT_FLOAT_EQ(frame->points().xs[1], 0.5F);
     EXPECT_FLOAT_EQ(frame->points().ys[1], 0.5F);
 }
 
-TEST_F(CurveKeys, AnArrowTakesTheFirstPointWhereNoneIsTaken)
+TEST_F(CurveKeys, ArrowSelectsTheFirstPointIfNoneIsSelected)
 {
     press(Qt::Key_Up);
     EXPECT_EQ(frame->selected(), 0);
-    expectTold(0, 1);
+    expectEmitted(0, 1);
     press(Qt::Key_Up);
-    expectTold(0, 0.99F);
+    expectEmitted(0, 0.99F);
 }
 
 TEST_F(CurveKeys, PointsStayInTheFrameAndBetweenTheirNeighbours)
@@ -293,13 +293,13 @@ TEST_F(CurveKeys, InsertAddsAPointOnTheCurve)
     EXPECT_EQ(frame->points().xs, (QVector<float>{0, 0.5F, 0.75F, 1}));
     EXPECT_FLOAT_EQ(frame->points().ys[2], 0.25F);
     EXPECT_EQ(frame->selected(), 2);
-    expectTold(0.75F, 0.25F);
+    expectEmitted(0.75F, 0.25F);
     frame->slotSetInactive();
     press(Qt::Key_Insert);
     EXPECT_EQ(frame->points().xs[1], 0.25F);
 }
 
-TEST_F(CurveKeys, InsertFillsTheLastGapFromItsRightEnd)
+TEST_F(CurveKeys, InsertAtTheLastPointAddsAPointBeforeIt)
 {
     press(Qt::Key_PageUp);
     press(Qt::Key_Insert);
@@ -307,7 +307,7 @@ TEST_F(CurveKeys, InsertFillsTheLastGapFromItsRightEnd)
     EXPECT_EQ(frame->selected(), 2);
 }
 
-TEST_F(CurveKeys, InsertAddsNothingWhereThereIsNoRoom)
+TEST_F(CurveKeys, InsertAddsNothingWithoutSpaceForAPoint)
 {
     frame->setPoints({0, 0.039F, 1}, {1, 0.5F, 0});
     press(Qt::Key_Insert);
@@ -323,7 +323,7 @@ TEST_F(CurveKeys, InsertAddsNothingWhereThereIsNoRoom)
     EXPECT_TRUE(moved.isEmpty());
 }
 
-TEST_F(CurveKeys, KeysWaitForTheEndOfADrag)
+TEST_F(CurveKeys, KeysAreIgnoredDuringADrag)
 {
     QTest::mousePress(frame, Qt::LeftButton, {}, frame->contentsRect().center());
     moved.clear();
@@ -335,7 +335,7 @@ TEST_F(CurveKeys, KeysWaitForTheEndOfADrag)
     EXPECT_EQ(moved.count(), 1);
 }
 
-TEST_F(CurveKeys, OtherKeysAreNotItsOwn)
+TEST_F(CurveKeys, OtherKeysAreIgnored)
 {
     press(Qt::Key_A);
     press(Qt::Key_PageDown, Qt::ControlModifier);
@@ -345,7 +345,7 @@ TEST_F(CurveKeys, OtherKeysAreNotItsOwn)
     expectLeftByTab();
 }
 
-TEST_F(CurveKeys, TheFocusIsSeen)
+TEST_F(CurveKeys, FocusIsVisible)
 {
     expectFocusSeen();
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What a screen reader hears of the frames.
+// The values that the frames report to screen readers.
+#include "tests/support/AccessibilityEventRecorder.h"
 #include "tests/support/GuiTest.h"
-#include "tests/support/Hearing.h"
 #include "ui/frames/CurveFrame.h"
 #include "ui/frames/GrainPreview.h"
 #include "ui/frames/VFrame.h"
@@ -26,16 +26,16 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&frame));
     }
 
-    static std::string value(QWidget &frame) { return spoken(frame, QAccessible::Value).toStdString(); }
+    static std::string value(QWidget &frame) { return accessibleText(frame, QAccessible::Value).toStdString(); }
 
-    /// The one value that a frame told of; all that it told, where there are more or none.
-    static std::string heard(Hearing &hearing, const QWidget &frame)
+    /// The value that a frame has reported; several values are separated by line feeds.
+    static std::string reported(AccessibilityEventRecorder &recorder, const QWidget &frame)
     {
-        return hearing.valuesOf(frame).join(QLatin1Char('\n')).toStdString();
+        return recorder.valuesOf(frame).join(QLatin1Char('\n')).toStdString();
     }
 };
 
-TEST_F(FrameSpeech, TheWheelTellsHueLevelAndWeights)
+TEST_F(FrameSpeech, WheelReportsHueLevelAndWeights)
 {
     YUVFrame wheel;
     EXPECT_EQ(roleOf(wheel), QAccessible::ColorChooser);
@@ -55,92 +55,93 @@ TEST_F(FrameSpeech, TheWheelTellsHueLevelAndWeights)
     EXPECT_EQ(value(wheel), "Magenta, level 60: red 90, green 0, blue 90");
 }
 
-TEST_F(FrameSpeech, TheWheelTellsEveryChange)
+TEST_F(FrameSpeech, WheelReportsEveryChange)
 {
     YUVFrame wheel;
     wheel.slotSetRGB({85, 85, 85});
     show(wheel);
-    Hearing hearing;
+    AccessibilityEventRecorder recorder;
     wheel.slotSetRGB({100, 80, 75});
-    EXPECT_EQ(heard(hearing, wheel), "Red, level 85: red 100, green 80, blue 75");
+    EXPECT_EQ(reported(recorder, wheel), "Red, level 85: red 100, green 80, blue 75");
     wheel.slotSetLuma(100);
-    EXPECT_EQ(heard(hearing, wheel), "Red, level 100: red 115, green 95, blue 90");
+    EXPECT_EQ(reported(recorder, wheel), "Red, level 100: red 115, green 95, blue 90");
     QTest::mouseClick(&wheel, Qt::LeftButton, {}, QPoint(100, 50));
-    EXPECT_EQ(heard(hearing, wheel), "Grey, level 100: red 100, green 100, blue 100");
+    EXPECT_EQ(reported(recorder, wheel), "Grey, level 100: red 100, green 100, blue 100");
     QTest::keyClick(&wheel, Qt::Key_PageUp);
-    EXPECT_EQ(heard(hearing, wheel), "Grey, level 101: red 101, green 101, blue 101");
+    EXPECT_EQ(reported(recorder, wheel), "Grey, level 101: red 101, green 101, blue 101");
     QTest::keyClick(&wheel, Qt::Key_Right);
-    hearing.valuesOf(wheel);
+    recorder.valuesOf(wheel);
     QTest::keyClick(&wheel, Qt::Key_Up);
-    EXPECT_EQ(heard(hearing, wheel), "Magenta, level 101: red 108, green 88, blue 108");
+    EXPECT_EQ(reported(recorder, wheel), "Magenta, level 101: red 108, green 88, blue 108");
 }
 
-TEST_F(FrameSpeech, TheCurveTellsItsPoints)
+TEST_F(FrameSpeech, CurveReportsItsPoints)
 {
     CurveFrame curve;
     EXPECT_EQ(roleOf(curve), QAccessible::Canvas);
     EXPECT_EQ(value(curve), "Points: 2, none taken");
     curve.setPoints({0, 0.25F, 1}, {1, 0.6F, 0});
     show(curve);
-    Hearing hearing;
+    AccessibilityEventRecorder recorder;
     QTest::keyClick(&curve, Qt::Key_PageDown);
-    EXPECT_EQ(heard(hearing, curve), "Point 1 of 3: 0 % from the left, 0 % from the bottom");
+    EXPECT_EQ(reported(recorder, curve), "Point 1 of 3: 0 % from the left, 0 % from the bottom");
     QTest::keyClick(&curve, Qt::Key_PageDown);
-    EXPECT_EQ(heard(hearing, curve), "Point 2 of 3: 25 % from the left, 40 % from the bottom");
+    EXPECT_EQ(reported(recorder, curve), "Point 2 of 3: 25 % from the left, 40 % from the bottom");
     QTest::keyClick(&curve, Qt::Key_Up);
-    EXPECT_EQ(heard(hearing, curve), "Point 2 of 3: 25 % from the left, 41 % from the bottom");
+    EXPECT_EQ(reported(recorder, curve), "Point 2 of 3: 25 % from the left, 41 % from the bottom");
     curve.slotSetActiveTo(0.5F, 0.2F);
-    EXPECT_EQ(heard(hearing, curve), "Point 2 of 3: 50 % from the left, 80 % from the bottom");
+    EXPECT_EQ(reported(recorder, curve), "Point 2 of 3: 50 % from the left, 80 % from the bottom");
     curve.deleteSelected();
-    EXPECT_EQ(heard(hearing, curve), "Point 1 of 2: 0 % from the left, 0 % from the bottom");
+    EXPECT_EQ(reported(recorder, curve), "Point 1 of 2: 0 % from the left, 0 % from the bottom");
     curve.slotSetInactive();
-    EXPECT_EQ(heard(hearing, curve), "Points: 2, none taken");
+    EXPECT_EQ(reported(recorder, curve), "Points: 2, none taken");
     curve.setPoints({0, 0.5F, 1}, {1, 0.5F, 0});
-    EXPECT_EQ(heard(hearing, curve), "Points: 3, none taken");
+    EXPECT_EQ(reported(recorder, curve), "Points: 3, none taken");
 }
 
-TEST_F(FrameSpeech, ADraggedPointIsFollowed)
+TEST_F(FrameSpeech, CurveReportsEveryPositionOfADraggedPoint)
 {
     CurveFrame curve;
     curve.setPoints({0, 0.5F, 1}, {1, 0.5F, 0});
     show(curve);
-    Hearing hearing;
+    AccessibilityEventRecorder recorder;
     QTest::mousePress(&curve, Qt::LeftButton, {}, curve.contentsRect().center());
-    EXPECT_EQ(heard(hearing, curve), "Point 2 of 3: 50 % from the left, 50 % from the bottom");
+    EXPECT_EQ(reported(recorder, curve), "Point 2 of 3: 50 % from the left, 50 % from the bottom");
     QTest::mouseMove(&curve, QPoint(50, 98));
-    EXPECT_EQ(heard(hearing, curve), "Point 2 of 3: 25 % from the left, 0 % from the bottom");
+    EXPECT_EQ(reported(recorder, curve), "Point 2 of 3: 25 % from the left, 0 % from the bottom");
     QTest::mouseRelease(&curve, Qt::LeftButton, {}, QPoint(50, 98));
-    EXPECT_EQ(heard(hearing, curve), "");
+    EXPECT_EQ(reported(recorder, curve), "");
 }
 
-TEST_F(FrameSpeech, TheVignetteTellsCentreRadiusAndStrength)
+TEST_F(FrameSpeech, VignetteReportsCentreRadiusAndStrength)
 {
     VFrame vignette;
     EXPECT_EQ(roleOf(vignette), QAccessible::Canvas);
     EXPECT_EQ(value(vignette), "Centre 50 % from the left and 50 % from the top, radius 50 %, strength 50 %");
     show(vignette);
-    Hearing hearing;
+    AccessibilityEventRecorder recorder;
     vignette.setPercents({57, 99, 29, 48});
-    EXPECT_EQ(heard(hearing, vignette), "Centre 57 % from the left and 99 % from the top, radius 29 %, strength 48 %");
+    EXPECT_EQ(reported(recorder, vignette),
+              "Centre 57 % from the left and 99 % from the top, radius 29 %, strength 48 %");
     vignette.setPercents({57, 99, 29, 48});
-    EXPECT_EQ(heard(hearing, vignette), "");
+    EXPECT_EQ(reported(recorder, vignette), "");
 }
 
-TEST_F(FrameSpeech, TheStripTellsBlurAndStrength)
+TEST_F(FrameSpeech, StripReportsBlurAndStrength)
 {
     GrainPreview strip;
     EXPECT_EQ(roleOf(strip), QAccessible::Graphic);
     EXPECT_EQ(value(strip), "Blurred by 1.5 pixels");
     show(strip);
-    Hearing hearing;
+    AccessibilityEventRecorder recorder;
     QVector<float> weights(256, 0.25F);
     weights[0] = 0;
     weights[255] = 2;
     strip.slotAdjustWeights(weights);
-    EXPECT_EQ(heard(hearing, strip),
+    EXPECT_EQ(reported(recorder, strip),
               "Blurred by 1.5 pixels, 0 % strong in the blacks, 25 % in the middle greys, 100 % in the whites");
     strip.slotSetRadius(2.3F);
-    EXPECT_EQ(heard(hearing, strip),
+    EXPECT_EQ(reported(recorder, strip),
               "Blurred by 2.3 pixels, 0 % strong in the blacks, 25 % in the middle greys, 100 % in the whites");
 }
 

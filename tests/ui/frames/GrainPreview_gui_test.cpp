@@ -10,7 +10,7 @@
 #include <array>
 #include <utility>
 
-// The macros of the resources stand outside every namespace.
+// The resource macros must be used outside of any namespace.
 static void removeTiles()
 {
     Q_CLEANUP_RESOURCE(grain_tiles);
@@ -26,7 +26,7 @@ namespace
 
 using namespace grisal::test;
 
-/// The strip, counting its paints.
+/// A strip that counts its paint events.
 class CountingPreview : public GrainPreview
 {
 public:
@@ -43,7 +43,7 @@ protected:
 const QString tooSmall = QStringLiteral("Prerendered map is too small.");
 const QString noTile = QStringLiteral("Cannot find preblurred map: :/Prerender/Icons/Blur/blur_3_5.png");
 
-/// A weight of its own for every grey, stronger with its lightness.
+/// Weights that differ for every grey and increase with its lightness.
 QVector<float> risingWeights(int count = 256)
 {
     QVector<float> weights(count);
@@ -67,7 +67,7 @@ QImage withoutAlpha(const QImage &map)
     return opaque.convertToFormat(QImage::Format_RGB888);
 }
 
-/// What the strip shows, one logical pixel after the other: the tile with the weights as its alpha, over the ramp.
+/// The contents of the strip in logical pixels: the tile, with the weights as alpha, over the ramp.
 QImage drawnStrip(const char *tile, const QVector<float> &weights, QSize size)
 {
     QImage grain(tileOf(tile).convertToFormat(QImage::Format_ARGB32));
@@ -75,7 +75,8 @@ QImage drawnStrip(const char *tile, const QVector<float> &weights, QSize size)
         const auto weight = static_cast<double>(weights[x * 255 / size.width()]);
         for (int y = 0; y < grain.height(); ++y) {
             QColor colour = grain.pixelColor(x, y);
-            colour.setAlpha(static_cast<int>(weight * 255 + 1e-4)); // a tenth and the like are a little less in float
+            colour.setAlpha(
+                static_cast<int>(weight * 255 + 1e-4)); // decimal fractions may be slightly too small as float
             grain.setPixelColor(x, y, colour);
         }
     }
@@ -95,10 +96,10 @@ class GrainPreviewTest : public GuiTest
 protected:
     GrainPreviewTest() { preview.resize(390, 60); }
 
-    /// What the strip shows, and with it the strip has been painted once.
+    /// Paints the strip and returns its contents.
     QImage painted() { return preview.grab().toImage().convertToFormat(QImage::Format_RGB32); }
 
-    /// Expects the strip to show the picture, every pixel as large as the screen's density makes it.
+    /// Expects that the strip shows the image, scaled by the device pixel ratio.
     void expectPainted(QImage expected)
     {
         const qreal density = preview.devicePixelRatioF();
@@ -109,7 +110,7 @@ protected:
         EXPECT_EQ(shown, expected);
     }
 
-    /// The alpha of the map's column, which all its rows have.
+    /// The alpha of a column of the map, which is the same in all rows.
     int alphaAt(int x) const
     {
         const int alpha = qAlpha(preview.map().pixel(x, 0));
@@ -124,7 +125,7 @@ protected:
 
 } // namespace
 
-TEST_F(GrainPreviewTest, StartsWithTheMiddleBlurAndNoWeights)
+TEST_F(GrainPreviewTest, HasTheMiddleBlurAndNoWeightsInitially)
 {
     EXPECT_EQ(preview.radius(), 1.5F);
     EXPECT_TRUE(preview.fulcrums().isEmpty());
@@ -133,7 +134,7 @@ TEST_F(GrainPreviewTest, StartsWithTheMiddleBlurAndNoWeights)
     EXPECT_EQ(preview.map(), tileOf("1_5").convertToFormat(QImage::Format_ARGB32));
 }
 
-TEST_F(GrainPreviewTest, PropertiesAndSlotsHaveTheirNamesAndOrder)
+TEST_F(GrainPreviewTest, PropertiesAndSlotsHaveFixedNamesAndOrder)
 {
     const QMetaObject &meta = GrainPreview::staticMetaObject;
     QStringList names;
@@ -148,7 +149,7 @@ TEST_F(GrainPreviewTest, PropertiesAndSlotsHaveTheirNamesAndOrder)
               "radius fulcrums slotSetRadius(float) slotAdjustWeights(QList<float>)");
 }
 
-TEST_F(GrainPreviewTest, PropertiesReadAndWrite)
+TEST_F(GrainPreviewTest, PropertiesAreReadableAndWritable)
 {
     EXPECT_TRUE(preview.setProperty("radius", 2.0F));
     EXPECT_TRUE(preview.setProperty("fulcrums", QVariant::fromValue(risingWeights())));
@@ -159,7 +160,7 @@ TEST_F(GrainPreviewTest, PropertiesReadAndWrite)
     EXPECT_EQ(preview.property("fulcrums").value<QVector<float>>(), risingWeights());
 }
 
-TEST_F(GrainPreviewTest, ARadiusShowsItsTile)
+TEST_F(GrainPreviewTest, RadiusSelectsItsTile)
 {
     const std::array<std::pair<float, const char *>, 5> tiles{
         {{1.7F, "1_5"}, {0.4F, "0_0"}, {2.0F, "2_0"}, {3.0F, "3_0"}, {0.0F, "0_0"}}};
@@ -170,11 +171,11 @@ TEST_F(GrainPreviewTest, ARadiusShowsItsTile)
     }
 }
 
-TEST_F(GrainPreviewTest, TheSameRadiusAgainRepaintsNothing)
+TEST_F(GrainPreviewTest, SameRadiusDoesNotRepaint)
 {
     preview.show();
     ASSERT_TRUE(QTest::qWaitFor([this] { return preview.paints > 0; }));
-    // From here on, every paint follows a posted event.
+    // From here on, paint events are only caused by posted events.
     QCoreApplication::processEvents();
     const int before = preview.paints;
     const auto key = preview.map().cacheKey();
@@ -192,7 +193,7 @@ TEST_F(GrainPreviewTest, TheSameRadiusAgainRepaintsNothing)
     EXPECT_EQ(preview.radius(), 1.5F * 1.00002F);
 }
 
-TEST_F(GrainPreviewTest, ARadiusWithoutTileIsToldAndLeavesTheGrain)
+TEST_F(GrainPreviewTest, RadiusWithoutTileIsLoggedAndKeepsTheGrain)
 {
     expectWarning(noTile);
     const QImage before = preview.map();
@@ -204,7 +205,7 @@ TEST_F(GrainPreviewTest, ARadiusWithoutTileIsToldAndLeavesTheGrain)
     EXPECT_EQ(preview.map(), before);
 }
 
-TEST_F(GrainPreviewTest, WithoutAnyTileItIsTheRamp)
+TEST_F(GrainPreviewTest, ShowsTheRampWithoutAnyTile)
 {
     expectWarning(QStringLiteral("Cannot find preblurred map: :/Prerender/Icons/Blur/blur_1_5.png"));
     removeTiles();
@@ -224,7 +225,7 @@ TEST_F(GrainPreviewTest, WithoutAnyTileItIsTheRamp)
     }
 }
 
-TEST_F(GrainPreviewTest, WeightsAreTheAlphaOfTheColumnsOfTheirGreys)
+TEST_F(GrainPreviewTest, WeightsSetTheAlphaOfTheColumnsOfTheirGreys)
 {
     painted();
     preview.slotAdjustWeights(risingWeights());
@@ -239,7 +240,7 @@ TEST_F(GrainPreviewTest, WeightsAreTheAlphaOfTheColumnsOfTheirGreys)
     EXPECT_EQ(withoutAlpha(preview.map()), tileOf("1_5").convertToFormat(QImage::Format_RGB888));
 }
 
-TEST_F(GrainPreviewTest, AlphaIsCutOffAndKeptWithinItsByte)
+TEST_F(GrainPreviewTest, AlphaIsTruncatedAndClampedToAByte)
 {
     painted();
     const std::array<std::pair<float, int>, 7> alphas{
@@ -262,7 +263,7 @@ TEST_F(GrainPreviewTest, GreysWithoutWeightKeepTheirAlpha)
     EXPECT_EQ(alphaAt(153), 255);
 }
 
-TEST_F(GrainPreviewTest, NoWeightsMeanThoseOfTheLastTime)
+TEST_F(GrainPreviewTest, EmptyWeightsKeepTheFormerOnes)
 {
     painted();
     const QImage opaque = preview.map();
@@ -276,7 +277,7 @@ TEST_F(GrainPreviewTest, NoWeightsMeanThoseOfTheLastTime)
     EXPECT_EQ(alphaAt(0), 127);
 }
 
-TEST_F(GrainPreviewTest, AnotherRadiusKeepsTheWeights)
+TEST_F(GrainPreviewTest, ChangedRadiusKeepsTheWeights)
 {
     painted();
     preview.slotAdjustWeights(risingWeights());
@@ -300,12 +301,12 @@ TEST_F(GrainPreviewTest, ShowsTheGrainOverTheRamp)
     }
 }
 
-TEST_F(GrainPreviewTest, WithoutWeightsTheGrainIsFull)
+TEST_F(GrainPreviewTest, GrainIsFullWithoutWeights)
 {
     expectPainted(drawnStrip("1_5", QVector<float>(256, 1.0F), {390, 60}));
 }
 
-TEST_F(GrainPreviewTest, WithWeightsOfNothingItIsTheRamp)
+TEST_F(GrainPreviewTest, WeightsOfZeroShowTheRamp)
 {
     preview.slotAdjustWeights(QVector<float>(256, 0.0F));
 
@@ -318,7 +319,7 @@ TEST_F(GrainPreviewTest, WithWeightsOfNothingItIsTheRamp)
     }
 }
 
-// The overlay once more, by hand: 2 * s * d in the dark half, 1 - 2 * (1 - d) * (1 - s) in the light one.
+// Independent computation of the overlay: 2 * s * d in the dark half, 1 - 2 * (1 - d) * (1 - s) in the light one.
 TEST_F(GrainPreviewTest, FullGrainIsOverlaid)
 {
     const QImage tile = tileOf("1_5");
@@ -333,7 +334,7 @@ TEST_F(GrainPreviewTest, FullGrainIsOverlaid)
     }
 }
 
-TEST_F(GrainPreviewTest, WeightsFromBeforeTheFirstPaintShow)
+TEST_F(GrainPreviewTest, WeightsSetBeforeTheFirstPaintAreShown)
 {
     const QImage before = preview.map();
     preview.slotAdjustWeights(risingWeights());
@@ -342,7 +343,7 @@ TEST_F(GrainPreviewTest, WeightsFromBeforeTheFirstPaintShow)
     expectPainted(drawnStrip("1_5", risingWeights(), {390, 60}));
 }
 
-TEST_F(GrainPreviewTest, AnotherWidthShowsTheWeightsAtItsOwnColumns)
+TEST_F(GrainPreviewTest, ChangedWidthMapsTheWeightsToItsColumns)
 {
     preview.slotAdjustWeights(risingWeights());
     for (const int width : {390, 300, 1, 399, 350}) {
@@ -351,7 +352,7 @@ TEST_F(GrainPreviewTest, AnotherWidthShowsTheWeightsAtItsOwnColumns)
     }
 }
 
-TEST_F(GrainPreviewTest, OtherHeightsShowAsMuchAsThereIs)
+TEST_F(GrainPreviewTest, OtherHeightsShowTheAvailableRows)
 {
     preview.slotAdjustWeights(risingWeights());
     preview.resize(390, 80);
@@ -360,7 +361,7 @@ TEST_F(GrainPreviewTest, OtherHeightsShowAsMuchAsThereIs)
     expectPainted(drawnStrip("1_5", risingWeights(), {390, 20}));
 }
 
-TEST_F(GrainPreviewTest, AStripAsWideAsTheMapIsToldWithEveryWeights)
+TEST_F(GrainPreviewTest, StripAsWideAsTheMapIsLoggedAtEveryChangeOfWeights)
 {
     expectWarning(tooSmall);
     preview.resize(399, 60);
@@ -380,13 +381,13 @@ TEST_F(GrainPreviewTest, AStripAsWideAsTheMapIsToldWithEveryWeights)
     EXPECT_EQ(preview.fulcrums(), QVector<float>(256, 0.5F));
 }
 
-TEST_F(GrainPreviewTest, AWideStripShowsTheGrainThatItHas)
+TEST_F(GrainPreviewTest, WideStripShowsTheAvailableGrain)
 {
     preview.resize(500, 60);
     expectPainted(drawnStrip("1_5", QVector<float>(256, 1.0F), {500, 60}));
 }
 
-TEST_F(GrainPreviewTest, WeightsThatAWideStripMissedShowWhenItIsNarrowAgain)
+TEST_F(GrainPreviewTest, WeightsSetOnATooWideStripAreShownOnceItIsNarrow)
 {
     expectWarning(tooSmall);
     preview.resize(420, 60);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The tiles of the strip under the grain curve, and the strip against the grain filter, for the look of which it
-// stands.
+// The tiles of the strip under the grain curve, and the comparison of the strip with the grain filter, whose result it
+// represents.
 #include "graphics/filters/GrainFilter.h"
 #include "resources/grain-tiles/GrainTiles.h"
 #include "tests/support/FilterRun.h"
@@ -55,7 +55,7 @@ QVector<float> weightsOf(Strength strength)
 {
     QVector<float> weights(256, strength == Strength::Half ? 0.5F : 1.0F);
     if (strength == Strength::Arch) {
-        // Nothing for black and white, everything in the middle.
+        // 0 for black and white, the maximum in the middle.
         for (int i = 0; i < 256; ++i) {
             weights[i] = 1 - std::abs(static_cast<float>(i) / 127.5F - 1);
         }
@@ -96,7 +96,7 @@ void PrintTo(const Look &look, std::ostream *out)
 
 } // namespace
 
-TEST(GrainTileFileTest, RadiiAreRoundedDownToAHalf)
+TEST(GrainTileFileTest, RadiiAreRoundedDownToMultiplesOfOneHalf)
 {
     const auto file = [](const char *name) { return ":/Prerender/Icons/Blur/blur_" + std::string(name) + ".png"; };
     constexpr std::array names{"0_0", "0_5", "1_0", "1_5", "2_0", "2_5", "3_0"};
@@ -108,7 +108,7 @@ TEST(GrainTileFileTest, RadiiAreRoundedDownToAHalf)
     EXPECT_EQ(grainTileFile(2.999F).toStdString(), file("2_5"));
 }
 
-TEST_P(GrainTilesTest, AreWhatTheirProgramMakes)
+TEST_P(GrainTilesTest, EqualTheOutputOfTheirProgram)
 {
     const auto tenths = static_cast<int>(std::lround(GetParam() * 10));
     const QImage kept(QStringLiteral(":/Prerender/Icons/Blur/blur_%1_%2.png").arg(tenths / 10).arg(tenths % 10));
@@ -123,8 +123,8 @@ TEST_P(GrainTilesTest, AreWhatTheirProgramMakes)
     }
 }
 
-// A level apart where a sum lies on the border between two levels.
-TEST_P(GrainNoiseTest, IsThatOfTheFilter)
+// Sums half way between two levels may differ by one level.
+TEST_P(GrainNoiseTest, EqualsTheNoiseOfTheFilter)
 {
     GrainFilter filter;
     filter.setSigma(static_cast<float>(GetParam()));
@@ -143,7 +143,7 @@ TEST_P(GrainNoiseTest, IsThatOfTheFilter)
 INSTANTIATE_TEST_SUITE_P(Radii, GrainTilesTest, testing::ValuesIn(grisal::grain::tileRadii));
 INSTANTIATE_TEST_SUITE_P(Radii, GrainNoiseTest, testing::ValuesIn(grisal::grain::tileRadii));
 
-// A small part of the grain itself, so that a strip without grain, or with other grain, is not near.
+// The limit is a small part of the grain, so that a strip without grain or with another one fails.
 TEST_P(GrainStripTest, LooksLikeTheFilter)
 {
     constexpr int height = 60;

@@ -65,7 +65,7 @@ protected:
     QSignalSpy strength{&frame, &VFrame::signalStrength};
 };
 
-TEST_F(VFrameTest, StartsAtHalfOfEverything)
+TEST_F(VFrameTest, AllValuesAreOneHalfInitially)
 {
     EXPECT_EQ(frame.posX(), 0.5);
     EXPECT_EQ(frame.posY(), 0.5);
@@ -74,20 +74,20 @@ TEST_F(VFrameTest, StartsAtHalfOfEverything)
     EXPECT_EQ(frame.focusPolicy(), Qt::StrongFocus);
 }
 
-TEST_F(VFrameTest, WantsToBeThreeByTwo)
+TEST_F(VFrameTest, HeightIsTwoThirdsOfTheWidth)
 {
     EXPECT_TRUE(frame.sizePolicy().hasHeightForWidth());
     EXPECT_EQ(frame.heightForWidth(300), 200);
 }
 
-TEST_F(VFrameTest, SignalsAndSlotsHaveTheirNamesAndOrder)
+TEST_F(VFrameTest, SignalsAndSlotsHaveFixedNamesAndOrder)
 {
     EXPECT_EQ(methodsOf(VFrame::staticMetaObject),
               "signalPosition(QPointF) signalRadius(float) signalStrength(float) slotSetX(float) slotSetY(float) "
               "slotSetRadius(float) slotSetStrength(float)");
 }
 
-TEST_F(VFrameTest, AGivenCentreIsTakenInSilence)
+TEST_F(VFrameTest, SettingTheCentreEmitsNothing)
 {
     frame.slotSetX(0.75F);
     frame.slotSetY(-0.25F);
@@ -96,7 +96,7 @@ TEST_F(VFrameTest, AGivenCentreIsTakenInSilence)
     EXPECT_TRUE(position.isEmpty());
 }
 
-TEST_F(VFrameTest, RadiusAndStrengthAreTakenAndTold)
+TEST_F(VFrameTest, SettingRadiusAndStrengthEmitsThem)
 {
     frame.slotSetRadius(0.25F);
     EXPECT_EQ(frame.radius(), 0.25F);
@@ -130,7 +130,7 @@ TEST_F(VFrameTest, NearlyTheSameValuesAreIgnored)
     EXPECT_TRUE(strength.isEmpty());
 }
 
-TEST_F(VFrameTest, ADragChoosesUntilTheButtonIsReleased)
+TEST_F(VFrameTest, DragEmitsPositionsUntilTheButtonIsReleased)
 {
     show();
     QTest::mouseMove(&frame, QPoint(30, 30));
@@ -144,7 +144,7 @@ TEST_F(VFrameTest, ADragChoosesUntilTheButtonIsReleased)
     EXPECT_TRUE(position.isEmpty());
 }
 
-TEST_F(VFrameTest, OnlyTheLeftButtonChooses)
+TEST_F(VFrameTest, OnlyTheLeftButtonSetsTheCentre)
 {
     show();
     QTest::mousePress(&frame, Qt::RightButton, {}, QPoint(20, 20));
@@ -153,7 +153,7 @@ TEST_F(VFrameTest, OnlyTheLeftButtonChooses)
     EXPECT_TRUE(position.isEmpty());
 }
 
-TEST_F(VFrameTest, AnotherButtonDoesNotEndADrag)
+TEST_F(VFrameTest, OtherButtonsDoNotEndADrag)
 {
     show();
     QTest::mousePress(&frame, Qt::LeftButton, {}, QPoint(75, 20));
@@ -164,7 +164,7 @@ TEST_F(VFrameTest, AnotherButtonDoesNotEndADrag)
     QTest::mouseRelease(&frame, Qt::LeftButton, {}, QPoint(150, 150));
 }
 
-TEST_F(VFrameTest, ADragGoesOnBeyondTheEdge)
+TEST_F(VFrameTest, DragContinuesBeyondTheEdge)
 {
     sendMouse(QEvent::MouseButtonPress, 0, 0);
     expectPosition(0, 0);
@@ -172,7 +172,7 @@ TEST_F(VFrameTest, ADragGoesOnBeyondTheEdge)
     expectPosition(1.5, -0.255);
 }
 
-TEST_F(VFrameTest, AFrameWithoutRoomHasNoPlaces)
+TEST_F(VFrameTest, FrameWithoutHeightIgnoresPresses)
 {
     frame.resize(300, 0);
     sendMouse(QEvent::MouseButtonPress, 30, 0);
@@ -201,14 +201,14 @@ TEST_F(VFrameTest, TheWheelWithControlChangesTheStrength)
     EXPECT_EQ(frame.radius(), 0.5F);
 }
 
-TEST_F(VFrameTest, AWheelToTheSideChangesNothing)
+TEST_F(VFrameTest, HorizontalWheelChangesNothing)
 {
     turnWheel({120, 0});
     EXPECT_TRUE(radius.isEmpty());
     EXPECT_EQ(frame.radius(), 0.5F);
 }
 
-TEST_F(VFrameTest, AWheelBeyondTheLimitsIsIgnoredEntirely)
+TEST_F(VFrameTest, WheelTurnBeyondTheLimitsIsIgnored)
 {
     frame.slotSetRadius(0.995F);
     frame.slotSetStrength(0.005F);
@@ -222,7 +222,7 @@ TEST_F(VFrameTest, AWheelBeyondTheLimitsIsIgnoredEntirely)
     EXPECT_TRUE(strength.isEmpty());
 }
 
-TEST_F(VFrameTest, ThePictureIsTheVignette)
+TEST_F(VFrameTest, PaintsTheVignette)
 {
     frame.slotSetX(0.2F);
     frame.slotSetY(0.7F);
@@ -256,7 +256,7 @@ TEST_F(VFrameTest, EveryChangeIsShown)
     EXPECT_TRUE(changes([this] { QTest::mouseClick(&frame, Qt::LeftButton, {}, QPoint(20, 20)); }));
 }
 
-// Without strength the picture is plain: what differs from it is a mark.
+// Without strength the image is uniform, so all pixels that differ belong to a mark.
 TEST_F(VFrameTest, MarksAreAtTheCentreAndAtTheRadius)
 {
     frame.slotSetX(0.4F);
@@ -273,7 +273,7 @@ TEST_F(VFrameTest, MarksAreAtTheCentreAndAtTheRadius)
     EXPECT_EQ(greyAt(image, 250, 30), 160);
 }
 
-TEST_F(VFrameTest, MarksAreSeenOnBlackToo)
+TEST_F(VFrameTest, MarksAreVisibleOnBlack)
 {
     frame.slotSetRadius(0);
     const QImage image = shown();
@@ -281,7 +281,7 @@ TEST_F(VFrameTest, MarksAreSeenOnBlackToo)
     EXPECT_GT(greyAt(image, 150 + 5, 100) + greyAt(image, 150 + 3, 100), 250);
 }
 
-TEST_F(VFrameTest, ACentreBeyondTheEdgeIsMarkedAtTheEdge)
+TEST_F(VFrameTest, CentreBeyondTheEdgeIsMarkedAtTheEdge)
 {
     frame.slotSetX(-0.5F);
     frame.slotSetY(1.5F);
@@ -293,7 +293,7 @@ TEST_F(VFrameTest, ACentreBeyondTheEdgeIsMarkedAtTheEdge)
     EXPECT_LT(greyAt(beyond, 4, 198), 60);
 }
 
-TEST_F(VFrameTest, PaintsItsContentsOnly)
+TEST_F(VFrameTest, PaintsOnlyInsideTheContentsMargins)
 {
     frame.setContentsMargins(20, 20, 20, 20);
     frame.slotSetX(0);
@@ -309,7 +309,7 @@ TEST_F(VFrameTest, PaintsItsContentsOnly)
     EXPECT_NE(image.pixelColor(21, 100), QColor(Qt::green));
 }
 
-TEST_F(VFrameTest, TheKeyboardFocusIsSeen)
+TEST_F(VFrameTest, KeyboardFocusIsVisible)
 {
     show();
     frame.activateWindow();

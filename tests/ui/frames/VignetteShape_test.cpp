@@ -19,7 +19,7 @@ namespace reference = grisal::test::reference;
 constexpr float notANumber = std::numeric_limits<float>::quiet_NaN();
 constexpr double infinite = std::numeric_limits<double>::infinity();
 
-TEST(VignetteShape, NearnessGoesByTheLargerValue)
+TEST(VignetteShape, ToleranceIsRelativeToTheLargerValue)
 {
     EXPECT_TRUE(nearlyEqualFractions(0.5F, 0.5F));
     EXPECT_TRUE(nearlyEqualFractions(0, 0));
@@ -34,7 +34,7 @@ TEST(VignetteShape, NearnessGoesByTheLargerValue)
     EXPECT_FALSE(nearlyEqualFractions(100000, 99998.9F));
 }
 
-TEST(VignetteShape, OnlyAnotherFractionReplacesOne)
+TEST(VignetteShape, OnlyADifferentValidFractionIsAccepted)
 {
     EXPECT_TRUE(replacesFraction(0.5F, 0));
     EXPECT_TRUE(replacesFraction(0.5F, 1));
@@ -44,7 +44,7 @@ TEST(VignetteShape, OnlyAnotherFractionReplacesOne)
     EXPECT_FALSE(replacesFraction(0.5F, notANumber));
 }
 
-TEST(VignetteShape, ANotchOfTheWheelIsOnePointTwoPercent)
+TEST(VignetteShape, WheelNotchIsOnePointTwoPercent)
 {
     EXPECT_FLOAT_EQ(fractionAfterWheel(0.5F, 120), 0.512F);
     EXPECT_FLOAT_EQ(fractionAfterWheel(0.5F, -120), 0.488F);
@@ -53,7 +53,7 @@ TEST(VignetteShape, ANotchOfTheWheelIsOnePointTwoPercent)
     EXPECT_FLOAT_EQ(fractionAfterWheel(0.995F, 120), 1.007F);
 }
 
-TEST(VignetteShape, PercentagesAreCutToWholeOnesWithinTheirRange)
+TEST(VignetteShape, PercentagesAreTruncatedAndClamped)
 {
     EXPECT_EQ(wholePercent(33.99, 0, 99), 33);
     EXPECT_EQ(wholePercent(34, 0, 99), 34);
@@ -68,7 +68,7 @@ TEST(VignetteShape, PercentagesAreCutToWholeOnesWithinTheirRange)
 }
 
 // The mean of 3 and 2 is 2.5.
-TEST(VignetteShape, TheRadiusIsMeasuredInTheMeanOfWidthAndHeight)
+TEST(VignetteShape, RadiusIsRelativeToTheMeanOfWidthAndHeight)
 {
     EXPECT_DOUBLE_EQ(vignetteReach(100).width(), 2.5 / 3);
     EXPECT_DOUBLE_EQ(vignetteReach(100).height(), 2.5 / 2);
@@ -96,7 +96,7 @@ int differencesFromTheFilter(const reference::Vignette &vignette, int width, int
     return different;
 }
 
-TEST(VignettePicture, IsWhatTheFilterMakesOfLightGrey)
+TEST(VignettePicture, EqualsTheFilterAppliedToLightGrey)
 {
     EXPECT_EQ(differencesFromTheFilter({50, 50, 50, 50}, 150, 100), 0);
     EXPECT_EQ(differencesFromTheFilter({20, 90, 99, 30}, 150, 100), 0);
@@ -104,16 +104,17 @@ TEST(VignettePicture, IsWhatTheFilterMakesOfLightGrey)
     EXPECT_EQ(differencesFromTheFilter({50, 50, 0, 50}, 150, 100), 0);
 }
 
-// The nearest pixel's middle lies half a pixel, 0.05 of the 3 and 2, beside and below the centre: 0.0707 of the 1.25 at
-// which 0.9 is reached. That darkens by 0.0509, and 0.0039 * 255 * (0.9491 * 160 + 0.0509 * 99.84) is 156.1.
-TEST(VignettePicture, HasItsCentreCountedFromTheTop)
+// The centre of the nearest pixel is half a pixel, 0.05 in units of 3 x 2, beside and below the centre: a distance of
+// 0.0707, where 0.9 is reached at 1.25. It is darkened by 0.0509: 0.0039 * 255 * (0.9491 * 160 + 0.0509 * 99.84) is
+// 156.1.
+TEST(VignettePicture, CentreIsMeasuredFromTheTop)
 {
     const QImage picture = vignettePicture({{50, 0, 0}, 90, 50}, QSize(30, 20));
     EXPECT_EQ(qGray(picture.pixel(15, 0)), 156);
     EXPECT_LT(qGray(picture.pixel(15, 19)), 80);
 }
 
-// Twice as high, each row of the picture becomes two.
+// In a frame of twice the height, each row of the image becomes two.
 TEST(VignettePicture, KeepsItsProportionsInAnotherFrame)
 {
     const QImage wide = vignettePicture({{50, 50, 0}, 60, 40}, QSize(30, 20));
@@ -123,7 +124,7 @@ TEST(VignettePicture, KeepsItsProportionsInAnotherFrame)
     }
 }
 
-TEST(VignettePicture, IsPlainWithoutStrength)
+TEST(VignettePicture, IsUniformWithoutStrength)
 {
     QImage plain(31, 21, QImage::Format_Grayscale8);
     plain.fill(QColor(160, 160, 160));
@@ -138,8 +139,8 @@ TEST(VignettePicture, IsBlackWithoutRadius)
     EXPECT_EQ(vignettePicture({{50, 50, 0}, 50, 0}, QSize(31, 21)), black);
 }
 
-// A slider hands its percents over in single precision, which makes some of them a little too small.
-TEST(VignetteShape, AStepByKeyShowsAsTheNextPercent)
+// A slider passes its percents in single precision, which makes some of them slightly too small.
+TEST(VignetteShape, KeyStepIsShownAsTheNextPercent)
 {
     for (int shown = 0; shown < 100; ++shown) {
         const double fraction = static_cast<float>(shown) / 100.0F;
@@ -149,7 +150,7 @@ TEST(VignetteShape, AStepByKeyShowsAsTheNextPercent)
     }
 }
 
-TEST(VignetteShape, StepsStartFromThePercentsThatAreShown)
+TEST(VignetteShape, StepsStartFromTheShownPercent)
 {
     EXPECT_DOUBLE_EQ(fractionAfterStep(0.456, 45, 1), 0.46);
     EXPECT_DOUBLE_EQ(fractionAfterStep(0.456, 45, -1), 0.44);
@@ -158,14 +159,14 @@ TEST(VignetteShape, StepsStartFromThePercentsThatAreShown)
     EXPECT_DOUBLE_EQ(fractionAfterStep(-0.5, 0, 1), 0.01);
 }
 
-TEST(VignetteShape, AStepEndsAtTheEdge)
+TEST(VignetteShape, StepStopsAtTheEdge)
 {
     EXPECT_EQ(fractionAfterStep(0.995, 99, 1), 1);
     EXPECT_EQ(fractionAfterStep(1.5, 100, 1), 1);
     EXPECT_EQ(fractionAfterStep(0.001, 0, -1), 0);
 }
 
-TEST(VignetteShape, AStepOfZeroLeavesAFractionThatShowsSo)
+TEST(VignetteShape, StepOfZeroKeepsTheFraction)
 {
     EXPECT_EQ(fractionAfterStep(0.456, 45, 0), 0.456);
     EXPECT_EQ(fractionAfterStep(0.29, 28, 0), 0.29);

@@ -16,7 +16,7 @@ namespace
 using namespace grisal::test;
 using grisal::graphics::ColorRGB;
 
-/// The wheel with its events and its drawing in the open.
+/// The wheel with public event handlers and painting functions.
 class OpenFrame : public YUVFrame
 {
 public:
@@ -64,7 +64,7 @@ protected:
     QSignalSpy picked{&frame, &YUVFrame::signalWeights};
 };
 
-TEST_F(YUVFrameTest, StartsInTheMiddleModeAtFullLevel)
+TEST_F(YUVFrameTest, IsInTheMiddleModeAtFullLevelInitially)
 {
     EXPECT_EQ(frame.colorSpace(), 1);
     EXPECT_EQ(frame.plane(), *chromaPlaneOf(1));
@@ -75,13 +75,13 @@ TEST_F(YUVFrameTest, StartsInTheMiddleModeAtFullLevel)
     EXPECT_EQ(frame.wheelImage(), wheelImageOf(*chromaPlaneOf(1), 255));
 }
 
-TEST_F(YUVFrameTest, SignalsAndSlotsHaveTheirNamesAndOrder)
+TEST_F(YUVFrameTest, SignalsAndSlotsHaveFixedNamesAndOrder)
 {
     EXPECT_EQ(methodsOf(YUVFrame::staticMetaObject),
               "signalWeights(float,float,float) slotSetRGB(grisal::graphics::ColorRGB<float>) slotSetLuma(float)");
 }
 
-TEST_F(YUVFrameTest, GreyWeightsPutTheMarkerInTheMiddleAndEmitNothing)
+TEST_F(YUVFrameTest, GreyWeightsCentreTheMarkerAndEmitNothing)
 {
     frame.slotSetRGB({85, 85, 85});
     EXPECT_DOUBLE_EQ(frame.markerX(), 0.5);
@@ -91,7 +91,7 @@ TEST_F(YUVFrameTest, GreyWeightsPutTheMarkerInTheMiddleAndEmitNothing)
     EXPECT_TRUE(picked.isEmpty());
 }
 
-TEST_F(YUVFrameTest, TheSameWeightsAgainDrawNoNewPicture)
+TEST_F(YUVFrameTest, SameWeightsDoNotRedrawTheWheel)
 {
     frame.slotSetRGB({100, 50, 0});
     const auto key = frame.wheelImage().cacheKey();
@@ -110,15 +110,15 @@ TEST_F(YUVFrameTest, WeightsPutTheMarkerAtTheirChroma)
     EXPECT_NEAR(frame.markerY(), (30.0 + 341) / 682, 1e-6);
 }
 
-// The mean weighs green a little more than the others: with equal weights this level would be 0.
-TEST_F(YUVFrameTest, WeightsThatAddUpToNothingHaveALevelAboveZero)
+// The mean weights green slightly more than the others: with equal weights this level would be 0.
+TEST_F(YUVFrameTest, WeightsWithSumZeroHaveALevelAboveZero)
 {
     frame.slotSetRGB({-100, 200, -100});
     EXPECT_NEAR(frame.luma(), 2e-10, 1e-12);
 }
 
-// 3 * 85.1 lies in the middle between two floats; the third of green decides which one is emitted.
-TEST_F(YUVFrameTest, APickGivesGreenThroughItsOwnThird)
+// 3 * 85.1 is half way between two floats; the third of green determines which one is emitted.
+TEST_F(YUVFrameTest, PickComputesGreenWithItsOwnThird)
 {
     frame.slotSetLuma(85);
     sendMouse(QEvent::MouseButtonPress, 0, 0);
@@ -131,7 +131,7 @@ TEST_F(YUVFrameTest, APickGivesGreenThroughItsOwnThird)
     EXPECT_EQ(picked[0][2].toFloat(), -512);
 }
 
-TEST_F(YUVFrameTest, AnotherLevelLeavesTheMarkerAndEmitsNothing)
+TEST_F(YUVFrameTest, ChangedLevelKeepsTheMarkerAndEmitsNothing)
 {
     frame.slotSetRGB({30, 60, 90});
     const double x = frame.markerX();
@@ -143,7 +143,7 @@ TEST_F(YUVFrameTest, AnotherLevelLeavesTheMarkerAndEmitsNothing)
     EXPECT_TRUE(picked.isEmpty());
 }
 
-TEST_F(YUVFrameTest, LevelsAreKeptWithinTheirLimits)
+TEST_F(YUVFrameTest, LevelsAreClamped)
 {
     frame.slotSetLuma(600);
     EXPECT_EQ(frame.luma(), 512);
@@ -151,7 +151,7 @@ TEST_F(YUVFrameTest, LevelsAreKeptWithinTheirLimits)
     EXPECT_EQ(frame.luma(), -512);
 }
 
-TEST_F(YUVFrameTest, APressChooses)
+TEST_F(YUVFrameTest, PressEmitsWeights)
 {
     frame.slotSetLuma(85);
     sendMouse(QEvent::MouseButtonPress, 0, 0);
@@ -160,7 +160,7 @@ TEST_F(YUVFrameTest, APressChooses)
     expectPicked(426, 85, -256);
 }
 
-TEST_F(YUVFrameTest, OnlyTheLeftButtonChooses)
+TEST_F(YUVFrameTest, OnlyTheLeftButtonPicks)
 {
     show();
     QTest::mouseClick(&frame, Qt::RightButton, {}, QPoint(20, 20));
@@ -168,7 +168,7 @@ TEST_F(YUVFrameTest, OnlyTheLeftButtonChooses)
     EXPECT_TRUE(picked.isEmpty());
 }
 
-TEST_F(YUVFrameTest, ADragChoosesUntilTheButtonIsReleased)
+TEST_F(YUVFrameTest, DragEmitsWeightsUntilTheButtonIsReleased)
 {
     show();
     frame.slotSetLuma(85);
@@ -183,8 +183,8 @@ TEST_F(YUVFrameTest, ADragChoosesUntilTheButtonIsReleased)
     EXPECT_TRUE(picked.isEmpty());
 }
 
-// The weights end at their limits, not at the wheel's edge.
-TEST_F(YUVFrameTest, ADragGoesOnBeyondTheEdge)
+// The weights are clamped to their limits, not to the edge of the wheel.
+TEST_F(YUVFrameTest, DragContinuesBeyondTheEdge)
 {
     frame.slotSetLuma(85);
     sendMouse(QEvent::MouseButtonPress, 100, 50);
@@ -206,7 +206,7 @@ TEST_F(YUVFrameTest, AtTheHighestLevelAllOfTheUpperHalfIsFullRed)
     EXPECT_EQ(picked[0][0].toFloat(), 512);
 }
 
-TEST_F(YUVFrameTest, EventsThatAreNoneAreToldAndChooseNothing)
+TEST_F(YUVFrameTest, NullEventsAreLoggedAndEmitNothing)
 {
     expectWarning(QStringLiteral("Invalid mouse event"));
     frame.mousePressEvent(nullptr);
@@ -217,7 +217,7 @@ TEST_F(YUVFrameTest, EventsThatAreNoneAreToldAndChooseNothing)
     EXPECT_TRUE(picked.isEmpty());
 }
 
-TEST_F(YUVFrameTest, TheMouseWheelMovesTheLevelAndChooses)
+TEST_F(YUVFrameTest, MouseWheelChangesTheLevelAndEmits)
 {
     frame.slotSetRGB({85, 85, 85});
     turnWheel(120);
@@ -230,7 +230,7 @@ TEST_F(YUVFrameTest, TheMouseWheelMovesTheLevelAndChooses)
     EXPECT_FLOAT_EQ(frame.luma(), 85);
 }
 
-TEST_F(YUVFrameTest, AnUnknownModeIsToldAndLeavesThePlane)
+TEST_F(YUVFrameTest, UnknownModeIsLoggedAndKeepsThePlane)
 {
     expectWarning(QStringLiteral("Could not identify color space"));
     frame.setColorSpace(3);
@@ -238,7 +238,7 @@ TEST_F(YUVFrameTest, AnUnknownModeIsToldAndLeavesThePlane)
     EXPECT_EQ(frame.colorSpace(), 3);
 }
 
-TEST_F(YUVFrameTest, AnotherModeShowsWithTheNextPicture)
+TEST_F(YUVFrameTest, ChangedModeTakesEffectAtTheNextRedraw)
 {
     const auto key = frame.wheelImage().cacheKey();
     frame.setColorSpace(0);
@@ -248,13 +248,13 @@ TEST_F(YUVFrameTest, AnotherModeShowsWithTheNextPicture)
     EXPECT_EQ(frame.wheelImage(), wheelImageOf(*chromaPlaneOf(0), 85));
 }
 
-TEST_F(YUVFrameTest, DrawingOnNothingIsTold)
+TEST_F(YUVFrameTest, DrawingWithNullPainterIsLogged)
 {
     frame.drawWheel(nullptr);
     EXPECT_TRUE(log.contains(QStringLiteral("ERROR: Invalid painter")));
 }
 
-/// What a wheel shows, drawn by other hands: the corners come from the colours that they stand for.
+/// Independent drawing of a wheel: its corners are computed from the colours that they represent.
 class DrawnWheel
 {
 public:
@@ -313,7 +313,7 @@ private:
     QPainter m_painter;
 };
 
-TEST_F(YUVFrameTest, ThePictureIsPlaneOutlinesAxesAndMarker)
+TEST_F(YUVFrameTest, PaintsPlaneOutlinesAxesAndMarker)
 {
     frame.resize(311, 203);
     for (int mode = 0; mode < 3; ++mode) {

@@ -44,7 +44,7 @@ protected:
     QSignalSpy histograms{&panel, &Curves::signalOutHistogram};
 };
 
-TEST_F(CurvesTest, TheFormHasItsTexts)
+TEST_F(CurvesTest, FormHasItsTexts)
 {
     EXPECT_EQ(panel.windowTitle(), QStringLiteral("Form"));
     EXPECT_EQ(child<QLabel>(panel, "label").text(), QStringLiteral("Presets:"));
@@ -60,7 +60,7 @@ TEST_F(CurvesTest, PresetsAreEmptyAndDisabled)
     EXPECT_FALSE(child<QComboBox>(panel, "comboPresets").isEnabled());
 }
 
-TEST_F(CurvesTest, SignalsAndSlotsHaveTheirNamesAndOrder)
+TEST_F(CurvesTest, SignalsAndSlotsHaveFixedNamesAndOrder)
 {
     const QMetaObject &meta = Curves::staticMetaObject;
     EXPECT_EQ(methodsOf(Curves::staticMetaObject),
@@ -70,7 +70,7 @@ TEST_F(CurvesTest, SignalsAndSlotsHaveTheirNamesAndOrder)
               QList<QByteArray>{"histo"});
 }
 
-TEST_F(CurvesTest, TheSmoothCurveIsChosenAtFirst)
+TEST_F(CurvesTest, SmoothCurveIsSelectedInitially)
 {
     EXPECT_TRUE(child<QRadioButton>(panel, "radioBSpline").isChecked());
     EXPECT_FALSE(child<QRadioButton>(panel, "radioLinear").isChecked());
@@ -78,7 +78,7 @@ TEST_F(CurvesTest, TheSmoothCurveIsChosenAtFirst)
     EXPECT_TRUE(curves.isEmpty());
 }
 
-TEST_F(CurvesTest, ResetIsTheStraightCurve)
+TEST_F(CurvesTest, ResetGivesTheStraightCurve)
 {
     QTest::mouseClick(&reset(), Qt::LeftButton);
     EXPECT_EQ(frame.points().xs, (QVector<float>{0, 0.5F, 1}));
@@ -92,7 +92,7 @@ TEST_F(CurvesTest, ResetIsTheStraightCurve)
     }
 }
 
-TEST_F(CurvesTest, TheStraightCurveOfLinesIsExact)
+TEST_F(CurvesTest, LinearStraightCurveIsExact)
 {
     QTest::mouseClick(&child<QRadioButton>(panel, "radioLinear"), Qt::LeftButton);
     panel.on_buttonReset_clicked();
@@ -102,7 +102,7 @@ TEST_F(CurvesTest, TheStraightCurveOfLinesIsExact)
     }
 }
 
-TEST_F(CurvesTest, EachKindOfCurveIsSentWhenItIsChosen)
+TEST_F(CurvesTest, SelectingAnInterpolationEmitsItsCurve)
 {
     frame.setPoints({0, 0.25F, 1}, {1, 0.25F, 0});
     QTest::mouseClick(&child<QRadioButton>(panel, "radioLinear"), Qt::LeftButton);
@@ -116,7 +116,7 @@ TEST_F(CurvesTest, EachKindOfCurveIsSentWhenItIsChosen)
     EXPECT_EQ(histograms.count(), 2);
 }
 
-TEST_F(CurvesTest, ADragIsSentWhenTheButtonIsReleased)
+TEST_F(CurvesTest, DragEmitsTheCurveWhenTheButtonIsReleased)
 {
     panel.on_buttonReset_clicked();
     show();
@@ -130,7 +130,7 @@ TEST_F(CurvesTest, ADragIsSentWhenTheButtonIsReleased)
     EXPECT_NEAR(lastCurve()[128], 0.75, 0.02);
 }
 
-TEST_F(CurvesTest, TheCurveIsSentBeforeTheHistogram)
+TEST_F(CurvesTest, CurveIsEmittedBeforeTheHistogram)
 {
     QStringList order;
     QObject::connect(&panel, &Curves::signalCurves, &panel, [&] { order << QStringLiteral("curve"); });
@@ -139,7 +139,7 @@ TEST_F(CurvesTest, TheCurveIsSentBeforeTheHistogram)
     EXPECT_EQ(order.join(QLatin1Char(' ')).toStdString(), "curve histogram");
 }
 
-TEST_F(CurvesTest, TheHistogramIsSentAsItIsBehindTheCurve)
+TEST_F(CurvesTest, EmittedHistogramIsTheOneAfterTheCurve)
 {
     QVector<float> histogram(256, 0.0F);
     histogram[64] = 1.5F;
@@ -153,7 +153,7 @@ TEST_F(CurvesTest, TheHistogramIsSentAsItIsBehindTheCurve)
     EXPECT_EQ(lastHistogram(), expected);
 }
 
-TEST_F(CurvesTest, AHistogramOfAnotherSizeIsToldTwiceAndRefused)
+TEST_F(CurvesTest, HistogramOfWrongSizeIsLoggedTwiceAndRejected)
 {
     const QVector<float> histogram(256, 0.5F);
     panel.slotSetHistogram(histogram);
@@ -164,7 +164,7 @@ TEST_F(CurvesTest, AHistogramOfAnotherSizeIsToldTwiceAndRefused)
     EXPECT_EQ(frame.histogram(), histogram);
 }
 
-TEST_F(CurvesTest, DeleteWorksWhereverTheFocusIs)
+TEST_F(CurvesTest, DeleteKeyWorksWhereverTheFocusIs)
 {
     panel.on_buttonReset_clicked();
     show();
@@ -176,7 +176,7 @@ TEST_F(CurvesTest, DeleteWorksWhereverTheFocusIs)
     EXPECT_EQ(curves.count(), 1);
 }
 
-TEST_F(CurvesTest, DeleteBelongsToADialogWhileOneIsOpen)
+TEST_F(CurvesTest, DeleteKeyIsNotInterceptedWhileADialogIsOpen)
 {
     panel.on_buttonReset_clicked();
     show();
@@ -192,7 +192,7 @@ TEST_F(CurvesTest, DeleteBelongsToADialogWhileOneIsOpen)
     EXPECT_EQ(frame.points().count(), 3);
 }
 
-TEST_F(CurvesTest, DeleteIsFreeOnceThePanelIsGone)
+TEST_F(CurvesTest, DeleteKeyIsNotInterceptedAfterThePanelIsDestroyed)
 {
     auto other = std::make_unique<Curves>();
     other->show();
@@ -206,7 +206,7 @@ TEST_F(CurvesTest, DeleteIsFreeOnceThePanelIsGone)
     EXPECT_EQ(name.text(), QStringLiteral("bc"));
 }
 
-TEST_F(CurvesTest, TheStripsLineUpWithTheFrame)
+TEST_F(CurvesTest, StripsAreAlignedWithTheFrame)
 {
     show();
     const QRect across = child<QLabel>(panel, "labelHorizontal").geometry();
@@ -217,8 +217,8 @@ TEST_F(CurvesTest, TheStripsLineUpWithTheFrame)
     EXPECT_EQ(upwards.bottom(), frame.geometry().bottom());
 }
 
-// Black is where the curve has its dark greys: at the left and at the bottom.
-TEST_F(CurvesTest, TheStripsRunFromBlackToWhite)
+// The strips are black at the dark end of the curve: at the left and at the bottom.
+TEST_F(CurvesTest, StripsRunFromBlackToWhite)
 {
     show();
     const QImage across = child<QLabel>(panel, "labelHorizontal").grab().toImage();

@@ -48,7 +48,7 @@ protected:
     QSignalSpy emitted{&panel, &Grain::signalGrain};
 };
 
-TEST_F(GrainTest, TheFormHasItsRangesAndInitialValues)
+TEST_F(GrainTest, FormHasItsRangesAndInitialValues)
 {
     EXPECT_EQ(slider.orientation(), Qt::Horizontal);
     EXPECT_EQ(slider.minimum(), 0);
@@ -63,7 +63,7 @@ TEST_F(GrainTest, TheFormHasItsRangesAndInitialValues)
     EXPECT_EQ(strip.maximumSize(), QSize(16777215, 60));
 }
 
-TEST_F(GrainTest, TheFormHasItsTexts)
+TEST_F(GrainTest, FormHasItsTexts)
 {
     EXPECT_EQ(panel.windowTitle(), QStringLiteral("Form"));
     EXPECT_EQ(child<QLabel>(panel, "labelPreset").text(), QStringLiteral("Presets:"));
@@ -77,7 +77,7 @@ TEST_F(GrainTest, PresetsAreEmptyAndDisabled)
     EXPECT_FALSE(child<QComboBox>(panel, "comboBoxPresets").isEnabled());
 }
 
-TEST_F(GrainTest, SignalsAndSlotsHaveTheirNamesAndOrder)
+TEST_F(GrainTest, SignalsAndSlotsHaveFixedNamesAndOrder)
 {
     EXPECT_EQ(methodsOf(Grain::staticMetaObject),
               "signalGrain(QList<float>,float) slotSetHistogram(QList<float>) "
@@ -85,14 +85,14 @@ TEST_F(GrainTest, SignalsAndSlotsHaveTheirNamesAndOrder)
               "on_buttonReset_clicked()");
 }
 
-TEST_F(GrainTest, TheCurveIsOfLinesAndTheStripShowsItFromTheStart)
+TEST_F(GrainTest, CurveIsLinearAndShownInTheStripInitially)
 {
     EXPECT_EQ(frame.interpolation(), CurveFrame::Linear);
     EXPECT_EQ(strip.property("fulcrums").value<QVector<float>>(), QVector<float>(256, 0.5F));
     EXPECT_EQ(strip.property("radius").toFloat(), 1.5F);
 }
 
-TEST_F(GrainTest, ResetIsGrainInTheMiddleGreys)
+TEST_F(GrainTest, ResetGivesGrainInTheMiddleGreys)
 {
     QTest::mouseClick(&reset, Qt::LeftButton);
     EXPECT_EQ(frame.points().xs, (QVector<float>{0, 0.5F, 1}));
@@ -107,7 +107,7 @@ TEST_F(GrainTest, ResetIsGrainInTheMiddleGreys)
     EXPECT_FLOAT_EQ(emitted[0][1].toFloat(), 1.5F);
 }
 
-TEST_F(GrainTest, ResetPutsTheBlurBack)
+TEST_F(GrainTest, ResetRestoresTheBlur)
 {
     spinBox.setValue(2.7);
     panel.on_buttonReset_clicked();
@@ -116,7 +116,7 @@ TEST_F(GrainTest, ResetPutsTheBlurBack)
     EXPECT_FLOAT_EQ(emitted.last()[1].toFloat(), 1.5F);
 }
 
-TEST_F(GrainTest, TheSliderEmitsOnceThroughTheSpinBox)
+TEST_F(GrainTest, SliderEmitsOnceThroughTheSpinBox)
 {
     for (int tenths = 0; tenths <= 30; ++tenths) {
         slider.setValue(tenths == 0 ? 1 : tenths - 1);
@@ -128,7 +128,7 @@ TEST_F(GrainTest, TheSliderEmitsOnceThroughTheSpinBox)
     }
 }
 
-TEST_F(GrainTest, TheSpinBoxEmitsOnceAndMovesTheSlider)
+TEST_F(GrainTest, SpinBoxEmitsOnceAndMovesTheSlider)
 {
     for (int tenths = 30; tenths >= 0; --tenths) {
         emitted.clear();
@@ -139,7 +139,7 @@ TEST_F(GrainTest, TheSpinBoxEmitsOnceAndMovesTheSlider)
     }
 }
 
-TEST_F(GrainTest, TheStripFollowsCurveAndBlur)
+TEST_F(GrainTest, StripShowsCurveAndBlur)
 {
     panel.on_buttonReset_clicked();
     EXPECT_EQ(strip.property("fulcrums").value<QVector<float>>(), drawn());
@@ -147,7 +147,7 @@ TEST_F(GrainTest, TheStripFollowsCurveAndBlur)
     EXPECT_FLOAT_EQ(strip.property("radius").toFloat(), 2.3F);
 }
 
-TEST_F(GrainTest, ADragIsSentWhenTheButtonIsReleased)
+TEST_F(GrainTest, DragEmitsTheGrainWhenTheButtonIsReleased)
 {
     panel.on_buttonReset_clicked();
     show();
@@ -161,7 +161,7 @@ TEST_F(GrainTest, ADragIsSentWhenTheButtonIsReleased)
     EXPECT_NEAR(drawn()[128], 0.75, 0.02);
 }
 
-TEST_F(GrainTest, DeleteWorksWhereverTheFocusIs)
+TEST_F(GrainTest, DeleteKeyWorksWhereverTheFocusIs)
 {
     panel.on_buttonReset_clicked();
     show();
@@ -173,7 +173,7 @@ TEST_F(GrainTest, DeleteWorksWhereverTheFocusIs)
     expectEmitted(QVector<float>(256, 0.0F), 1.5F);
 }
 
-TEST_F(GrainTest, TheHistogramStandsBehindTheCurve)
+TEST_F(GrainTest, HistogramIsShownBehindTheCurve)
 {
     const QVector<float> histogram(256, 0.125F);
     panel.slotSetHistogram(histogram);
@@ -181,7 +181,7 @@ TEST_F(GrainTest, TheHistogramStandsBehindTheCurve)
     EXPECT_TRUE(emitted.isEmpty());
 }
 
-TEST_F(GrainTest, TheStripIsAsWideAsTheCurve)
+TEST_F(GrainTest, StripIsAsWideAsTheCurve)
 {
     show();
     EXPECT_EQ(strip.geometry().left(), frame.geometry().left());

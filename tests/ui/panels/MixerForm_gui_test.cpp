@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the mixer panel is made of. What it does is in Mixer_gui_test.
+// The form of the mixer panel; its behaviour is tested in Mixer_gui_test.
 #include "tests/support/GuiTest.h"
 #include "ui/panels/Mixer.h"
 
@@ -24,7 +24,7 @@ protected:
     Mixer panel;
 };
 
-TEST_F(MixerForm, SignalsAndSlotsHaveTheirNamesAndOrder)
+TEST_F(MixerForm, SignalsAndSlotsHaveFixedNamesAndOrder)
 {
     EXPECT_EQ(methodsOf(Mixer::staticMetaObject, '\n'), "signalMixer(float,float,float)\n"
                                                         "slotSetRGB(float,float,float)\n"
@@ -41,7 +41,7 @@ TEST_F(MixerForm, SignalsAndSlotsHaveTheirNamesAndOrder)
                                                         "on_comboPresets_highlighted(int)");
 }
 
-TEST_F(MixerForm, ItHasItsRangesAndInitialValues)
+TEST_F(MixerForm, HasItsRangesAndInitialValues)
 {
     for (const char *name : {"sliderR", "sliderG", "sliderB"}) {
         EXPECT_EQ(slider(name).minimum(), -512) << name;
@@ -61,7 +61,7 @@ TEST_F(MixerForm, ItHasItsRangesAndInitialValues)
     EXPECT_EQ(spinBox("spinBoxLuma").value(), 255);
 }
 
-TEST_F(MixerForm, SlidersLieFlatWithTicksAbove)
+TEST_F(MixerForm, SlidersAreHorizontalWithTicksAbove)
 {
     for (const char *name : {"sliderLuma", "sliderR", "sliderG", "sliderB"}) {
         EXPECT_EQ(slider(name).orientation(), Qt::Horizontal) << name;
@@ -69,7 +69,7 @@ TEST_F(MixerForm, SlidersLieFlatWithTicksAbove)
     }
 }
 
-TEST_F(MixerForm, ItHasItsColours)
+TEST_F(MixerForm, HasItsColours)
 {
     EXPECT_EQ(slider("sliderLuma").styleSheet(),
               QStringLiteral("background-color:qlineargradient(spread:pad, x1:1, y1:1, x2:0, y2:1, stop:0 rgba(0, 0, "
@@ -80,7 +80,7 @@ TEST_F(MixerForm, ItHasItsColours)
     EXPECT_EQ(spinBox("spinBoxB").styleSheet(), QStringLiteral("background:blue;\ncolor:white;"));
 }
 
-TEST_F(MixerForm, ItHasItsTexts)
+TEST_F(MixerForm, HasItsTexts)
 {
     EXPECT_EQ(panel.windowTitle(), QStringLiteral("Form"));
     EXPECT_EQ(child<QLabel>(panel, "label").text(), QStringLiteral("Presets:"));
@@ -93,7 +93,7 @@ TEST_F(MixerForm, ItHasItsTexts)
     EXPECT_FALSE(reset.toolTip().isEmpty());
 }
 
-TEST_F(MixerForm, TheTabKeyGoesFromTheLooksDownwards)
+TEST_F(MixerForm, TabOrderStartsAtTheLooksAndGoesDown)
 {
     panel.show();
     panel.activateWindow();

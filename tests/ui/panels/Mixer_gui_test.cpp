@@ -90,7 +90,7 @@ protected:
     QSignalSpy emitted{&panel, &Mixer::signalMixer};
 };
 
-TEST_F(MixerTest, TheLooksStandInTheirOrder)
+TEST_F(MixerTest, LooksAreInFixedOrder)
 {
     ASSERT_EQ(presets.count(), static_cast<int>(looks.size()));
     for (int i = 0; i < presets.count(); ++i) {
@@ -119,20 +119,20 @@ TEST_F(MixerTest, EveryLookEmitsItsWeights)
     }
 }
 
-TEST_F(MixerTest, TheAverageIsAppliedFromTheStart)
+TEST_F(MixerTest, AverageIsAppliedInitially)
 {
     EXPECT_EQ(presets.currentIndex(), 0);
     EXPECT_EQ(panel.presetWeights(), (grisal::graphics::ColorRGB<float>{85, 85, 85}));
 }
 
-TEST_F(MixerTest, TheChosenLookIsKept)
+TEST_F(MixerTest, SelectedLookIsKept)
 {
     choose("Luma");
     slider("sliderR").setValue(3);
     EXPECT_EQ(panel.presetWeights(), (grisal::graphics::ColorRGB<float>{77, 150, 28}));
 }
 
-TEST_F(MixerTest, ChoosingTheCurrentLookAgainEmitsNothing)
+TEST_F(MixerTest, SelectingTheCurrentLookAgainEmitsNothing)
 {
     choose("Luma");
     emitted.clear();
@@ -140,15 +140,15 @@ TEST_F(MixerTest, ChoosingTheCurrentLookAgainEmitsNothing)
     EXPECT_TRUE(emitted.isEmpty());
 }
 
-TEST_F(MixerTest, LookingThroughTheLooksEmitsNothing)
+TEST_F(MixerTest, HighlightingALookEmitsNothing)
 {
     emit presets.highlighted(5);
     EXPECT_TRUE(emitted.isEmpty());
     EXPECT_EQ(sliders(), (Triple{85, 85, 85}));
 }
 
-// Weights are tried out with the channel sliders first and take effect together: the picture must not jump with each.
-TEST_F(MixerTest, AChannelSliderAloneIsSilent)
+// The channel sliders do not take effect one by one, so that the image does not change with each of them.
+TEST_F(MixerTest, ChannelSliderEmitsNothing)
 {
     slider("sliderR").setValue(100);
     EXPECT_EQ(spinBox("spinBoxR").value(), 100);
@@ -161,7 +161,7 @@ TEST_F(MixerTest, AChannelSliderAloneIsSilent)
     EXPECT_TRUE(emitted.isEmpty());
 }
 
-TEST_F(MixerTest, AChannelSpinBoxAloneIsSilent)
+TEST_F(MixerTest, ChannelSpinBoxEmitsNothing)
 {
     spinBox("spinBoxR").setValue(90);
     spinBox("spinBoxG").setValue(-20);
@@ -171,20 +171,20 @@ TEST_F(MixerTest, AChannelSpinBoxAloneIsSilent)
     EXPECT_TRUE(emitted.isEmpty());
 }
 
-// The sum's spin box tells the sum that is in effect, its slider the sum of what the channel sliders try out.
-TEST_F(MixerTest, AChannelSliderLeavesTheSpinBoxOfTheSum)
+// The spin box of the sum shows the sum in effect, its slider the sum of the channel sliders.
+TEST_F(MixerTest, ChannelSliderDoesNotChangeTheSumSpinBox)
 {
     slider("sliderR").setValue(100);
     EXPECT_EQ(spinBox("spinBoxLuma").value(), 255);
 }
 
-TEST_F(MixerTest, ANegativeSumShowsAsNone)
+TEST_F(MixerTest, NegativeSumIsShownAsZero)
 {
     setChannels({-100, -100, -100});
     EXPECT_EQ(slider("sliderLuma").value(), 0);
 }
 
-TEST_F(MixerTest, TheSumMovesAllChannelsAlike)
+TEST_F(MixerTest, SumSliderShiftsAllChannelsEqually)
 {
     choose("Luma");
     emitted.clear();
@@ -195,7 +195,7 @@ TEST_F(MixerTest, TheSumMovesAllChannelsAlike)
     EXPECT_EQ(spinBox("spinBoxLuma").value(), 300);
 }
 
-TEST_F(MixerTest, TheSpinBoxOfTheSumDoesTheSame)
+TEST_F(MixerTest, SumSpinBoxShiftsAllChannelsEqually)
 {
     choose("Luma");
     emitted.clear();
@@ -204,8 +204,8 @@ TEST_F(MixerTest, TheSpinBoxOfTheSumDoesTheSame)
     EXPECT_EQ(slider("sliderLuma").value(), 300);
 }
 
-// A third of 256 is no whole weight: the controls show 85 each, and their sum, while the picture gets the fraction.
-TEST_F(MixerTest, ASumOfFractionsShowsTheSumOfItsWholeWeights)
+// A third of 256 is not an integer: the controls show 85 each, and their sum, but the fraction is emitted.
+TEST_F(MixerTest, ShownSumIsThatOfTheWholeWeights)
 {
     slider("sliderLuma").setValue(256);
     expectEmitted(256 / 3.0F, 256 / 3.0F, 256 / 3.0F);
@@ -214,9 +214,9 @@ TEST_F(MixerTest, ASumOfFractionsShowsTheSumOfItsWholeWeights)
     EXPECT_EQ(spinBox("spinBoxLuma").value(), 255);
 }
 
-// Red is 10 - 60 + 50. The mean weighs green a little more than the others and is a little above 60 here; with equal
-// weights it would be below and red positive. The sliders show whole weights, which are the same in both cases.
-TEST_F(MixerTest, TheSumStartsFromAMeanThatWeighsGreenMore)
+// Red is 10 - 60 + 50. The mean weights green slightly more than the others and is slightly above 60 here; with equal
+// weights it would be below 60 and red positive. The sliders show whole weights, which are the same in both cases.
+TEST_F(MixerTest, SumShiftUsesTheMeanThatWeightsGreenMore)
 {
     setChannels({10, 110, 60});
     emitted.clear();
@@ -226,15 +226,15 @@ TEST_F(MixerTest, TheSumStartsFromAMeanThatWeighsGreenMore)
     EXPECT_EQ(sliders(), (Triple{0, 100, 50}));
 }
 
-TEST_F(MixerTest, TheSumCommitsWhatTheChannelSlidersTry)
+TEST_F(MixerTest, SumSliderCommitsTheChannelSliders)
 {
     setChannels({100, 85, 70});
     slider("sliderLuma").setValue(285);
     expectEmitted(110, 95, 80);
 }
 
-// The example of the user guide, in all its languages.
-TEST_F(MixerTest, TheSumMovesATypedWeightWithTheOthers)
+// The example in the user guide in all languages.
+TEST_F(MixerTest, SumShiftsATypedWeightWithTheOthers)
 {
     spinBox("spinBoxR").setValue(200);
     spinBox("spinBoxLuma").setValue(256);
@@ -242,14 +242,14 @@ TEST_F(MixerTest, TheSumMovesATypedWeightWithTheOthers)
     EXPECT_EQ(spinBoxes(), (Triple{162, 47, 47}));
 }
 
-TEST_F(MixerTest, ALookReplacesTypedWeights)
+TEST_F(MixerTest, LookReplacesTypedWeights)
 {
     spinBox("spinBoxR").setValue(200);
     choose("Luma");
     expectEmitted(77, 150, 28);
 }
 
-TEST_F(MixerTest, AClickOnTheWheelReplacesTypedWeights)
+TEST_F(MixerTest, ClickOnTheWheelReplacesTypedWeights)
 {
     wheel.resize(200, 200);
     spinBox("spinBoxR").setValue(200);
@@ -257,8 +257,8 @@ TEST_F(MixerTest, AClickOnTheWheelReplacesTypedWeights)
     expectEmitted(370 / 3.0F, 370 / 3.0F, 370 / 3.0F);
 }
 
-// What the user guide advises who wants the weights as they are typed.
-TEST_F(MixerTest, ANotchForwardsAndOneBackOnTheWheelEmitTypedWeights)
+// The user guide recommends this for applying exactly the typed weights.
+TEST_F(MixerTest, WheelNotchForthAndBackEmitsTypedWeights)
 {
     for (const Triple &typed : {Triple{200, 85, 85}, Triple{200, -20, 75}, Triple{511, 400, -512}, Triple{1, 2, 3}}) {
         setChannels(typed);
@@ -271,7 +271,7 @@ TEST_F(MixerTest, ANotchForwardsAndOneBackOnTheWheelEmitTypedWeights)
     }
 }
 
-TEST_F(MixerTest, WeightsFromOutsideAreShownAndEmittedAsTheyAre)
+TEST_F(MixerTest, SetWeightsAreEmittedUnchangedAndShownTruncated)
 {
     panel.slotSetRGB(10.9F, -20.9F, 30.5F);
     expectEmitted(10.9F, -20.9F, 30.5F);
@@ -281,7 +281,7 @@ TEST_F(MixerTest, WeightsFromOutsideAreShownAndEmittedAsTheyAre)
     EXPECT_EQ(spinBox("spinBoxLuma").value(), 20);
 }
 
-TEST_F(MixerTest, WeightsBeyondTheSlidersAreEmittedAllTheSame)
+TEST_F(MixerTest, WeightsBeyondTheSlidersAreEmittedUnchanged)
 {
     panel.slotSetRGB(512, -512, 600);
     expectEmitted(512, -512, 600);
@@ -289,14 +289,14 @@ TEST_F(MixerTest, WeightsBeyondTheSlidersAreEmittedAllTheSame)
     EXPECT_EQ(slider("sliderLuma").value(), 511);
 }
 
-TEST_F(MixerTest, TheWheelShowsTheWeightsFromTheStart)
+TEST_F(MixerTest, WheelShowsTheWeightsInitially)
 {
     EXPECT_EQ(wheel.colorSpace(), 1);
     EXPECT_EQ(wheel.minimumSize(), QSize(0, 200));
     expectOnWheel(85, 85, 85);
 }
 
-TEST_F(MixerTest, APickOnTheWheelIsEmittedAndShown)
+TEST_F(MixerTest, PickOnTheWheelIsEmittedAndShown)
 {
     emit wheel.signalWeights(10.9F, 20.5F, 200.25F);
     expectEmitted(10.9F, 20.5F, 200.25F);
@@ -306,8 +306,8 @@ TEST_F(MixerTest, APickOnTheWheelIsEmittedAndShown)
     EXPECT_EQ(spinBox("spinBoxLuma").value(), 230);
 }
 
-// What the wheel holds is finer than the sliders' whole weights: it must not be set back to these.
-TEST_F(MixerTest, APickLeavesTheMarkerUnderTheMouse)
+// The wheel is more precise than the whole weights of the sliders, so it must not be set to these.
+TEST_F(MixerTest, PickPutsTheMarkerUnderTheMouse)
 {
     panel.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
@@ -317,7 +317,7 @@ TEST_F(MixerTest, APickLeavesTheMarkerUnderTheMouse)
     EXPECT_DOUBLE_EQ(wheel.markerY(), double(wheel.height() / 3) / wheel.height());
 }
 
-TEST_F(MixerTest, TheWheelFollowsChannelsSumLooksAndReset)
+TEST_F(MixerTest, WheelShowsChangesOfChannelsSumLooksAndReset)
 {
     const QSignalSpy picked(&wheel, &YUVFrame::signalWeights);
     setChannels({100, 60, 20});
@@ -345,8 +345,8 @@ TEST_F(MixerTest, ResetEmitsOneThirdEachOnce)
     EXPECT_EQ(presets.currentText(), QStringLiteral("Luma"));
 }
 
-// The slider of the sum stands at 255 by what the channels try out, its spin box at what was in effect.
-TEST_F(MixerTest, ResetPutsTheSpinBoxOfTheSumBack)
+// The slider of the sum is at 255, the sum of the channel sliders; its spin box shows the sum in effect.
+TEST_F(MixerTest, ResetRestoresTheSumSpinBox)
 {
     slider("sliderLuma").setValue(300);
     slider("sliderR").setValue(55);
@@ -356,8 +356,8 @@ TEST_F(MixerTest, ResetPutsTheSpinBoxOfTheSumBack)
     EXPECT_EQ(sliders(), (Triple{85, 85, 85}));
 }
 
-// "Luma" adds up to the neutral sum, so that the slider of the sum does not move and brings nothing along.
-TEST_F(MixerTest, ResetReachesAllControlsWhereTheSumStays)
+// The sum of "Luma" is the neutral one, so the slider of the sum does not move and does not update the others.
+TEST_F(MixerTest, ResetSetsAllControlsEvenIfTheSumIsUnchanged)
 {
     choose("Luma");
     panel.on_buttonReset_clicked();
@@ -365,7 +365,7 @@ TEST_F(MixerTest, ResetReachesAllControlsWhereTheSumStays)
     EXPECT_EQ(spinBoxes(), (Triple{85, 85, 85}));
 }
 
-TEST_F(MixerTest, ResetEmitsWhereNothingHasChangedToo)
+TEST_F(MixerTest, ResetEmitsEvenIfNothingHasChanged)
 {
     panel.on_buttonReset_clicked();
     ASSERT_EQ(emitted.count(), 1);
@@ -374,7 +374,7 @@ TEST_F(MixerTest, ResetEmitsWhereNothingHasChangedToo)
     EXPECT_EQ(emitted[0][2].toFloat(), 0.33333334F);
 }
 
-TEST_F(MixerTest, ALookWithTooFewWeightsIsRefused)
+TEST_F(MixerTest, LookWithTooFewWeightsIsRejected)
 {
     presets.setItemData(4, QVariantList{1, 2});
     expectWarning(QStringLiteral("mixer: color list too small"));
@@ -384,7 +384,7 @@ TEST_F(MixerTest, ALookWithTooFewWeightsIsRefused)
     EXPECT_EQ(panel.presetWeights(), (grisal::graphics::ColorRGB<float>{85, 85, 85}));
 }
 
-TEST_F(MixerTest, ALookWhoseLastWeightIsNoNumberIsRefused)
+TEST_F(MixerTest, LookWithInvalidLastWeightIsRejected)
 {
     presets.setItemData(4, QVariantList{1, 2, QStringLiteral("blue")});
     expectWarning(QStringLiteral("mixer: could not get all rgb values"));
@@ -394,7 +394,7 @@ TEST_F(MixerTest, ALookWhoseLastWeightIsNoNumberIsRefused)
     EXPECT_EQ(panel.presetWeights(), (grisal::graphics::ColorRGB<float>{1, 2, 0}));
 }
 
-// Looks are made here and nowhere else: one check, of the last weight, is all there is.
+// All looks are defined in the program itself, so only the last weight is checked.
 TEST_F(MixerTest, OnlyTheLastWeightIsChecked)
 {
     presets.setItemData(4, QVariantList{QStringLiteral("red"), 2, 3});

@@ -13,7 +13,7 @@ class SharpenTest : public GuiTest
 {
 };
 
-TEST_F(SharpenTest, SaysThatItDoesNotExistYet)
+TEST_F(SharpenTest, ShowsThatSharpeningIsNotAvailable)
 {
     const Sharpen panel;
     const auto buttons = panel.findChildren<QPushButton *>();

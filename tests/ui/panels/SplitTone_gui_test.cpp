@@ -77,7 +77,7 @@ protected:
     QSignalSpy emitted{&panel, &SplitTone::signalSplit};
 };
 
-TEST_F(SplitToneTest, TheFormHasItsRangesAndInitialValues)
+TEST_F(SplitToneTest, FormHasItsRangesAndInitialValues)
 {
     for (const char *name : channels) {
         EXPECT_EQ(spinBox(name).minimum(), 0) << name;
@@ -102,8 +102,8 @@ TEST_F(SplitToneTest, TheFormHasItsRangesAndInitialValues)
     EXPECT_EQ(frameShadows.colorSpace(), 0);
 }
 
-// The blue of the shadows differs between the form and the reset, and both are meant.
-TEST_F(SplitToneTest, TheFormHasItsInitialTints)
+// The blue of the shadows differs between the form and the reset on purpose.
+TEST_F(SplitToneTest, FormHasItsInitialTints)
 {
     EXPECT_EQ(highlights(), warm);
     EXPECT_EQ(shadows(), (Triple{110, 148, 253}));
@@ -112,7 +112,7 @@ TEST_F(SplitToneTest, TheFormHasItsInitialTints)
     EXPECT_EQ(shadows(), cool);
 }
 
-TEST_F(SplitToneTest, TheFormHasItsTexts)
+TEST_F(SplitToneTest, FormHasItsTexts)
 {
     EXPECT_EQ(panel.windowTitle(), QStringLiteral("Form"));
     EXPECT_EQ(child<QLabel>(panel, "labelPresets").text(), QStringLiteral("Presets:"));
@@ -130,7 +130,7 @@ TEST_F(SplitToneTest, TheFormHasItsTexts)
     }
 }
 
-TEST_F(SplitToneTest, TheFormHasItsColours)
+TEST_F(SplitToneTest, FormHasItsColours)
 {
     for (const char *name : {"sliderHLuma", "sliderSLuma"}) {
         EXPECT_EQ(slider(name).styleSheet(),
@@ -151,7 +151,7 @@ TEST_F(SplitToneTest, PresetsAreEmptyAndDisabled)
     EXPECT_EQ(child<QComboBox>(panel, "comboPresets").toolTip(), QStringLiteral("There are no presets yet"));
 }
 
-TEST_F(SplitToneTest, SignalsAndSlotsHaveTheirNamesAndOrder)
+TEST_F(SplitToneTest, SignalsAndSlotsHaveFixedNamesAndOrder)
 {
     const QMetaObject &meta = SplitTone::staticMetaObject;
     EXPECT_EQ(methodsOf(SplitTone::staticMetaObject),
@@ -164,7 +164,7 @@ TEST_F(SplitToneTest, SignalsAndSlotsHaveTheirNamesAndOrder)
     EXPECT_EQ(meta.method(meta.methodOffset()).parameterNames().join(','), "weight,r1,g1,b1,r2,g2,b2");
 }
 
-/// Hears the first panel that is built while it exists, from its first child on.
+/// Counts the emissions of the first panel that is constructed during its lifetime, from its first child on.
 class BuildListener : public QObject
 {
 public:
@@ -175,23 +175,23 @@ public:
         auto *panel = qobject_cast<SplitTone *>(watched);
         if (panel != nullptr && event->type() == QEvent::ChildAdded && !listening) {
             listening = true;
-            connect(panel, &SplitTone::signalSplit, this, [this] { ++heard; });
+            connect(panel, &SplitTone::signalSplit, this, [this] { ++emissions; });
         }
         return false;
     }
 
     bool listening = false;
-    int heard = 0;
+    int emissions = 0;
 };
 
-TEST_F(SplitToneTest, BuildingThePanelEmitsNothing)
+TEST_F(SplitToneTest, ConstructionEmitsNothing)
 {
     const BuildListener listener;
     SplitTone another;
     EXPECT_TRUE(listener.listening);
-    EXPECT_EQ(listener.heard, 0);
+    EXPECT_EQ(listener.emissions, 0);
     another.emitAll();
-    EXPECT_EQ(listener.heard, 1);
+    EXPECT_EQ(listener.emissions, 1);
 }
 
 TEST_F(SplitToneTest, ResetEmitsItsTints)
@@ -201,13 +201,14 @@ TEST_F(SplitToneTest, ResetEmitsItsTints)
     panel.on_buttonReset_clicked();
     expectEmitted(1, warm, cool);
     EXPECT_EQ(slider("sliderHLuma").value(), 133);
-    EXPECT_EQ(slider("sliderSLuma").value(), 151); // three twelve-digit thirds fall short of 152, and are cut
+    EXPECT_EQ(slider("sliderSLuma").value(),
+              151); // three thirds of twelve digits give slightly less than 152, which is truncated
     expectOnWheel(frameHighlights, warm);
     expectOnWheel(frameShadows, cool);
 }
 
-// The weight goes back first, and its change is told by itself, with the tints of before.
-TEST_F(SplitToneTest, ResetTellsAChangedWeightFirst)
+// The weight is reset first, and its change is emitted separately with the previous tints.
+TEST_F(SplitToneTest, ResetEmitsAChangedWeightFirst)
 {
     reset();
     slider("sliderWeight").setValue(100);
@@ -221,7 +222,7 @@ TEST_F(SplitToneTest, ResetTellsAChangedWeightFirst)
     expectEmitted(1, warm, cool);
 }
 
-TEST_F(SplitToneTest, TheWeightRunsFromThreeQuartersToFiveQuarters)
+TEST_F(SplitToneTest, WeightRangesFromThreeQuartersToFiveQuarters)
 {
     reset();
     slider("sliderWeight").setValue(0);
@@ -234,8 +235,8 @@ TEST_F(SplitToneTest, TheWeightRunsFromThreeQuartersToFiveQuarters)
     EXPECT_EQ(slider("sliderWeight").value(), 25);
 }
 
-// Three numbers make a colour: the picture waits until they are all there.
-TEST_F(SplitToneTest, TypedColoursAreSilentAndMoveWheelAndLuma)
+// A colour consists of three numbers, so a single one is not emitted.
+TEST_F(SplitToneTest, TypedColoursMoveWheelAndLumaButEmitNothing)
 {
     reset();
     const std::array<int, 6> tints{200, 100, 30, 20, 40, 61};
@@ -243,7 +244,8 @@ TEST_F(SplitToneTest, TypedColoursAreSilentAndMoveWheelAndLuma)
         spinBox(channels[i]).setValue(tints[i]);
     }
     EXPECT_TRUE(emitted.isEmpty());
-    EXPECT_EQ(slider("sliderHLuma").value(), 109); // three twelve-digit thirds fall short of 110, and are cut
+    EXPECT_EQ(slider("sliderHLuma").value(),
+              109); // three thirds of twelve digits give slightly less than 110, which is truncated
     EXPECT_EQ(slider("sliderSLuma").value(), 40);
     expectOnWheel(frameHighlights, {200, 100, 30});
     expectOnWheel(frameShadows, {20, 40, 61});
@@ -251,9 +253,9 @@ TEST_F(SplitToneTest, TypedColoursAreSilentAndMoveWheelAndLuma)
     expectEmitted(1, {200, 100, 30}, {20, 40, 61});
 }
 
-// The mean weighs green a little more than the others and is a little above 100 here; with equal weights it would be
-// below and be cut to 99.
-TEST_F(SplitToneTest, TheLumaOfAGreenTintIsNotCutByOne)
+// The mean weights green slightly more than the others and is slightly above 100 here; with equal weights it would be
+// below 100 and truncated to 99.
+TEST_F(SplitToneTest, LumaOfAGreenTintIsNotOneTooLow)
 {
     spinBox("spinBoxHR").setValue(90);
     spinBox("spinBoxHG").setValue(120);
@@ -263,18 +265,18 @@ TEST_F(SplitToneTest, TheLumaOfAGreenTintIsNotCutByOne)
     EXPECT_EQ(slider("sliderSLuma").value(), 100);
 }
 
-TEST_F(SplitToneTest, ALumaMovesAllChannelsAlike)
+TEST_F(SplitToneTest, LumaSliderShiftsAllChannelsEqually)
 {
     reset();
     slider("sliderHLuma").setValue(143);
-    EXPECT_EQ(slider("sliderHLuma").value(), 142); // the whole numbers add up to a little less
+    EXPECT_EQ(slider("sliderHLuma").value(), 142); // the sum of the truncated numbers is slightly less
     ASSERT_EQ(emitted.count(), 1);
     EXPECT_EQ(highlights(), (Triple{199, 165, 63}));
     EXPECT_EQ(frameHighlights.luma(), 143);
     expectEmitted(1, {199, 165, 63}, cool);
 }
 
-TEST_F(SplitToneTest, ALumaMakesAGreyThatGrey)
+TEST_F(SplitToneTest, LumaSliderSetsAllChannelsOfAGrey)
 {
     for (const char *name : channels) {
         spinBox(name).setValue(100);
@@ -287,7 +289,7 @@ TEST_F(SplitToneTest, ALumaMakesAGreyThatGrey)
     EXPECT_EQ(emitted.count(), 2);
 }
 
-TEST_F(SplitToneTest, ATintIsCutToWholeNumbersWithinTheSpinBoxes)
+TEST_F(SplitToneTest, TintIsTruncatedAndClampedToTheSpinBoxes)
 {
     reset();
     panel.slotSetHighlights(300.9F, 100.9F, -20);
@@ -299,21 +301,21 @@ TEST_F(SplitToneTest, ATintIsCutToWholeNumbersWithinTheSpinBoxes)
     expectEmitted(1, {255, 100, 0}, {1, 2, 3});
 }
 
-TEST_F(SplitToneTest, ALumaLeavesTheMarkerAndTheOtherTone)
+TEST_F(SplitToneTest, LumaSliderKeepsTheMarkerAndTheOtherTint)
 {
     reset();
     const QPointF marker(frameShadows.markerX(), frameShadows.markerY());
     const QSignalSpy picked(&frameShadows, &YUVFrame::signalWeights);
     slider("sliderSLuma").setValue(250);
     expectEmitted(1, warm, {208, 246, 255});
-    EXPECT_EQ(slider("sliderSLuma").value(), 249); // the mean of 208, 246 and 296, cut
+    EXPECT_EQ(slider("sliderSLuma").value(), 249); // the mean of 208, 246 and 296, truncated
     EXPECT_EQ(frameShadows.luma(), 250);
     EXPECT_EQ(QPointF(frameShadows.markerX(), frameShadows.markerY()), marker);
     EXPECT_TRUE(picked.isEmpty());
 }
 
-// Cutting fractions costs up to one: a step of one upwards would end where it began.
-TEST_F(SplitToneTest, TheKeysMoveALumaUpAndDown)
+// Truncation reduces the luma by up to one, so a step of one upwards would have no effect.
+TEST_F(SplitToneTest, ArrowKeysChangeTheLuma)
 {
     for (const Triple &tint : {Triple{100, 100, 100}, Triple{101, 100, 100}, Triple{101, 101, 100}, cool}) {
         spinBox("spinBoxHR").setValue(tint[0]);
@@ -329,7 +331,7 @@ TEST_F(SplitToneTest, TheKeysMoveALumaUpAndDown)
     }
 }
 
-TEST_F(SplitToneTest, KeysInTheSpinBoxesEmitOnlyForTheWeight)
+TEST_F(SplitToneTest, OnlyTheWeightSpinBoxEmitsTypedNumbers)
 {
     reset();
     for (const char *name : channels) {
@@ -347,7 +349,7 @@ TEST_F(SplitToneTest, KeysInTheSpinBoxesEmitOnlyForTheWeight)
     expectEmitted(0.88F, {200, 200, 200}, {200, 200, 200});
 }
 
-TEST_F(SplitToneTest, ADragOnAWheelEmitsItsColourAtEveryMove)
+TEST_F(SplitToneTest, DragOnAWheelEmitsItsColourAtEveryMove)
 {
     reset();
     panel.resize(300, 520);
@@ -379,7 +381,7 @@ TEST_F(SplitToneTest, ADragOnAWheelEmitsItsColourAtEveryMove)
     EXPECT_EQ(shadows()[2], 255);
 }
 
-TEST_F(SplitToneTest, ControlsHaveNamesTipsAndTheirOrder)
+TEST_F(SplitToneTest, ControlsHaveNamesTipsAndTabOrder)
 {
     panel.show();
     panel.activateWindow();

@@ -42,7 +42,7 @@ protected:
 
     static void reset(QWidget &panel) { child<QPushButton>(panel, "buttonReset").click(); }
 
-    /// Types over what the spin box holds. The window gets the keys from the desktop.
+    /// Replaces the text of the spin box by typing. The keys are sent to the window, as by the desktop.
     static void type(QAbstractSpinBox &box, const QString &text)
     {
         box.setFocus();
@@ -60,7 +60,7 @@ protected:
         press(box, Qt::Key_Return);
     }
 
-    /// Turns the wheel of a mouse that stands on the widget by one notch.
+    /// Turns the mouse wheel by one notch over the widget.
     static void turnWheelOn(QWidget &widget)
     {
         const QPointF place = widget.rect().center();
@@ -71,7 +71,7 @@ protected:
     }
 };
 
-/// The values that a spin box, of whole numbers or not, has had one after the other since this was made.
+/// Records the values of a spin box, of integers or decimals, during its lifetime.
 class Changes
 {
 public:
@@ -106,7 +106,7 @@ std::vector<std::unique_ptr<QWidget>> allPanels()
     return panels;
 }
 
-/// About twenty numbers of a spin box, its least and its greatest among them.
+/// About twenty numbers in the range of a spin box, including its minimum and maximum.
 std::vector<int> numbersOf(const QSpinBox &box)
 {
     std::vector<int> numbers{box.maximum()};
@@ -123,7 +123,7 @@ TEST_F(TypedNumbers, SetEverySpinBox)
         show(*panel);
         for (QSpinBox *box : panel->findChildren<QSpinBox *>()) {
             ++spinBoxes;
-            // This one shows what became of the sum; it is typed into below.
+            // This spin box shows the resulting sum; it is tested below.
             if (box->objectName() == QStringLiteral("spinBoxLuma")) {
                 continue;
             }
@@ -167,7 +167,7 @@ TEST_F(TypedNumbers, ChangeNothingUntilComplete)
     }
 }
 
-TEST_F(TypedNumbers, AreTakenBeforeAStep)
+TEST_F(TypedNumbers, AreCommittedBeforeAStep)
 {
     for (const auto &panel : allPanels()) {
         show(*panel);
@@ -181,8 +181,8 @@ TEST_F(TypedNumbers, AreTakenBeforeAStep)
     }
 }
 
-// The slider's own change would replace what is typed beside it.
-TEST_F(TypedNumbers, AreTakenBeforeTheMouseWheelMovesASlider)
+// The change of the slider would replace the text in the spin box beside it.
+TEST_F(TypedNumbers, AreCommittedBeforeTheMouseWheelMovesASlider)
 {
     for (const auto &panel : allPanels()) {
         show(*panel);
@@ -201,7 +201,7 @@ TEST_F(TypedNumbers, AreTakenBeforeTheMouseWheelMovesASlider)
     }
 }
 
-/// A locale and the sign that separates tenths there.
+/// A locale and its decimal separator.
 struct Separator {
     const char *locale;
     char sign;
@@ -214,7 +214,7 @@ class TypedTenths : public TypedNumbers, public testing::WithParamInterface<Sepa
 protected:
     TypedTenths() { QLocale::setDefault(QLocale(QString::fromLatin1(GetParam().locale))); }
 
-    /// A number of tenths with one of the two signs between its digits.
+    /// A number with one decimal and the given separator.
     static QString typed(int tenths, char sign)
     {
         return QStringLiteral("%1%2%3").arg(tenths / 10).arg(QLatin1Char(sign)).arg(tenths % 10);

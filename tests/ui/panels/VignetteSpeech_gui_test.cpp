@@ -30,7 +30,7 @@ protected:
             .arg(number("spinBoxStrength"));
     }
 
-    /// Notes where other numbers are spoken than shown; the test fails at its end then.
+    /// Records reported numbers that differ from the shown ones, for which the test fails at its end.
     void compareNumbers()
     {
         if (frame.accessibleValue() != numbers()) {
@@ -65,7 +65,7 @@ private:
     QStringList m_different;
 };
 
-TEST_F(VignetteSpeech, HasTheNumbersOfEveryPlaceOfTheMouse)
+TEST_F(VignetteSpeech, HasTheShownNumbersAtEveryMousePosition)
 {
     for (const int width : {100, 200, 333}) {
         frame.resize(width, 100);
@@ -78,7 +78,7 @@ TEST_F(VignetteSpeech, HasTheNumbersOfEveryPlaceOfTheMouse)
     }
 }
 
-TEST_F(VignetteSpeech, HasTheNumbersOfEveryPlaceBetweenTwoPercents)
+TEST_F(VignetteSpeech, HasTheShownNumbersBetweenWholePercents)
 {
     for (int step = -100; step <= 10100; ++step) {
         const double fraction = step / 10000.0;
@@ -90,7 +90,7 @@ TEST_F(VignetteSpeech, HasTheNumbersOfEveryPlaceBetweenTwoPercents)
     }
 }
 
-TEST_F(VignetteSpeech, HasTheNumbersOfEveryTurnOfTheMouseWheel)
+TEST_F(VignetteSpeech, HasTheShownNumbersAfterEveryTurnOfTheMouseWheel)
 {
     for (const Qt::KeyboardModifiers modifiers : {Qt::NoModifier, Qt::ControlModifier}) {
         for (const int delta : {120, -120, 15, -15, 1, -1}) {
@@ -102,8 +102,8 @@ TEST_F(VignetteSpeech, HasTheNumbersOfEveryTurnOfTheMouseWheel)
     }
 }
 
-// A slider at 53 leaves the frame where the mouse wheel left it nearly there, and shows 52.
-TEST_F(VignetteSpeech, HasTheNumbersOfSlidersAfterTheMouseWheel)
+// If the wheel has set the frame to almost 53 %, a slider at 53 does not change it, and 52 is shown.
+TEST_F(VignetteSpeech, HasTheShownNumbersOfSlidersAfterTheMouseWheel)
 {
     for (int turns = 0; turns < 30; ++turns) {
         turnWheel(15, Qt::NoModifier);
@@ -118,7 +118,7 @@ TEST_F(VignetteSpeech, HasTheNumbersOfSlidersAfterTheMouseWheel)
     }
 }
 
-TEST_F(VignetteSpeech, HasTheNumbersOfEverySliderAndSpinBox)
+TEST_F(VignetteSpeech, HasTheShownNumbersOfEverySliderAndSpinBox)
 {
     for (const char *slider : {"sliderX", "sliderY", "sliderRadius", "sliderStrength"}) {
         for (int percent = 0; percent < 100; ++percent) {
@@ -134,7 +134,7 @@ TEST_F(VignetteSpeech, HasTheNumbersOfEverySliderAndSpinBox)
     }
 }
 
-TEST_F(VignetteSpeech, HasTheNumbersAfterReset)
+TEST_F(VignetteSpeech, HasTheShownNumbersAfterReset)
 {
     panel.slotSetPosition({0.507, 0.2});
     panel.slotSetRadius(0.509F);
@@ -142,8 +142,8 @@ TEST_F(VignetteSpeech, HasTheNumbersAfterReset)
     compareNumbers();
 }
 
-// Wherever the mouse left the centre, also at 0.29 of the width, which shows as 28.
-TEST_F(VignetteSpeech, AnArrowKeyMovesTheNumberByOne)
+// From any centre set by the mouse, including 0.29 of the width, which is shown as 28.
+TEST_F(VignetteSpeech, ArrowKeyChangesTheNumberByOne)
 {
     for (int percent = 1; percent < 98; ++percent) {
         panel.slotSetPosition({percent / 100.0, percent / 100.0});

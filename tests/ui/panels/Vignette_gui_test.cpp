@@ -90,7 +90,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
     }
 
-    /// The place on the frame at whole percents of its size.
+    /// The position in the frame at whole percents of its size.
     QPoint placeAt(int x, int y) { return {frame.width() * x / 100, frame.height() * y / 100}; }
 
     void turnWheel(int delta, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
@@ -107,7 +107,7 @@ protected:
     QSignalSpy emitted{&panel, &Vignette::signalVignette};
 };
 
-TEST_F(VignetteTest, TheFormHasItsRangesAndInitialValues)
+TEST_F(VignetteTest, FormHasItsRangesAndInitialValues)
 {
     for (const char *value : values) {
         EXPECT_EQ(slider(value).minimum(), 0) << value;
@@ -123,7 +123,7 @@ TEST_F(VignetteTest, TheFormHasItsRangesAndInitialValues)
     EXPECT_GE(frame.minimumHeight(), 100);
 }
 
-TEST_F(VignetteTest, TheFormHasItsTexts)
+TEST_F(VignetteTest, FormHasItsTexts)
 {
     EXPECT_EQ(panel.windowTitle(), QStringLiteral("Form"));
     EXPECT_EQ(child<QLabel>(panel, "labelPresets").text(), QStringLiteral("Presets:"));
@@ -139,7 +139,7 @@ TEST_F(VignetteTest, TheFormHasItsTexts)
     }
 }
 
-TEST_F(VignetteTest, WithoutPresetsTheirListIsDisabledAndSaysSo)
+TEST_F(VignetteTest, EmptyPresetListIsDisabledWithAToolTip)
 {
     const auto &presets = child<QComboBox>(panel, "comboPresets");
     EXPECT_EQ(presets.count(), 0);
@@ -147,7 +147,7 @@ TEST_F(VignetteTest, WithoutPresetsTheirListIsDisabledAndSaysSo)
     EXPECT_EQ(presets.toolTip(), QStringLiteral("There are no presets yet"));
 }
 
-TEST_F(VignetteTest, SignalsAndSlotsHaveTheirNamesAndOrder)
+TEST_F(VignetteTest, SignalsAndSlotsHaveFixedNamesAndOrder)
 {
     const QMetaObject &meta = Vignette::staticMetaObject;
     EXPECT_EQ(methodsOf(Vignette::staticMetaObject, '\n'), "signalVignette(float,float,float,float,bool)\n"
@@ -167,7 +167,7 @@ TEST_F(VignetteTest, SignalsAndSlotsHaveTheirNamesAndOrder)
     EXPECT_EQ(meta.method(meta.methodOffset()).parameterNames().join(','), "x,y,radius,strength,extraBlur");
 }
 
-TEST_F(VignetteTest, TheTabKeyGoesDownwards)
+TEST_F(VignetteTest, TabOrderIsTopToBottom)
 {
     show();
     panel.activateWindow();
@@ -184,7 +184,7 @@ TEST_F(VignetteTest, TheTabKeyGoesDownwards)
               "spinBoxStrength checkBoxBlur");
 }
 
-/// Hears a panel from the moment at which its form is being set up.
+/// Records the emissions of a panel from the moment when its form is set up.
 class EarlyListener : public QObject
 {
 public:
@@ -205,7 +205,7 @@ private:
     std::unique_ptr<QSignalSpy> m_emitted;
 };
 
-TEST_F(VignetteTest, EmitsOnceWhileItIsMade)
+TEST_F(VignetteTest, EmitsOnceDuringConstruction)
 {
     const EarlyListener listener;
     const Vignette another;
@@ -227,7 +227,7 @@ TEST_F(VignetteTest, EveryPositionOfEverySliderIsShownAndEmittedOnce)
     }
 }
 
-TEST_F(VignetteTest, EveryNumberOfEverySpinBoxDoesTheSame)
+TEST_F(VignetteTest, EveryNumberOfEverySpinBoxIsShownAndEmittedOnce)
 {
     for (std::size_t i = 0; i < values.size(); ++i) {
         spinBox(values[i]).setValue(0);
@@ -240,7 +240,7 @@ TEST_F(VignetteTest, EveryNumberOfEverySpinBoxDoesTheSame)
     }
 }
 
-TEST_F(VignetteTest, APressOnTheFrameSetsTheCentre)
+TEST_F(VignetteTest, PressOnTheFrameSetsTheCentre)
 {
     show();
     ASSERT_EQ(frame.height(), frame.heightForWidth(frame.width()));
@@ -254,7 +254,7 @@ TEST_F(VignetteTest, APressOnTheFrameSetsTheCentre)
     EXPECT_EQ(all.back(), (Emission{static_cast<float>(x), static_cast<float>(y), 50, 50, 0}));
 }
 
-TEST_F(VignetteTest, TheMarkerStaysUnderTheMouse)
+TEST_F(VignetteTest, MarkerStaysUnderTheMouse)
 {
     show();
     const QPoint place(frame.width() / 3, frame.height() / 7);
@@ -263,7 +263,7 @@ TEST_F(VignetteTest, TheMarkerStaysUnderTheMouse)
     EXPECT_NEAR(frame.posY() * frame.height(), place.y(), 1e-3);
 }
 
-TEST_F(VignetteTest, ADragBeyondTheEdgeEndsAtTheControlsLimits)
+TEST_F(VignetteTest, DragBeyondTheEdgeIsClampedToTheLimitsOfTheControls)
 {
     show();
     QTest::mousePress(&frame, Qt::LeftButton, {}, placeAt(50, 50));
@@ -276,8 +276,8 @@ TEST_F(VignetteTest, ADragBeyondTheEdgeEndsAtTheControlsLimits)
     EXPECT_NEAR(frame.posX(), 0.98, 1e-6);
 }
 
-// Each of the two numbers emits on its own.
-TEST_F(VignetteTest, APositionIsCutToWholePercents)
+// Each of the two numbers is emitted separately.
+TEST_F(VignetteTest, PositionIsTruncatedToWholePercents)
 {
     panel.slotSetPosition({0.339, 0.789});
     EXPECT_EQ(emissions(), (std::vector<Emission>{{33, 50, 50, 50, 0}, {33, 78, 50, 50, 0}}));
@@ -288,7 +288,7 @@ TEST_F(VignetteTest, APositionIsCutToWholePercents)
     expectOnFrame({33.5, 78.1, 50, 50});
 }
 
-TEST_F(VignetteTest, RadiusAndStrengthAreCutToWholePercents)
+TEST_F(VignetteTest, RadiusAndStrengthAreTruncatedToWholePercents)
 {
     panel.slotSetRadius(0.125F);
     expectOnce({50, 50, 12, 50, 0});
@@ -298,7 +298,7 @@ TEST_F(VignetteTest, RadiusAndStrengthAreCutToWholePercents)
     expectOnFrame({50, 50, 12.5, 99.9});
 }
 
-TEST_F(VignetteTest, ValuesBeyondTheLimitsEndThere)
+TEST_F(VignetteTest, ValuesBeyondTheLimitsAreClamped)
 {
     panel.slotSetRadius(3.5F);
     panel.slotSetStrength(-3.5F);
@@ -306,7 +306,7 @@ TEST_F(VignetteTest, ValuesBeyondTheLimitsEndThere)
     expectOnFrame({50, 50, 99, 0});
 }
 
-TEST_F(VignetteTest, TheFrameDoesNotHearItsOwnEcho)
+TEST_F(VignetteTest, FrameEmitsOncePerInput)
 {
     QSignalSpy position(&frame, &VFrame::signalPosition);
     QSignalSpy radius(&frame, &VFrame::signalRadius);
@@ -320,7 +320,7 @@ TEST_F(VignetteTest, TheFrameDoesNotHearItsOwnEcho)
     EXPECT_EQ(strength.count(), 1);
 }
 
-TEST_F(VignetteTest, TheWheelOnTheFrameSetsTheRadiusAndWithControlTheStrength)
+TEST_F(VignetteTest, MouseWheelSetsTheRadiusAndWithControlTheStrength)
 {
     turnWheel(240);
     expectOnce({50, 50, 52, 50, 0});
@@ -330,7 +330,7 @@ TEST_F(VignetteTest, TheWheelOnTheFrameSetsTheRadiusAndWithControlTheStrength)
 }
 
 // A fine wheel turns by less than a percent at a time.
-TEST_F(VignetteTest, SmallTurnsOfTheWheelAddUp)
+TEST_F(VignetteTest, SmallTurnsOfTheMouseWheelAddUp)
 {
     for (int i = 0; i < 14; ++i) {
         turnWheel(15);
@@ -339,7 +339,7 @@ TEST_F(VignetteTest, SmallTurnsOfTheWheelAddUp)
     EXPECT_EQ(emissions(), (std::vector<Emission>{{50, 50, 51, 50, 0}, {50, 50, 52, 50, 0}}));
 }
 
-TEST_F(VignetteTest, TheBlurIsEmittedWhenItIsClicked)
+TEST_F(VignetteTest, ClickOnTheBlurBoxEmitsItsState)
 {
     show();
     QTest::mouseClick(&blur, Qt::LeftButton, {}, QPoint(8, blur.height() / 2));
@@ -348,7 +348,7 @@ TEST_F(VignetteTest, TheBlurIsEmittedWhenItIsClicked)
     expectOnce({50, 50, 50, 50, 0});
 }
 
-TEST_F(VignetteTest, ResetEmitsHalfOfEverythingOnce)
+TEST_F(VignetteTest, ResetEmitsFiftyPercentOfAllValuesOnce)
 {
     slider("X").setValue(1);
     slider("Y").setValue(2);
@@ -361,13 +361,13 @@ TEST_F(VignetteTest, ResetEmitsHalfOfEverythingOnce)
     expectOnFrame({50, 50, 50, 50});
 }
 
-TEST_F(VignetteTest, ResetEmitsWhereNothingHasChangedToo)
+TEST_F(VignetteTest, ResetEmitsEvenIfNothingHasChanged)
 {
     panel.on_buttonReset_clicked();
     expectOnce({50, 50, 50, 50, 0});
 }
 
-TEST_F(VignetteTest, ResetReachesWhatLiesBetweenWholePercents)
+TEST_F(VignetteTest, ResetSetsValuesBetweenWholePercents)
 {
     panel.slotSetPosition({0.507, 0.508});
     panel.slotSetRadius(0.509F);
@@ -376,7 +376,7 @@ TEST_F(VignetteTest, ResetReachesWhatLiesBetweenWholePercents)
     expectOnFrame({50, 50, 50, 50});
 }
 
-TEST_F(VignetteTest, ResetHidesTheBlurAndLeavesItChecked)
+TEST_F(VignetteTest, ResetHidesTheBlurBoxAndLeavesItChecked)
 {
     blur.click();
     emitted.clear();

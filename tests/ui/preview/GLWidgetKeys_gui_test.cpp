@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The preview without a mouse.
+// Keyboard use of the preview.
 #include "tests/ui/preview/GLWidgetTest.h"
 
 #include <QKeyEvent>
@@ -43,7 +43,7 @@ protected:
     }
 };
 
-TEST_F(GLWidgetKeys, ArrowsShowMoreOnTheirSide)
+TEST_F(GLWidgetKeys, ArrowsMoveTheViewInTheirDirection)
 {
     showPictureAtOneToOne();
     const QPointF middle = widget.offset();
@@ -76,7 +76,7 @@ TEST_F(GLWidgetKeys, PlusAndMinusZoom)
     EXPECT_NEAR(widget.scale(), 1.04, 1e-5);
 }
 
-TEST_F(GLWidgetKeys, HoldingTheSpaceBarComparesWithTheSource)
+TEST_F(GLWidgetKeys, HoldingTheSpaceBarShowsTheSource)
 {
     showPictureAtOneToOne();
     focusByKey();
@@ -89,7 +89,7 @@ TEST_F(GLWidgetKeys, HoldingTheSpaceBarComparesWithTheSource)
     EXPECT_TRUE(screenShows(marked(centred(redAsGrey(picture)))));
 }
 
-TEST_F(GLWidgetKeys, TheComparisonEndsWithTheFocus)
+TEST_F(GLWidgetKeys, ComparisonEndsWhenTheFocusIsLost)
 {
     showPictureAtOneToOne();
     focusByKey();
@@ -99,7 +99,7 @@ TEST_F(GLWidgetKeys, TheComparisonEndsWithTheFocus)
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
-TEST_F(GLWidgetKeys, OtherKeysAreNotItsOwn)
+TEST_F(GLWidgetKeys, OtherKeysAreIgnored)
 {
     showPictureAtOneToOne();
     const QPointF middle = widget.offset();
@@ -112,7 +112,7 @@ TEST_F(GLWidgetKeys, OtherKeysAreNotItsOwn)
     EXPECT_FLOAT_EQ(widget.scale(), 1);
 }
 
-TEST_F(GLWidgetKeys, KeysWithoutAPictureDoNothing)
+TEST_F(GLWidgetKeys, KeysWithoutAnImageDoNothing)
 {
     show();
     for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Plus, Qt::Key_Minus, Qt::Key_Space}) {
@@ -122,7 +122,7 @@ TEST_F(GLWidgetKeys, KeysWithoutAPictureDoNothing)
     EXPECT_EQ(widget.offset(), QPointF());
 }
 
-TEST_F(GLWidgetKeys, TheFocusIsMarkedUnlessTheMouseBroughtIt)
+TEST_F(GLWidgetKeys, FocusIsMarkedUnlessSetByTheMouse)
 {
     showPictureAtOneToOne();
     focusByKey();

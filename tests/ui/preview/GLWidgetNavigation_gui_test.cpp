@@ -16,7 +16,7 @@ bool paintsSource(GLWidget &widget)
     return middle.red() != middle.green();
 }
 
-TEST_F(GLWidgetTest, HoldingTheButtonForAQuarterOfASecondComparesWithTheSource)
+TEST_F(GLWidgetTest, HoldingTheButtonForAQuarterOfASecondShowsTheSource)
 {
     showPictureAtOneToOne();
     EXPECT_FALSE(clickTimer().isActive());
@@ -33,7 +33,7 @@ TEST_F(GLWidgetTest, HoldingTheButtonForAQuarterOfASecondComparesWithTheSource)
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
-TEST_F(GLWidgetTest, AReleaseBeforeTheQuarterOfASecondComparesNothing)
+TEST_F(GLWidgetTest, ReleaseWithinAQuarterOfASecondDoesNotShowTheSource)
 {
     showPictureAtOneToOne();
     QTest::mousePress(&widget, Qt::LeftButton, {}, {20, 20});
@@ -42,12 +42,12 @@ TEST_F(GLWidgetTest, AReleaseBeforeTheQuarterOfASecondComparesNothing)
     EXPECT_FALSE(paintsSource(widget));
 }
 
-TEST_F(GLWidgetTest, TakesTheKeyboard)
+TEST_F(GLWidgetTest, AcceptsTheKeyboardFocus)
 {
     EXPECT_EQ(widget.focusPolicy(), Qt::StrongFocus);
 }
 
-TEST_F(GLWidgetTest, DraggingPansAgainstTheMouse)
+TEST_F(GLWidgetTest, DraggingMovesTheViewWithTheMouse)
 {
     showPictureAtOneToOne();
     QTest::mousePress(&widget, Qt::LeftButton, {}, {100, 80});
@@ -71,7 +71,7 @@ TEST_F(GLWidgetTest, MovingWithoutAButtonDoesNothing)
     EXPECT_EQ(widget.offset(), before);
 }
 
-TEST_F(GLWidgetTest, ThePictureIsPutBackWhereItWasAtTwiceTheSize)
+TEST_F(GLWidgetTest, ZoomedImageIsShownAtTwiceTheSize)
 {
     show(400, 320);
     load(picture);
@@ -91,7 +91,7 @@ TEST_F(GLWidgetTest, ThePictureIsPutBackWhereItWasAtTwiceTheSize)
     EXPECT_TRUE(screenShows(centred(doubled)));
 }
 
-TEST_F(GLWidgetTest, TheWheelZoomsInWholeNotches)
+TEST_F(GLWidgetTest, WheelZoomsInWholeNotches)
 {
     show();
     load(picture);
@@ -104,7 +104,7 @@ TEST_F(GLWidgetTest, TheWheelZoomsInWholeNotches)
     EXPECT_NEAR(widget.scale(), fitted - 0.04F, 1e-5);
 }
 
-TEST_F(GLWidgetTest, ZoomingDoesNotCentreThePicture)
+TEST_F(GLWidgetTest, ZoomingDoesNotCentreTheImage)
 {
     showPictureAtOneToOne();
     QTest::mousePress(&widget, Qt::LeftButton, {}, {100, 80});
@@ -115,7 +115,7 @@ TEST_F(GLWidgetTest, ZoomingDoesNotCentreThePicture)
     EXPECT_EQ(widget.offset(), before);
 }
 
-TEST_F(GLWidgetTest, LandscapesStartWholeAndPortraitsFillTheWidget)
+TEST_F(GLWidgetTest, LandscapesFitTheWidgetAndPortraitsFillIt)
 {
     show();
     load(picture);
@@ -135,7 +135,7 @@ TEST_F(GLWidgetTest, DoubleClicksFit)
     EXPECT_EQ(widget.fitMode(), GLWidget::FitLarger);
 }
 
-TEST_F(GLWidgetTest, FitOnWidthAndHeightFollowTheLargerSide)
+TEST_F(GLWidgetTest, FitOnWidthAndHeightDependOnTheLargerSide)
 {
     show(200, 100);
     load(rampPicture<std::uint8_t>(80, 80));
@@ -146,7 +146,7 @@ TEST_F(GLWidgetTest, FitOnWidthAndHeightFollowTheLargerSide)
     EXPECT_EQ(widget.fitOnHeight(), GLWidget::FitLarger);
 }
 
-TEST_F(GLWidgetTest, AnUnknownFitIsToldAndShowsOneToOne)
+TEST_F(GLWidgetTest, UnknownFitIsLoggedAndSetsScaleOne)
 {
     showPictureAtOneToOne();
     const LogCapture log;
@@ -155,7 +155,7 @@ TEST_F(GLWidgetTest, AnUnknownFitIsToldAndShowsOneToOne)
     EXPECT_FLOAT_EQ(widget.scale(), 1);
 }
 
-TEST_F(GLWidgetTest, AResizeFitsAgainAfterATenthOfASecond)
+TEST_F(GLWidgetTest, ResizeFitsAgainAfterATenthOfASecond)
 {
     show();
     load(picture);

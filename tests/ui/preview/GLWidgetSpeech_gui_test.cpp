@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// What a screen reader hears of the preview.
+// The values that the preview reports to screen readers.
 #include "tests/ui/preview/GLWidgetTest.h"
 
-#include "tests/support/Hearing.h"
+#include "tests/support/AccessibilityEventRecorder.h"
 
 namespace
 {
@@ -18,24 +18,24 @@ protected:
         GLWidgetTest::SetUp();
     }
 
-    std::string value() { return spoken(widget, QAccessible::Value).toStdString(); }
+    std::string value() { return accessibleText(widget, QAccessible::Value).toStdString(); }
 };
 
-TEST_F(GLWidgetSpeech, ItTellsSizeZoomAndComparison)
+TEST_F(GLWidgetSpeech, ReportsSizeZoomAndComparison)
 {
     EXPECT_EQ(roleOf(widget), QAccessible::Canvas);
     EXPECT_EQ(value(), "No picture");
     showPictureAtOneToOne();
     EXPECT_EQ(value(), "120 x 80 pixels at 100 %");
-    Hearing hearing;
+    AccessibilityEventRecorder recorder;
     widget.slotZoomIn();
-    EXPECT_EQ(hearing.valuesOf(widget), QStringList(QStringLiteral("120 x 80 pixels at 104 %")));
+    EXPECT_EQ(recorder.valuesOf(widget), QStringList(QStringLiteral("120 x 80 pixels at 104 %")));
     widget.slotActualPixels();
-    EXPECT_EQ(hearing.valuesOf(widget), QStringList(QStringLiteral("120 x 80 pixels at 100 %")));
+    EXPECT_EQ(recorder.valuesOf(widget), QStringList(QStringLiteral("120 x 80 pixels at 100 %")));
     QTest::keyPress(&widget, Qt::Key_Space);
-    EXPECT_EQ(hearing.valuesOf(widget), QStringList(QStringLiteral("120 x 80 pixels at 100 %, without the filters")));
+    EXPECT_EQ(recorder.valuesOf(widget), QStringList(QStringLiteral("120 x 80 pixels at 100 %, without the filters")));
     QTest::keyRelease(&widget, Qt::Key_Space);
-    EXPECT_EQ(hearing.valuesOf(widget), QStringList(QStringLiteral("120 x 80 pixels at 100 %")));
+    EXPECT_EQ(recorder.valuesOf(widget), QStringList(QStringLiteral("120 x 80 pixels at 100 %")));
 }
 
 } // namespace

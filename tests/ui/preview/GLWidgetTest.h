@@ -22,7 +22,7 @@ using ui::GLWidget;
 constexpr int pictureWidth = 120;
 constexpr int pictureHeight = 80;
 
-/// What a mixer that takes only red makes of a picture.
+/// The result of a mixer with the weight of red only.
 inline BytePixels redAsGrey(BytePixels picture)
 {
     for (std::size_t i = 0; i < picture.values.size(); i += 3) {
@@ -31,7 +31,7 @@ inline BytePixels redAsGrey(BytePixels picture)
     return picture;
 }
 
-/// A test of the preview widget: frameless at the corner of the screen, its mixer set to red alone.
+/// A test of the preview widget: frameless at the corner of the screen, with a mixer that uses red only.
 class GLWidgetTest : public testing::Test
 {
 protected:
@@ -49,7 +49,7 @@ protected:
         widget.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&widget));
         ASSERT_TRUE(widget.isValid()) << "no OpenGL on this display";
-        // The fit that follows a resize would come in between.
+        // Otherwise the delayed fit after the resize would change the scale later.
         timeOutNow(resizeTimer());
     }
 
@@ -70,12 +70,12 @@ protected:
     QTimer &clickTimer() { return child<QTimer>(widget, "clickTimer"); }
     QTimer &resizeTimer() { return child<QTimer>(widget, "resizeTimer"); }
 
-    /// Device pixels per unit of the toolkit.
+    /// Device pixels per logical pixel.
     double ratio() const { return widget.devicePixelRatioF(); }
 
     QSize pixelSize() const { return (QSizeF(widget.size()) * ratio()).toSize(); }
 
-    /// The widget's area with a picture in it at the given place, all else black.
+    /// The area of the widget with an image at the given position, black elsewhere.
     BytePixels placed(const BytePixels &pixels, int left, int top) const
     {
         BytePixels area(pixelSize().width(), pixelSize().height());
@@ -96,7 +96,7 @@ protected:
 
     testing::AssertionResult screenShows(const BytePixels &expected) const
     {
-        return picturesNear("screen", onScreenOnceLike(widget, expected), expected);
+        return picturesNear("screen", grabScreenOnceEqual(widget, expected), expected);
     }
 
     void wheel(int delta)

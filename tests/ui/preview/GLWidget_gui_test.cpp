@@ -16,7 +16,7 @@ using grisal::graphics::CurveFilter;
 using grisal::graphics::GrainFilter;
 using grisal::graphics::VignetteFilter;
 
-/// The pixel that the widget has painted there, counted from the lower left. Its context is current afterwards.
+/// The painted pixel at a position measured from the lower left. Makes the context of the widget current.
 std::array<GLubyte, 4> paintedAt(GLWidget &widget, int x, int y)
 {
     widget.makeCurrent();
@@ -26,13 +26,13 @@ std::array<GLubyte, 4> paintedAt(GLWidget &widget, int x, int y)
     return pixel;
 }
 
-TEST_F(GLWidgetTest, TheScreenShowsWhatTheRendererComputed)
+TEST_F(GLWidgetTest, ScreenShowsTheOutputOfTheRenderer)
 {
     showPictureAtOneToOne();
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
-TEST_F(GLWidgetTest, APictureLoadedBeforeTheContextIsThereIsShownLater)
+TEST_F(GLWidgetTest, ImageLoadedBeforeTheContextExistsIsShownLater)
 {
     load(picture);
     EXPECT_EQ(widget.previewWidth(), 0);
@@ -41,14 +41,14 @@ TEST_F(GLWidgetTest, APictureLoadedBeforeTheContextIsThereIsShownLater)
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
-TEST_F(GLWidgetTest, ChangedParametersAreSeenAtOnce)
+TEST_F(GLWidgetTest, ChangedParametersAreShownImmediately)
 {
     showPictureAtOneToOne();
     widget.slotChangeMixer(0, 0, 0);
     EXPECT_TRUE(screenShows(centred(BytePixels(pictureWidth, pictureHeight))));
 }
 
-TEST_F(GLWidgetTest, AResizedWidgetShowsThePicture)
+TEST_F(GLWidgetTest, ResizedWidgetShowsTheImage)
 {
     showPictureAtOneToOne();
     widget.setGeometry(0, 0, 300, 260);
@@ -56,9 +56,9 @@ TEST_F(GLWidgetTest, AResizedWidgetShowsThePicture)
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
-// The grain's pass leaves another texture unit active.
+// The pass of the grain leaves another texture unit active.
 
-TEST_F(GLWidgetTest, ThePreviewIsSeenAfterTheGrain)
+TEST_F(GLWidgetTest, PreviewIsShownAfterAGrainPass)
 {
     showPictureAtOneToOne();
     widget.filter<GrainFilter>()->enabled = true;
@@ -66,20 +66,20 @@ TEST_F(GLWidgetTest, ThePreviewIsSeenAfterTheGrain)
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
     BytePixels full = rampPicture<std::uint8_t>(9, 7);
     EXPECT_TRUE(renderFinal(full));
-    ASSERT_TRUE(paintAgain(widget));
+    ASSERT_TRUE(repaintAndWait(widget));
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
-// On Wayland the desktop would be seen through the margin otherwise.
-TEST_F(GLWidgetTest, TheMarginIsBlackAndOpaque)
+// On Wayland a transparent margin would show the desktop behind it.
+TEST_F(GLWidgetTest, MarginIsBlackAndOpaque)
 {
     showPictureAtOneToOne();
     ASSERT_TRUE(screenShows(centred(redAsGrey(picture))));
     EXPECT_EQ(paintedAt(widget, 0, 0), (std::array<GLubyte, 4>{0, 0, 0, 255}));
 }
 
-// A tone curve leaves its values in the alpha channel, too.
-TEST_F(GLWidgetTest, APictureWithAlphaIsOpaque)
+// A tone curve also writes its values to the alpha channel.
+TEST_F(GLWidgetTest, ImageWithAlphaIsOpaque)
 {
     show();
     load(rampPicture<std::uint8_t>(pictureWidth, pictureHeight, 4));
@@ -95,7 +95,7 @@ TEST_F(GLWidgetTest, APictureWithAlphaIsOpaque)
     EXPECT_EQ(written, (std::array<GLboolean, 4>{GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE}));
 }
 
-TEST_F(GLWidgetTest, SixteenBitPicturesLogOtherFormats)
+TEST_F(GLWidgetTest, SixteenBitImagesLogOtherFormats)
 {
     show();
     const LogCapture log;
@@ -105,9 +105,9 @@ TEST_F(GLWidgetTest, SixteenBitPicturesLogOtherFormats)
                                                                "Element Type(GLUB):    false");
 }
 
-// A drag moves the window over the picture: the picture goes against the mouse, and a drag does not compare.
+// A drag moves the view, so the image moves against the mouse; it does not show the source.
 
-TEST_F(GLWidgetTest, PreviewSidesAreRoundedDownAndLargePicturesHalved)
+TEST_F(GLWidgetTest, PreviewSidesAreRoundedDownAndLargeImagesDownscaled)
 {
     show();
     load(BytePixels(1001, 6));
@@ -118,7 +118,7 @@ TEST_F(GLWidgetTest, PreviewSidesAreRoundedDownAndLargePicturesHalved)
     EXPECT_EQ(widget.previewHeight(), 1500);
 }
 
-TEST_F(GLWidgetTest, PicturesOfOneToThreePixelsAreShown)
+TEST_F(GLWidgetTest, ImagesOfOneToThreePixelsAreShown)
 {
     show(200, 160);
     for (int side = 1; side <= 3; ++side) {
@@ -129,13 +129,13 @@ TEST_F(GLWidgetTest, PicturesOfOneToThreePixelsAreShown)
         ASSERT_TRUE(std::isfinite(widget.scale()));
         BytePixels shown;
         EXPECT_TRUE(QTest::qWaitFor([&] {
-            shown = onScreen(widget);
+            shown = grabScreen(widget);
             return shown.at(shown.width / 2, shown.height / 2, 0) == 255;
         })) << side;
     }
 }
 
-TEST_F(GLWidgetTest, ANullBufferChangesNothing)
+TEST_F(GLWidgetTest, NullBufferChangesNothing)
 {
     showPictureAtOneToOne();
     widget.loadImage(grisal::graphics::Image8());
@@ -159,7 +159,7 @@ TEST_F(GLWidgetTest, AlphaIsDropped)
     EXPECT_TRUE(screenShows(centred(expected)));
 }
 
-TEST_F(GLWidgetTest, WithoutAContextThereIsNoFinalRender)
+TEST_F(GLWidgetTest, FinalRenderFailsWithoutAContext)
 {
     load(picture);
     BytePixels pixel(1, 1, 3, {1, 2, 3});
@@ -168,8 +168,8 @@ TEST_F(GLWidgetTest, WithoutAContextThereIsNoFinalRender)
     EXPECT_EQ(widget.filter<VignetteFilter>(), nullptr);
 }
 
-// Curve and grain go into textures at once where there is a context.
-TEST_F(GLWidgetTest, ParametersThatAreSetWithoutAContextAreKept)
+// If there is a context, curve and grain are stored in textures immediately.
+TEST_F(GLWidgetTest, ParametersSetWithoutAContextAreKept)
 {
     load(picture);
 
@@ -187,7 +187,7 @@ TEST_F(GLWidgetTest, ParametersThatAreSetWithoutAContextAreKept)
     EXPECT_EQ(grain->sigma(), 2.5F);
 }
 
-TEST_F(GLWidgetTest, AFinalRenderLeavesThePreviewAsItWas)
+TEST_F(GLWidgetTest, FinalRenderLeavesThePreviewUnchanged)
 {
     showPictureAtOneToOne();
     BytePixels full = rampPicture<std::uint8_t>(301, 7);
@@ -198,7 +198,7 @@ TEST_F(GLWidgetTest, AFinalRenderLeavesThePreviewAsItWas)
     EXPECT_TRUE(screenShows(centred(redAsGrey(picture))));
 }
 
-TEST_F(GLWidgetTest, EnabledFiltersAreSeen)
+TEST_F(GLWidgetTest, EnabledFiltersAreShown)
 {
     showPictureAtOneToOne();
     ASSERT_NE(widget.filter<CurveFilter>(), nullptr);
@@ -209,7 +209,7 @@ TEST_F(GLWidgetTest, EnabledFiltersAreSeen)
     EXPECT_TRUE(screenShows(centred(expected)));
 }
 
-TEST_F(GLWidgetTest, InitialisingAgainIsHarmless)
+TEST_F(GLWidgetTest, InitialisingAgainKeepsTheImage)
 {
     showPictureAtOneToOne();
     const LogCapture log;

@@ -10,7 +10,7 @@ namespace
 
 using namespace grisal::ui;
 
-TEST(Navigation, RatiosAreWidgetPixelsPerPicturePixel)
+TEST(Navigation, RatiosAreWidgetPixelsPerImagePixel)
 {
     const FitRatios ratios = fitRatios(600, 400, 300, 100);
     EXPECT_FLOAT_EQ(ratios.width, 2);
@@ -19,28 +19,28 @@ TEST(Navigation, RatiosAreWidgetPixelsPerPicturePixel)
     EXPECT_FLOAT_EQ(ratios.smaller(), 2);
 }
 
-TEST(Navigation, APictureWithoutSizeDoesNotDivide)
+TEST(Navigation, ImageWithoutSizeHasRatiosOfOne)
 {
     const FitRatios ratios = fitRatios(600, 400, 0, 0);
     EXPECT_FLOAT_EQ(ratios.width, 1);
     EXPECT_FLOAT_EQ(ratios.height, 1);
 }
 
-TEST(Navigation, AStepIsATwentyFifth)
+TEST(Navigation, StepIsOneTwentyFifth)
 {
     EXPECT_FLOAT_EQ(zoomedScale(1, 1, 1), 1.04F);
     EXPECT_FLOAT_EQ(zoomedScale(1, -1, 1), 0.96F);
     EXPECT_FLOAT_EQ(zoomedScale(1, 3, 1), 1.12F);
 }
 
-// 20 is where zooming in stops being free, not a ceiling: photographers look at single pixels on large screens.
-TEST(Navigation, ZoomingInGoesOnAboveTwenty)
+// 20 is not a maximum: above it, zooming in depends on the fit, because single pixels are inspected on large screens.
+TEST(Navigation, ZoomingInContinuesAboveTwenty)
 {
     EXPECT_FLOAT_EQ(zoomedScale(19.99F, 1, 1), 20.03F);
     EXPECT_FLOAT_EQ(zoomedScale(20.03F, 1, 1), 20.07F);
 }
 
-TEST(Navigation, ZoomingInAboveTwentyStopsWhereTheFitIsLargerStill)
+TEST(Navigation, ZoomingInAboveTwentyStopsIfTheFitIsLarger)
 {
     EXPECT_FLOAT_EQ(zoomedScale(20.5F, 1, 50), 20.5F);
 }
@@ -57,7 +57,7 @@ TEST(Navigation, ZoomingInIsAllowedBelowHalfTheFit)
     EXPECT_FLOAT_EQ(zoomedScale(0.1F, 1, 1), 0.14F);
 }
 
-TEST(Navigation, PartsOfAWheelNotchAreDropped)
+TEST(Navigation, PartsOfAWheelNotchAreIgnored)
 {
     EXPECT_EQ(wheelSteps(120), 1);
     EXPECT_EQ(wheelSteps(-120), -1);

@@ -11,21 +11,21 @@ namespace grisal::test
 {
 
 /// Records the accessibility events of Qt during its lifetime. Only one instance at a time.
-class Hearing
+class AccessibilityEventRecorder
 {
 public:
-    Hearing()
+    AccessibilityEventRecorder()
     {
         s_current = this;
-        m_before = QAccessible::installUpdateHandler(hear);
+        m_before = QAccessible::installUpdateHandler(record);
     }
-    ~Hearing()
+    ~AccessibilityEventRecorder()
     {
         QAccessible::installUpdateHandler(m_before);
         s_current = nullptr;
     }
-    Hearing(const Hearing &) = delete;
-    Hearing &operator=(const Hearing &) = delete;
+    AccessibilityEventRecorder(const AccessibilityEventRecorder &) = delete;
+    AccessibilityEventRecorder &operator=(const AccessibilityEventRecorder &) = delete;
 
     /// The new values that an object has reported since the last call. A new description must come with each value.
     QStringList valuesOf(const QObject &object)
@@ -52,7 +52,7 @@ private:
         QString value;
     };
 
-    static void hear(QAccessibleEvent *event)
+    static void record(QAccessibleEvent *event)
     {
         QString value;
         if (event->type() == QAccessible::ValueChanged) {
@@ -61,26 +61,26 @@ private:
         s_current->m_events << Event{event->object(), event->type(), value};
     }
 
-    static inline Hearing *s_current = nullptr;
+    static inline AccessibilityEventRecorder *s_current = nullptr;
     QAccessible::UpdateHandler m_before = nullptr;
     QList<Event> m_events;
 };
 
 /// Whether Qt sends accessibility events, which it does as soon as it detects a screen reader.
-inline bool screenReaderListens()
+inline bool isScreenReaderActive()
 {
     return qEnvironmentVariableIsSet("GRISAL_SCREEN_READER") && QTest::qWaitFor(QAccessible::isActive);
 }
 
 /// For a test or its SetUp(): skips the test with the reason if there is no screen reader.
 #define GRISAL_SKIP_WITHOUT_SCREEN_READER()                                                                            \
-    if (!screenReaderListens()) {                                                                                      \
+    if (!isScreenReaderActive()) {                                                                                     \
         GTEST_SKIP() << "no accessibility bus: run it with scripts/with-screen-reader";                                \
     }                                                                                                                  \
     static_cast<void>(0)
 
 /// The text that a screen reader receives.
-inline QString spoken(QObject &object, QAccessible::Text text)
+inline QString accessibleText(QObject &object, QAccessible::Text text)
 {
     return QAccessible::queryAccessibleInterface(&object)->text(text);
 }

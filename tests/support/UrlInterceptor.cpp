@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "tests/support/UrlTaker.h"
+#include "tests/support/UrlInterceptor.h"
 
 #include <QDesktopServices>
 
 namespace grisal::test
 {
 
-UrlTaker::UrlTaker(const QString &scheme) : m_scheme(scheme)
+UrlInterceptor::UrlInterceptor(const QString &scheme) : m_scheme(scheme)
 {
     QDesktopServices::setUrlHandler(m_scheme, this, "take");
 }
 
-UrlTaker::~UrlTaker()
+UrlInterceptor::~UrlInterceptor()
 {
     QDesktopServices::unsetUrlHandler(m_scheme);
 }

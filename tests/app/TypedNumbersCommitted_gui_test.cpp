@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A number that is being typed when a command comes: the spin box keeps the focus and holds text that no signal has
-// reported yet.
+// A number is being typed when a command is triggered: the spin box has the focus and contains text that it has not
+// emitted yet.
 #include "tests/app/FilesTest.h"
 
 #include "ui/panels/Mixer.h"
@@ -34,7 +34,7 @@ struct Box {
     const char *action;
     const char *name;
     float (*value)(const Look &);
-    float forSixty; ///< that value where the box holds 60
+    float forSixty; ///< the value if the box contains 60
 };
 
 constexpr std::array<Box, 3> boxes{{
@@ -48,7 +48,7 @@ constexpr std::array<Box, 3> boxes{{
      60},
 }};
 
-/// Reads a value when a dialog opens, before it can take the focus from the spin box.
+/// Reads a value when a dialog opens, before the spin box loses the focus to it.
 class AtTheDialog : public QObject
 {
 public:
@@ -68,7 +68,7 @@ private:
     std::function<float()> m_read;
 };
 
-class TypedNumbersTaken : public FilesTest
+class TypedNumbersCommitted : public FilesTest
 {
 protected:
     static constexpr int sourceGrey = 100;
@@ -76,11 +76,11 @@ protected:
 
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers) { QTest::keyClick(window.windowHandle(), key, modifiers); }
 
-    /// Types 60 over what the spin box holds, and no more.
+    /// Replaces the text of the spin box by typing 60, without committing it.
     void typeSixty(const char *name)
     {
         auto &box = child<QSpinBox>(window, name);
-        // A dialog may just have given the keyboard back.
+        // A dialog may just have returned the keyboard focus.
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
         box.setFocus();
         box.selectAll();
@@ -93,10 +93,10 @@ protected:
 
     float sumOfWeights() { return boxes.back().value(preview().look()); }
 
-    void expectTaken() { EXPECT_FLOAT_EQ(sumOfWeights(), 60); }
+    void expectCommitted() { EXPECT_FLOAT_EQ(sumOfWeights(), 60); }
 
-    /// Does what opens a dialog and expects that the typed sum of the weights has been taken by then.
-    void expectTakenBeforeTheDialog(const std::function<void()> &command)
+    /// Runs `command`, which opens a dialog, and expects that the typed sum of the weights is committed before.
+    void expectCommittedBeforeTheDialog(const std::function<void()> &command)
     {
         const AtTheDialog dialogs([this] { return sumOfWeights(); });
         command();
@@ -122,28 +122,28 @@ protected:
     }
 };
 
-TEST_F(TypedNumbersTaken, BySave)
+TEST_F(TypedNumbersCommitted, BySave)
 {
     start();
     const QString path = openGrey();
     typeSixty("spinBoxLuma");
     const MessageBoxAnswer box(QMessageBox::Ok);
-    expectTakenBeforeTheDialog([this] { press(Qt::Key_S, control); });
+    expectCommittedBeforeTheDialog([this] { press(Qt::Key_S, control); });
     EXPECT_NEAR(greyOf(path), darkenedGrey, 1);
 }
 
-TEST_F(TypedNumbersTaken, BySaveAs)
+TEST_F(TypedNumbersCommitted, BySaveAs)
 {
     start();
     openGrey();
     typeSixty("spinBoxLuma");
     const QString path = inHome(QStringLiteral("saved.png"));
     const FileDialogAnswer answer(path);
-    expectTakenBeforeTheDialog([this] { press(Qt::Key_S, control | Qt::ShiftModifier); });
+    expectCommittedBeforeTheDialog([this] { press(Qt::Key_S, control | Qt::ShiftModifier); });
     EXPECT_NEAR(greyOf(path), darkenedGrey, 1);
 }
 
-TEST_F(TypedNumbersTaken, ByTheFileMenuUnderTheMouse)
+TEST_F(TypedNumbersCommitted, ByClickingTheFileMenu)
 {
     start();
     const QString path = openGrey();
@@ -156,7 +156,7 @@ TEST_F(TypedNumbersTaken, ByTheFileMenuUnderTheMouse)
     EXPECT_NEAR(greyOf(path), darkenedGrey, 1);
 }
 
-TEST_F(TypedNumbersTaken, WhereAPictureIsSavedWithoutADialog)
+TEST_F(TypedNumbersCommitted, BySavingWithoutADialog)
 {
     start();
     openGrey();
@@ -165,43 +165,43 @@ TEST_F(TypedNumbersTaken, WhereAPictureIsSavedWithoutADialog)
     EXPECT_NEAR(greyOf(inHome(QStringLiteral("saved.png"))), darkenedGrey, 1);
 }
 
-TEST_F(TypedNumbersTaken, ByTheFinalRendering)
+TEST_F(TypedNumbersCommitted, ByFinalRendering)
 {
     start();
     openGrey();
     typeSixty("spinBoxLuma");
     window.slotFinalRendering();
-    expectTaken();
+    expectCommitted();
 }
 
-TEST_F(TypedNumbersTaken, ByOpenAlsoWhereItIsCancelled)
+TEST_F(TypedNumbersCommitted, ByOpenEvenIfCancelled)
 {
     start();
     typeSixty("spinBoxLuma");
     const FileDialogAnswer answer{QString()};
-    expectTakenBeforeTheDialog([this] { press(Qt::Key_O, control); });
+    expectCommittedBeforeTheDialog([this] { press(Qt::Key_O, control); });
 }
 
-TEST_F(TypedNumbersTaken, WhereAPictureCannotBeOpened)
+TEST_F(TypedNumbersCommitted, ByOpeningAMissingFile)
 {
     start();
     typeSixty("spinBoxLuma");
     const MessageBoxAnswer box(QMessageBox::Ok);
     expectWarning(QStringLiteral("no picture.png"));
-    expectTakenBeforeTheDialog([this] { window.openImage(inHome(QStringLiteral("no picture.png"))); });
+    expectCommittedBeforeTheDialog([this] { window.openImage(inHome(QStringLiteral("no picture.png"))); });
 }
 
-TEST_F(TypedNumbersTaken, ByARecentPictureThatCannotBeOpened)
+TEST_F(TypedNumbersCommitted, ByOpeningAnInvalidRecentImage)
 {
     start();
     writeFile(openGrey(), "no picture at all");
     typeSixty("spinBoxLuma");
     const MessageBoxAnswer box(QMessageBox::Ok);
     expectWarning(QStringLiteral("grey.png"));
-    expectTakenBeforeTheDialog([this] { press(Qt::Key_1, Qt::AltModifier); });
+    expectCommittedBeforeTheDialog([this] { press(Qt::Key_1, Qt::AltModifier); });
 }
 
-TEST_F(TypedNumbersTaken, AndResetByARecentPicture)
+TEST_F(TypedNumbersCommitted, BeforeOpeningARecentImageResetsThem)
 {
     start();
     openGrey();
@@ -214,7 +214,7 @@ TEST_F(TypedNumbersTaken, AndResetByARecentPicture)
     EXPECT_EQ(child<QSpinBox>(window, "spinBoxLuma").text(), QStringLiteral("255"));
 }
 
-TEST_F(TypedNumbersTaken, ByQuit)
+TEST_F(TypedNumbersCommitted, ByQuit)
 {
     start();
     typeSixty("spinBoxLuma");
@@ -225,7 +225,7 @@ TEST_F(TypedNumbersTaken, ByQuit)
     EXPECT_FLOAT_EQ(sum, 60);
 }
 
-TEST_F(TypedNumbersTaken, ByEveryChangeOfThePanel)
+TEST_F(TypedNumbersCommitted, ByEveryChangeOfThePanel)
 {
     start();
     for (const Box &box : boxes) {
@@ -240,17 +240,17 @@ TEST_F(TypedNumbersTaken, ByEveryChangeOfThePanel)
     }
 }
 
-TEST_F(TypedNumbersTaken, ByTheToolBar)
+TEST_F(TypedNumbersCommitted, ByTheToolBar)
 {
     start();
     typeSixty("spinBoxLuma");
     QWidget &button = *window.findChild<QToolBar *>()->widgetForAction(&action("actionMixer"));
     click(button, button.rect());
     EXPECT_TRUE(child<QSpinBox>(window, "spinBoxLuma").hasFocus());
-    expectTaken();
+    expectCommitted();
 }
 
-TEST_F(TypedNumbersTaken, NotByZoom)
+TEST_F(TypedNumbersCommitted, NotByZoom)
 {
     start();
     typeSixty("spinBoxLuma");

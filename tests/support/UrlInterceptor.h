@@ -9,20 +9,20 @@ namespace grisal::test
 {
 
 /// During its lifetime, intercepts URLs of one scheme that would be opened by another program.
-class UrlTaker : public QObject
+class UrlInterceptor : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit UrlTaker(const QString &scheme);
-    UrlTaker(const UrlTaker &) = delete;
-    UrlTaker &operator=(const UrlTaker &) = delete;
-    ~UrlTaker() override;
+    explicit UrlInterceptor(const QString &scheme);
+    UrlInterceptor(const UrlInterceptor &) = delete;
+    UrlInterceptor &operator=(const UrlInterceptor &) = delete;
+    ~UrlInterceptor() override;
 
-    QList<QUrl> taken;
+    QList<QUrl> urls;
 
 public slots:
-    void take(const QUrl &url) { taken << url; }
+    void take(const QUrl &url) { urls << url; }
 
 private:
     QString m_scheme;

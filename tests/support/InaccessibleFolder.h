@@ -12,10 +12,10 @@ namespace grisal::test
 
 /// Makes the files of a folder inaccessible to this process during its lifetime, also for root, who becomes the user
 /// nobody in the meantime.
-class ClosedFolder
+class InaccessibleFolder
 {
 public:
-    explicit ClosedFolder(const QString &path) : m_path(QFile::encodeName(path))
+    explicit InaccessibleFolder(const QString &path) : m_path(QFile::encodeName(path))
     {
         chmod(m_path.constData(), 0);
         if (geteuid() == 0) {
@@ -23,9 +23,9 @@ public:
             m_wasRoot = seteuid(nobody) == 0;
         }
     }
-    ClosedFolder(const ClosedFolder &) = delete;
-    ClosedFolder &operator=(const ClosedFolder &) = delete;
-    ~ClosedFolder()
+    InaccessibleFolder(const InaccessibleFolder &) = delete;
+    InaccessibleFolder &operator=(const InaccessibleFolder &) = delete;
+    ~InaccessibleFolder()
     {
         if (m_wasRoot) {
             [[maybe_unused]] const int back = seteuid(0);
