@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// GLEW has to be included before any Qt header that includes the OpenGL headers.
 #include "ui/preview/GLWidget.h"
 
 #include "app/FilterPanels.h"
@@ -14,6 +15,8 @@
 #include <QAction>
 #include <QStackedLayout>
 #include <QVBoxLayout>
+
+#include <initializer_list>
 
 namespace grisal::ui
 {
@@ -69,11 +72,6 @@ void FilterPanels::reset()
     splitTone->on_buttonReset_clicked();
     grain->on_buttonReset_clicked();
     curves->on_buttonReset_clicked();
-}
-
-void FilterPanels::setHistogram(const QVector<float> &histogram)
-{
-    curves->slotSetHistogram(histogram);
 }
 
 // A shortcut leaves the focus in the spin box, which emits a typed number only when the input is complete.

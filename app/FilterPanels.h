@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QVector>
-
 class Curves;
 class Grain;
 class Mixer;
@@ -27,18 +25,15 @@ public:
     /// Puts the panels into `container`, which has no layout, and connects them. The mixer is visible.
     void setUp(QWidget &container, GLWidget &preview);
 
-    /// Makes a panel visible.
+    /// Makes a panel visible and applies the number that is being typed into the former one.
     void show(QWidget *panel);
 
     /// Makes a panel visible or, if it is visible, returns to the mixer. Returns whether the panel is visible now, and
     /// checks the action accordingly.
     bool toggle(QWidget *panel, QAction &action);
 
-    /// Resets all panels in the order in which they send their parameters to the preview.
+    /// Resets the panels that send parameters to the preview, in a fixed order.
     void reset();
-
-    /// Sets the tone histogram of the opened image, see toneHistogram().
-    void setHistogram(const QVector<float> &histogram);
 
     /// Applies the number that is being typed into a panel. To be called before the values of the panels are used.
     void takeTypedNumber();

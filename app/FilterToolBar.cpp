@@ -37,12 +37,12 @@ FilterToolBar::FilterToolBar(QWidget *parent) : QToolBar(parent)
     setAllowedAreas(Qt::LeftToolBarArea);
 }
 
-void FilterToolBar::addButtons(const QList<QAction *> &actions)
+void FilterToolBar::addButtons(QAction *mixer, const QList<QAction *> &filters)
 {
     addWidget(newGap());
-    addButton(actions.first());
+    addButton(mixer);
     addWidget(newGap());
-    for (QAction *action : actions.mid(1)) {
+    for (QAction *action : filters) {
         addSeparator();
         addButton(action);
     }

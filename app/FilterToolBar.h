@@ -15,8 +15,8 @@ class FilterToolBar : public QToolBar
 public:
     explicit FilterToolBar(QWidget *parent);
 
-    /// Adds a button for each action. The first stands apart from the others, between which there are separators.
-    void addButtons(const QList<QAction *> &actions);
+    /// Adds a button for the mixer and, apart from it and with separators, one for each other filter.
+    void addButtons(QAction *mixer, const QList<QAction *> &filters);
 
 private:
     void addButton(QAction *action);

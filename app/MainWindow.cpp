@@ -48,14 +48,14 @@ MainWindow::~MainWindow() = default;
 
 QList<QAction *> MainWindow::filterActions() const
 {
-    return {m_form->actionMixer,    m_form->actionCurves, m_form->actionSharpen,
-            m_form->actionVignette, m_form->actionGrain,  m_form->actionSplitTone};
+    return {m_form->actionCurves, m_form->actionSharpen, m_form->actionVignette, m_form->actionGrain,
+            m_form->actionSplitTone};
 }
 
 void MainWindow::setUpToolBar()
 {
     m_toolBar->setAccessibleName(tr("Filters"));
-    m_toolBar->addButtons(filterActions());
+    m_toolBar->addButtons(m_form->actionMixer, filterActions());
     addToolBar(Qt::LeftToolBarArea, m_toolBar);
 }
 
@@ -91,7 +91,7 @@ void MainWindow::loadBuffer(const graphics::Image &image)
     const QVector<float> histogram = graphics::toneHistogram(image);
     // It throws where there is not enough memory: the panels then stay as they are.
     preview->loadImage(image);
-    m_panels.setHistogram(histogram);
+    m_panels.curves->slotSetHistogram(histogram);
     preview->setDirty();
     slotResetFilters();
 }
@@ -105,7 +105,7 @@ void MainWindow::slotResetFilters()
 void MainWindow::slotResetActions()
 {
     m_form->actionMixer->trigger();
-    for (QAction *action : filterActions().mid(1)) {
+    for (QAction *action : filterActions()) {
         action->setChecked(false);
     }
 }

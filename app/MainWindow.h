@@ -10,6 +10,7 @@
 #include "graphics/image/Image.h"
 #include "graphics/Message.h"
 
+#include <QList>
 #include <QMainWindow>
 
 #include <memory>
@@ -79,7 +80,7 @@ public slots:
     void on_actionActualPixels_triggered();
 
 private:
-    /// The actions of the filters in the order of the tool bar, that of the mixer first.
+    /// The actions of the filters other than the mixer, in the order of the tool bar.
     QList<QAction *> filterActions() const;
     void setUpToolBar();
     void setUpStatusBar();

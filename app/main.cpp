@@ -12,7 +12,6 @@
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <csignal>
 #include <cstdint>
 #include <cstdio>
@@ -62,8 +61,8 @@ int main(int argc, char **argv)
     const Translation translation(QLocale::system());
     auto window = std::make_unique<grisal::ui::MainWindow>();
 
-    grisal::graphics::Image8 placeholder(placeholderWidth, placeholderHeight);
-    std::fill(placeholder.samples.begin(), placeholder.samples.end(), placeholderGrey);
+    const grisal::graphics::Image8 placeholder(placeholderWidth, placeholderHeight, grisal::graphics::rgbComponents,
+                                               placeholderGrey);
     window->show();
     window->loadBuffer(placeholder);
     if (const auto problem = window->graphicsProblem(); !problem.isEmpty()) {

@@ -6,9 +6,6 @@
 #include <QAction>
 #include <QApplication>
 
-#include <algorithm>
-#include <cstdint>
-
 namespace grisal::bench
 {
 
@@ -18,8 +15,7 @@ class ScreenWindow
 public:
     ScreenWindow()
     {
-        graphics::Image8 grey(300, 200);
-        std::fill(grey.samples.begin(), grey.samples.end(), std::uint8_t{128});
+        const graphics::Image8 grey(300, 200, graphics::rgbComponents, 128);
         m_window.resize(1200, 800);
         m_window.show();
         m_window.loadBuffer(grey);

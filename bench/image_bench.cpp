@@ -8,7 +8,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -20,13 +19,6 @@ using namespace grisal::graphics;
 constexpr int width = 6000;
 constexpr int height = 4000;
 constexpr std::size_t pixelCount = std::size_t{width} * height;
-
-Image8 greyImage()
-{
-    Image8 image(width, height);
-    std::fill(image.samples.begin(), image.samples.end(), std::uint8_t{100});
-    return image;
-}
 
 void copyOut(benchmark::State &state)
 {
@@ -48,7 +40,7 @@ void copyIn(benchmark::State &state)
 
 void previewCopy(benchmark::State &state)
 {
-    const Image image = greyImage();
+    const Image image = Image8(width, height, rgbComponents, 100);
     for ([[maybe_unused]] auto _ : state) {
         const Image preview = makePreview(image);
         benchmark::DoNotOptimize(&preview);
@@ -57,7 +49,7 @@ void previewCopy(benchmark::State &state)
 
 void histogram(benchmark::State &state)
 {
-    const Image image = greyImage();
+    const Image image = Image8(width, height, rgbComponents, 100);
     for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(toneHistogram(image).data());
     }

@@ -71,9 +71,7 @@ void enableAll(FilterSet &filters)
 template <typename Sample>
 Raster<Sample> plainImage(int columns, int rows)
 {
-    Raster<Sample> image(columns, rows);
-    std::fill(image.samples.begin(), image.samples.end(), Sample{100});
-    return image;
+    return Raster<Sample>(columns, rows, rgbComponents, 100);
 }
 
 void finalRender(benchmark::State &state)

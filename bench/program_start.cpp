@@ -8,8 +8,6 @@
 
 #include <QApplication>
 
-#include <algorithm>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 
@@ -24,8 +22,7 @@ int main(int argc, char **argv)
         std::fflush(stdout);
         std::quick_exit(0);
     });
-    grisal::graphics::Image8 grey(300, 200);
-    std::fill(grey.samples.begin(), grey.samples.end(), std::uint8_t{128});
+    const grisal::graphics::Image8 grey(300, 200, grisal::graphics::rgbComponents, 128);
     window.show();
     window.loadBuffer(grey);
     return QApplication::exec();

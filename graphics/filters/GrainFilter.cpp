@@ -38,9 +38,9 @@ void GrainFilter::setSigma(float sigma)
         return;
     }
     m_sigma = sigma;
-    const GlErrorScope watch;
+    const GlErrorScope scope;
     blurNoise();
-    if (!watch.isClean()) {
+    if (!scope.isClean()) {
         discardNoise();
     }
 }

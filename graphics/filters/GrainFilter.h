@@ -44,8 +44,8 @@ public:
     void setWeights(const QVector<float> &values);
 
     /// Blurs the noise with a radius of `sigma` pixels, the coarseness of the grain. This renders, so the context must
-    /// be current. Does nothing if the noise already has this radius. If OpenGL reports a fault, the noise is discarded
-    /// as by discardNoise().
+    /// be current. Does nothing if the noise already has this radius. If OpenGL reports an error, the noise is
+    /// discarded as by discardNoise().
     void setSigma(float sigma);
 
     /// Discards the noise and its textures, whose content is undefined after a failure of the OpenGL driver. The next

@@ -12,7 +12,7 @@ namespace
 
 constexpr const char *countProperty = "grisalErrorCount";
 
-/// The number of errors recorded for the current context, which stores it: 0 without a context.
+/// The number of errors recorded for the current context, stored in it; 0 without a context.
 unsigned errorCount()
 {
     const QOpenGLContext *context = QOpenGLContext::currentContext();
@@ -53,7 +53,7 @@ void recordIncompleteFramebuffer()
     setErrorCount(errorCount() + 1);
 }
 
-GlErrorScope::GlErrorScope()
+GlErrorScope::GlErrorScope() : m_context(QOpenGLContext::currentContext())
 {
     collectErrors();
     m_before = errorCount();
@@ -62,7 +62,7 @@ GlErrorScope::GlErrorScope()
 bool GlErrorScope::isClean() const
 {
     collectErrors();
-    return errorCount() == m_before;
+    return m_context != nullptr && m_context == QOpenGLContext::currentContext() && errorCount() == m_before;
 }
 
 void GlErrorScope::clear()

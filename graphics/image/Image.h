@@ -18,10 +18,10 @@ constexpr int rgbaComponents = 4;
 template <typename Sample>
 struct Raster {
     Raster() = default;
-    /// A black image of the given size in pixels, transparent if it has alpha.
-    Raster(int imageWidth, int imageHeight, int imageComponents = rgbComponents)
+    /// An image of the given size in pixels; all samples, including alpha, have the value `fill`.
+    Raster(int imageWidth, int imageHeight, int imageComponents = rgbComponents, Sample fill = 0)
         : width(imageWidth), height(imageHeight), components(imageComponents),
-          samples(pixelCount() * static_cast<std::size_t>(imageComponents))
+          samples(pixelCount() * static_cast<std::size_t>(imageComponents), fill)
     {
     }
 

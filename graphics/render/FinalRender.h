@@ -16,7 +16,7 @@ class FilterSet;
 ///
 /// The context must be current. Only the projection of `view` is used. Afterwards the filters have the parameters of
 /// the look and their previous sizes, and the grain's noise has the radius of the look. Returns false if there is no
-/// result; the image are then unchanged.
+/// result; the image is then unchanged.
 bool renderFinalImage(Image &image, const Look &look, FilterSet &filters, DocumentView &view,
                       const TileProgress &progress = {});
 

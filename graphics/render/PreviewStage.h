@@ -53,7 +53,7 @@ public:
     void setGrain(const GrainFilter::Parameters &parameters);
 
     /// Renders an image at full size, in place, with the current filters. Returns false if there is no result, if the
-    /// image is empty and if no image has been loaded.
+    /// image is empty or if no image has been loaded.
     bool renderFinal(Image &image, const TileProgress &progress = {});
 
 private:

@@ -23,11 +23,15 @@ struct TileFormats {
     bool halfFloatTransfers = true;
 };
 
-/// Returns the formats for an image of 8-bit or 16-bit samples (`T`). OpenGL accepts half
+/// Returns the formats for an image whose samples have the type T, std::uint8_t or std::uint16_t. OpenGL accepts half
 /// floats as pixel data since version 3.0 (`version30`), earlier versions with GL_ARB_half_float_pixel
 /// (`halfFloatPixel`).
 template <typename T>
 TileFormats tileFormatsFor(bool version30, bool halfFloatPixel);
+template <>
+TileFormats tileFormatsFor<std::uint8_t>(bool version30, bool halfFloatPixel);
+template <>
+TileFormats tileFormatsFor<std::uint16_t>(bool version30, bool halfFloatPixel);
 
 /// Uploads the tiles of an image to textures and reads the rendered tiles back, with as few copies as possible. T is
 /// the type of a sample, std::uint8_t or std::uint16_t; rows are stored from top to bottom without padding. The buffers

@@ -4,8 +4,6 @@
 #include "graphics/image/Image.h"
 #include "tests/support/Pictures.h"
 
-#include <algorithm>
-
 namespace grisal::test
 {
 
@@ -27,9 +25,7 @@ Pixels<T> pixelsOf(const graphics::Image &image)
 /// An image of one grey value in all channels.
 inline graphics::Image8 greyImage(int width, int height, std::uint8_t grey)
 {
-    graphics::Image8 image(width, height);
-    std::fill(image.samples.begin(), image.samples.end(), grey);
-    return image;
+    return {width, height, graphics::rgbComponents, grey};
 }
 
 /// Passes the pixels to `render`, a function that changes an image in place, and returns its result.

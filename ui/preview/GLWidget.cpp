@@ -139,14 +139,20 @@ void GLWidget::paintGL()
     if (!m_started) {
         return;
     }
-    bindScreen(defaultFramebufferObject(), pixelSize());
-    clearScreen();
+    bindOwnFramebuffer();
+    clearToBlack();
     if (m_stage.preview() != nullptr) {
         paintPreview(*m_stage.preview());
     }
     if (m_focusMark.isSeen()) {
         drawFocusMark(pixelSize(), qRound(devicePixelRatioF()));
     }
+}
+
+// The framebuffer of the widget changes with every resize.
+void GLWidget::bindOwnFramebuffer()
+{
+    bindFramebuffer(defaultFramebufferObject(), pixelSize());
 }
 
 void GLWidget::paintPreview(graphics::Preview &preview)
@@ -156,7 +162,7 @@ void GLWidget::paintPreview(graphics::Preview &preview)
     if (m_dirty && !m_renderingFinal) {
         preview.render();
         m_dirty = false;
-        bindScreen(defaultFramebufferObject(), pixelSize());
+        bindOwnFramebuffer();
     }
     drawPreview(preview, {m_previewWidth, m_previewHeight});
 }

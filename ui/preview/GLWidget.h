@@ -118,9 +118,10 @@ private slots:
 private:
     bool makeContextCurrent();
     void showImage(const graphics::Image &preview);
+    void bindOwnFramebuffer();
     void paintPreview(graphics::Preview &preview);
     void setBypass(bool bypass);
-    void pan(QPointF pixels);
+    void pan(QPointF drag);
     bool handleKey(const QKeyEvent &event);
     void fitViewToWidget();
     void showCentred(float scale);

@@ -144,9 +144,9 @@ void GLWidget::mousePressEvent(QMouseEvent *event)
 
 void GLWidget::mouseMoveEvent(QMouseEvent *event)
 {
-    if (const std::optional<QPointF> distance = m_drag.moveTo(pixelPosition(event))) {
+    if (const std::optional<QPointF> displacement = m_drag.moveTo(pixelPosition(event))) {
         m_clickTimer.stop();
-        pan(*distance);
+        pan(*displacement);
     }
 }
 

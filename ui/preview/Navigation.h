@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPoint>
 #include <QPointF>
 
 #include <optional>
@@ -48,7 +47,7 @@ public:
     void end() { m_last.reset(); }
     bool isActive() const { return m_last.has_value(); }
 
-    /// Returns the distance from the last position; empty if no button is pressed.
+    /// Returns the displacement from the last position; empty if no button is pressed.
     std::optional<QPointF> moveTo(QPointF position);
 
 private:
@@ -58,16 +57,17 @@ private:
 /// What a key does in the preview.
 struct PreviewKey {
     enum Action {
-        None,    ///< the key belongs to somebody else
+        None,    ///< the preview does not handle the key
         Pan,     ///< moves the view by one step in `direction`
         ZoomIn,  ///< one notch
         ZoomOut, ///< one notch
         Compare, ///< shows the image without filters until the key is released
     };
     Action action = None;
-    QPoint direction;
+    QPoint direction; ///< one step right, left, down or up; only for Pan
 };
 
+/// Returns what a pressed key does in the preview.
 PreviewKey previewKeyOf(const QKeyEvent &event);
 
 } // namespace grisal::ui

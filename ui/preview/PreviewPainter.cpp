@@ -28,14 +28,14 @@ void drawQuad(GLuint texture, int width, int height)
 
 } // namespace
 
-void bindScreen(GLuint framebuffer, QSize size)
+void bindFramebuffer(GLuint framebuffer, QSize size)
 {
     glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
     glViewport(0, 0, size.width(), size.height());
     glActiveTexture(GL_TEXTURE0);
 }
 
-void clearScreen()
+void clearToBlack()
 {
     // Pixels that are not opaque would show the desktop where windows can be transparent, for example on Wayland.
     glClearColor(0, 0, 0, 1);

@@ -13,13 +13,13 @@ class Preview;
 namespace grisal::ui
 {
 
-/// Drawing of the preview widget. The context must be current; sizes are in device pixels.
+// Drawing of the preview widget. The context must be current; sizes are in device pixels.
 
-/// Makes OpenGL draw into the framebuffer of the widget, which has the given size.
-void bindScreen(GLuint framebuffer, QSize size);
+/// Makes OpenGL draw into a framebuffer of the given size.
+void bindFramebuffer(GLuint framebuffer, QSize size);
 
 /// Fills the bound framebuffer with opaque black.
-void clearScreen();
+void clearToBlack();
 
 /// Draws the result of the preview's last render through its view into the bound framebuffer, whose pixels stay opaque.
 /// The image has the given size.

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <numeric>
 
 using namespace grisal::graphics;
@@ -21,9 +20,7 @@ Image8 previewOf(Image8 image)
 
 Image8 previewOfGrey(int width, int height)
 {
-    Image8 image(width, height);
-    std::fill(image.samples.begin(), image.samples.end(), std::uint8_t{200});
-    return previewOf(image);
+    return previewOf(Image8(width, height, rgbComponents, 200));
 }
 
 TEST(PreviewImageTest, RoundsSidesDownToAMultipleOfFour)

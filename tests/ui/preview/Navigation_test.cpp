@@ -72,7 +72,7 @@ TEST(Navigation, DragMovesTheImageAgainstTheMouse)
     EXPECT_EQ(draggedOffset({100, 80}, {7, -3}), QPointF(93, 77));
 }
 
-TEST(Navigation, DragReturnsTheDistanceFromTheLastPosition)
+TEST(Navigation, DragReturnsTheDisplacementFromTheLastPosition)
 {
     Drag drag;
     drag.start({10, 20});
