@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/files/ImageLibrary.h"
 #include "graphics/files/LumioImage.h"
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <gtest/gtest.h>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <list>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace grisal::test;
 using grisal::graphics::LumioImage;
-using grisal::graphics::ScopedPixelLimit;
 
 namespace
 {
@@ -28,14 +24,6 @@ Samples greys(int x, int y)
 {
     const auto level = static_cast<std::uint16_t>((x * 16 + y) * 257);
     return {level, level, level};
-}
-
-/// The most memory that the process has had, in kilobytes.
-long mostMemory()
-{
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_maxrss;
 }
 
 Samples noise(int x, int y)
@@ -178,64 +166,6 @@ TEST_F(LumioImageReadTest, FailsForAFileThatIsTooSmallForItsPixels)
     EXPECT_FALSE(image.read(path("b.jpg")));
     EXPECT_TRUE(image.problem().contains("too small a file")) << image.problem().toStdString();
     EXPECT_TRUE(isHeld());
-}
-
-// libjpeg would decode all of it before its size is known.
-TEST_F(LumioImageReadTest, RejectsAProgressiveJpegOfTooManyPixelsBeforeDecodingIt)
-{
-    Magick::Image picture = painted(64, 48, 8, fewColours);
-    picture.interlaceType(Magick::LineInterlace);
-    QByteArray jpeg = contentsOf(written(picture, "a.jpg"));
-    const auto size = jpeg.indexOf(QByteArray("\xff\xc2", 2)) + 5;
-    ASSERT_GT(size, 5);
-    for (const int place : {0, 2}) {
-        jpeg[size + place] = 0x40; // 16,384 pixels and some
-    }
-    writeFile(path("b.jpg"), jpeg + QByteArray(2'000'000, '\0'));
-    const long before = mostMemory();
-    EXPECT_FALSE(image.read(path("b.jpg")));
-    EXPECT_LT(mostMemory() - before, 100'000);
-    EXPECT_TRUE(image.problem().contains("too small a file")) << image.problem().toStdString();
-}
-
-TEST_F(LumioImageReadTest, RejectsASparseTiffOfTooManyPixels)
-{
-    Magick::Image picture = painted(8, 8, 8, noise);
-    picture.compressType(Magick::NoCompression);
-    QByteArray tiff = contentsOf(written(picture, "a.tif"));
-    const QByteArray width = QByteArray("\0\1\3\0\1\0\0\0\x08\0", 10);
-    const QByteArray height = QByteArray("\1\1\3\0\1\0\0\0\x08\0", 10);
-    ASSERT_TRUE(tiff.contains(width) && tiff.contains(height));
-    tiff.replace(width, width.left(8) + QByteArray("\0\x40", 2)); // 16,384 pixels
-    tiff.replace(height, height.left(8) + QByteArray("\0\x40", 2));
-    writeFile(path("b.tif"), tiff);
-    ASSERT_TRUE(QFile(path("b.tif")).resize(qint64{3} << 28));
-    const long before = mostMemory();
-    EXPECT_FALSE(image.read(path("b.tif")));
-    EXPECT_LT(mostMemory() - before, 100'000);
-    EXPECT_TRUE(image.problem().contains("too small a file")) << image.problem().toStdString();
-}
-
-// It is copied for the orientation; the copy of 16 gigabytes ended the program.
-TEST_F(LumioImageReadTest, ReadsASparseTiffInAnotherOrientation)
-{
-    Magick::Image picture = painted(6, 4, 8, noise);
-    picture.orientation(Magick::RightTopOrientation);
-    const QString file = written(picture, "a.tif");
-    ASSERT_TRUE(QFile(file).resize(qint64{1} << 34));
-    ASSERT_TRUE(image.read(file)) << image.problem().toStdString();
-    EXPECT_EQ(image.width(), 4);
-}
-
-TEST_F(LumioImageReadTest, LimitsThePixelsOfAFileWithoutAReadableSize)
-{
-    EXPECT_EQ(MagickLib::GetMagickResourceLimit(MagickLib::PixelsResource), 1'000'000'000);
-    {
-        const ScopedPixelLimit limit(1000);
-        EXPECT_THROW(painted(40, 30, 8, fewColours), Magick::Exception);
-        EXPECT_NO_THROW(painted(40, 25, 8, fewColours));
-    }
-    EXPECT_NO_THROW(painted(40, 30, 8, fewColours));
 }
 
 TEST_F(LumioImageReadTest, ClearsTheWarningAtTheNextOperation)
