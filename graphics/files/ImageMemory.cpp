@@ -14,8 +14,8 @@ constexpr std::uint64_t bytesPerPixel = 10;
 
 constexpr std::uint64_t largestCamera = 100'000'000; ///< pixels
 constexpr std::uint64_t maxPixelsPerByte = 512;
-constexpr std::uint64_t maxPixelsPerJpegByteBeyond = 100;
-constexpr std::uint64_t maxPixelsPerByteBeyond = 32;
+constexpr std::uint64_t maxPixelsPerBaselineJpegByteBeyond = 100;
+constexpr std::uint64_t maxPixelsPerByteBeyond = 40;
 constexpr std::uint64_t maxCopiedBytesPerPixel = 64;
 
 /// Declared sizes are limited, so that products do not overflow.
@@ -39,7 +39,9 @@ std::uint64_t memoryToWrite(const ImageHeader &header)
 bool isPlausible(const ImageHeader &header, std::uint64_t storedBytes)
 {
     const std::uint64_t pixels = pixelsOf(header);
-    const std::uint64_t pixelsPerByteBeyond = header.isJpeg ? maxPixelsPerJpegByteBeyond : maxPixelsPerByteBeyond;
+    const bool isBaselineJpeg = header.isJpeg && header.decoderBytesPerPixel == 0;
+    const std::uint64_t pixelsPerByteBeyond =
+        isBaselineJpeg ? maxPixelsPerBaselineJpegByteBeyond : maxPixelsPerByteBeyond;
     return memoryToRead(header) <= maxUncheckedMemory ||
            pixels / (pixels <= largestCamera ? maxPixelsPerByte : pixelsPerByteBeyond) <= storedBytes;
 }

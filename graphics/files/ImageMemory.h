@@ -22,12 +22,13 @@ constexpr std::uint64_t maxUncheckedMemory = std::uint64_t{1} << 30;
 ///
 /// - An image that takes up to maxUncheckedMemory to read, some 50 megapixels, is not checked.
 /// - Up to 100 megapixels need a byte for 512 pixels, one bit for a block of a JPEG. Files of a single colour pass.
-/// - More pixels need a byte for 100 pixels as JPEG, where an even grey takes one for 85, and a byte for 32 pixels
-///   otherwise. Photographs, scans and drawings in colours have more; large sheets in black and white may have less.
+/// - More pixels need a byte for 100 pixels as baseline JPEG, where an even grey takes one for 85, and a byte for 40
+///   pixels otherwise. Photographs, scans and drawings in colours have more; large sheets in black and white may have
+///   less.
 ///
 /// Therefore a file of 11 kilobytes takes up to maxUncheckedMemory, and one of 2.5 megabytes up to that of 100
-/// megapixels, or 250 as JPEG. `storedBytes` is the size of the file without holes. The memory that is free is for the
-/// caller to compare: a plausible image may be too large for the machine.
+/// megapixels, or 250 as baseline JPEG. `storedBytes` is the size of the file without holes. The memory that is free is
+/// for the caller to compare: a plausible image may be too large for the machine.
 bool isPlausible(const ImageHeader &header, std::uint64_t storedBytes);
 
 /// Whether a file may be copied in memory for reading: the copy, of so many bytes, takes no more than

@@ -56,13 +56,14 @@ TEST(ImageMemory, AcceptsGenuineImages)
 
 TEST(ImageMemory, RejectsImagesThatWouldExhaustTheMemory)
 {
-    EXPECT_FALSE(isPlausible(headerOf(9487, 9487), 11'000));              // black and white, deflated
-    EXPECT_FALSE(isPlausible(headerOf(20'000, 20'000), 50'000));          // the same
-    EXPECT_FALSE(isPlausible(headerOf(16'000, 16'000), 1'300'000));       // with other data behind it
-    EXPECT_FALSE(isPlausible(headerOf(22'000, 22'000), 2'450'000));       // the same
-    EXPECT_FALSE(isPlausible(headerOf(31'000, 32'000), 6'000'000));       // the same
-    EXPECT_FALSE(isPlausible(headerOf(20'000, 14'000, true), 1'094'000)); // a JPEG of a single grey
-    EXPECT_FALSE(isPlausible(headerOf(31'000, 32'000, true), 6'000'000)); // a JPEG that ends early
+    EXPECT_FALSE(isPlausible(headerOf(9487, 9487), 11'000));                 // black and white, deflated
+    EXPECT_FALSE(isPlausible(headerOf(20'000, 20'000), 50'000));             // the same
+    EXPECT_FALSE(isPlausible(headerOf(16'000, 16'000), 1'300'000));          // with other data behind it
+    EXPECT_FALSE(isPlausible(headerOf(22'000, 22'000), 2'450'000));          // the same
+    EXPECT_FALSE(isPlausible(headerOf(31'000, 32'000), 6'000'000));          // the same
+    EXPECT_FALSE(isPlausible(headerOf(12'000, 11'000, true, 8), 2'450'000)); // a progressive JPEG
+    EXPECT_FALSE(isPlausible(headerOf(20'000, 14'000, true), 1'094'000));    // a JPEG of a single grey
+    EXPECT_FALSE(isPlausible(headerOf(31'000, 32'000, true), 6'000'000));    // a JPEG that ends early
 }
 
 TEST(ImageMemory, LimitsCopiesToWhatTheImageMayNeed)

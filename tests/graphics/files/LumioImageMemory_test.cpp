@@ -2,6 +2,7 @@
 // Files that would exhaust the memory.
 #include "graphics/files/ImageLibrary.h"
 #include "graphics/files/LumioImage.h"
+#include "graphics/files/TiffDirectory.h"
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <gtest/gtest.h>
@@ -11,8 +12,7 @@
 #include <sys/resource.h>
 
 using namespace grisal::test;
-using grisal::graphics::LumioImage;
-using grisal::graphics::ScopedPixelLimit;
+using namespace grisal::graphics;
 
 namespace
 {
@@ -90,7 +90,26 @@ TEST_F(LumioImageMemoryTest, ReadsASparseTiffInAnotherOrientation)
     EXPECT_EQ(image.width(), 4);
 }
 
-TEST_F(LumioImageMemoryTest, LimitsThePixelsOfAFileWithoutAReadableSize)
+// The size is behind more entries than are read.
+TEST_F(LumioImageMemoryTest, RejectsATiffOfTooManyPixelsWhoseSizeIsNotFound)
+{
+    const TiffByteOrder order(false);
+    const auto value = [&](std::uint32_t number) { return order.bytesOf(number); };
+    for (const std::uint32_t side : {100U, 20'000U}) {
+        std::vector<TiffEntry> entries{{256, 4, 1, value(side)}, {257, 4, 1, value(side)}, {258, 3, 1, value(8)},
+                                       {259, 3, 1, value(1)},    {262, 3, 1, value(1)},    {273, 4, 1, value(8)},
+                                       {277, 3, 1, value(1)},    {278, 4, 1, value(side)}, {279, 4, 1, value(10'000)}};
+        for (std::uint16_t tag = 40'000; entries.size() < 300; ++tag) {
+            entries.push_back({tag, 4, 1, value(0)});
+        }
+        const QByteArray pixels(10'000, 'a');
+        writeFile(path("a.tif"), QByteArray("II*\0", 4) + value(10'008) + pixels + encodeDirectory(entries, order));
+        EXPECT_EQ(image.read(path("a.tif")), side == 100) << image.problem().toStdString();
+    }
+    EXPECT_TRUE(image.problem().contains("ixel")) << image.problem().toStdString();
+}
+
+TEST_F(LumioImageMemoryTest, ScopedPixelLimitAppliesToEachImageDuringItsLifetime)
 {
     EXPECT_EQ(MagickLib::GetMagickResourceLimit(MagickLib::PixelsResource), 1'000'000'000);
     {
