@@ -7,6 +7,7 @@
 #include "ui_MainWindow.h"
 
 #include <QFileInfo>
+#include <QLocale>
 #include <QMessageBox>
 
 #include <malloc.h>
@@ -29,6 +30,11 @@ QString titleFor(const QString &path, const graphics::Image &image)
     return QStringLiteral("%1 - %2 %3x%4")
         .arg(QString::fromLatin1(product::title), name, QString::number(widthOf(image)),
              QString::number(heightOf(image)));
+}
+
+QString memorySize(std::uint64_t bytes)
+{
+    return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
 }
 
 } // namespace
@@ -98,6 +104,10 @@ void MainWindow::showCannotLoad(const QString &filename)
 {
     QMessageBox box(QMessageBox::Information, tr("Open Image"), tr("Cannot load %1.").arg(filename), QMessageBox::Ok,
                     this);
+    if (const auto &shortage = m_session.shortage()) {
+        box.setInformativeText(tr("Opening and saving it takes up to %1 of memory, but only %2 are free.")
+                                   .arg(memorySize(shortage->needed), memorySize(shortage->free)));
+    }
     // A file name may contain characters that look like HTML.
     box.setTextFormat(Qt::PlainText);
     box.exec();

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/Session.h"
 
+#include "app/PictureMemory.h"
+#include "graphics/files/ImageFile.h"
 #include "graphics/files/LumioImage.h"
 
 #include <QFile>
+#include <QLocale>
 
 #include <sys/stat.h>
 
@@ -60,6 +63,11 @@ LumioImage fileOf(const Image &image)
         image);
 }
 
+QString sizeInEnglish(std::uint64_t bytes)
+{
+    return QLocale::c().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
+}
+
 void logProblems(const LumioImage &file)
 {
     if (!file.problem().isEmpty()) {
@@ -75,9 +83,14 @@ void logProblems(const LumioImage &file)
 Session::PicturePointer Session::read(const QString &path)
 {
     m_warning = {};
+    m_shortage = {};
     try {
+        graphics::ImageFile opened(path);
+        if (opened.problem().isEmpty() && !fitsIntoMemory(opened)) {
+            return nullptr;
+        }
         LumioImage file;
-        const bool good = file.read(path);
+        const bool good = file.read(opened);
         logProblems(file);
         if (!good && !isKnownToBeMissing(path)) {
             return nullptr;
@@ -91,6 +104,18 @@ Session::PicturePointer Session::read(const QString &path)
         qWarning("%s", problem.what());
         return nullptr;
     }
+}
+
+bool Session::fitsIntoMemory(const graphics::ImageFile &file)
+{
+    const MemoryShortage memory{memoryForPicture(file), freeMemory(m_memory)};
+    if (memory.needed <= memory.free) {
+        return true;
+    }
+    m_shortage = memory;
+    qWarning("%s needs %s of memory to be opened and saved, %s are free", qPrintable(file.path()),
+             qPrintable(sizeInEnglish(memory.needed)), qPrintable(sizeInEnglish(memory.free)));
+    return false;
 }
 
 bool Session::write(Image image, const QString &path)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/FreeMemory.h"
 #include "graphics/files/Metadata.h"
 #include "graphics/image/Image.h"
 #include "graphics/Message.h"
@@ -8,10 +9,16 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace grisal
 {
+
+namespace graphics
+{
+class ImageFile;
+}
 
 /// An image with the metadata of the file that it was opened from.
 struct Picture {
@@ -20,11 +27,19 @@ struct Picture {
     std::string info; ///< description for the log
 };
 
+/// Why a picture is not opened: the memory that it needs and that is free, in bytes.
+struct MemoryShortage {
+    std::uint64_t needed = 0;
+    std::uint64_t free = 0;
+};
+
 /// The open image; reads and writes files. Has no user interface; failures are written to the log, in English.
 class Session
 {
 public:
     using PicturePointer = std::shared_ptr<const Picture>;
+
+    explicit Session(MemorySources memory = {}) : m_memory(std::move(memory)) {}
 
     /// The open image; null before the first one.
     const PicturePointer &picture() const { return m_picture; }
@@ -34,8 +49,12 @@ public:
 
     /// Reads an image from a JPEG, PNG or TIFF file; null on failure. The open image stays open. If the file is known
     /// not to exist, returns the open image again, so that a recent image whose file was moved is opened once more. A
-    /// file that cannot be examined, for example in a folder without access, is not known to be missing.
+    /// file that cannot be examined, for example in a folder without access, is not known to be missing. An image that
+    /// needs more memory to be opened and saved than is free is not read: shortage() then contains the figures.
     PicturePointer read(const QString &path);
+
+    /// Of the last read; none where it was read or could not be read for another reason.
+    const std::optional<MemoryShortage> &shortage() const { return m_shortage; }
 
     /// Writes an image with the metadata of the open image, in the format given by the extension of `path`. Returns
     /// false on failure; an existing file is then unchanged.
@@ -45,7 +64,11 @@ public:
     const graphics::Message &warning() const { return m_warning; }
 
 private:
+    bool fitsIntoMemory(const graphics::ImageFile &file);
+
+    MemorySources m_memory;
     PicturePointer m_picture;
+    std::optional<MemoryShortage> m_shortage;
     graphics::Message m_warning;
 };
 

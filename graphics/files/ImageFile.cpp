@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/ImageFile.h"
 
+#include "graphics/files/ImageMemory.h"
 #include "graphics/files/PngChunks.h"
 #include "graphics/files/TiffOrientation.h"
 
@@ -11,14 +12,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+
 namespace grisal::graphics
 {
 
 namespace
 {
 
-constexpr std::uint64_t maxUncheckedPixels = 90'000'000;
-constexpr std::uint64_t maxPixelsPerByte = 200;
+/// Sufficient for images that are not checked, and for the tiles of a TIFF file, which may exceed its image.
+constexpr std::uint64_t maxUncheckedPixels = maxUncheckedMemory / 20;
 
 constexpr std::uint32_t maxTextLength = 1 << 20;
 constexpr int maxCompressedTexts = 16;
@@ -31,25 +34,25 @@ bool isWithin(std::uint32_t directory, std::uint64_t size)
 
 } // namespace
 
-ImageFile::ImageFile(const QString &path)
+ImageFile::ImageFile(const QString &path) : m_path(path)
 {
-    open(path);
+    open();
     if (m_problem.isEmpty()) {
-        detectFormat(path);
+        detectFormat();
     }
     if (m_problem.isEmpty() && m_format == ImageFormat::Png && hasInvalidTexts()) {
-        m_problem = QStringLiteral("%1 holds texts of absurd length").arg(path);
+        m_problem = QStringLiteral("%1 holds texts of absurd length").arg(m_path);
     }
-    if (m_problem.isEmpty() && m_format == ImageFormat::Tiff) {
-        normaliseTiff();
+    if (m_problem.isEmpty()) {
+        checkHeader();
     }
 }
 
 // The type is checked before the file is opened, since opening a device may have side effects, and once more
 // afterwards, since the file may have been replaced.
-void ImageFile::open(const QString &path)
+void ImageFile::open()
 {
-    const QByteArray name = QFile::encodeName(path);
+    const QByteArray name = QFile::encodeName(m_path);
     struct stat status {
     };
     const bool isThere = stat(name.constData(), &status) == 0;
@@ -57,28 +60,50 @@ void ImageFile::open(const QString &path)
         m_file = OpenFile(::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     }
     if (!m_file.isOpen() || fstat(m_file.descriptor(), &status) != 0 || !S_ISREG(status.st_mode)) {
-        m_problem = QStringLiteral("Cannot open %1").arg(path);
-        return;
+        m_problem = QStringLiteral("Cannot open %1").arg(m_path);
     }
-    m_size = static_cast<std::uint64_t>(status.st_size);
 }
 
-void ImageFile::detectFormat(const QString &path)
+void ImageFile::detectFormat()
 {
     const std::optional<ImageFormat> format = formatOfContents(m_file.bytesAt(0, signatureLength));
     if (!format) {
-        m_problem = QStringLiteral("No JPEG, PNG or TIFF picture in %1").arg(path);
+        m_problem = QStringLiteral("No JPEG, PNG or TIFF picture in %1").arg(m_path);
         return;
     }
     m_format = *format;
 }
 
-void ImageFile::normaliseTiff()
+// A file without a size is left to GraphicsMagick, which usually rejects it.
+void ImageFile::checkHeader()
 {
-    try {
+    m_header = readImageHeader(m_file, m_format).value_or(ImageHeader());
+    if (!isPlausible(m_header, m_file.storedSize())) {
+        m_problem = QStringLiteral("%1 is too small a file for its %2 x %3 pixels")
+                        .arg(m_path, QString::number(m_header.width), QString::number(m_header.height));
+        return;
+    }
+    m_copySize = m_format == ImageFormat::Tiff ? sizeOfNormalisedCopy(m_file) : 0;
+    if (!isPlausibleCopy(m_header, m_copySize)) {
+        m_problem = QStringLiteral("%1 is too large a file for its %2 x %3 pixels")
+                        .arg(m_path, QString::number(m_header.width), QString::number(m_header.height));
+    }
+}
+
+std::uint64_t ImageFile::maxPixels() const
+{
+    return std::max(m_header.pixels(), maxUncheckedPixels);
+}
+
+std::uint64_t ImageFile::memoryToRead() const
+{
+    return (m_header.pixels() > 0 ? graphics::memoryToRead(m_header) : maxUncheckedMemory) + m_copySize;
+}
+
+void ImageFile::normalise()
+{
+    if (m_copySize > 0) {
         m_normalised = copyWithNormalOrientation(m_file);
-    } catch (const std::exception &exception) {
-        m_problem = QString::fromLocal8Bit(exception.what());
     }
 }
 
@@ -92,11 +117,6 @@ bool ImageFile::hasInvalidTexts() const
         compressedTexts += isCompressed ? 1 : 0;
         return !(isText && chunk.length > maxTextLength) && compressedTexts <= maxCompressedTexts;
     });
-}
-
-bool ImageFile::canHold(std::uint64_t pixels) const
-{
-    return pixels <= maxUncheckedPixels || pixels / maxPixelsPerByte <= m_size;
 }
 
 bool hasCompleteEnd(const OpenFile &file, ImageFormat format)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "graphics/files/ImageFormat.h"
+#include "graphics/files/ImageHeader.h"
 #include "graphics/files/OpenFile.h"
 
 #include <QString>
@@ -13,8 +14,9 @@ namespace grisal::graphics
 {
 
 /// A file to be opened as an image, checked before GraphicsMagick reads it. It has to be a regular file, or a link to
-/// one, that starts like a JPEG, PNG or TIFF file; PNG files with texts of excessive length or number are rejected,
-/// since a compressed text may expand a thousandfold. Nothing here blocks, also not on pipes and devices.
+/// one, that starts like a JPEG, PNG or TIFF file and may contain the image that its header declares, see
+/// isPlausible(); PNG files with texts of excessive length or number are rejected, since a compressed text may expand a
+/// thousandfold. Nothing here blocks, also not on pipes and devices.
 class ImageFile
 {
 public:
@@ -26,28 +28,38 @@ public:
     /// The file name to give to GraphicsMagick, valid while this object exists. Only without a problem.
     std::string name() const { return magickName(m_format, pathOfOpenFile(descriptor())); }
 
-    /// That of the file for GraphicsMagick, which is a copy where the orientation has to be normalised.
+    /// Copies the file into memory where GraphicsMagick needs a copy: a TIFF file whose orientation has to be
+    /// normalised. Throws where there is not enough memory. Only without a problem.
+    void normalise();
+
+    /// That of the file for GraphicsMagick, which is the copy after normalise() made one.
     int descriptor() const { return m_normalised.isOpen() ? m_normalised.descriptor() : m_file.descriptor(); }
 
-    /// The file itself, and the format of its contents. Only without a problem.
+    QString path() const { return m_path; }
+
+    /// The file itself, the format of its contents, and its header. Only without a problem.
     const OpenFile &file() const { return m_file; }
     ImageFormat format() const { return m_format; }
+    const ImageHeader &header() const { return m_header; }
 
-    /// Whether a file of this size can contain an image of that many pixels. A photograph is not compressed below one
-    /// byte for 200 pixels; a file that declares more pixels is made to exhaust the memory. Images of up to 90
-    /// megapixels, which take up to a gigabyte, are not checked.
-    bool canHold(std::uint64_t pixels) const;
+    /// The most pixels that GraphicsMagick may allocate for an image.
+    std::uint64_t maxPixels() const;
+
+    /// The most memory that reading the image takes, in bytes, including the copy of normalise().
+    std::uint64_t memoryToRead() const;
 
 private:
-    void open(const QString &path);
-    void detectFormat(const QString &path);
+    void open();
+    void detectFormat();
     bool hasInvalidTexts() const;
-    void normaliseTiff();
+    void checkHeader();
 
+    QString m_path;
     OpenFile m_file;
     OpenFile m_normalised; ///< a copy for GraphicsMagick, where it needs one
+    std::uint64_t m_copySize = 0;
     ImageFormat m_format = ImageFormat::Jpeg;
-    std::uint64_t m_size = 0;
+    ImageHeader m_header;
     QString m_problem;
 };
 

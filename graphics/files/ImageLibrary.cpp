@@ -5,6 +5,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 
 namespace grisal::graphics
@@ -49,6 +50,18 @@ void initializeImageLibrary(const char *programPath)
     setLimits();
     std::signal(SIGXFSZ, SIG_IGN);
     initialized = true;
+}
+
+ScopedPixelLimit::ScopedPixelLimit(std::uint64_t pixels)
+    : m_limitBefore(MagickLib::GetMagickResourceLimit(MagickLib::PixelsResource))
+{
+    const std::uint64_t limit = std::min(pixels, static_cast<std::uint64_t>(m_limitBefore));
+    MagickLib::SetMagickResourceLimit(MagickLib::PixelsResource, static_cast<std::int64_t>(limit));
+}
+
+ScopedPixelLimit::~ScopedPixelLimit()
+{
+    MagickLib::SetMagickResourceLimit(MagickLib::PixelsResource, m_limitBefore);
 }
 
 } // namespace grisal::graphics

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
+
 namespace grisal::graphics
 {
 
@@ -9,5 +11,18 @@ namespace grisal::graphics
 /// and no files instead of memory. From then on a write beyond a limit of the file size fails instead of ending the
 /// process. `programPath` is argv[0] or null. Only the first call has an effect; every LumioImage calls it.
 void initializeImageLibrary(const char *programPath);
+
+/// Limits the pixels of each image that GraphicsMagick allocates during its lifetime.
+class ScopedPixelLimit
+{
+public:
+    explicit ScopedPixelLimit(std::uint64_t pixels);
+    ScopedPixelLimit(const ScopedPixelLimit &) = delete;
+    ScopedPixelLimit &operator=(const ScopedPixelLimit &) = delete;
+    ~ScopedPixelLimit();
+
+private:
+    std::int64_t m_limitBefore;
+};
 
 } // namespace grisal::graphics

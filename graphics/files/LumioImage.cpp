@@ -169,14 +169,20 @@ bool LumioImage::prepareForWriting()
 
 bool LumioImage::read(const QString &path)
 {
-    const ImageFile file(path);
+    ImageFile file(path);
+    return read(file);
+}
+
+bool LumioImage::read(ImageFile &file)
+{
     const bool good = attempt([&] {
         m_problem = file.problem();
         if (m_problem.isEmpty()) {
-            readFrom(file, path);
+            file.normalise();
+            readFrom(file);
         }
     });
-    replaceNameInMessages(file.descriptor(), path);
+    replaceNameInMessages(file.descriptor(), file.path());
     return good;
 }
 
@@ -188,26 +194,21 @@ void LumioImage::replaceNameInMessages(int descriptor, const QString &path)
     m_warning.replaceInDetail(name, path);
 }
 
-void LumioImage::readFrom(const ImageFile &file, const QString &path)
+void LumioImage::readFrom(const ImageFile &file)
 {
-    Magick::Image head = firstImage();
-    warningOf([&] { head.ping(file.name()); });
-    if (!file.canHold(std::uint64_t{head.columns()} * head.rows())) {
-        m_problem = QStringLiteral("%1 is too small a file for its %2 x %3 pixels")
-                        .arg(path, QString::number(head.columns()), QString::number(head.rows()));
-        return;
-    }
+    const ScopedPixelLimit limit(file.maxPixels());
     const Metadata metadata(file.file(), file.format());
     Magick::Image fresh = firstImage();
     m_warning = warningOf([&] { fresh.read(file.name()); });
     if (!fresh.isValid()) {
-        m_problem = m_warning.isEmpty() ? QStringLiteral("No picture in %1").arg(path) : m_warning.english();
+        m_problem = m_warning.isEmpty() ? QStringLiteral("No picture in %1").arg(file.path()) : m_warning.english();
         return;
     }
     if (m_warning.isEmpty() && !metadata.isComplete()) {
-        m_warning = Message(QT_TRANSLATE_NOOP("Message", "Not all that %1 says about its picture could be read"), path);
+        m_warning =
+            Message(QT_TRANSLATE_NOOP("Message", "Not all that %1 says about its picture could be read"), file.path());
     }
-    fresh.fileName(QFile::encodeName(path).toStdString());
+    fresh.fileName(QFile::encodeName(file.path()).toStdString());
     raiseDepth(fresh);
     removeMetadata(fresh);
     normaliseOrientation(fresh, metadata.orientation());

@@ -38,7 +38,9 @@ public:
     /// Reads a JPEG, PNG or TIFF file, whatever its name, and of several images in it the first, in normalised
     /// orientation, together with its metadata. The image is replaced only when the new one is good. A file that
     /// GraphicsMagick reads with a warning, such as one cut short, counts as good; warning() then contains the warning.
-    /// A file that ImageFile rejects is not passed to GraphicsMagick at all.
+    /// A file that ImageFile rejects is not passed to GraphicsMagick at all. Takes no more than
+    /// ImageFile::memoryToRead().
+    bool read(ImageFile &file);
     bool read(const QString &path);
 
     /// Writes the image, without alpha, as true colour of its own depth, 8 or 16 bits a channel (JPEG always 8), with
@@ -92,7 +94,7 @@ private:
     }
     template <typename Step>
     bool attemptWithPixels(Step step);
-    void readFrom(const ImageFile &file, const QString &path);
+    void readFrom(const ImageFile &file);
     bool prepareForWriting();
     void writeTo(ReplacementFile &target, const QString &path, int quality);
     Message writePixels(const std::string &name);

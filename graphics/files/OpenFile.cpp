@@ -18,6 +18,9 @@ namespace
 /// Bytes moved at once.
 constexpr std::uint64_t blockSize = 1 << 22;
 
+/// A file of more ranges of data counts as one without holes.
+constexpr int maxCountedRanges = 10'000;
+
 } // namespace
 
 OpenFile::~OpenFile()
@@ -32,6 +35,27 @@ std::uint64_t OpenFile::size() const
     struct stat status {
     };
     return fstat(m_descriptor, &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
+}
+
+std::uint64_t OpenFile::storedSize() const
+{
+    std::uint64_t stored = 0;
+    FileRange range = dataFrom(0);
+    for (int i = 0; i < maxCountedRanges && range.size() > 0; ++i) {
+        stored += range.size();
+        range = dataFrom(range.end);
+    }
+    return range.size() > 0 ? size() : stored;
+}
+
+FileRange OpenFile::dataFrom(std::uint64_t offset) const
+{
+    const off_t start = lseek(m_descriptor, static_cast<off_t>(offset), SEEK_DATA);
+    if (start < 0 && errno != ENXIO) {
+        return {offset, std::max(offset, size())};
+    }
+    const off_t end = start < 0 ? start : lseek(m_descriptor, start, SEEK_HOLE);
+    return end < 0 ? FileRange() : FileRange{static_cast<std::uint64_t>(start), static_cast<std::uint64_t>(end)};
 }
 
 QByteArray OpenFile::bytesAt(std::uint64_t offset, qsizetype count) const

@@ -10,6 +10,14 @@
 namespace grisal::graphics
 {
 
+/// A range of bytes in a file.
+struct FileRange {
+    std::uint64_t start = 0;
+    std::uint64_t end = 0; ///< behind the last byte
+
+    std::uint64_t size() const { return end - start; }
+};
+
 /// Owns a file descriptor and closes it at its end.
 class OpenFile
 {
@@ -34,6 +42,13 @@ public:
 
     /// In bytes; 0 if it is unknown.
     std::uint64_t size() const;
+
+    /// In bytes, without the holes of a sparse file, which read as zeros.
+    std::uint64_t storedSize() const;
+
+    /// The first range of data at or behind an offset; empty where there is none. File systems without holes have one
+    /// range.
+    FileRange dataFrom(std::uint64_t offset) const;
 
     /// `count` bytes from an offset in the file, or as many as there are.
     QByteArray bytesAt(std::uint64_t offset, qsizetype count) const;

@@ -5,6 +5,7 @@
 
 #include <sys/mman.h>
 #include <sys/sendfile.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <optional>
@@ -23,40 +24,71 @@ bool isNormal(const TiffEntry &entry, TiffByteOrder order)
     return entry.type == shortType && entry.count == 1 && order.get<std::uint16_t>(entry.content.constData()) == 1;
 }
 
+void copyRange(const FileRange &range, const OpenFile &from, const OpenFile &to)
+{
+    auto offset = static_cast<off_t>(range.start);
+    const auto end = static_cast<off_t>(range.end);
+    ssize_t sent = lseek(to.descriptor(), offset, SEEK_SET) == offset ? 1 : 0;
+    while (offset < end && sent > 0) {
+        sent = sendfile(to.descriptor(), from.descriptor(), &offset, static_cast<std::size_t>(end - offset));
+    }
+    if (offset < end) {
+        throw std::system_error(errno, std::generic_category(), "The file cannot be copied");
+    }
+}
+
 OpenFile copyInMemory(const OpenFile &file)
 {
     OpenFile copy(memfd_create("image", MFD_CLOEXEC));
-    const std::uint64_t size = file.size();
-    off_t done = 0;
-    ssize_t sent = 1;
-    while (copy.isOpen() && static_cast<std::uint64_t>(done) < size && sent > 0) {
-        sent = sendfile(copy.descriptor(), file.descriptor(), &done, size - static_cast<std::uint64_t>(done));
-    }
-    if (static_cast<std::uint64_t>(done) != size) {
+    if (!copy.isOpen() || ftruncate(copy.descriptor(), static_cast<off_t>(file.size())) != 0) {
         throw std::system_error(errno, std::generic_category(), "The file cannot be copied");
     }
+    for (FileRange range = file.dataFrom(0); range.size() > 0; range = file.dataFrom(range.end)) {
+        copyRange(range, file, copy);
+    }
     return copy;
+}
+
+/// The orientation of a file, where it has to be changed.
+struct OrientationEntry {
+    TiffByteOrder order;
+    TiffEntry entry;
+    std::uint64_t offset; ///< of the entry in the file
+};
+
+std::optional<OrientationEntry> findAbnormalOrientation(const OpenFile &file)
+{
+    const QByteArray header = file.bytesAt(0, tiffHeaderSize);
+    const std::optional<TiffByteOrder> order = header.size() == tiffHeaderSize ? tiffByteOrderOf(header) : std::nullopt;
+    if (!order) {
+        return std::nullopt;
+    }
+    const auto start = order->get<std::uint32_t>(header.constData() + 4);
+    for (const TiffEntry &entry : decodeDirectory(file.bytesAt(start, maxTiffDirectorySize), *order)) {
+        if (entry.tag == static_cast<std::uint16_t>(TiffTag::Orientation) && !isNormal(entry, *order)) {
+            return OrientationEntry{*order, entry, std::uint64_t{start} + entry.offset};
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace
 
 OpenFile copyWithNormalOrientation(const OpenFile &file)
 {
-    const QByteArray header = file.bytesAt(0, tiffHeaderSize);
-    const std::optional<TiffByteOrder> order = header.size() == tiffHeaderSize ? tiffByteOrderOf(header) : std::nullopt;
-    if (!order) {
+    const std::optional<OrientationEntry> found = findAbnormalOrientation(file);
+    if (!found) {
         return OpenFile();
     }
-    const auto start = order->get<std::uint32_t>(header.constData() + 4);
-    for (const TiffEntry &entry : decodeDirectory(file.bytesAt(start, maxTiffDirectorySize), *order)) {
-        if (entry.tag == static_cast<std::uint16_t>(TiffTag::Orientation) && !isNormal(entry, *order)) {
-            OpenFile copy = copyInMemory(file);
-            const QByteArray first = order->bytesOf(std::uint16_t{1}) + QByteArray(2, '\0');
-            copy.overwrite(start + entry.offset, encodeEntry({entry.tag, shortType, 1, first}, *order));
-            return copy;
-        }
-    }
-    return OpenFile();
+    OpenFile copy = copyInMemory(file);
+    const QByteArray first = found->order.bytesOf(std::uint16_t{1}) + QByteArray(2, '\0');
+    copy.overwrite(found->offset, encodeEntry({found->entry.tag, shortType, 1, first}, found->order));
+    return copy;
+}
+
+std::uint64_t sizeOfNormalisedCopy(const OpenFile &file)
+{
+    return findAbnormalOrientation(file) ? file.storedSize() : 0;
 }
 
 } // namespace grisal::graphics

@@ -989,5 +989,9 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <source>Rendering tile %1 of %2</source>
         <translation>Kachel %1 von %2 wird berechnet</translation>
     </message>
+    <message>
+        <source>Opening and saving it takes up to %1 of memory, but only %2 are free.</source>
+        <translation>Zum Öffnen und Speichern sind bis zu %1 Arbeitsspeicher nötig, frei sind nur %2.</translation>
+    </message>
 </context>
 </TS>

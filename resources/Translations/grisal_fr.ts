@@ -989,5 +989,9 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <source>Rendering tile %1 of %2</source>
         <translation>Calcul de la tuile %1 sur %2</translation>
     </message>
+    <message>
+        <source>Opening and saving it takes up to %1 of memory, but only %2 are free.</source>
+        <translation>L’ouvrir et l’enregistrer demande jusqu’à %1 de mémoire, mais seuls %2 sont libres.</translation>
+    </message>
 </context>
 </TS>

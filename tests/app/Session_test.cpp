@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 using namespace grisal::test;
+using grisal::MemorySources;
 using grisal::Session;
 using grisal::graphics::Image16;
 using grisal::graphics::Image8;
@@ -126,6 +127,46 @@ TEST_F(SessionTest, WritesNothingIfMemoryIsInsufficient)
     EXPECT_EQ(contentsOf(path("a.png")), before);
     ASSERT_EQ(log.warnings().size(), 1);
     EXPECT_FALSE(log.warnings().first().contains("Image is not valid")) << log.warnings().first().toStdString();
+}
+
+struct SessionMemoryTest : SessionTest {
+    void setFree(const char *kilobytes)
+    {
+        writeFile(path("meminfo"), QByteArray("MemAvailable: ") + kilobytes + " kB");
+    }
+
+    Session limited{MemorySources{directory.path(), path("groups")}};
+};
+
+TEST_F(SessionMemoryTest, DoesNotReadAPictureThatNeedsMoreMemoryThanIsFree)
+{
+    setFree("2000");
+    const QString file = makePicture("a.png", 8);
+    EXPECT_FALSE(limited.read(file));
+    ASSERT_TRUE(limited.shortage());
+    EXPECT_EQ(limited.shortage()->free, 2'048'000U);
+    EXPECT_GT(limited.shortage()->needed, 50'000'000U);
+    ASSERT_EQ(log.warnings().size(), 1);
+    EXPECT_EQ(log.warnings().first(), file + " needs 50.0 MB of memory to be opened and saved, 2.0 MB are free");
+}
+
+TEST_F(SessionMemoryTest, ReadsAPictureOnceThereIsMemory)
+{
+    setFree("2000");
+    const QString file = makePicture("a.png", 8);
+    EXPECT_FALSE(limited.read(file));
+    setFree("2000000");
+    EXPECT_TRUE(limited.read(file));
+    EXPECT_FALSE(limited.shortage());
+}
+
+TEST_F(SessionMemoryTest, HasNoShortageForAnotherFailure)
+{
+    setFree("2000");
+    EXPECT_FALSE(limited.read(makePicture("a.png", 8)));
+    writeFile(path("rubbish.png"), "no picture at all");
+    EXPECT_FALSE(limited.read(path("rubbish.png")));
+    EXPECT_FALSE(limited.shortage());
 }
 
 TEST_F(SessionTest, WarnsAboutATruncatedFile)

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/ImageFile.h"
+#include "graphics/files/ImageMemory.h"
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <gtest/gtest.h>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QtEndian>
 
 #include <fcntl.h>
 #include <sys/socket.h>
@@ -38,6 +40,14 @@ protected:
             chunk[i] = static_cast<char>(length >> (24 - 8 * i));
         }
         return chunk + kind + contents + QByteArray(4, '\0');
+    }
+
+    static QByteArray pngHeaderChunk(quint32 width, quint32 height)
+    {
+        QByteArray contents(8, '\0');
+        qToBigEndian(width, contents.data());
+        qToBigEndian(height, contents.data() + 4);
+        return pngChunk("IHDR", 13, contents + QByteArray("\x08\0\0\0\0", 5));
     }
 
     QTemporaryDir directory;
@@ -136,14 +146,32 @@ TEST_F(ImageFileTest, RejectsAPngOfTooManyChunks)
     EXPECT_FALSE(passes(fileOf("b.png", png + pngChunk("IDAT", 0, {}).repeated(500'001))));
 }
 
-TEST_F(ImageFileTest, LimitsPixelsByTheSizeOfTheFile)
+TEST_F(ImageFileTest, RejectsAFileThatIsTooSmallForItsPixels)
 {
-    const ImageFile small(fileOf("a.jpg", jpeg));
-    EXPECT_TRUE(small.canHold(90'000'000));
-    EXPECT_FALSE(small.canHold(90'000'001));
-    const ImageFile large(fileOf("b.jpg", jpeg + QByteArray(1'000'000, '\0')));
-    EXPECT_TRUE(large.canHold(200'000'000));
-    EXPECT_FALSE(large.canHold(300'000'000));
+    const QByteArray header = png + pngHeaderChunk(12'000, 10'000);
+    const ImageFile small(fileOf("a.png", header));
+    EXPECT_EQ(small.problem(), path("a.png") + " is too small a file for its 12000 x 10000 pixels");
+    EXPECT_TRUE(passes(fileOf("b.png", header + QByteArray(120'000'000 / 40, '.'))));
+    QFile sparse(fileOf("c.png", header));
+    ASSERT_TRUE(sparse.resize(120'000'000));
+    EXPECT_FALSE(passes(path("c.png")));
+}
+
+TEST_F(ImageFileTest, ReadsTheHeader)
+{
+    const ImageFile file(fileOf("a.png", png + pngHeaderChunk(300, 200)));
+    EXPECT_EQ(file.header().width, 300U);
+    EXPECT_EQ(file.header().height, 200U);
+    EXPECT_EQ(file.memoryToRead(), 300U * 200 * 20);
+    EXPECT_EQ(file.path(), path("a.png"));
+}
+
+// GraphicsMagick rejects it with a reason.
+TEST_F(ImageFileTest, AcceptsAFileWithoutAHeader)
+{
+    const ImageFile file(fileOf("a.png", png));
+    EXPECT_EQ(file.problem(), QString());
+    EXPECT_EQ(file.memoryToRead(), maxUncheckedMemory);
 }
 
 TEST_F(ImageFileTest, HasCompleteEndOnlyIfNotTruncated)

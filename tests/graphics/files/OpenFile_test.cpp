@@ -7,6 +7,7 @@
 
 #include <fcntl.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <exception>
@@ -47,6 +48,28 @@ TEST_F(OpenFileTest, ReturnsTheBytesWithinTheFile)
     EXPECT_EQ(file.bytesAt(7, 1), "");
     EXPECT_EQ(OpenFile().bytesAt(0, 1), "");
     EXPECT_EQ(OpenFile().size(), 0U);
+}
+
+TEST_F(OpenFileTest, FindsTheDataOfASparseFile)
+{
+    const OpenFile file = opened(counted(1 << 16));
+    ASSERT_EQ(ftruncate(file.descriptor(), off_t{1} << 34), 0);
+    file.overwrite(1 << 30, counted(1 << 16));
+    EXPECT_EQ(file.size(), std::uint64_t{1} << 34);
+    EXPECT_EQ(file.storedSize(), std::uint64_t{2} << 16);
+    EXPECT_EQ(file.dataFrom(0).start, 0U);
+    EXPECT_EQ(file.dataFrom(0).end, 1U << 16);
+    EXPECT_EQ(file.dataFrom(1 << 16).start, 1U << 30);
+    EXPECT_EQ(file.dataFrom(1 << 16).size(), 1U << 16);
+    EXPECT_EQ(file.dataFrom((1 << 30) + (1 << 16)).size(), 0U);
+    EXPECT_EQ(file.dataFrom(std::uint64_t{1} << 40).size(), 0U);
+}
+
+TEST_F(OpenFileTest, StoresAllBytesOfAFileWithoutHoles)
+{
+    EXPECT_EQ(opened("abcdef").storedSize(), 6U);
+    EXPECT_EQ(opened("").storedSize(), 0U);
+    EXPECT_EQ(OpenFile().storedSize(), 0U);
 }
 
 TEST_F(OpenFileTest, InsertsBytesAtAnyOffset)

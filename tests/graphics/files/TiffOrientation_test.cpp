@@ -5,6 +5,7 @@
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <gtest/gtest.h>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <fcntl.h>
@@ -50,6 +51,26 @@ TEST_F(TiffOrientationTest, CopyDiffersOnlyInTheOrientation)
         EXPECT_EQ(all(copy), normal);
         EXPECT_EQ(all(file), fileWith(entry));
     }
+}
+
+// It would take 16 gigabytes otherwise.
+TEST_F(TiffOrientationTest, CopyOfASparseFileIsSparse)
+{
+    const QByteArray contents = fileWith({orientationTag, 3, 1, QByteArray("\0\6\0\0", 4)});
+    const OpenFile file = opened(contents);
+    ASSERT_TRUE(QFile(directory.filePath(QStringLiteral("a.tif"))).resize(qint64{1} << 34));
+    EXPECT_LT(sizeOfNormalisedCopy(file), 100'000U);
+    const OpenFile copy = copyWithNormalOrientation(file);
+    EXPECT_EQ(copy.size(), std::uint64_t{1} << 34);
+    EXPECT_LT(copy.storedSize(), 100'000U);
+    EXPECT_EQ(copy.bytesAt(0, contents.size()), fileWith({orientationTag, 3, 1, QByteArray("\0\1\0\0", 4)}));
+}
+
+TEST_F(TiffOrientationTest, CopyTakesTheSizeOfTheFile)
+{
+    const QByteArray contents = fileWith({orientationTag, 3, 1, QByteArray("\0\6\0\0", 4)});
+    EXPECT_EQ(sizeOfNormalisedCopy(opened(contents)), static_cast<std::uint64_t>(contents.size()));
+    EXPECT_EQ(sizeOfNormalisedCopy(opened(fileWith({orientationTag, 3, 1, QByteArray("\0\1\0\0", 4)}))), 0U);
 }
 
 TEST_F(TiffOrientationTest, NeedsNoCopyWithNormalOrientationOrNone)
