@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/Metadata.h"
 
+#include "graphics/files/EmbeddedPictures.h"
 #include "graphics/files/MetadataBlocks.h"
 #include "graphics/files/PngChunks.h"
 #include "graphics/files/TiffDirectory.h"
@@ -38,6 +39,7 @@ void initializeExiv2()
 {
     static const bool initialized = [] {
         Exiv2::LogMsg::setHandler(discardMessage);
+        registerPictureNamespaces();
         return Exiv2::XmpParser::initialize();
     }();
     if (!initialized) {
@@ -82,33 +84,19 @@ bool isOneOf(const std::string &text, std::initializer_list<const char *> others
     return std::any_of(others.begin(), others.end(), [&](const char *other) { return text == other; });
 }
 
-bool contains(const std::string &text, const char *part)
-{
-    return text.find(part) != std::string::npos;
-}
-
-/// Whether it describes another image than the main one, such as a thumbnail; groups not named here are maker's notes.
-bool describesOtherImages(const Exiv2::Exifdatum &datum)
-{
-    const std::string group = datum.groupName();
-    return group == "Thumbnail" || group == "MpfInfo" || (group.starts_with("Image") && group != "Image") ||
-           group.starts_with("SubImage") || contains(group, "Preview") || contains(datum.tagName(), "Thumbnail") ||
-           contains(datum.tagName(), "PreviewImage");
-}
-
 bool describesFile(const Exiv2::Exifdatum &datum)
 {
     return datum.groupName() == "Image" &&
            (describesPixels(datum.tag()) || isOneOf(datum.tagName(), {"XMLPacket", "IPTCNAA", "InterColorProfile"}));
 }
 
+/// Extension segments of JPEG files are not kept, so nothing may refer to them.
 bool describesFile(const Exiv2::Xmpdatum &datum)
 {
-    const std::string key = datum.key();
-    return key.starts_with("Xmp.xmp.Thumbnails") ||
-           isOneOf(key, {"Xmp.tiff.BitsPerSample", "Xmp.tiff.Compression", "Xmp.tiff.PhotometricInterpretation",
-                         "Xmp.tiff.SamplesPerPixel", "Xmp.tiff.PlanarConfiguration", "Xmp.tiff.YCbCrSubSampling",
-                         "Xmp.tiff.YCbCrPositioning", "Xmp.photoshop.ColorMode"});
+    return isOneOf(datum.key(),
+                   {"Xmp.tiff.BitsPerSample", "Xmp.tiff.Compression", "Xmp.tiff.PhotometricInterpretation",
+                    "Xmp.tiff.SamplesPerPixel", "Xmp.tiff.PlanarConfiguration", "Xmp.tiff.YCbCrSubSampling",
+                    "Xmp.tiff.YCbCrPositioning", "Xmp.photoshop.ColorMode", "Xmp.xmpNote.HasExtendedXMP"});
 }
 
 /// Removes the orientation and returns it.
@@ -246,8 +234,11 @@ Metadata::Metadata(const OpenFile &file, ImageFormat format)
         m_complete = blocks.complete && isDecoded && profile.isEmpty() == blocks.profile.isEmpty();
         contents->profile = isRgbProfile(profile) ? profile : QByteArray();
         m_orientation = extractOrientation(contents->exif);
-        eraseIf(contents->exif, [](const auto &datum) { return describesFile(datum) || describesOtherImages(datum); });
+        eraseIf(contents->exif, [](const auto &datum) { return describesFile(datum); });
         eraseIf(contents->xmp, [](const auto &datum) { return describesFile(datum); });
+        removePictures(contents->exif);
+        removePictures(contents->iptc);
+        removePictures(contents->xmp);
         if (!contents->isEmpty()) {
             m_contents = std::move(contents);
         }
