@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/TiffMetadata.h"
 
+#include "graphics/files/MakerNote.h"
 #include "graphics/files/TiffDirectory.h"
 
 #include <algorithm>
@@ -80,7 +81,7 @@ private:
     }
     std::uint32_t end() const { return static_cast<std::uint32_t>(m_copy.size()); }
 
-    /// The first maker's note; an entry of no values without one.
+    /// The first maker's note; an entry of no values without one, or if Exiv2 must not decode it.
     TiffEntry makerNoteIn(std::uint32_t start) const
     {
         for (const TiffEntry &outer : directoryAt(start)) {
@@ -89,7 +90,10 @@ private:
             }
             for (const TiffEntry &entry : directoryAt(offsetIn(outer.content))) {
                 if (is(entry, TiffTag::MakerNote) && !entry.isInline() && offsetIn(entry.content) >= tiffHeaderSize) {
-                    return entry;
+                    const bool isExcessive =
+                        entry.size() <= maxExifSize &&
+                        repeatsTags(m_source(offsetIn(entry.content), static_cast<qsizetype>(entry.size())));
+                    return isExcessive ? TiffEntry() : entry;
                 }
             }
         }
