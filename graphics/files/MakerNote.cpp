@@ -3,6 +3,8 @@
 
 #include "graphics/files/TiffDirectory.h"
 
+#include <QByteArrayView>
+
 #include <algorithm>
 #include <cstdint>
 #include <map>
@@ -26,20 +28,20 @@ bool repeatsTagsAt(const QByteArray &note, qsizetype offset, TiffByteOrder order
 
 } // namespace
 
-// The directory follows a header of the manufacturer, or Nikon's header of ten bytes and that of a TIFF file.
+// The offsets at which Exiv2 expects a directory that may refer to inner ones.
 bool repeatsTags(const QByteArray &note)
 {
-    constexpr qsizetype maxHeader = 64;
-    constexpr qsizetype nikonHeader = 10;
+    constexpr QByteArrayView nikonStart{"Nikon\0", 6};
+    constexpr qsizetype nikonHeader = 10; // followed by that of a TIFF file
     for (const TiffByteOrder order : {TiffByteOrder(false), TiffByteOrder(true)}) {
-        for (qsizetype offset = 0; offset < std::min(maxHeader, note.size()); ++offset) {
-            if (repeatsTagsAt(note, offset, order)) {
+        for (const qsizetype header : {0, 8, 12}) {
+            if (repeatsTagsAt(note, header, order)) {
                 return true;
             }
         }
-        const QByteArray start = note.mid(nikonHeader + 4, 4);
-        if (start.size() == 4 &&
-            repeatsTagsAt(note, nikonHeader + order.get<std::uint32_t>(start.constData()), order)) {
+        const QByteArray offset = note.mid(nikonHeader + 4, 4);
+        if (note.startsWith(nikonStart) && offset.size() == 4 &&
+            repeatsTagsAt(note, nikonHeader + order.get<std::uint32_t>(offset.constData()), order)) {
             return true;
         }
     }
