@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include <array>
+#include <cstddef>
 
 namespace grisal::graphics
 {
@@ -79,9 +80,12 @@ std::string magickName(ImageFormat format, const std::string &file)
     return prefixOf(format) + file;
 }
 
+// Additional slashes are ignored.
 std::string pathOfOpenFile(int descriptor)
 {
-    return "/proc/self/fd/" + std::to_string(descriptor);
+    constexpr std::size_t width = 11;
+    const std::string number = std::to_string(descriptor);
+    return "/proc/self/fd" + std::string(width - number.size(), '/') + number;
 }
 
 } // namespace grisal::graphics

@@ -7,6 +7,7 @@
 #include "graphics/files/Orientation.h"
 #include "graphics/files/QuantumCopy.h"
 #include "graphics/files/ReplacementFile.h"
+#include "graphics/files/TiffDocumentName.h"
 
 #include <QFile>
 
@@ -243,10 +244,9 @@ void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quali
     }
     m_image.matte(false);
     m_image.quality(static_cast<unsigned>(quality));
-    const std::string name = magickName(*format, pathOfOpenFile(target.file().descriptor()));
-    m_warning = writePixels(name);
+    m_warning = writePixels(target.file(), *format);
     if (!m_metadata.isEmpty()) {
-        writeMetadata(target.file(), *format, name);
+        writeMetadata(target.file(), *format);
     }
     m_image.fileName(QFile::encodeName(path).toStdString());
     if (!hasCompleteEnd(target.file(), *format)) {
@@ -258,7 +258,7 @@ void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quali
     }
 }
 
-Message LumioImage::writePixels(const std::string &name)
+Message LumioImage::writePixels(const OpenFile &file, ImageFormat format)
 {
     // Left from writing a PNG before; GraphicsMagick would append to it and report that on standard error.
     MagickLib::SetImageAttribute(m_image.image(), "[png:bit-depth-written]", nullptr);
@@ -269,15 +269,19 @@ Message LumioImage::writePixels(const std::string &name)
     // Optimised coding would save 3 to 10 percent of the size, more for smooth images, but takes longer than writing
     // itself and almost as much memory as the pixels.
     m_image.defineValue("jpeg", "optimize-coding", "false");
-    return warningOf([&] { m_image.write(name); });
+    Message warning = warningOf([&] { m_image.write(magickName(format, pathOfOpenFile(file.descriptor()))); });
+    if (format == ImageFormat::Tiff) {
+        removeDocumentName(file);
+    }
+    return warning;
 }
 
 // Invalid metadata from other programs may prevent GraphicsMagick from reading the file again: then it is left out.
-void LumioImage::writeMetadata(const OpenFile &file, ImageFormat format, const std::string &name)
+void LumioImage::writeMetadata(const OpenFile &file, ImageFormat format)
 {
     bool complete = m_metadata.writeInto(file, format, width(), height());
     if (!opensAsImage(file)) {
-        writePixels(name);
+        writePixels(file, format);
         complete = false;
     }
     if (!complete && m_warning.isEmpty()) {

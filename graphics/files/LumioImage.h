@@ -97,8 +97,8 @@ private:
     void readFrom(const ImageFile &file);
     bool prepareForWriting();
     void writeTo(ReplacementFile &target, const QString &path, int quality);
-    Message writePixels(const std::string &name);
-    void writeMetadata(const OpenFile &file, ImageFormat format, const std::string &name);
+    Message writePixels(const OpenFile &file, ImageFormat format);
+    void writeMetadata(const OpenFile &file, ImageFormat format);
     void replaceNameInMessages(int descriptor, const QString &path);
 
     Magick::Image m_image;

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/Metadata.h"
 
+#include "graphics/files/EmbeddedPictures.h"
 #include "graphics/files/MetadataBlocks.h"
 #include "graphics/files/PngChunks.h"
 #include "graphics/files/TiffDirectory.h"
 
 #include <QByteArray>
+#include <QtEndian>
 
 #include <exiv2/exiv2.hpp>
 
@@ -37,6 +39,7 @@ void initializeExiv2()
 {
     static const bool initialized = [] {
         Exiv2::LogMsg::setHandler(discardMessage);
+        registerPictureNamespaces();
         return Exiv2::XmpParser::initialize();
     }();
     if (!initialized) {
@@ -68,12 +71,6 @@ Exiv2::Image::AutoPtr imageIn(const QByteArray &file, ImageFormat format)
     return imageOn(Exiv2::BasicIo::AutoPtr(new Exiv2::MemIo(exivBytes(file), static_cast<long>(file.size()))), format);
 }
 
-/// The file itself; Exiv2 reads no more of a JPEG file than its metadata, and not all at once.
-Exiv2::Image::AutoPtr imageIn(const OpenFile &file, ImageFormat format)
-{
-    return imageOn(Exiv2::BasicIo::AutoPtr(new Exiv2::FileIo(pathOfOpenFile(file.descriptor()))), format);
-}
-
 template <typename Data, typename Predicate>
 void eraseIf(Data &data, Predicate predicate)
 {
@@ -87,33 +84,19 @@ bool isOneOf(const std::string &text, std::initializer_list<const char *> others
     return std::any_of(others.begin(), others.end(), [&](const char *other) { return text == other; });
 }
 
-bool contains(const std::string &text, const char *part)
-{
-    return text.find(part) != std::string::npos;
-}
-
-/// Whether it describes another image than the main one, such as a thumbnail; groups not named here are maker's notes.
-bool describesOtherImages(const Exiv2::Exifdatum &datum)
-{
-    const std::string group = datum.groupName();
-    return group == "Thumbnail" || group == "MpfInfo" || (group.starts_with("Image") && group != "Image") ||
-           group.starts_with("SubImage") || contains(group, "Preview") || contains(datum.tagName(), "Thumbnail") ||
-           contains(datum.tagName(), "PreviewImage");
-}
-
 bool describesFile(const Exiv2::Exifdatum &datum)
 {
     return datum.groupName() == "Image" &&
            (describesPixels(datum.tag()) || isOneOf(datum.tagName(), {"XMLPacket", "IPTCNAA", "InterColorProfile"}));
 }
 
+/// Extension segments of JPEG files are not kept, so nothing may refer to them.
 bool describesFile(const Exiv2::Xmpdatum &datum)
 {
-    const std::string key = datum.key();
-    return key.starts_with("Xmp.xmp.Thumbnails") ||
-           isOneOf(key, {"Xmp.tiff.BitsPerSample", "Xmp.tiff.Compression", "Xmp.tiff.PhotometricInterpretation",
-                         "Xmp.tiff.SamplesPerPixel", "Xmp.tiff.PlanarConfiguration", "Xmp.tiff.YCbCrSubSampling",
-                         "Xmp.tiff.YCbCrPositioning", "Xmp.photoshop.ColorMode"});
+    return isOneOf(datum.key(),
+                   {"Xmp.tiff.BitsPerSample", "Xmp.tiff.Compression", "Xmp.tiff.PhotometricInterpretation",
+                    "Xmp.tiff.SamplesPerPixel", "Xmp.tiff.PlanarConfiguration", "Xmp.tiff.YCbCrSubSampling",
+                    "Xmp.tiff.YCbCrPositioning", "Xmp.photoshop.ColorMode", "Xmp.xmpNote.HasExtendedXMP"});
 }
 
 /// Removes the orientation and returns it.
@@ -136,11 +119,11 @@ bool isRgbProfile(const QByteArray &profile)
            profile.mid(12, 4) != "link";
 }
 
-QByteArray profileOf(Exiv2::Image &image)
+/// A profile without padding; empty if it is cut short.
+QByteArray completeProfile(const QByteArray &bytes)
 {
-    const Exiv2::DataBuf *profile = image.iccProfile();
-    QByteArray bytes(reinterpret_cast<const char *>(profile->pData_), profile->size_);
-    return isRgbProfile(bytes) ? bytes : QByteArray();
+    const qsizetype size = bytes.size() < 4 ? 0 : qsizetype{qFromBigEndian<std::uint32_t>(bytes.constData())};
+    return size <= bytes.size() ? bytes.first(size) : QByteArray();
 }
 
 template <typename Data, typename Value>
@@ -213,34 +196,49 @@ QByteArray profileChunk(const QByteArray &profile)
     return pngChunk("iCCP", QByteArray("ICC profile\0\0", 13) + qCompress(profile).mid(lengthSize));
 }
 
+/// Passes a block to a decoder of Exiv2. Returns whether the block is absent or could be decoded.
+template <typename Decoder>
+bool decode(const QByteArray &block, Decoder decoder)
+{
+    try {
+        return block.isEmpty() || decoder(exivBytes(block), static_cast<std::uint32_t>(block.size()));
+    } catch (const std::exception &) {
+        return false;
+    }
+}
+
+bool decode(const MetadataBlocks &blocks, Exiv2::ExifData &exif, Exiv2::IptcData &iptc, Exiv2::XmpData &xmp)
+{
+    const bool hasExif = decode(blocks.exif, [&](const Exiv2::byte *bytes, std::uint32_t size) {
+        return Exiv2::ExifParser::decode(exif, bytes, size) != Exiv2::invalidByteOrder;
+    });
+    const bool hasIptc = decode(blocks.iptc, [&](const Exiv2::byte *bytes, std::uint32_t size) {
+        return Exiv2::IptcParser::decode(iptc, bytes, size) == 0;
+    });
+    const bool hasXmp = decode(blocks.xmp, [&](const Exiv2::byte * /*bytes*/, std::uint32_t /*size*/) {
+        return Exiv2::XmpParser::decode(xmp, blocks.xmp.toStdString()) == 0 && !xmp.empty();
+    });
+    return hasExif && hasIptc && hasXmp;
+}
+
 } // namespace
 
 Metadata::Metadata(const OpenFile &file, ImageFormat format)
 {
     try {
         initializeExiv2();
-        MetadataBlocks blocks;
-        Exiv2::Image::AutoPtr image;
-        if (format == ImageFormat::Jpeg) {
-            image = imageIn(file, format);
-        } else {
-            blocks = extractMetadata(file, format);
-            m_complete = blocks.complete;
-            if (blocks.file.isEmpty()) {
-                return;
-            }
-            image = imageIn(blocks.file, format);
-        }
-        image->readMetadata();
-        m_complete = m_complete && (image->xmpPacket().empty() || !image->xmpData().empty());
+        const MetadataBlocks blocks = extractMetadata(file, format);
         auto contents = std::make_shared<Contents>();
-        contents->exif = image->exifData();
-        contents->iptc = image->iptcData();
-        contents->xmp = image->xmpData();
-        contents->profile = profileOf(*image);
+        const bool isDecoded = decode(blocks, contents->exif, contents->iptc, contents->xmp);
+        const QByteArray profile = completeProfile(blocks.profile);
+        m_complete = blocks.complete && isDecoded && profile.isEmpty() == blocks.profile.isEmpty();
+        contents->profile = isRgbProfile(profile) ? profile : QByteArray();
         m_orientation = extractOrientation(contents->exif);
-        eraseIf(contents->exif, [](const auto &datum) { return describesFile(datum) || describesOtherImages(datum); });
+        eraseIf(contents->exif, [](const auto &datum) { return describesFile(datum); });
         eraseIf(contents->xmp, [](const auto &datum) { return describesFile(datum); });
+        removePictures(contents->exif);
+        removePictures(contents->iptc);
+        removePictures(contents->xmp);
         if (!contents->isEmpty()) {
             m_contents = std::move(contents);
         }

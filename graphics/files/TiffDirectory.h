@@ -16,7 +16,11 @@ namespace grisal::graphics
 /// Tags of TIFF directories that are handled here.
 enum class TiffTag : std::uint16_t {
     Orientation = 274,
+    DocumentName = 269,
     StripOffsets = 273,
+    Xmp = 700,
+    Iptc = 33723,
+    Profile = 34675,
     ExifDirectory = 34665,
     GpsDirectory = 34853,
     MakerNote = 37500,

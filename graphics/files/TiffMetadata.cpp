@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/TiffMetadata.h"
 
+#include "graphics/files/MakerNote.h"
 #include "graphics/files/TiffDirectory.h"
 
 #include <algorithm>
+#include <functional>
 #include <limits>
 #include <map>
 
@@ -15,6 +17,8 @@ namespace
 
 /// The limit of all values and directories that are copied: a directory may contain itself.
 constexpr std::uint64_t maxMetadata = 8 << 20;
+/// The limit of the entries of all directories: Exiv2 decodes and encodes 16,000 in a tenth of a second.
+constexpr std::size_t maxEntries = 4'000;
 /// Limits for maker's notes, since these may refer to any offset in the copy any number of times: the end of the note,
 /// and the size of a copy with a note.
 constexpr std::uint64_t maxMakerNoteEnd = 1 << 17;
@@ -31,23 +35,40 @@ bool isDirectory(const TiffEntry &entry)
            is(entry, TiffTag::InteroperabilityDirectory);
 }
 
-/// Copies the directories of a TIFF file with their values, except those that describe the pixels.
+/// Copies the directories of a TIFF structure with their values, except those that describe the pixels, and the other
+/// blocks of its first directory. Those of a block in memory are appended to the block, where the values stay.
 class TiffCopy
 {
 public:
-    TiffCopy(const OpenFile &file, TiffByteOrder order, bool withMakerNote)
-        : m_file(file), m_order(order), m_copy(file.bytesAt(0, 4) + QByteArray(4, '\0'))
+    using Source = std::function<QByteArray(std::uint64_t offset, qsizetype count)>;
+
+    TiffCopy(Source source, TiffByteOrder order, bool withMakerNote)
+        : m_source(std::move(source)), m_order(order), m_copy(m_source(0, 4) + QByteArray(4, '\0'))
     {
-        const auto start = offsetIn(file.bytesAt(4, 4));
+        const auto start = offsetIn(m_source(4, 4));
         if (withMakerNote) {
-            copyMakerNote(start);
+            copyMakerNote(makerNoteIn(start));
         }
-        const std::uint32_t copied = copyDirectory(start, 0);
-        m_order.put(copied, m_copy.data() + 4);
+        appendDirectories(start);
     }
 
-    MetadataBlocks result() const { return {m_copy, m_complete}; }
-    bool hasMakerNote() const { return m_hasMakerNote; }
+    TiffCopy(const QByteArray &block, TiffByteOrder order)
+        : m_source([&block](std::uint64_t offset, qsizetype count) {
+              return block.mid(static_cast<qsizetype>(offset), count);
+          }),
+          m_order(order), m_copy(block), m_isBlock(true)
+    {
+        const auto start = offsetIn(block.mid(4, 4));
+        m_makerNote = offsetIn(makerNoteIn(start).content);
+        appendDirectories(start);
+    }
+
+    MetadataBlocks result() const
+    {
+        MetadataBlocks blocks = m_blocks;
+        blocks.exif = m_copy;
+        return blocks;
+    }
 
 private:
     std::uint32_t offsetIn(const QByteArray &content) const
@@ -56,28 +77,44 @@ private:
     }
     std::vector<TiffEntry> directoryAt(std::uint32_t from) const
     {
-        return decodeDirectory(m_file.bytesAt(from, maxTiffDirectorySize), m_order);
+        return decodeDirectory(m_source(from, maxTiffDirectorySize), m_order);
     }
     std::uint32_t end() const { return static_cast<std::uint32_t>(m_copy.size()); }
 
-    // A maker's note contains offsets from the start of the file: it has to stay at its own.
-    void copyMakerNote(std::uint32_t start)
+    /// The first maker's note; an entry of no values without one, or if Exiv2 must not decode it.
+    TiffEntry makerNoteIn(std::uint32_t start) const
     {
         for (const TiffEntry &outer : directoryAt(start)) {
             if (!is(outer, TiffTag::ExifDirectory)) {
                 continue;
             }
             for (const TiffEntry &entry : directoryAt(offsetIn(outer.content))) {
-                const std::uint32_t from = offsetIn(entry.content);
-                if (is(entry, TiffTag::MakerNote) && !entry.isInline() && from >= tiffHeaderSize &&
-                    from + entry.size() <= maxMakerNoteEnd) {
-                    m_copy += QByteArray(qsizetype{from} - m_copy.size(), '\0');
-                    m_copy += m_file.bytesAt(from, static_cast<qsizetype>(entry.size()));
-                    m_hasMakerNote = true;
-                    return;
+                if (is(entry, TiffTag::MakerNote) && !entry.isInline() && offsetIn(entry.content) >= tiffHeaderSize) {
+                    const bool isExcessive =
+                        entry.size() <= maxExifSize &&
+                        repeatsTags(m_source(offsetIn(entry.content), static_cast<qsizetype>(entry.size())));
+                    return isExcessive ? TiffEntry() : entry;
                 }
             }
         }
+        return {};
+    }
+
+    // A maker's note contains offsets from the start of the file: it has to stay at its own.
+    void copyMakerNote(const TiffEntry &note)
+    {
+        const std::uint32_t from = offsetIn(note.content);
+        if (from != 0 && from + note.size() <= maxMakerNoteEnd) {
+            m_copy += QByteArray(qsizetype{from} - m_copy.size(), '\0');
+            m_copy += m_source(from, static_cast<qsizetype>(note.size()));
+            m_makerNote = from;
+        }
+    }
+
+    void appendDirectories(std::uint32_t start)
+    {
+        const std::uint32_t copied = copyDirectory(start, 0);
+        m_order.put(copied, m_copy.data() + 4);
     }
 
     /// Returns the offset of the copy.
@@ -85,9 +122,8 @@ private:
     {
         constexpr int maxDepth = 2; // interoperability directory in the Exif directory in the first one
         std::vector<TiffEntry> entries;
-        const bool fits = reserve(maxTiffDirectorySize);
-        for (TiffEntry &entry : fits ? directoryAt(from) : std::vector<TiffEntry>()) {
-            if (depth == 0 && describesPixels(entry.tag)) {
+        for (TiffEntry &entry : countedDirectoryAt(from)) {
+            if (depth == 0 && (describesPixels(entry.tag) || extractBlock(entry))) {
                 continue;
             }
             if (isDirectory(entry) ? depth < maxDepth && copyInner(entry, depth) : copyValues(entry)) {
@@ -98,6 +134,45 @@ private:
         const std::uint32_t copied = end();
         m_copy += encodeDirectory(entries, m_order);
         return copied;
+    }
+
+    /// Empty if it exceeds a limit.
+    std::vector<TiffEntry> countedDirectoryAt(std::uint32_t from)
+    {
+        if (!reserve(maxTiffDirectorySize)) {
+            return {};
+        }
+        std::vector<TiffEntry> entries = directoryAt(from);
+        m_entries += entries.size();
+        if (m_entries > maxEntries) {
+            m_blocks.complete = false;
+            return {};
+        }
+        return entries;
+    }
+
+    /// Returns whether the entry is another block of metadata.
+    bool extractBlock(const TiffEntry &entry)
+    {
+        if (is(entry, TiffTag::Xmp)) {
+            extractValues(entry, maxXmpSize, m_blocks.xmp);
+        } else if (is(entry, TiffTag::Iptc)) {
+            extractValues(entry, maxIptcSize, m_blocks.iptc);
+        } else if (is(entry, TiffTag::Profile)) {
+            extractValues(entry, maxProfileSize, m_blocks.profile);
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    void extractValues(const TiffEntry &entry, qsizetype most, QByteArray &block)
+    {
+        if (entry.size() > static_cast<std::uint64_t>(most)) {
+            m_blocks.complete = false;
+        } else if (block.isEmpty() && !entry.isInline()) {
+            block = m_source(offsetIn(entry.content), static_cast<qsizetype>(entry.size()));
+        }
     }
 
     bool copyInner(TiffEntry &entry, int depth)
@@ -112,17 +187,27 @@ private:
             return true;
         }
         if (is(entry, TiffTag::MakerNote)) {
-            m_complete = m_complete && m_hasMakerNote;
-            return m_hasMakerNote;
+            return keepMakerNote(offsetIn(entry.content));
         }
         if (!reserve(entry.size())) {
             return false;
         }
-        const QByteArray values = m_file.bytesAt(offsetIn(entry.content), static_cast<qsizetype>(entry.size()));
-        align();
-        entry.content = m_order.bytesOf(end());
-        m_copy += values;
+        const QByteArray values = m_source(offsetIn(entry.content), static_cast<qsizetype>(entry.size()));
+        if (!m_isBlock) {
+            align();
+            entry.content = m_order.bytesOf(end());
+            m_copy += values;
+        }
         return values.size() == static_cast<qsizetype>(entry.size());
+    }
+
+    /// Only one entry may refer to the note, since Exiv2 decodes it for each of them.
+    bool keepMakerNote(std::uint32_t offset)
+    {
+        const bool isKept = m_makerNote != 0 && m_makerNote == offset;
+        m_makerNote = isKept ? 0 : m_makerNote;
+        m_blocks.complete = m_blocks.complete && isKept;
+        return isKept;
     }
 
     /// Counts that many bytes if they are within the limit; otherwise the copy is incomplete.
@@ -130,18 +215,20 @@ private:
     {
         const bool fits = m_taken + size <= maxMetadata;
         m_taken += fits ? size : 0;
-        m_complete = m_complete && fits;
+        m_blocks.complete = m_blocks.complete && fits;
         return fits;
     }
 
     void align() { m_copy += QByteArray(m_copy.size() % 2, '\0'); }
 
-    const OpenFile &m_file;
+    Source m_source;
     TiffByteOrder m_order;
     QByteArray m_copy;
+    MetadataBlocks m_blocks; ///< those besides the copy
     std::uint64_t m_taken = 0;
-    bool m_hasMakerNote = false;
-    bool m_complete = true;
+    std::size_t m_entries = 0;
+    std::uint32_t m_makerNote = 0; ///< the offset; 0 without a note, and once it has an entry
+    bool m_isBlock = false;
 };
 
 /// The offsets of the strips, increased by a distance.
@@ -228,11 +315,27 @@ MetadataBlocks extractTiffMetadata(const OpenFile &file)
 {
     const std::optional<TiffByteOrder> order = tiffByteOrderOf(file.bytesAt(0, signatureLength));
     if (!order) {
-        return {{}, false};
+        return {{}, {}, {}, {}, false};
     }
-    const TiffCopy copy(file, *order, true);
-    const bool tooLarge = copy.hasMakerNote() && copy.result().file.size() > maxWithMakerNote;
-    return tooLarge ? TiffCopy(file, *order, false).result() : copy.result();
+    const auto source = [&file](std::uint64_t offset, qsizetype count) { return file.bytesAt(offset, count); };
+    MetadataBlocks blocks = TiffCopy(source, *order, true).result();
+    if (blocks.exif.size() > maxWithMakerNote) {
+        blocks = TiffCopy(source, *order, false).result();
+    }
+    blocks.xmp = blocks.xmp.mid(std::max<qsizetype>(blocks.xmp.indexOf('<'), 0));
+    return blocks;
+}
+
+MetadataBlocks extractExif(const QByteArray &block)
+{
+    MetadataBlocks blocks{{}, {}, {}, {}, false};
+    const std::optional<TiffByteOrder> order = tiffByteOrderOf(block);
+    if (order && block.size() >= tiffHeaderSize && block.size() <= qsizetype{maxExifSize}) {
+        const MetadataBlocks all = TiffCopy(block, *order).result();
+        blocks.exif = all.exif;
+        blocks.complete = all.complete;
+    }
+    return blocks;
 }
 
 // The small file is put in front of the image file, so that its offsets stay valid; the two directories are merged, and

@@ -10,4 +10,7 @@ namespace grisal::graphics
 MetadataBlocks extractTiffMetadata(const OpenFile &file);
 bool insertTiffMetadata(const OpenFile &file, const QByteArray &metadata);
 
+/// The same for a block of Exif, which is a TIFF structure in another file: only MetadataBlocks::exif is filled.
+MetadataBlocks extractExif(const QByteArray &block);
+
 } // namespace grisal::graphics

@@ -103,6 +103,14 @@ Metadata fullMetadata()
     return all;
 }
 
+void addSegment(const QString &path, char marker, const QByteArray &contents)
+{
+    QByteArray segment = QByteArray("\xff") + marker + QByteArray(2, '\0') + contents;
+    qToBigEndian(static_cast<quint16>(contents.size() + 2), segment.data() + 2);
+    QByteArray file = contentsOf(path);
+    writeFile(path, file.insert(2, segment));
+}
+
 void addChunk(const QString &path, const char *kind, const QByteArray &contents)
 {
     constexpr int behindFirst = 33;

@@ -33,6 +33,9 @@ Metadata fullMetadata();
 /// A colour profile without tags for a colour space, named by four letters.
 QByteArray profileFor(const char *colours, int size = 600);
 
+/// Inserts a segment behind the first two bytes of a JPEG file.
+void addSegment(const QString &path, char marker, const QByteArray &contents);
+
 /// Adds a chunk behind the first one of a PNG file.
 void addChunk(const QString &path, const char *kind, const QByteArray &contents);
 

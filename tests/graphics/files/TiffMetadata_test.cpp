@@ -61,11 +61,11 @@ TEST_F(TiffMetadataTest, ExtractsValuesInlineAndElsewhereWithoutThePixels)
     const MetadataBlocks blocks = extractTiffMetadata(
         opened(tiffOf("pixelsAnsel A.", {{256, 3, 1, "wide"}, {271, 2, 4, "Acme"}, {315, 2, 8, number(14)}})));
     EXPECT_TRUE(blocks.complete);
-    EXPECT_FALSE(blocks.file.contains("pixels"));
-    auto entries = entriesAt(blocks.file, numberAt(blocks.file, 4));
+    EXPECT_FALSE(blocks.exif.contains("pixels"));
+    auto entries = entriesAt(blocks.exif, numberAt(blocks.exif, 4));
     ASSERT_EQ(entries.size(), 2U);
     EXPECT_EQ(entries[271].content, "Acme");
-    EXPECT_EQ(blocks.file.mid(numberAt(entries[315].content, 0), 8), "Ansel A.");
+    EXPECT_EQ(blocks.exif.mid(numberAt(entries[315].content, 0), 8), "Ansel A.");
 }
 
 TEST_F(TiffMetadataTest, LeavesTheMakersNoteAtItsOffset)
@@ -74,9 +74,9 @@ TEST_F(TiffMetadataTest, LeavesTheMakersNoteAtItsOffset)
     const QByteArray file = tiffOf("........MakersNote" + exif, {{34665, 4, 1, number(26)}});
     const MetadataBlocks blocks = extractTiffMetadata(opened(file));
     EXPECT_TRUE(blocks.complete);
-    EXPECT_EQ(blocks.file.indexOf("MakersNote"), 16);
-    auto entries = entriesAt(blocks.file, numberAt(blocks.file, 4));
-    auto inner = entriesAt(blocks.file, numberAt(entries[34665].content, 0));
+    EXPECT_EQ(blocks.exif.indexOf("MakersNote"), 16);
+    auto entries = entriesAt(blocks.exif, numberAt(blocks.exif, 4));
+    auto inner = entriesAt(blocks.exif, numberAt(entries[34665].content, 0));
     EXPECT_EQ(numberAt(inner[37500].content, 0), 16U);
 }
 
@@ -91,7 +91,7 @@ TEST_F(TiffMetadataTest, LeavesOutAMakersNoteBeyondTheLimit)
         const MetadataBlocks blocks =
             extractTiffMetadata(opened(tiffOf(block, {{34665, 4, 1, number(tiffHeaderSize)}})));
         EXPECT_EQ(blocks.complete, excess == 0);
-        EXPECT_EQ(blocks.file.contains("MakersNote"), excess == 0);
+        EXPECT_EQ(blocks.exif.contains("MakersNote"), excess == 0);
     }
 }
 
@@ -99,7 +99,7 @@ TEST_F(TiffMetadataTest, LeavesOutValuesBeyondTheEndOfTheFile)
 {
     const MetadataBlocks blocks =
         extractTiffMetadata(opened(tiffOf("", {{271, 2, 4, "Acme"}, {315, 2, 100, number(1000)}})));
-    const auto entries = entriesAt(blocks.file, numberAt(blocks.file, 4));
+    const auto entries = entriesAt(blocks.exif, numberAt(blocks.exif, 4));
     EXPECT_EQ(entries.count(271), 1U);
     EXPECT_EQ(entries.count(315), 0U);
 }
@@ -107,7 +107,7 @@ TEST_F(TiffMetadataTest, LeavesOutValuesBeyondTheEndOfTheFile)
 TEST_F(TiffMetadataTest, IsEmptyForBigTiff)
 {
     const MetadataBlocks blocks = extractTiffMetadata(opened(QByteArray("II+\0\x08\0\0\0", 8)));
-    EXPECT_TRUE(blocks.file.isEmpty());
+    EXPECT_TRUE(blocks.exif.isEmpty());
     EXPECT_FALSE(blocks.complete);
 }
 

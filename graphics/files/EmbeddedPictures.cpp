@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/files/EmbeddedPictures.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <string>
+
+namespace grisal::graphics
+{
+
+namespace
+{
+
+constexpr QByteArrayView jpegStart{"\xff\xd8\xff"};
+constexpr QByteArrayView pngStart{"\x89PNG"};
+
+struct Namespace {
+    const char *uri;
+    const char *prefix;
+};
+
+// Photographs and depth maps of mobile phones.
+constexpr std::array<Namespace, 2> pictureNamespaces{{
+    {"http://ns.google.com/photos/1.0/image/", "GImage"},
+    {"http://ns.google.com/photos/1.0/depthmap/", "GDepth"},
+}};
+
+bool contains(const std::string &text, const char *part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+/// Whether it describes another image than the main one, such as a thumbnail; groups not named here are maker's notes.
+bool describesOtherImages(const Exiv2::Exifdatum &datum)
+{
+    const std::string group = datum.groupName();
+    return group == "Thumbnail" || group == "MpfInfo" || (group.starts_with("Image") && group != "Image") ||
+           group.starts_with("SubImage") || contains(group, "Preview") || contains(datum.tagName(), "Thumbnail") ||
+           contains(datum.tagName(), "PreviewImage");
+}
+
+/// The preview, and the record that contains the object described by IPTC.
+bool describesOtherImages(const Exiv2::Iptcdatum &datum)
+{
+    constexpr std::uint16_t objectRecord = 8;
+    return contains(datum.tagName(), "Preview") || datum.record() == objectRecord;
+}
+
+/// Thumbnails, pages, and all of the name spaces of images. `property` is a key without its parts.
+bool describesOtherImages(const std::string &key, const std::string &property)
+{
+    return property == "Xmp.xmp.Thumbnails" || property == "Xmp.xmp.PageInfo" || contains(key, "xmpGImg:") ||
+           std::any_of(pictureNamespaces.begin(), pictureNamespaces.end(), [&](const Namespace &space) {
+               return key.starts_with(std::string("Xmp.") + space.prefix + '.') ||
+                      contains(key, (std::string(space.prefix) + ':').c_str());
+           });
+}
+
+/// Whether a value as it is written into files contains the start of a JPEG image that is not cut off at once.
+template <typename Datum>
+bool containsJpeg(const Datum &datum)
+{
+    constexpr qsizetype smallestImage = 100;
+    if (datum.size() < smallestImage) {
+        return false;
+    }
+    QByteArray value(static_cast<qsizetype>(datum.size()), '\0');
+    datum.copy(reinterpret_cast<Exiv2::byte *>(value.data()), Exiv2::littleEndian);
+    const qsizetype start = value.indexOf(jpegStart);
+    return start >= 0 && value.size() - start >= smallestImage;
+}
+
+bool isEncodedImage(const std::string &text)
+{
+    constexpr std::size_t smallestText = 8'000;
+    if (text.size() <= smallestText) {
+        return false;
+    }
+    constexpr QByteArrayView dataUri{";base64,"};
+    const QByteArrayView view(text.data(), static_cast<qsizetype>(text.size()));
+    const qsizetype marker = view.first(100).indexOf(dataUri);
+    const QByteArray encoded = view.sliced(marker < 0 ? 0 : marker + dataUri.size()).toByteArray();
+    const QByteArray start = QByteArray::fromBase64(encoded.first(std::min<qsizetype>(encoded.size(), 1'000)));
+    return start.startsWith(jpegStart) || start.startsWith(pngStart);
+}
+
+bool containsEncodedImage(const Exiv2::Xmpdatum &datum)
+{
+    if (const auto *texts = dynamic_cast<const Exiv2::LangAltValue *>(&datum.value())) {
+        return std::any_of(texts->value_.begin(), texts->value_.end(),
+                           [](const auto &entry) { return isEncodedImage(entry.second); });
+    }
+    if (const auto *items = dynamic_cast<const Exiv2::XmpArrayValue *>(&datum.value())) {
+        for (long i = 0; i < items->count(); ++i) {
+            if (isEncodedImage(items->toString(i))) {
+                return true;
+            }
+        }
+        return false;
+    }
+    return isEncodedImage(datum.toString());
+}
+
+/// The key of the property that a key is part of: without the items of arrays and the fields of structures.
+std::string propertyOf(const std::string &key)
+{
+    return key.substr(0, key.find_first_of("[/"));
+}
+
+template <typename Data, typename Predicate>
+void eraseIf(Data &data, Predicate predicate)
+{
+    for (auto datum = data.begin(); datum != data.end();) {
+        datum = predicate(*datum) ? data.erase(datum) : std::next(datum);
+    }
+}
+
+} // namespace
+
+void registerPictureNamespaces()
+{
+    for (const Namespace &space : pictureNamespaces) {
+        Exiv2::XmpProperties::registerNs(space.uri, space.prefix);
+    }
+}
+
+void removePictures(Exiv2::ExifData &exif)
+{
+    eraseIf(exif, [](const auto &datum) { return describesOtherImages(datum) || containsJpeg(datum); });
+}
+
+void removePictures(Exiv2::IptcData &iptc)
+{
+    eraseIf(iptc, [](const auto &datum) { return describesOtherImages(datum) || containsJpeg(datum); });
+}
+
+// Without its images a property might be invalid, such as an array without its second item.
+void removePictures(Exiv2::XmpData &xmp)
+{
+    std::set<std::string> properties;
+    for (const Exiv2::Xmpdatum &datum : xmp) {
+        const std::string key = datum.key();
+        const std::string property = propertyOf(key);
+        if (describesOtherImages(key, property) || containsEncodedImage(datum)) {
+            properties.insert(property);
+        }
+    }
+    eraseIf(xmp, [&](const auto &datum) { return properties.contains(propertyOf(datum.key())); });
+}
+
+} // namespace grisal::graphics

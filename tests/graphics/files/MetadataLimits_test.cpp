@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: MIT
+// Metadata that would take Exiv2 seconds or minutes to read.
+#include "graphics/files/LumioImage.h"
+#include "graphics/files/TiffDirectory.h"
+#include "graphics/files/TiffMetadata.h"
+#include "tests/graphics/files/MetadataFiles.h"
+#include "tests/graphics/files/PictureFiles.h"
+
+#include <gtest/gtest.h>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QtEndian>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+using namespace grisal::test;
+using grisal::graphics::LumioImage;
+using grisal::graphics::MetadataBlocks;
+
+namespace
+{
+
+constexpr int quality = 90;
+/// Instead of minutes.
+constexpr qint64 generousMilliseconds = 10'000;
+
+struct MetadataLimitsTest : testing::Test {
+    QTemporaryDir directory;
+    LumioImage image;
+
+    QString path(const QString &name) const { return directory.filePath(name); }
+
+    /// A file with Exif, IPTC and a profile.
+    QString written(const QString &name) const
+    {
+        painted(24, 16, 8, [](int, int) { return Samples{0x1010, 0x2020, 0x3030}; }).write(path(name).toStdString());
+        Metadata most = fullMetadata();
+        most.xmp.clear();
+        setMetadata(path(name), most);
+        return path(name);
+    }
+
+    /// Reads a file and saves it in all formats. Returns what was saved last.
+    Metadata carried(const QString &file)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        EXPECT_TRUE(image.read(file)) << image.problem().toStdString();
+        EXPECT_EQ(image.width() * image.height(), 24 * 16);
+        m_isComplete = image.metadata().isComplete();
+        EXPECT_TRUE(m_isComplete || !image.warning().isEmpty());
+        for (const char *name : {"saved.jpg", "saved.png", "saved.tif"}) {
+            EXPECT_TRUE(image.save(path(QString::fromLatin1(name)), quality));
+        }
+        EXPECT_LT(timer.elapsed(), generousMilliseconds);
+        return metadataIn(path(QStringLiteral("saved.tif")));
+    }
+    bool isComplete() const { return m_isComplete; }
+
+private:
+    bool m_isComplete = true;
+};
+
+QByteArray xmpOf(int attributes)
+{
+    QByteArray packet = "<x:xmpmeta xmlns:x='adobe:ns:meta/'>"
+                        "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>"
+                        "<rdf:Description rdf:about='' xmlns:q='http://q/' xmlns:dc='http://purl.org/dc/elements/1.1/'"
+                        " dc:source='roll 7'";
+    for (int i = 0; i < attributes; ++i) {
+        packet += " q:a" + QByteArray::number(i) + "='1'";
+    }
+    return packet + "/></rdf:RDF></x:xmpmeta>";
+}
+
+/// Adds an entry with a packet of XMP to a little-endian TIFF file, whose directory moves to the end.
+void addTiffXmp(const QString &file, const QByteArray &packet)
+{
+    using namespace grisal::graphics;
+    const TiffByteOrder order(false);
+    QByteArray contents = contentsOf(file);
+    std::vector<TiffEntry> entries = decodeDirectory(contents.mid(order.get<quint32>(contents.constData() + 4)), order);
+    contents += QByteArray(contents.size() % 2, '\0');
+    entries.push_back({static_cast<std::uint16_t>(TiffTag::Xmp), 1, static_cast<std::uint32_t>(packet.size()),
+                       order.bytesOf(static_cast<std::uint32_t>(contents.size()))});
+    std::sort(entries.begin(), entries.end(), [](const auto &a, const auto &b) { return a.tag < b.tag; });
+    contents += packet + QByteArray(packet.size() % 2, '\0');
+    order.put(static_cast<std::uint32_t>(contents.size()), contents.data() + 4);
+    writeFile(file, contents + encodeDirectory(entries, order));
+}
+
+/// Adds a packet of XMP in the way of the format.
+void addXmp(const QString &file, const QByteArray &packet)
+{
+    if (file.endsWith("jpg")) {
+        addSegment(file, '\xe1', QByteArray("http://ns.adobe.com/xap/1.0/\0", 29) + packet);
+    } else if (file.endsWith("png")) {
+        addChunk(file, "iTXt", QByteArray("XML:com.adobe.xmp\0\0\0\0\0", 22) + packet);
+    } else {
+        addTiffXmp(file, packet);
+    }
+}
+
+class XmpOfFormats : public MetadataLimitsTest, public testing::WithParamInterface<const char *>
+{
+protected:
+    QString file() const { return QStringLiteral("a.") + QString::fromLatin1(GetParam()); }
+    int tooMany() const { return file().endsWith("jpg") ? 4'500 : 40'000; }
+};
+
+TEST_P(XmpOfFormats, IsKeptWithinTheLimits)
+{
+    const QString source = written(file());
+    addXmp(source, xmpOf(2'000));
+    const Metadata saved = carried(source);
+    EXPECT_TRUE(isComplete());
+    EXPECT_EQ(saved["Xmp.dc.source"], "roll 7");
+    EXPECT_EQ(saved.xmp.count(), 2'001);
+}
+
+TEST_P(XmpOfFormats, IsLeftOutWithAWarningBeyondTheLimits)
+{
+    const QString source = written(file());
+    addXmp(source, xmpOf(tooMany()));
+    const Metadata saved = carried(source);
+    EXPECT_FALSE(isComplete());
+    EXPECT_TRUE(saved.xmp.empty());
+    EXPECT_EQ(saved["Exif.Image.Make"], "Acme");
+    EXPECT_EQ(saved["Iptc.Application2.City"], "Chur");
+    EXPECT_EQ(saved.profile, profileFor("RGB "));
+}
+
+INSTANTIATE_TEST_SUITE_P(Formats, XmpOfFormats, testing::Values("jpg", "png", "tif"),
+                         [](const auto &test) { return std::string(test.param); });
+
+TEST_F(MetadataLimitsTest, CompressedXmpIsLimitedToo)
+{
+    const QString source = written(QStringLiteral("a.png"));
+    const QByteArray compressed = qCompress(xmpOf(40'000)).mid(4);
+    addChunk(source, "iTXt", QByteArray("XML:com.adobe.xmp\0\1\0\0\0", 22) + compressed);
+    EXPECT_TRUE(carried(source).xmp.empty());
+    EXPECT_FALSE(isComplete());
+}
+
+TEST_F(MetadataLimitsTest, TextsThatExpandBeyondTheLimitAreLeftOut)
+{
+    const QString source = written(QStringLiteral("a.png"));
+    const QByteArray compressed = qCompress(QByteArray(40 << 20, ' ')).mid(4);
+    addChunk(source, "iTXt", QByteArray("XML:com.adobe.xmp\0\1\0\0\0", 22) + compressed);
+    EXPECT_EQ(carried(source)["Exif.Image.Make"], "Acme");
+    EXPECT_FALSE(isComplete());
+}
+
+// Exiv2 decodes XMP in a block of Exif, too.
+TEST_F(MetadataLimitsTest, XmpInABlockOfExifIsRemoved)
+{
+    Exiv2::ExifData exif = fullMetadata().exif;
+    exif["Exif.Image.XMLPacket"] = std::string("<x:xmpmeta/>");
+    exif["Exif.Image.IPTCNAA"] = std::string("records");
+    const MetadataBlocks blocks = grisal::graphics::extractExif(exifBlock(exif));
+    EXPECT_TRUE(blocks.complete);
+    EXPECT_TRUE(blocks.xmp.isEmpty());
+    Exiv2::ExifData kept;
+    Exiv2::ExifParser::decode(kept, reinterpret_cast<const Exiv2::byte *>(blocks.exif.constData()),
+                              static_cast<std::uint32_t>(blocks.exif.size()));
+    EXPECT_NE(kept.findKey(Exiv2::ExifKey("Exif.Photo.ExposureTime")), kept.end());
+    EXPECT_EQ(kept.findKey(Exiv2::ExifKey("Exif.Image.XMLPacket")), kept.end());
+    EXPECT_EQ(kept.findKey(Exiv2::ExifKey("Exif.Image.IPTCNAA")), kept.end());
+}
+
+QByteArray shorts(std::initializer_list<int> numbers)
+{
+    QByteArray bytes(static_cast<qsizetype>(numbers.size()) * 2, '\0');
+    qsizetype at = 0;
+    for (const int number : numbers) {
+        qToLittleEndian(static_cast<quint16>(number), bytes.data() + at);
+        at += 2;
+    }
+    return bytes;
+}
+
+/// A block of Exif whose first directory refers to `count` Exif directories of 250 entries.
+QByteArray exifOf(int count)
+{
+    constexpr int entries = 250;
+    constexpr int size = 2 + entries * 12 + 4;
+    const int first = 8 + 2 + count * 12 + 4;
+    QByteArray block = QByteArray("II*\0\x08\0\0\0", 8) + shorts({count});
+    for (int i = 0; i < count; ++i) {
+        const int offset = first + i * size;
+        block += shorts({34665, 4, 1, 0, offset % 65'536, offset / 65'536});
+    }
+    block += QByteArray(4, '\0');
+    for (int i = 0; i < count; ++i) {
+        block += shorts({entries});
+        for (int j = 0; j < entries; ++j) {
+            block += shorts({36'864 + j, 3, 1, 0, 7, 0});
+        }
+        block += QByteArray(4, '\0');
+    }
+    return block;
+}
+
+TEST_F(MetadataLimitsTest, EntriesOfExifAreLimitedOverAllDirectories)
+{
+    const MetadataBlocks few = grisal::graphics::extractExif(exifOf(15));
+    EXPECT_TRUE(few.complete);
+    const MetadataBlocks many = grisal::graphics::extractExif(exifOf(150));
+    EXPECT_FALSE(many.complete);
+    Exiv2::ExifData exif;
+    Exiv2::ExifParser::decode(exif, reinterpret_cast<const Exiv2::byte *>(many.exif.constData()),
+                              static_cast<std::uint32_t>(many.exif.size()));
+    EXPECT_LE(exif.count(), 4'000);
+    EXPECT_GE(exif.count(), 3'000);
+
+    const QString png = path(QStringLiteral("plain.png"));
+    painted(24, 16, 8, [](int, int) { return Samples{}; }).write(png.toStdString());
+    addChunk(png, "eXIf", exifOf(150));
+    carried(png);
+    EXPECT_FALSE(isComplete());
+}
+
+TEST_F(MetadataLimitsTest, RecordsOfIptcAreLimited)
+{
+    for (const int count : {1'000, 12'000}) {
+        const QString source = written(QStringLiteral("a.tif"));
+        Metadata all = fullMetadata();
+        for (int i = 0; i < count; ++i) {
+            Exiv2::Iptcdatum keyword(Exiv2::IptcKey("Iptc.Application2.Keywords"));
+            keyword.setValue("Alps");
+            all.iptc.add(keyword);
+        }
+        setMetadata(source, all);
+        const Metadata saved = carried(source);
+        EXPECT_EQ(isComplete(), count < 10'000);
+        EXPECT_EQ(saved.iptc.count(), count > 10'000 ? 0 : count + 2);
+        EXPECT_EQ(saved["Exif.Image.Make"], "Acme");
+    }
+}
+
+TEST_F(MetadataLimitsTest, ProfilesOfExcessiveSizeAreLeftOut)
+{
+    const QString source = written(QStringLiteral("a.jpg"));
+    Metadata all = fullMetadata();
+    all.profile = profileFor("RGB ", 5'000'000);
+    setMetadata(source, all);
+    const Metadata saved = carried(source);
+    EXPECT_FALSE(isComplete());
+    EXPECT_TRUE(saved.profile.isEmpty());
+    EXPECT_EQ(saved["Exif.Image.Make"], "Acme");
+}
+
+TEST_F(MetadataLimitsTest, AMillionEmptySegmentsAreNotVisited)
+{
+    const QString source = written(QStringLiteral("a.jpg"));
+    QByteArray contents = contentsOf(source);
+    writeFile(source,
+              contents.insert(contents.lastIndexOf("\xff\xda"), QByteArray("\xff\xe5\0\2", 4).repeated(1'000'000)));
+    EXPECT_EQ(carried(source)["Exif.Image.Make"], "Acme");
+    EXPECT_FALSE(isComplete());
+}
+
+} // namespace
