@@ -4,7 +4,7 @@
 #include "graphics/files/ImageFile.h"
 #include "graphics/files/ImageMemory.h"
 #include "graphics/image/Image.h"
-#include "graphics/image/PreviewPixels.h"
+#include "graphics/image/PreviewImage.h"
 
 #include <algorithm>
 
