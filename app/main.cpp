@@ -3,6 +3,7 @@
 #include "app/MessageLog.h"
 #include "app/Translation.h"
 #include "graphics/files/ImageLibrary.h"
+#include "graphics/gl/ShaderCache.h"
 #include "graphics/gl/SurfaceFormat.h"
 
 #include <QApplication>
@@ -54,6 +55,7 @@ int main(int argc, char **argv)
 {
     grisal::graphics::initializeImageLibrary(argv[0]);
     message_log::install();
+    grisal::graphics::disableShaderCache();
     grisal::graphics::setDefaultSurfaceFormat();
 
     std::signal(SIGABRT, reportMissingDisplay);

@@ -25,6 +25,7 @@ protected:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("HOME"), home.path());
         environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
+        environment.remove(QStringLiteral("MESA_SHADER_CACHE_DISABLE"));
         process.setProcessEnvironment(environment);
     }
 
@@ -83,6 +84,17 @@ TEST_F(Program, ShowsAGreyPictureAtItsStart)
     EXPECT_TRUE(logged().contains("Preview Width:  300"));
     EXPECT_TRUE(logged().contains("Preview Height:  200"));
     end();
+}
+
+// A cache of the OpenGL driver there would end the program on a full disk.
+TEST_F(Program, LeavesNoShaderCacheInTheHome)
+{
+    setEnvironment(QStringLiteral("XDG_CACHE_HOME"), home.filePath(QStringLiteral(".cache")));
+    start();
+    ASSERT_TRUE(waitForLog("Max Texture Size"));
+    end();
+    const QDir cache(home.filePath(QStringLiteral(".cache")));
+    EXPECT_EQ(cache.entryList({QStringLiteral("mesa_shader_cache*")}), QStringList());
 }
 
 TEST_F(Program, AppendsToTheLogOfEarlierRuns)
