@@ -5,6 +5,10 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <csignal>
 #include <cstdlib>
 
@@ -30,6 +34,25 @@ QLatin1String levelWord(QtMsgType type)
     }
 }
 
+/// Opens the log to append to it. Only its owner may read it, because it contains the names of files. In place of the
+/// log there may be something else, such as a pipe, for whose reader the program would wait.
+bool openLog(QFile &file)
+{
+    constexpr mode_t ownerOnly = 0600;
+    const int descriptor = open(QFile::encodeName(path()).constData(),
+                                O_WRONLY | O_APPEND | O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, ownerOnly);
+    struct stat status {
+    };
+    if (descriptor < 0) {
+        return false;
+    }
+    if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+        close(descriptor);
+        return false;
+    }
+    return file.open(descriptor, QIODevice::WriteOnly | QIODevice::Append, QFileDevice::AutoCloseHandle);
+}
+
 } // namespace
 
 QString path()
@@ -44,8 +67,8 @@ QString line(QtMsgType type, const QTime &time, const QString &text)
 
 void write(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
-    QFile file(path());
-    if (file.open(QIODevice::WriteOnly | QIODevice::Append)) {
+    QFile file;
+    if (openLog(file)) {
         QTextStream stream(&file);
         stream << line(type, QTime::currentTime(), text) << Qt::endl;
         file.close();
@@ -53,6 +76,15 @@ void write(QtMsgType type, const QMessageLogContext &, const QString &text)
     if (type == QtFatalMsg) {
         std::abort();
     }
+}
+
+grisal::graphics::Message problem()
+{
+    QFile file;
+    if (openLog(file)) {
+        return {};
+    }
+    return grisal::graphics::Message(QT_TRANSLATE_NOOP("Message", "The log %1 cannot be written."), path());
 }
 
 void install()

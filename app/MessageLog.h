@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/Message.h"
+
 #include <QString>
 #include <QtGlobal>
 #include <QTime>
 
 /// The program's log: every message of the program and of Qt, one per line, in GrisalLog.txt in the user's home
-/// directory. The file is appended to and never shortened.
+/// directory. The file is appended to and never shortened. Only its owner may read it. Anything else in its place, such
+/// as a pipe or a device, is left alone, and all messages are dropped.
 namespace message_log
 {
 
@@ -21,6 +24,9 @@ QString line(QtMsgType type, const QTime &time, const QString &text);
 /// cannot be opened, the message is dropped. A fatal message ends the process, whether it could be written or not. To
 /// be called from one thread only.
 void write(QtMsgType type, const QMessageLogContext &context, const QString &text);
+
+/// Why messages are dropped; empty if the log can be written.
+grisal::graphics::Message problem();
 
 /// Redirects all messages to the log. A log that has reached the file size limit does not end the process.
 void install();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
 #include "app/MessageLog.h"
+#include "app/Settings.h"
 #include "app/Translation.h"
 #include "graphics/files/ImageLibrary.h"
 #include "graphics/gl/ShaderCache.h"
@@ -39,6 +40,15 @@ extern "C" void reportMissingDisplay(int /*signal*/)
     _exit(EXIT_FAILURE);
 }
 
+/// Reports what the program does without, in the log and on the console.
+void reportProblem(const grisal::graphics::Message &problem)
+{
+    if (!problem.isEmpty()) {
+        qWarning("%s", qPrintable(problem.english()));
+        std::fprintf(stderr, "%s\n", qPrintable(problem.translated()));
+    }
+}
+
 void reportGraphicsProblem(const grisal::graphics::Message &problem)
 {
     qCritical("%s", qPrintable(problem.english()));
@@ -63,6 +73,8 @@ int main(int argc, char **argv)
     std::signal(SIGABRT, SIG_DFL);
     QApplication::setDesktopFileName(QStringLiteral(GRISAL_APP_ID));
     const Translation translation(QLocale::system());
+    reportProblem(message_log::problem());
+    reportProblem(Settings::problem());
     auto window = std::make_unique<grisal::ui::MainWindow>();
 
     std::vector<std::uint8_t> placeholder(std::size_t{placeholderWidth} * placeholderHeight * 3, placeholderGrey);

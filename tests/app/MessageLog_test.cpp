@@ -7,6 +7,10 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace
 {
 
@@ -118,6 +122,37 @@ TEST_F(MessageLog, WithoutAHomeMessagesAreDropped)
     qputenv("HOME", home.filePath(QStringLiteral("missing")).toLocal8Bit());
     write(QtCriticalMsg, "nobody reads this");
     EXPECT_FALSE(QFile::exists(message_log::path()));
+}
+
+TEST_F(MessageLog, OnlyTheOwnerMayReadIt)
+{
+    const mode_t before = umask(0);
+    write(QtDebugMsg, "a.png");
+    umask(before);
+    struct stat status {
+    };
+    ASSERT_EQ(stat(QFile::encodeName(message_log::path()).constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0600U);
+}
+
+TEST_F(MessageLog, APipeInItsPlaceIsLeftAlone)
+{
+    const QByteArray path = QFile::encodeName(message_log::path());
+    ASSERT_EQ(mkfifo(path.constData(), 0600), 0);
+    write(QtWarningMsg, "nobody reads this");
+    const int reader = open(path.constData(), O_RDONLY | O_NONBLOCK);
+    write(QtWarningMsg, "nor this");
+    char text = 0;
+    EXPECT_EQ(read(reader, &text, 1), 0);
+    close(reader);
+    EXPECT_TRUE(message_log::problem().english().contains(message_log::path()));
+}
+
+TEST_F(MessageLog, HasNoProblemAsAFile)
+{
+    EXPECT_TRUE(message_log::problem().isEmpty());
+    write(QtDebugMsg, "a");
+    EXPECT_TRUE(message_log::problem().isEmpty());
 }
 
 using MessageLogDeathTest = MessageLog;

@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 namespace
 {
 
@@ -118,6 +120,33 @@ TEST_F(Program, WorksWhereTheLogIsAFolder)
     EXPECT_EQ(process.state(), QProcess::Running);
     end();
     EXPECT_TRUE(QFileInfo(home.filePath(QStringLiteral("GrisalLog.txt"))).isDir());
+}
+
+// A test fails by its time limit where the program waits for a reader or a writer of the pipe.
+TEST_F(Program, StartsWhereTheLogIsAPipe)
+{
+    const QString log = home.filePath(QStringLiteral("GrisalLog.txt"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(log).constData(), 0600), 0);
+    start();
+    EXPECT_TRUE(QTest::qWaitFor([] { return greyPixels() > 297 * 197; }, 10000)) << greyPixels();
+    end();
+    EXPECT_EQ(process.readAllStandardError(), "The log " + QFile::encodeName(log) + " cannot be written.\n");
+}
+
+TEST_F(Program, StartsWhereTheSettingsAreAPipe)
+{
+    const QString folder = home.filePath(QStringLiteral(".config/grisal.example"));
+    ASSERT_TRUE(QDir().mkpath(folder));
+    const QByteArray settings = QFile::encodeName(folder) + "/Quillmark.conf";
+    ASSERT_EQ(mkfifo(settings.constData(), 0600), 0);
+    setEnvironment(QStringLiteral("XDG_CONFIG_HOME"), home.filePath(QStringLiteral(".config")));
+    start();
+    EXPECT_TRUE(QTest::qWaitFor([] { return greyPixels() > 297 * 197; }, 10000)) << greyPixels();
+    end();
+    const QByteArray problem =
+        "The settings cannot be used, because " + settings + " is not a regular file or too large.\n";
+    EXPECT_EQ(process.readAllStandardError(), problem);
+    EXPECT_TRUE(logged().contains(" Warning: " + problem)) << logged().toStdString();
 }
 
 TEST_F(Program, NamesAMissingDisplayOnTheConsoleAndEndsWithStatus1)
