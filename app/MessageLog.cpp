@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "app/MessageLog.h"
 
+#include "graphics/ControlCharacters.h"
+
 #include <QDir>
 #include <QFile>
+#include <QStringList>
 #include <QTextStream>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 
@@ -32,6 +36,20 @@ QLatin1String levelWord(QtMsgType type)
     default:
         return QLatin1String("");
     }
+}
+
+/// A message without control characters. Line feeds stay where the program writes them itself: in debug messages, some
+/// of which have several lines, and three at the end of the last message.
+QString printable(QtMsgType type, const QString &text)
+{
+    using grisal::graphics::escapeControlCharacters;
+    const QString end = QStringLiteral("\n\n\n");
+    if (type == QtDebugMsg) {
+        QStringList lines = text.split(QLatin1Char('\n'));
+        std::transform(lines.begin(), lines.end(), lines.begin(), escapeControlCharacters);
+        return lines.join(QLatin1Char('\n'));
+    }
+    return text.endsWith(end) ? escapeControlCharacters(text.chopped(end.size())) + end : escapeControlCharacters(text);
 }
 
 /// Opens the log to append to it. Only its owner may read it, because it contains the names of files. In place of the
@@ -62,7 +80,7 @@ QString path()
 
 QString line(QtMsgType type, const QTime &time, const QString &text)
 {
-    return time.toString(QStringLiteral("hh:mm:ss.zzz")) + QLatin1Char(' ') + levelWord(type) + text;
+    return time.toString(QStringLiteral("hh:mm:ss.zzz")) + QLatin1Char(' ') + levelWord(type) + printable(type, text);
 }
 
 void write(QtMsgType type, const QMessageLogContext &, const QString &text)

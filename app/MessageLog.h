@@ -17,7 +17,8 @@ namespace message_log
 QString path();
 
 /// Formats a message as a line without line end: "hh:mm:ss.zzz", a space, the level word ("Debug: ", "Warning: ",
-/// "Critical: ", "Fatal: ", nothing for any other type) and the text.
+/// "Critical: ", "Fatal: ", nothing for any other type) and the text. Control characters in the text are escaped,
+/// except for line feeds in debug messages and "\n\n\n" at the end.
 QString line(QtMsgType type, const QTime &time, const QString &text);
 
 /// Appends a message to the log. The file is opened and closed for each message, so that a crash loses no line. If it

@@ -70,6 +70,23 @@ TEST(MessageLogLine, HasNoLevelForOtherTypes)
               QStringLiteral("00:00:00.005 so"));
 }
 
+TEST(MessageLogLine, HasEscapesForControlCharactersInWarnings)
+{
+    const QTime time(0, 0, 0, 5);
+    const QString text = QStringLiteral("Cannot open a\n12:00:00.000 Critical: \x1b[31mb\r.png\n");
+    EXPECT_EQ(message_log::line(QtWarningMsg, time, text).toStdString(),
+              "00:00:00.005 Warning: Cannot open a\\n12:00:00.000 Critical: \\x1b[31mb\\r.png\\n");
+}
+
+TEST(MessageLogLine, KeepsTheLinesOfDebugMessagesAndOfTheLastMessage)
+{
+    const QTime time(0, 0, 0, 5);
+    EXPECT_EQ(message_log::line(QtDebugMsg, time, QStringLiteral("\n a\tb\n\n")).toStdString(),
+              "00:00:00.005 Debug: \n a\\tb\n\n");
+    EXPECT_EQ(message_log::line(QtWarningMsg, time, QStringLiteral("Bye bye...\n\n\n")).toStdString(),
+              "00:00:00.005 Warning: Bye bye...\n\n\n");
+}
+
 TEST_F(MessageLog, LiesInTheHome)
 {
     EXPECT_EQ(message_log::path(), home.path() + QStringLiteral("/GrisalLog.txt"));
