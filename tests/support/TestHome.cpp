@@ -2,6 +2,7 @@
 #include "tests/support/TestHome.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QThread>
 
@@ -33,6 +34,9 @@ QString temporaryFolder(const QTemporaryDir &directory)
 
 TestHome::TestHome() : m_directory(folderTemplate())
 {
+    // For tests that run as another user.
+    QFile::setPermissions(m_directory.path(),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
     QDir().mkpath(temporaryFolder(m_directory));
     const QByteArray home = m_directory.filePath(QStringLiteral("home")).toLocal8Bit();
     QDir().mkpath(QString::fromLocal8Bit(home));
