@@ -30,12 +30,13 @@ constexpr int placeholderWidth = 300;
 constexpr int placeholderHeight = 200;
 constexpr std::uint8_t placeholderGrey = 128;
 
-// Qt calls abort() if there is no display. A signal handler may only write and exit.
+// Qt calls abort() if there is no display or no platform plug-in with the requested name. A signal handler may only
+// write and exit.
 extern "C" void reportMissingDisplay(int /*signal*/)
 {
     constexpr std::string_view text =
-        "Grisal cannot open a window: there is no display that can be reached. Please start it on a desktop, or set "
-        "DISPLAY or WAYLAND_DISPLAY.\n";
+        "Grisal cannot open a window: there is no display that can be reached, or no window system with the name in "
+        "QT_QPA_PLATFORM or after -platform. Please start it on a desktop, or set DISPLAY or WAYLAND_DISPLAY.\n";
     [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, text.data(), text.size());
     _exit(EXIT_FAILURE);
 }

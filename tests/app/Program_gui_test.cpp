@@ -161,6 +161,17 @@ TEST_F(Program, NamesAMissingDisplayOnTheConsoleAndEndsWithStatus1)
     EXPECT_TRUE(logged().contains("Fatal: ")) << logged().toStdString();
 }
 
+TEST_F(Program, NamesTheVariableOfAnUnknownWindowSystemOnTheConsoleAndEndsWithStatus1)
+{
+    setEnvironment(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("unknown"));
+    start();
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 1);
+    const QByteArray said = process.readAllStandardError();
+    EXPECT_TRUE(said.contains("no window system with the name in QT_QPA_PLATFORM")) << said.toStdString();
+}
+
 // Without a display, Qt does not get beyond the making of the application object.
 TEST_F(Program, StartsGraphicsMagickBeforeQt)
 {
