@@ -22,7 +22,7 @@ namespace
 
 namespace fs = std::filesystem;
 
-constexpr std::time_t day = 24 * 60 * 60;
+constexpr std::time_t day = std::time_t{24} * 60 * 60;
 constexpr int scopeDigits = 16;
 
 /// Where process ids are unique: the running system and its namespace of processes. Empty if that is unknown.
