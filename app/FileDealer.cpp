@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/FileDealer.h"
 
-#include "app/Product.h"
+#include "app/Settings.h"
 
 #include <QAction>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
-#include <QSettings>
 
 #include <algorithm>
 
@@ -31,12 +30,6 @@ QString recentImagesKey()
 {
     return QStringLiteral("recentImages");
 }
-
-class Settings : public QSettings
-{
-public:
-    Settings() : QSettings(QString::fromLatin1(product::organisation), QString::fromLatin1(product::settingsName)) {}
-};
 
 /// In a menu, an ampersand marks the shortcut letter; "&&" is shown as one ampersand.
 QString menuText(QString name)
@@ -71,7 +64,7 @@ void FileDealer::forgetRecent()
 
 QString FileDealer::settingsFile()
 {
-    return Settings().fileName();
+    return Settings::fileName();
 }
 
 QString FileDealer::startDirectory() const

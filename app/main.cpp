@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
 #include "app/MessageLog.h"
+#include "app/Settings.h"
 #include "app/Translation.h"
 #include "graphics/files/ImageLibrary.h"
+#include "graphics/gl/ShaderCache.h"
 #include "graphics/gl/SurfaceFormat.h"
 
 #include <QApplication>
@@ -26,14 +28,24 @@ constexpr int placeholderWidth = 300;
 constexpr int placeholderHeight = 200;
 constexpr std::uint8_t placeholderGrey = 128;
 
-// Qt calls abort() if there is no display. A signal handler may only write and exit.
+// Qt calls abort() if there is no display or no platform plug-in with the requested name. A signal handler may only
+// write and exit.
 extern "C" void reportMissingDisplay(int /*signal*/)
 {
     constexpr std::string_view text =
-        "Grisal cannot open a window: there is no display that can be reached. Please start it on a desktop, or set "
-        "DISPLAY or WAYLAND_DISPLAY.\n";
+        "Grisal cannot open a window: there is no display that can be reached, or no window system with the name in "
+        "QT_QPA_PLATFORM or after -platform. Please start it on a desktop, or set DISPLAY or WAYLAND_DISPLAY.\n";
     [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, text.data(), text.size());
     _exit(EXIT_FAILURE);
+}
+
+/// Reports what the program does without, in the log and on the console.
+void reportProblem(const grisal::graphics::Message &problem)
+{
+    if (!problem.isEmpty()) {
+        qWarning("%s", qPrintable(problem.english()));
+        std::fprintf(stderr, "%s\n", qPrintable(problem.translated()));
+    }
 }
 
 void reportGraphicsProblem(const grisal::graphics::Message &problem)
@@ -52,6 +64,7 @@ int main(int argc, char **argv)
 {
     grisal::graphics::initializeImageLibrary(argv[0]);
     message_log::install();
+    grisal::graphics::disableShaderCache();
     grisal::graphics::setDefaultSurfaceFormat();
 
     std::signal(SIGABRT, reportMissingDisplay);
@@ -59,6 +72,8 @@ int main(int argc, char **argv)
     std::signal(SIGABRT, SIG_DFL);
     QApplication::setDesktopFileName(QStringLiteral(GRISAL_APP_ID));
     const Translation translation(QLocale::system());
+    reportProblem(message_log::problem());
+    reportProblem(Settings::problem());
     auto window = std::make_unique<grisal::ui::MainWindow>();
 
     const grisal::graphics::Image8 placeholder(placeholderWidth, placeholderHeight, grisal::graphics::rgbComponents,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/LumioImage.h"
 
+#include "graphics/ControlCharacters.h"
 #include "graphics/files/ImageFile.h"
 #include "graphics/files/ImageLibrary.h"
 #include "graphics/files/ImageNames.h"
@@ -312,10 +313,11 @@ int LumioImage::height() const
 
 std::string LumioImage::info() const
 {
+    const QString name = QFile::decodeName(m_image.fileName().c_str());
     std::ostringstream text;
     text << '\n'
          << " ******** LumioImage ******** \n"
-         << "  filename:   " << m_image.fileName() << '\n'
+         << "  filename:   " << QFile::encodeName(escapeControlCharacters(name)).toStdString() << '\n'
          << "  width :     " << m_image.columns() << '\n'
          << "  height:     " << m_image.rows() << '\n'
          << "  depth:      " << m_image.depth() << '\n'

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/ReplacementFile.h"
 
+#include "graphics/files/ImageFormat.h"
+#include "graphics/files/LeftoverFiles.h"
+
 #include <QByteArray>
 #include <QFile>
 
@@ -107,12 +110,17 @@ ReplacementFile::ReplacementFile(const QString &path)
     if (!findTarget(path)) {
         return;
     }
-    const fs::path temporary = fs::path(m_target).replace_filename(".grisal-XXXXXX");
-    m_temporary.setFileTemplate(QFile::decodeName(temporary.c_str()));
-    if (m_temporary.open()) {
-        m_file = OpenFile(m_temporary.handle());
-    } else {
+    const fs::path folder = fs::path(m_target).parent_path();
+    m_temporary.setFileTemplate(QFile::decodeName((folder / temporaryNameTemplate()).c_str()));
+    if (!m_temporary.open()) {
         m_problem = QStringLiteral("The folder cannot be written to: %1").arg(m_temporary.errorString());
+        return;
+    }
+    m_file = OpenFile(m_temporary.handle());
+    struct stat status {
+    };
+    if (fstat(m_file.descriptor(), &status) == 0) {
+        removeLeftoverFiles(folder, status.st_mtime);
     }
 }
 
@@ -154,9 +162,7 @@ bool ReplacementFile::commit()
     if (!copyAccess() || fsync(m_file.descriptor()) != 0) {
         return fail("The file cannot be completed", errno);
     }
-    // The name is given to the file when it is first asked for.
-    const QByteArray name = QFile::encodeName(m_temporary.fileName());
-    if (std::rename(name.constData(), m_target.c_str()) != 0) {
+    if (!linkToTarget() && !renameToTarget()) {
         return fail("The file cannot be put in its place", errno);
     }
     m_temporary.setAutoRemove(false);
@@ -166,6 +172,23 @@ bool ReplacementFile::commit()
         fsync(folder.descriptor());
     }
     return true;
+}
+
+// Without a temporary name a process that is killed leaves nothing. That is possible only if there is no old file.
+bool ReplacementFile::linkToTarget()
+{
+    const std::string file = pathOfOpenFile(m_file.descriptor());
+    struct stat status {
+    };
+    return fstat(m_file.descriptor(), &status) == 0 && status.st_nlink == 0 &&
+           linkat(AT_FDCWD, file.c_str(), AT_FDCWD, m_target.c_str(), AT_SYMLINK_FOLLOW) == 0;
+}
+
+// The temporary name is given to the file when it is first asked for.
+bool ReplacementFile::renameToTarget()
+{
+    const QByteArray name = QFile::encodeName(m_temporary.fileName());
+    return std::rename(name.constData(), m_target.c_str()) == 0;
 }
 
 bool ReplacementFile::copyAccess()

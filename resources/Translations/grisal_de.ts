@@ -376,6 +376,14 @@ Komfort ausgelegt.</translation>
         <source>Not all that was said about the picture could be saved with it</source>
         <translation>Nicht alle Angaben zum Bild konnten mit ihm gespeichert werden</translation>
     </message>
+    <message>
+        <source>The log %1 cannot be written.</source>
+        <translation>Das Protokoll %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The settings cannot be used, because %1 is not a regular file or too large.</source>
+        <translation>Die Einstellungen können nicht verwendet werden, weil %1 keine gewöhnliche Datei oder zu groß ist.</translation>
+    </message>
 </context>
 <context>
     <name>Mixer</name>

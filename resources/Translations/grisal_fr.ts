@@ -376,6 +376,14 @@ et le confort.</translation>
         <source>Not all that was said about the picture could be saved with it</source>
         <translation>Les informations sur l’image n’ont pas toutes pu être enregistrées avec elle</translation>
     </message>
+    <message>
+        <source>The log %1 cannot be written.</source>
+        <translation>Le journal %1 ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>The settings cannot be used, because %1 is not a regular file or too large.</source>
+        <translation>Les réglages ne peuvent pas être utilisés, car %1 n’est pas un fichier ordinaire ou est trop volumineux.</translation>
+    </message>
 </context>
 <context>
     <name>Mixer</name>

@@ -7,6 +7,10 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace
 {
 
@@ -66,6 +70,23 @@ TEST(MessageLogLine, HasNoLevelForOtherTypes)
               QStringLiteral("00:00:00.005 so"));
 }
 
+TEST(MessageLogLine, HasEscapesForControlCharactersInWarnings)
+{
+    const QTime time(0, 0, 0, 5);
+    const QString text = QStringLiteral("Cannot open a\n12:00:00.000 Critical: \x1b[31mb\r.png\n");
+    EXPECT_EQ(message_log::line(QtWarningMsg, time, text).toStdString(),
+              "00:00:00.005 Warning: Cannot open a\\n12:00:00.000 Critical: \\x1b[31mb\\r.png\\n");
+}
+
+TEST(MessageLogLine, KeepsTheLinesOfDebugMessagesAndOfTheLastMessage)
+{
+    const QTime time(0, 0, 0, 5);
+    EXPECT_EQ(message_log::line(QtDebugMsg, time, QStringLiteral("\n a\tb\n\n")).toStdString(),
+              "00:00:00.005 Debug: \n a\\tb\n\n");
+    EXPECT_EQ(message_log::line(QtWarningMsg, time, QStringLiteral("Bye bye...\n\n\n")).toStdString(),
+              "00:00:00.005 Warning: Bye bye...\n\n\n");
+}
+
 TEST_F(MessageLog, FileIsInTheHomeDirectory)
 {
     EXPECT_EQ(message_log::path(), home.path() + QStringLiteral("/GrisalLog.txt"));
@@ -118,6 +139,37 @@ TEST_F(MessageLog, DropsMessagesWithoutAHomeDirectory)
     qputenv("HOME", home.filePath(QStringLiteral("missing")).toLocal8Bit());
     write(QtCriticalMsg, "nobody reads this");
     EXPECT_FALSE(QFile::exists(message_log::path()));
+}
+
+TEST_F(MessageLog, OnlyTheOwnerMayReadIt)
+{
+    const mode_t before = umask(0);
+    write(QtDebugMsg, "a.png");
+    umask(before);
+    struct stat status {
+    };
+    ASSERT_EQ(stat(QFile::encodeName(message_log::path()).constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0600U);
+}
+
+TEST_F(MessageLog, APipeInItsPlaceIsLeftAlone)
+{
+    const QByteArray path = QFile::encodeName(message_log::path());
+    ASSERT_EQ(mkfifo(path.constData(), 0600), 0);
+    write(QtWarningMsg, "nobody reads this");
+    const int reader = open(path.constData(), O_RDONLY | O_NONBLOCK);
+    write(QtWarningMsg, "nor this");
+    char text = 0;
+    EXPECT_EQ(read(reader, &text, 1), 0);
+    close(reader);
+    EXPECT_TRUE(message_log::problem().english().contains(message_log::path()));
+}
+
+TEST_F(MessageLog, HasNoProblemAsAFile)
+{
+    EXPECT_TRUE(message_log::problem().isEmpty());
+    write(QtDebugMsg, "a");
+    EXPECT_TRUE(message_log::problem().isEmpty());
 }
 
 using MessageLogDeathTest = MessageLog;

@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 namespace
 {
 
@@ -25,6 +27,7 @@ protected:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("HOME"), home.path());
         environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
+        environment.remove(QStringLiteral("MESA_SHADER_CACHE_DISABLE"));
         process.setProcessEnvironment(environment);
     }
 
@@ -85,6 +88,17 @@ TEST_F(Program, ShowsAGreyPlaceholderAtTheStart)
     end();
 }
 
+// A cache of the OpenGL driver there would end the program on a full disk.
+TEST_F(Program, LeavesNoShaderCacheInTheHome)
+{
+    setEnvironment(QStringLiteral("XDG_CACHE_HOME"), home.filePath(QStringLiteral(".cache")));
+    start();
+    ASSERT_TRUE(waitForLog("Max Texture Size"));
+    end();
+    const QDir cache(home.filePath(QStringLiteral(".cache")));
+    EXPECT_EQ(cache.entryList({QStringLiteral("mesa_shader_cache*")}), QStringList());
+}
+
 TEST_F(Program, AppendsToTheLogOfEarlierRuns)
 {
     start();
@@ -108,6 +122,33 @@ TEST_F(Program, RunsIfTheLogPathIsAFolder)
     EXPECT_TRUE(QFileInfo(home.filePath(QStringLiteral("GrisalLog.txt"))).isDir());
 }
 
+// A test fails by its time limit where the program waits for a reader or a writer of the pipe.
+TEST_F(Program, StartsWhereTheLogIsAPipe)
+{
+    const QString log = home.filePath(QStringLiteral("GrisalLog.txt"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(log).constData(), 0600), 0);
+    start();
+    EXPECT_TRUE(QTest::qWaitFor([] { return greyPixels() > 297 * 197; }, 10000)) << greyPixels();
+    end();
+    EXPECT_EQ(process.readAllStandardError(), "The log " + QFile::encodeName(log) + " cannot be written.\n");
+}
+
+TEST_F(Program, StartsWhereTheSettingsAreAPipe)
+{
+    const QString folder = home.filePath(QStringLiteral(".config/grisal.example"));
+    ASSERT_TRUE(QDir().mkpath(folder));
+    const QByteArray settings = QFile::encodeName(folder) + "/Quillmark.conf";
+    ASSERT_EQ(mkfifo(settings.constData(), 0600), 0);
+    setEnvironment(QStringLiteral("XDG_CONFIG_HOME"), home.filePath(QStringLiteral(".config")));
+    start();
+    EXPECT_TRUE(QTest::qWaitFor([] { return greyPixels() > 297 * 197; }, 10000)) << greyPixels();
+    end();
+    const QByteArray problem =
+        "The settings cannot be used, because " + settings + " is not a regular file or too large.\n";
+    EXPECT_EQ(process.readAllStandardError(), problem);
+    EXPECT_TRUE(logged().contains(" Warning: " + problem)) << logged().toStdString();
+}
+
 TEST_F(Program, ReportsAMissingDisplayOnTheConsoleAndEndsWithStatus1)
 {
     removeDisplay();
@@ -118,6 +159,17 @@ TEST_F(Program, ReportsAMissingDisplayOnTheConsoleAndEndsWithStatus1)
     const QByteArray said = process.readAllStandardError();
     EXPECT_TRUE(said.contains("there is no display that can be reached")) << said.toStdString();
     EXPECT_TRUE(logged().contains("Fatal: ")) << logged().toStdString();
+}
+
+TEST_F(Program, NamesTheVariableOfAnUnknownWindowSystemOnTheConsoleAndEndsWithStatus1)
+{
+    setEnvironment(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("unknown"));
+    start();
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 1);
+    const QByteArray said = process.readAllStandardError();
+    EXPECT_TRUE(said.contains("no window system with the name in QT_QPA_PLATFORM")) << said.toStdString();
 }
 
 // Without a display, Qt ends the program in the constructor of the application object.

@@ -23,9 +23,10 @@ bool contains(const QStringList &texts, const QString &part)
 
 // HOME is replaced, but the cache directory stays the same, because the OpenGL driver has already stored the location
 // of its shader cache.
-GuiTest::GuiTest() : m_homeBefore(qgetenv("HOME"))
+GuiTest::GuiTest() : m_homeBefore(qgetenv("HOME")), m_configBefore(qgetenv("XDG_CONFIG_HOME"))
 {
     qputenv("HOME", m_home.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", inHome(QStringLiteral(".config")).toLocal8Bit());
     // Qt determines the location of the settings once, so changing the environment is not sufficient.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, inHome(QStringLiteral(".config")));
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
@@ -34,6 +35,7 @@ GuiTest::GuiTest() : m_homeBefore(qgetenv("HOME"))
 GuiTest::~GuiTest()
 {
     qputenv("HOME", m_homeBefore);
+    qputenv("XDG_CONFIG_HOME", m_configBefore);
 }
 
 void GuiTest::expectWarning(const QString &part)

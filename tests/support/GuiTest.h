@@ -46,6 +46,7 @@ protected:
 private:
     QTemporaryDir m_home;
     QByteArray m_homeBefore;
+    QByteArray m_configBefore;
     QStringList m_expectedWarnings;
     QStringList m_allowedWarnings;
 };

@@ -8,8 +8,8 @@
 
 int main(int argc, char **argv)
 {
-    const grisal::test::TestHome home;
+    grisal::test::TestHome home;
     QCoreApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
-    return grisal::test::runAllTests();
+    return grisal::test::runAllTests(home);
 }

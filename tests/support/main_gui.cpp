@@ -9,9 +9,9 @@
 
 int main(int argc, char **argv)
 {
-    const grisal::test::TestHome home;
+    grisal::test::TestHome home;
     grisal::graphics::setDefaultSurfaceFormat();
     QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
-    return grisal::test::runAllTests();
+    return grisal::test::runAllTests(home);
 }

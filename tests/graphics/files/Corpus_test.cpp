@@ -100,6 +100,7 @@ protected:
         grisal::graphics::initializeImageLibrary(nullptr);
         m_folderBefore = QDir::currentPath();
         QDir::setCurrent(elsewhere.path());
+        m_temporaryBefore = qgetenv("TMPDIR");
         qputenv("TMPDIR", QFile::encodeName(elsewhere.path()));
         qputenv("MAGICK_TMPDIR", QFile::encodeName(elsewhere.path()));
         putStubsOnPath();
@@ -113,6 +114,9 @@ protected:
         if (!m_folderBefore.isEmpty()) {
             QDir::setCurrent(m_folderBefore);
             qputenv("PATH", m_pathBefore);
+            // The next test makes its folders there.
+            qputenv("TMPDIR", m_temporaryBefore);
+            qunsetenv("MAGICK_TMPDIR");
         }
     }
 
@@ -152,6 +156,7 @@ protected:
 
 private:
     QByteArray m_pathBefore;
+    QByteArray m_temporaryBefore;
     QByteArray m_connections;
     QString m_folderBefore;
 };

@@ -276,6 +276,17 @@ TEST(LumioImageInfoTest, DescribesAGreyImageOf16Bits)
     EXPECT_NE(image.info().find("  type:       GrayscaleType\n"), std::string::npos);
 }
 
+TEST(LumioImageInfoTest, EscapesALineBreakInTheName)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("a\n  width :     9.png"));
+    painted(5, 3, 8, [](int, int) { return Samples{1, 2, 3}; }).write("PNG:" + QFile::encodeName(path).toStdString());
+
+    LumioImage image;
+    ASSERT_TRUE(image.read(path));
+    EXPECT_NE(image.info().find("/a\\n  width :     9.png\n  width :     5\n"), std::string::npos) << image.info();
+}
+
 TEST(LumioImageInfoTest, DescribesANullImage)
 {
     EXPECT_NE(LumioImage().info().find("  width :     0\n  height:     0\n"), std::string::npos);

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <fcntl.h>
 #include <sys/ptrace.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -309,6 +310,36 @@ TEST_F(ReplacementFileTest, IsCompleteWheneverTheProcessIsKilled)
     EXPECT_EQ(contentsOf(path("a.png")), "new");
     EXPECT_GT(replaced, 0);
     EXPECT_LT(replaced, kills);
+}
+
+TEST_F(ReplacementFileTest, RemovesWhatKilledProcessesLeft)
+{
+    int kills = 0;
+    int left = 0;
+    writeFile(path("a.png"), "old");
+    while (replaceAndKill(path("a.png"), "new", kills)) {
+        left += static_cast<int>(names().size()) - 1;
+        ASSERT_TRUE(replace(path("a.png"), "old"));
+        ASSERT_EQ(names(), QStringList("a.png")) << "killed after " << kills << " stops";
+        ++kills;
+    }
+    EXPECT_GT(left, 0);
+}
+
+TEST_F(ReplacementFileTest, LeavesNothingIfTheProcessIsKilledWhileItCreatesAFile)
+{
+    const int unnamed = open(QFile::encodeName(directory.path()).constData(), O_TMPFILE | O_WRONLY, 0600);
+    if (unnamed < 0) {
+        GTEST_SKIP() << "this file system has no files without names";
+    }
+    close(unnamed);
+    int kills = 0;
+    while (replaceAndKill(path("a.png"), "new", kills)) {
+        ASSERT_EQ(names().filter(QStringLiteral(".grisal-")), QStringList()) << "killed after " << kills << " stops";
+        QFile::remove(path("a.png"));
+        ++kills;
+    }
+    EXPECT_EQ(contentsOf(path("a.png")), "new");
 }
 
 } // namespace
