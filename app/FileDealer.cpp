@@ -51,15 +51,16 @@ QStringList FileDealer::recentImages() const
     return Settings().value(recentImagesKey()).toStringList();
 }
 
-void FileDealer::forgetDirectory()
+bool FileDealer::forgetDirectory()
 {
-    Settings().remove(lastDirectoryKey());
+    return Settings().remove(lastDirectoryKey());
 }
 
-void FileDealer::forgetRecent()
+bool FileDealer::forgetRecent()
 {
-    Settings().remove(recentImagesKey());
+    const bool forgotten = Settings().remove(recentImagesKey());
     refreshRecentMenu();
+    return forgotten;
 }
 
 QString FileDealer::settingsFile()

@@ -38,9 +38,10 @@ public:
     QString lastDirectory() const;
     QStringList recentImages() const;
 
-    /// Removes the stored values from the settings. The current path, which Save writes to, stays.
-    void forgetDirectory();
-    void forgetRecent();
+    /// Removes the stored values from the settings. The current path, which Save writes to, stays. False if the
+    /// settings cannot be changed.
+    bool forgetDirectory();
+    bool forgetRecent();
 
     /// Path of the settings file, which may not exist yet.
     static QString settingsFile();

@@ -68,14 +68,28 @@ void Preferences::showPlaces()
 
 void Preferences::on_buttonForgetDirectory_clicked()
 {
-    m_dealer.forgetDirectory();
-    showRemembered();
+    showForgotten(m_dealer.forgetDirectory());
 }
 
 void Preferences::on_buttonForgetRecent_clicked()
 {
-    m_dealer.forgetRecent();
+    showForgotten(m_dealer.forgetRecent());
+}
+
+void Preferences::showForgotten(bool forgotten)
+{
     showRemembered();
+    if (!forgotten) {
+        showInformation(tr("The settings could not be changed. The log contains the reason."));
+    }
+}
+
+void Preferences::showInformation(const QString &text)
+{
+    QMessageBox box(QMessageBox::Information, windowTitle(), text, QMessageBox::Ok, this);
+    // A folder name may contain characters that look like HTML.
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
 }
 
 void Preferences::on_buttonOpenLog_clicked()
@@ -95,10 +109,5 @@ void Preferences::openFolderOf(const QString &file)
         return;
     }
     qWarning("No program opens the folder %s", qPrintable(folder));
-    QMessageBox box(QMessageBox::Information, windowTitle(),
-                    tr("No program was found that opens the folder %1.").arg(QDir::toNativeSeparators(folder)),
-                    QMessageBox::Ok, this);
-    // A folder name may contain characters that look like HTML.
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    showInformation(tr("No program was found that opens the folder %1.").arg(QDir::toNativeSeparators(folder)));
 }

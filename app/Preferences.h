@@ -31,6 +31,8 @@ public slots:
 private:
     void showRemembered();
     void showPlaces();
+    void showForgotten(bool forgotten);
+    void showInformation(const QString &text);
     void openFolderOf(const QString &file);
 
     FileDealer &m_dealer;

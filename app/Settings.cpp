@@ -59,18 +59,22 @@ QVariant Settings::value(const QString &key) const
     return m_stored ? m_stored->value(key) : QVariant();
 }
 
-void Settings::setValue(const QString &key, const QVariant &value)
+bool Settings::setValue(const QString &key, const QVariant &value)
 {
-    if (canStore()) {
-        m_stored->setValue(key, value);
+    if (!canStore()) {
+        return false;
     }
+    m_stored->setValue(key, value);
+    return store();
 }
 
-void Settings::remove(const QString &key)
+bool Settings::remove(const QString &key)
 {
-    if (canStore()) {
-        m_stored->remove(key);
+    if (!canStore()) {
+        return false;
     }
+    m_stored->remove(key);
+    return store();
 }
 
 bool Settings::canStore()
@@ -78,11 +82,23 @@ bool Settings::canStore()
     if (!m_canStore) {
         const QString lock = fileName() + QStringLiteral(".lock");
         m_canStore = m_stored && canLock(lock);
-        if (!*m_canStore) {
-            qWarning("The settings cannot be stored: %s", qPrintable(m_stored ? lock : fileName()));
+        if (!m_stored) {
+            qWarning("The settings cannot be stored: %s", qPrintable(problem().english()));
+        } else if (!*m_canStore) {
+            qWarning("The settings cannot be stored: another program holds %s", qPrintable(lock));
         }
     }
     return *m_canStore;
+}
+
+bool Settings::store()
+{
+    m_stored->sync();
+    const bool stored = m_stored->status() == QSettings::NoError;
+    if (!stored) {
+        qWarning("The settings cannot be stored: %s cannot be written", qPrintable(fileName()));
+    }
+    return stored;
 }
 
 QString Settings::fileName()

@@ -20,9 +20,10 @@ public:
     /// The stored value; invalid if there is none or if the settings cannot be read.
     QVariant value(const QString &key) const;
 
-    /// Store and remove a value. If that is not possible, the settings stay as they are, and the log says why.
-    void setValue(const QString &key, const QVariant &value);
-    void remove(const QString &key);
+    /// Store and remove a value. If that is not possible, the stored settings stay as they are, the log contains the
+    /// reason, and the result is false.
+    bool setValue(const QString &key, const QVariant &value);
+    bool remove(const QString &key);
 
     /// Path of the settings file, which may not exist yet.
     static QString fileName();
@@ -32,6 +33,7 @@ public:
 
 private:
     bool canStore();
+    bool store();
 
     std::optional<QSettings> m_stored;
     std::optional<bool> m_canStore; ///< empty before the first change

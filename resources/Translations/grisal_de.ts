@@ -587,6 +587,10 @@ Komfort ausgelegt.</translation>
         <translation>Den Ordner der Einstellungen öffnen</translation>
     </message>
     <message>
+        <source>The settings could not be changed. The log contains the reason.</source>
+        <translation>Die Einstellungen konnten nicht geändert werden. Das Protokoll nennt den Grund.</translation>
+    </message>
+    <message>
         <source>No program was found that opens the folder %1.</source>
         <translation>Es wurde kein Programm gefunden, das den Ordner %1 öffnet.</translation>
     </message>

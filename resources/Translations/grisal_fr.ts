@@ -587,6 +587,10 @@ et le confort.</translation>
         <translation>Ouvrir le dossier des réglages</translation>
     </message>
     <message>
+        <source>The settings could not be changed. The log contains the reason.</source>
+        <translation>Les réglages n’ont pas pu être modifiés. Le journal en donne la raison.</translation>
+    </message>
+    <message>
         <source>No program was found that opens the folder %1.</source>
         <translation>Aucun programme capable d’ouvrir le dossier %1 n’a été trouvé.</translation>
     </message>

@@ -46,7 +46,7 @@ TEST_F(FreeMemoryTest, IsUnlimitedWithoutSources)
     EXPECT_EQ(result(), unlimited);
 }
 
-TEST_F(FreeMemoryTest, IsThatOfTheMachine)
+TEST_F(FreeMemoryTest, ReturnsAvailableMemoryOfTheMachine)
 {
     write("proc/meminfo", "MemTotal:       24684084 kB\nMemFree:        1 kB\nMemAvailable:       5000 kB\n");
     EXPECT_EQ(result(), 5000U * 1024);
@@ -112,7 +112,7 @@ TEST_F(FreeMemoryTest, IsLimitedByTheAddressSpace)
     EXPECT_EQ(result(), 10'000'000 - 100 * page);
 }
 
-TEST_F(FreeMemoryTest, IsKnownForThisMachine)
+TEST_F(FreeMemoryTest, ReturnsAFiniteSizeOnThisMachine)
 {
     EXPECT_GT(freeMemory(), 0U);
     EXPECT_LT(freeMemory(), unlimited);

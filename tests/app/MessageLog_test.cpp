@@ -137,11 +137,11 @@ TEST_F(MessageLog, ReceivesMessagesOfQtOnceInstalled)
 TEST_F(MessageLog, DropsMessagesWithoutAHomeDirectory)
 {
     qputenv("HOME", home.filePath(QStringLiteral("missing")).toLocal8Bit());
-    write(QtCriticalMsg, "nobody reads this");
+    write(QtCriticalMsg, "dropped");
     EXPECT_FALSE(QFile::exists(message_log::path()));
 }
 
-TEST_F(MessageLog, OnlyTheOwnerMayReadIt)
+TEST_F(MessageLog, IsCreatedReadableByItsOwnerOnly)
 {
     const mode_t before = umask(0);
     write(QtDebugMsg, "a.png");
@@ -152,20 +152,20 @@ TEST_F(MessageLog, OnlyTheOwnerMayReadIt)
     EXPECT_EQ(status.st_mode & 07777, 0600U);
 }
 
-TEST_F(MessageLog, APipeInItsPlaceIsLeftAlone)
+TEST_F(MessageLog, NothingIsWrittenToAPipe)
 {
     const QByteArray path = QFile::encodeName(message_log::path());
     ASSERT_EQ(mkfifo(path.constData(), 0600), 0);
-    write(QtWarningMsg, "nobody reads this");
+    write(QtWarningMsg, "dropped");
     const int reader = open(path.constData(), O_RDONLY | O_NONBLOCK);
-    write(QtWarningMsg, "nor this");
+    write(QtWarningMsg, "dropped, too");
     char text = 0;
     EXPECT_EQ(read(reader, &text, 1), 0);
     close(reader);
     EXPECT_TRUE(message_log::problem().english().contains(message_log::path()));
 }
 
-TEST_F(MessageLog, HasNoProblemAsAFile)
+TEST_F(MessageLog, HasNoProblemIfItIsARegularFile)
 {
     EXPECT_TRUE(message_log::problem().isEmpty());
     write(QtDebugMsg, "a");

@@ -76,7 +76,7 @@ TEST_F(PictureMemoryTest, LetsAPictureOf100MegapixelsOpenWith4GigabytesFree)
 }
 
 // GraphicsMagick holds 10 bytes a pixel, while the picture and its result are held as well.
-TEST_F(PictureMemoryTest, CountsWhatSavingTakes)
+TEST_F(PictureMemoryTest, IncludesTheMemoryForSaving)
 {
     EXPECT_GE(memoryFor(png(8)), pixels * (10 + 2 * 3));
     EXPECT_GE(memoryFor(png(16)), pixels * (10 + 2 * 6));

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/Preferences.h"
+
+#include "app/Settings.h"
 #include "tests/app/FilesTest.h"
+#include "tests/support/Modal.h"
 #include "tests/support/UrlInterceptor.h"
 
 #include <QAbstractButton>
@@ -9,6 +12,8 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <functional>
@@ -248,6 +253,19 @@ TEST_F(PreferencesOfTheWindow, SaveStillUsesThePathOfTheOpenImageAfterForgetting
     MessageBoxAnswer question(QMessageBox::Cancel);
     trigger(window, "actionSave");
     EXPECT_EQ(question.title, QStringLiteral("Overwrite?"));
+}
+
+TEST_F(PreferencesTest, ReportsThatNothingCouldBeForgotten)
+{
+    remember(QStringLiteral("/pictures"), {});
+    const QString lock = Settings::fileName() + QStringLiteral(".lock");
+    ASSERT_EQ(mkfifo(QFile::encodeName(lock).constData(), 0600), 0);
+    expectWarning(QStringLiteral("The settings cannot be stored: "));
+    Preferences preferences(dealer);
+    MessageBoxAnswer box(QMessageBox::Ok);
+    button(preferences, "buttonForgetDirectory").click();
+    EXPECT_EQ(box.text, QStringLiteral("The settings could not be changed. The log contains the reason."));
+    EXPECT_EQ(directoryIn(preferences), QStringLiteral("/pictures"));
 }
 
 } // namespace

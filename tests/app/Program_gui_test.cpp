@@ -123,17 +123,17 @@ TEST_F(Program, RunsIfTheLogPathIsAFolder)
 }
 
 // A test fails by its time limit where the program waits for a reader or a writer of the pipe.
-TEST_F(Program, StartsWhereTheLogIsAPipe)
+TEST_F(Program, StartsIfTheLogIsAPipe)
 {
     const QString log = home.filePath(QStringLiteral("GrisalLog.txt"));
     ASSERT_EQ(mkfifo(QFile::encodeName(log).constData(), 0600), 0);
     start();
     EXPECT_TRUE(QTest::qWaitFor([] { return greyPixels() > 297 * 197; }, 10000)) << greyPixels();
     end();
-    EXPECT_EQ(process.readAllStandardError(), "The log " + QFile::encodeName(log) + " cannot be written.\n");
+    EXPECT_TRUE(process.readAllStandardError().contains("The log " + QFile::encodeName(log) + " cannot be written.\n"));
 }
 
-TEST_F(Program, StartsWhereTheSettingsAreAPipe)
+TEST_F(Program, StartsIfTheSettingsAreAPipe)
 {
     const QString folder = home.filePath(QStringLiteral(".config/grisal.example"));
     ASSERT_TRUE(QDir().mkpath(folder));
@@ -145,7 +145,7 @@ TEST_F(Program, StartsWhereTheSettingsAreAPipe)
     end();
     const QByteArray problem =
         "The settings cannot be used, because " + settings + " is not a regular file or too large.\n";
-    EXPECT_EQ(process.readAllStandardError(), problem);
+    EXPECT_TRUE(process.readAllStandardError().contains(problem));
     EXPECT_TRUE(logged().contains(" Warning: " + problem)) << logged().toStdString();
 }
 
@@ -156,20 +156,20 @@ TEST_F(Program, ReportsAMissingDisplayOnTheConsoleAndEndsWithStatus1)
     ASSERT_TRUE(process.waitForFinished());
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(process.exitCode(), 1);
-    const QByteArray said = process.readAllStandardError();
-    EXPECT_TRUE(said.contains("there is no display that can be reached")) << said.toStdString();
+    const QByteArray output = process.readAllStandardError();
+    EXPECT_TRUE(output.contains("there is no display that can be reached")) << output.toStdString();
     EXPECT_TRUE(logged().contains("Fatal: ")) << logged().toStdString();
 }
 
-TEST_F(Program, NamesTheVariableOfAnUnknownWindowSystemOnTheConsoleAndEndsWithStatus1)
+TEST_F(Program, ReportsAnUnknownWindowSystemOnTheConsoleAndEndsWithStatus1)
 {
     setEnvironment(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("unknown"));
     start();
     ASSERT_TRUE(process.waitForFinished());
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(process.exitCode(), 1);
-    const QByteArray said = process.readAllStandardError();
-    EXPECT_TRUE(said.contains("no window system with the name in QT_QPA_PLATFORM")) << said.toStdString();
+    const QByteArray output = process.readAllStandardError();
+    EXPECT_TRUE(output.contains("no window system with the name in QT_QPA_PLATFORM")) << output.toStdString();
 }
 
 // Without a display, Qt ends the program in the constructor of the application object.
@@ -179,8 +179,8 @@ TEST_F(Program, StartsGraphicsMagickBeforeQt)
     setEnvironment(QStringLiteral("MAGICK_DEBUG"), QStringLiteral("configure"));
     start();
     ASSERT_TRUE(process.waitForFinished());
-    const QByteArray said = process.readAllStandardError();
-    EXPECT_TRUE(said.contains("Initialize Magick")) << said.toStdString();
+    const QByteArray output = process.readAllStandardError();
+    EXPECT_TRUE(output.contains("Initialize Magick")) << output.toStdString();
 }
 
 } // namespace

@@ -44,7 +44,7 @@ TEST_F(SettingsTest, AreStoredInTheFile)
     EXPECT_FALSE(Settings().value(key).isValid());
 }
 
-TEST_F(SettingsTest, AreEmptyWhereThereIsAPipe)
+TEST_F(SettingsTest, AreEmptyIfAFileIsAPipe)
 {
     for (const QString &path : {Settings::fileName(), inHome(QStringLiteral(".config/grisal.example.conf"))}) {
         makePipe(path);
@@ -56,7 +56,7 @@ TEST_F(SettingsTest, AreEmptyWhereThereIsAPipe)
     }
 }
 
-TEST_F(SettingsTest, AreEmptyWhereTheFileIsTooLarge)
+TEST_F(SettingsTest, AreEmptyIfTheFileIsTooLarge)
 {
     write(Settings::fileName(), "[General]\nlastDirectory=/pictures\n" + QByteArray(1 << 20, '\n'));
     EXPECT_FALSE(Settings::problem().isEmpty());
@@ -70,10 +70,10 @@ TEST_F(SettingsTest, AreReadDespiteALock)
     EXPECT_EQ(Settings().value(key).toString(), QStringLiteral("/pictures"));
 }
 
-TEST_F(SettingsTest, StayWhereAnotherMachineHasLeftItsLock)
+TEST_F(SettingsTest, AreNotStoredIfAnotherMachineHoldsTheLock)
 {
     write(lock(), "1234\ngrisal\nanother-machine\n\n\n");
-    expectWarning(QStringLiteral("The settings cannot be stored: ") + lock());
+    expectWarning(QStringLiteral("The settings cannot be stored: another program holds ") + lock());
     QElapsedTimer timer;
     timer.start();
     Settings().setValue(key, QStringLiteral("/pictures"));
@@ -81,12 +81,30 @@ TEST_F(SettingsTest, StayWhereAnotherMachineHasLeftItsLock)
     EXPECT_FALSE(Settings().value(key).isValid());
 }
 
-TEST_F(SettingsTest, StayWhereTheLockIsAPipe)
+TEST_F(SettingsTest, AreNotStoredIfTheLockIsAPipe)
 {
     makePipe(lock());
-    expectWarning(QStringLiteral("The settings cannot be stored: ") + lock());
+    expectWarning(QStringLiteral("The settings cannot be stored: another program holds ") + lock());
     Settings().setValue(key, QStringLiteral("/pictures"));
     EXPECT_FALSE(Settings().value(key).isValid());
+}
+
+TEST_F(SettingsTest, ReportWhetherAValueIsStored)
+{
+    EXPECT_TRUE(Settings().setValue(key, QStringLiteral("/pictures")));
+    EXPECT_TRUE(Settings().remove(key));
+    makePipe(lock());
+    expectWarning(QStringLiteral("The settings cannot be stored: "));
+    EXPECT_FALSE(Settings().remove(key));
+}
+
+TEST_F(SettingsTest, LogAFileThatCannotBeWritten)
+{
+    const QString folder = QFileInfo(Settings::fileName()).path();
+    QDir(folder).removeRecursively();
+    write(folder, "a file in place of the folder");
+    expectWarning(Settings::fileName() + QStringLiteral(" cannot be written"));
+    EXPECT_FALSE(Settings().setValue(key, QStringLiteral("/pictures")));
 }
 
 } // namespace

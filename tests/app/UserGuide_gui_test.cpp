@@ -269,13 +269,13 @@ TEST_F(ShownUserGuide, EveryControlHasANameOrTextAndADescription)
     }
 }
 
-class UserGuideOfTheWindow : public WindowTest
+class UserGuideInMainWindow : public WindowTest
 {
 protected:
     QList<UserGuide *> opened() { return window.findChildren<UserGuide *>(); }
 };
 
-TEST_F(UserGuideOfTheWindow, HelpOpensOneGuideAndRaisesItAgain)
+TEST_F(UserGuideInMainWindow, HelpOpensOneGuideAndRaisesItAgain)
 {
     start();
     trigger(window, "actionHelp");
@@ -292,7 +292,7 @@ TEST_F(UserGuideOfTheWindow, HelpOpensOneGuideAndRaisesItAgain)
     EXPECT_EQ(bar->value(), 100);
 }
 
-TEST_F(UserGuideOfTheWindow, HelpOpensTheGuideAgainAfterItWasClosed)
+TEST_F(UserGuideInMainWindow, HelpOpensTheGuideAgainAfterItWasClosed)
 {
     start();
     trigger(window, "actionHelp");
@@ -302,7 +302,7 @@ TEST_F(UserGuideOfTheWindow, HelpOpensTheGuideAgainAfterItWasClosed)
     EXPECT_TRUE(opened().front()->isVisible());
 }
 
-TEST_F(UserGuideOfTheWindow, OpenGuideDoesNotKeepTheProgramRunning)
+TEST_F(UserGuideInMainWindow, OpenGuideDoesNotKeepTheProgramRunning)
 {
     start();
     trigger(window, "actionHelp");
@@ -312,7 +312,7 @@ TEST_F(UserGuideOfTheWindow, OpenGuideDoesNotKeepTheProgramRunning)
     EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);
 }
 
-TEST_F(UserGuideOfTheWindow, EveryShortcutIsInTheGuide)
+TEST_F(UserGuideInMainWindow, EveryShortcutIsInTheGuide)
 {
     const QString guide = sourceOf(QStringLiteral("guide.html"));
     int shortcuts = 0;

@@ -59,10 +59,17 @@ TEST_F(TestHomeTest, IsNotCleanIfATemporaryFileIsLeft)
     EXPECT_FALSE(home.isCleanAtEnd());
 }
 
-TEST_F(TestHomeTest, IsNotCleanIfTheTemporaryFolderIsAnother)
+TEST_F(TestHomeTest, IsNotCleanIfTmpdirHasChanged)
 {
     TestHome home;
     qputenv("TMPDIR", QDir::homePath().toLocal8Bit());
+    EXPECT_FALSE(home.isCleanAtEnd());
+}
+
+TEST_F(TestHomeTest, IsNotCleanIfTheTemporaryFolderIsRemoved)
+{
+    TestHome home;
+    QDir(QDir::tempPath()).removeRecursively();
     EXPECT_FALSE(home.isCleanAtEnd());
 }
 

@@ -75,7 +75,7 @@ TEST_F(LeftoverFiles, AreRemovedAfterTheEndOfTheirProcess)
     EXPECT_EQ(namesAfterRemoval(), QStringList("a.png"));
 }
 
-TEST_F(LeftoverFiles, StayWhileTheirProcessRuns)
+TEST_F(LeftoverFiles, AreKeptWhileTheirProcessRuns)
 {
     const QString name = nameOf(getpid());
     put(name);
@@ -88,7 +88,7 @@ TEST_F(LeftoverFiles, AreRemovedAfterADayIfTheProcessIdIsInUse)
     EXPECT_EQ(namesAfterRemoval(day + 60), QStringList());
 }
 
-TEST_F(LeftoverFiles, OfOtherSystemsStayForADay)
+TEST_F(LeftoverFiles, AreKeptForADayIfFromAnotherSystem)
 {
     const QString name = foreignNameOf(endedProcess());
     put(name);
@@ -96,7 +96,7 @@ TEST_F(LeftoverFiles, OfOtherSystemsStayForADay)
     EXPECT_EQ(namesAfterRemoval(day + 60), QStringList());
 }
 
-TEST_F(LeftoverFiles, AreOnlyThoseWithTheExactPattern)
+TEST_F(LeftoverFiles, FilesWithOtherNamesAreKept)
 {
     const QString name = nameOf(endedProcess());
     QStringList others{name + 'x',
@@ -120,7 +120,7 @@ TEST_F(LeftoverFiles, AreOnlyThoseWithTheExactPattern)
     EXPECT_EQ(names, others);
 }
 
-TEST_F(LeftoverFiles, AreOnlyRegularFiles)
+TEST_F(LeftoverFiles, LinksAndFoldersAreKept)
 {
     const pid_t process = endedProcess();
     put("a.png");
@@ -129,7 +129,7 @@ TEST_F(LeftoverFiles, AreOnlyRegularFiles)
     EXPECT_EQ(namesAfterRemoval(2 * day).size(), 3);
 }
 
-TEST_F(LeftoverFiles, AreOnlyThoseOfTheSameUser)
+TEST_F(LeftoverFiles, FilesOfOtherUsersAreKept)
 {
     constexpr uid_t nobody = 65534;
     const QString name = nameOf(endedProcess());
@@ -140,7 +140,7 @@ TEST_F(LeftoverFiles, AreOnlyThoseOfTheSameUser)
     EXPECT_EQ(namesAfterRemoval(2 * day), QStringList(name));
 }
 
-TEST_F(LeftoverFiles, AreNotLookedForInAMissingFolder)
+TEST_F(LeftoverFiles, MissingFolderIsIgnored)
 {
     removeLeftoverFiles(QFile::encodeName(path("missing")).toStdString(), std::time(nullptr));
     EXPECT_EQ(namesAfterRemoval(), QStringList());

@@ -312,7 +312,7 @@ TEST_F(ReplacementFileTest, IsCompleteWheneverTheProcessIsKilled)
     EXPECT_LT(replaced, kills);
 }
 
-TEST_F(ReplacementFileTest, RemovesWhatKilledProcessesLeft)
+TEST_F(ReplacementFileTest, RemovesTemporaryFilesOfKilledProcesses)
 {
     int kills = 0;
     int left = 0;

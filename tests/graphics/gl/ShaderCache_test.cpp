@@ -14,22 +14,24 @@ namespace
 
 constexpr const char *variable = "MESA_SHADER_CACHE_DISABLE";
 
+struct ShaderCacheTest : testing::Test {
+    void SetUp() override { qunsetenv(variable); }
+    void TearDown() override { qunsetenv(variable); }
+};
+
 } // namespace
 
-TEST(ShaderCacheTest, IsSwitchedOff)
+TEST_F(ShaderCacheTest, IsDisabledByDefault)
 {
-    qunsetenv(variable);
     disableShaderCache();
     EXPECT_EQ(qgetenv(variable), "true");
-    qunsetenv(variable);
 }
 
-TEST(ShaderCacheTest, StaysAsTheUserHasSetIt)
+TEST_F(ShaderCacheTest, KeepsTheValueSetByTheUser)
 {
     qputenv(variable, "false");
     disableShaderCache();
     EXPECT_EQ(qgetenv(variable), "false");
-    qunsetenv(variable);
 }
 
 } // namespace grisal::graphics

@@ -186,7 +186,7 @@ TEST(Curves, OfOnePointAreConstant)
     EXPECT_EQ(smoothCurve(point, count), QVector<float>(count, 0.25F));
 }
 
-TEST(HistogramBehind, StraightCurveKeepsAllTonesButBlack)
+TEST(CurveHistogram, StraightCurveKeepsAllTonesButBlack)
 {
     QVector<float> histogram(count);
     for (int i = 0; i < count; ++i) {
@@ -197,7 +197,7 @@ TEST(HistogramBehind, StraightCurveKeepsAllTonesButBlack)
     EXPECT_EQ(histogramBehind(linearCurve(identity(), count), histogram), expected);
 }
 
-TEST(HistogramBehind, SmoothDiagonalKeepsTheTones)
+TEST(CurveHistogram, SmoothDiagonalKeepsTheTones)
 {
     const QVector<float> histogram(count, 1.0F);
     const QVector<float> behind = histogramBehind(smoothCurve(identity(), count), histogram);
@@ -208,7 +208,7 @@ TEST(HistogramBehind, SmoothDiagonalKeepsTheTones)
     EXPECT_EQ(moved, 0);
 }
 
-TEST(HistogramBehind, ConstantCurveCollectsAllTonesInOneBin)
+TEST(CurveHistogram, ConstantCurveCollectsAllTonesInOneBin)
 {
     QVector<float> histogram(count, 0.0F);
     histogram[10] = 2;
@@ -218,7 +218,7 @@ TEST(HistogramBehind, ConstantCurveCollectsAllTonesInOneBin)
     EXPECT_EQ(histogramBehind(QVector<float>(count, 0.25F), histogram), expected);
 }
 
-TEST(HistogramBehind, TonesThatBecomeWhiteAreOmitted)
+TEST(CurveHistogram, TonesThatBecomeWhiteAreOmitted)
 {
     QVector<float> histogram(count, 0.0F);
     histogram[128] = 1;
@@ -226,7 +226,7 @@ TEST(HistogramBehind, TonesThatBecomeWhiteAreOmitted)
 }
 
 // A bin i is mapped to i * (1 / (i / 256)), which is 256 except for these, where the quotient is rounded down.
-TEST(HistogramBehind, FourteenTonesOfAWhiteCurveAreInTheLastBin)
+TEST(CurveHistogram, FourteenTonesOfAWhiteCurveAreInTheLastBin)
 {
     QVector<float> expected(count, 0.0F);
     expected[255] = 14;
@@ -239,7 +239,7 @@ TEST(HistogramBehind, FourteenTonesOfAWhiteCurveAreInTheLastBin)
     }
 }
 
-TEST(HistogramBehind, WrongNumberOfValuesKeepsTheHistogram)
+TEST(CurveHistogram, WrongNumberOfValuesKeepsTheHistogram)
 {
     const QVector<float> histogram(count, 0.5F);
     EXPECT_EQ(histogramBehind(QVector<float>(255, 0.25F), histogram), histogram);
