@@ -4,6 +4,7 @@
 // prints the width and height of the window.
 #include "app/MainWindow.h"
 #include "app/MessageLog.h"
+#include "graphics/gl/ShaderCache.h"
 #include "graphics/gl/SurfaceFormat.h"
 
 #include <QApplication>
@@ -14,6 +15,7 @@
 int main(int argc, char **argv)
 {
     message_log::install();
+    grisal::graphics::disableShaderCache();
     grisal::graphics::setDefaultSurfaceFormat();
     const QApplication application(argc, argv);
     grisal::ui::MainWindow window;

@@ -5,6 +5,7 @@
 // memory in bytes above that with the placeholder.
 #include "app/MainWindow.h"
 #include "bench/ScreenWindow.h"
+#include "graphics/gl/ShaderCache.h"
 #include "graphics/gl/SurfaceFormat.h"
 
 #include <QApplication>
@@ -53,6 +54,7 @@ double millisecondsOf(const QElapsedTimer &timer)
 int main(int argc, char **argv)
 {
     qInstallMessageHandler(ignoreMessage);
+    grisal::graphics::disableShaderCache();
     grisal::graphics::setDefaultSurfaceFormat();
     const QApplication application(argc, argv);
     if (argc != 3) {
