@@ -369,20 +369,20 @@ Komfort ausgelegt.</translation>
         <translation>Auf diesem Bildschirm gibt es kein OpenGL.</translation>
     </message>
     <message>
-        <source>Not all that %1 says about its picture could be read</source>
-        <translation>Nicht alle Angaben zum Bild in %1 konnten gelesen werden</translation>
+        <source>Some metadata in %1 could not be read</source>
+        <translation>Einige Metadaten in %1 konnten nicht gelesen werden</translation>
     </message>
     <message>
-        <source>Not all that was said about the picture could be saved with it</source>
-        <translation>Nicht alle Angaben zum Bild konnten mit ihm gespeichert werden</translation>
+        <source>Some metadata could not be saved</source>
+        <translation>Einige Metadaten konnten nicht gespeichert werden</translation>
     </message>
     <message>
         <source>The log %1 cannot be written.</source>
-        <translation>Das Protokoll %1 kann nicht geschrieben werden.</translation>
+        <translation>In das Protokoll %1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>The settings cannot be used, because %1 is not a regular file or too large.</source>
-        <translation>Die Einstellungen können nicht verwendet werden, weil %1 keine gewöhnliche Datei oder zu groß ist.</translation>
+        <source>The settings cannot be used, because %1 is too large or is not a regular file.</source>
+        <translation>Die Einstellungen können nicht verwendet werden, weil %1 zu groß oder keine gewöhnliche Datei ist.</translation>
     </message>
 </context>
 <context>

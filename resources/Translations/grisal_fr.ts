@@ -369,20 +369,20 @@ et le confort.</translation>
         <translation>Il n’y a pas d’OpenGL sur cet écran.</translation>
     </message>
     <message>
-        <source>Not all that %1 says about its picture could be read</source>
-        <translation>Les informations de %1 sur son image n’ont pas toutes pu être lues</translation>
+        <source>Some metadata in %1 could not be read</source>
+        <translation>Certaines métadonnées de %1 n’ont pas pu être lues</translation>
     </message>
     <message>
-        <source>Not all that was said about the picture could be saved with it</source>
-        <translation>Les informations sur l’image n’ont pas toutes pu être enregistrées avec elle</translation>
+        <source>Some metadata could not be saved</source>
+        <translation>Certaines métadonnées n’ont pas pu être enregistrées</translation>
     </message>
     <message>
         <source>The log %1 cannot be written.</source>
-        <translation>Le journal %1 ne peut pas être écrit.</translation>
+        <translation>Impossible d’écrire dans le journal %1.</translation>
     </message>
     <message>
-        <source>The settings cannot be used, because %1 is not a regular file or too large.</source>
-        <translation>Les réglages ne peuvent pas être utilisés, car %1 n’est pas un fichier ordinaire ou est trop volumineux.</translation>
+        <source>The settings cannot be used, because %1 is too large or is not a regular file.</source>
+        <translation>Impossible d’utiliser les réglages&#xa0;: %1 est trop volumineux ou n’est pas un fichier ordinaire.</translation>
     </message>
 </context>
 <context>
