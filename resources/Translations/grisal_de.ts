@@ -55,7 +55,7 @@ Komfort ausgelegt.</translation>
 <context>
     <name>CurveFrame</name>
     <message>
-        <source>Points: %1, none taken</source>
+        <source>Points: %1, none selected</source>
         <translation>Punkte: %1, keiner gegriffen</translation>
     </message>
     <message>
@@ -98,7 +98,7 @@ Komfort ausgelegt.</translation>
         <translation>&lt;div style=&quot; background:white; color:black; white-space:nowrap;&quot;&gt;Die Grautöne nach der Kurve, Schwarz unten&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Click to take the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
+        <source>Click to select the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
         <translation>Ein Klick greift den Punkt darüber oder darunter oder fügt einen hinzu. Ziehen bewegt ihn. Entf löscht den orangefarbenen Punkt; die beiden Enden bleiben.</translation>
     </message>
     <message>
@@ -106,7 +106,7 @@ Komfort ausgelegt.</translation>
         <translation>Tonwertkurve</translation>
     </message>
     <message>
-        <source>Page Up and Page Down take the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
+        <source>Page Up and Page Down select the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
         <translation>Bild auf und Bild ab greifen den Punkt links oder rechts, die Pfeiltasten bewegen ihn. Einfg fügt rechts davon einen Punkt hinzu, Entf löscht ihn; die beiden Enden bleiben.</translation>
     </message>
     <message>
@@ -180,7 +180,7 @@ Komfort ausgelegt.</translation>
         <translation>Zurücksetzen</translation>
     </message>
     <message>
-        <source>How strong the grain is, from the blacks at the left to the whites at the right. Click to take the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
+        <source>How strong the grain is, from the blacks at the left to the whites at the right. Click to select the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
         <translation>Wie stark das Korn ist, vom Schwarz links bis zum Weiß rechts. Ein Klick greift den Punkt darüber oder darunter oder fügt einen hinzu. Ziehen bewegt ihn. Entf löscht den orangefarbenen Punkt; die beiden Enden bleiben.</translation>
     </message>
     <message>
@@ -188,7 +188,7 @@ Komfort ausgelegt.</translation>
         <translation>Stärke des Korns</translation>
     </message>
     <message>
-        <source>How strong the grain is, from the blacks at the left to the whites at the right. Page Up and Page Down take the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
+        <source>How strong the grain is, from the blacks at the left to the whites at the right. Page Up and Page Down select the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
         <translation>Wie stark das Korn ist, vom Schwarz links bis zum Weiß rechts. Bild auf und Bild ab greifen den Punkt links oder rechts, die Pfeiltasten bewegen ihn. Einfg fügt rechts davon einen Punkt hinzu, Entf löscht ihn; die beiden Enden bleiben.</translation>
     </message>
     <message>
@@ -440,7 +440,7 @@ Komfort ausgelegt.</translation>
         <translation>&lt;div style=&quot; color:#ff0000;&quot;&gt;Rot&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Red&apos;s share of the grey. It counts with the next change of the luma.</source>
+        <source>Red&apos;s share of the grey. It takes effect with the next change of the luma.</source>
         <translation>Der Anteil von Rot am Grau. Er zählt mit der nächsten Änderung der Luma.</translation>
     </message>
     <message>
@@ -452,7 +452,7 @@ Komfort ausgelegt.</translation>
         <translation>&lt;div style=&quot; color:green;&quot;&gt;Grün&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Green&apos;s share of the grey. It counts with the next change of the luma.</source>
+        <source>Green&apos;s share of the grey. It takes effect with the next change of the luma.</source>
         <translation>Der Anteil von Grün am Grau. Er zählt mit der nächsten Änderung der Luma.</translation>
     </message>
     <message>
@@ -464,7 +464,7 @@ Komfort ausgelegt.</translation>
         <translation>&lt;div style=&quot; color:#0000ff;&quot;&gt;Blau&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Blue&apos;s share of the grey. It counts with the next change of the luma.</source>
+        <source>Blue&apos;s share of the grey. It takes effect with the next change of the luma.</source>
         <translation>Der Anteil von Blau am Grau. Er zählt mit der nächsten Änderung der Luma.</translation>
     </message>
     <message>
@@ -551,7 +551,7 @@ Komfort ausgelegt.</translation>
         <translation>Protokoll:</translation>
     </message>
     <message>
-        <source>What the program did and what went wrong, a line each</source>
+        <source>Actions and errors of the program, one per line</source>
         <translation>Was das Programm getan hat und was misslungen ist, Zeile für Zeile</translation>
     </message>
     <message>
@@ -670,7 +670,7 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <translation>&lt;div style=&quot; color:#ff0000;&quot;&gt;Rot&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Red of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
+        <source>Red of the highlights. It takes effect with the next change of the weight, a wheel or a luma.</source>
         <translation>Rot der Lichter. Es zählt mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma.</translation>
     </message>
     <message>
@@ -682,7 +682,7 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <translation>&lt;div style=&quot; color:green;&quot;&gt;Grün&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Green of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
+        <source>Green of the highlights. It takes effect with the next change of the weight, a wheel or a luma.</source>
         <translation>Grün der Lichter. Es zählt mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma.</translation>
     </message>
     <message>
@@ -694,7 +694,7 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <translation>&lt;div style=&quot; color:#0000ff;&quot;&gt;Blau&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Blue of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
+        <source>Blue of the highlights. It takes effect with the next change of the weight, a wheel or a luma.</source>
         <translation>Blau der Lichter. Es zählt mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma.</translation>
     </message>
     <message>
@@ -730,7 +730,7 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <translation>Die Pfeiltasten wählen die Tönung der Schatten: Rot nach oben, Blau nach rechts, Grau in der Mitte. Bild auf und Bild ab machen sie heller oder dunkler.</translation>
     </message>
     <message>
-        <source>Red of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
+        <source>Red of the shadows. It takes effect with the next change of the weight, a wheel or a luma.</source>
         <translation>Rot der Schatten. Es zählt mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma.</translation>
     </message>
     <message>
@@ -738,7 +738,7 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <translation>Rot der Schatten</translation>
     </message>
     <message>
-        <source>Green of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
+        <source>Green of the shadows. It takes effect with the next change of the weight, a wheel or a luma.</source>
         <translation>Grün der Schatten. Es zählt mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma.</translation>
     </message>
     <message>
@@ -746,7 +746,7 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <translation>Grün der Schatten</translation>
     </message>
     <message>
-        <source>Blue of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
+        <source>Blue of the shadows. It takes effect with the next change of the weight, a wheel or a luma.</source>
         <translation>Blau der Schatten. Es zählt mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma.</translation>
     </message>
     <message>
@@ -982,7 +982,7 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <translation>Fortschritt</translation>
     </message>
     <message>
-        <source>How much of reading, rendering or writing is done</source>
+        <source>Progress of reading, rendering or writing</source>
         <translation>Wie viel vom Lesen, Berechnen oder Schreiben getan ist</translation>
     </message>
     <message>

@@ -55,7 +55,7 @@ et le confort.</translation>
 <context>
     <name>CurveFrame</name>
     <message>
-        <source>Points: %1, none taken</source>
+        <source>Points: %1, none selected</source>
         <translation>Points&#xa0;: %1, aucun saisi</translation>
     </message>
     <message>
@@ -98,7 +98,7 @@ et le confort.</translation>
         <translation>&lt;div style=&quot; background:white; color:black; white-space:nowrap;&quot;&gt;Les gris après la courbe, le noir en bas&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Click to take the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
+        <source>Click to select the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
         <translation>Cliquez pour saisir le point au-dessus ou au-dessous, ou pour en ajouter un. Faites-le glisser pour le déplacer. Suppr retire le point orange&#xa0;; les deux extrémités restent.</translation>
     </message>
     <message>
@@ -106,7 +106,7 @@ et le confort.</translation>
         <translation>Courbe des tons</translation>
     </message>
     <message>
-        <source>Page Up and Page Down take the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
+        <source>Page Up and Page Down select the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
         <translation>Page précédente et Page suivante saisissent le point à gauche ou à droite, les flèches le déplacent. Inser ajoute un point à sa droite, Suppr le retire&#xa0;; les deux extrémités restent.</translation>
     </message>
     <message>
@@ -180,7 +180,7 @@ et le confort.</translation>
         <translation>Réinitialiser</translation>
     </message>
     <message>
-        <source>How strong the grain is, from the blacks at the left to the whites at the right. Click to take the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
+        <source>How strong the grain is, from the blacks at the left to the whites at the right. Click to select the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
         <translation>La force du grain, du noir à gauche au blanc à droite. Cliquez pour saisir le point au-dessus ou au-dessous, ou pour en ajouter un. Faites-le glisser pour le déplacer. Suppr retire le point orange&#xa0;; les deux extrémités restent.</translation>
     </message>
     <message>
@@ -188,7 +188,7 @@ et le confort.</translation>
         <translation>Force du grain</translation>
     </message>
     <message>
-        <source>How strong the grain is, from the blacks at the left to the whites at the right. Page Up and Page Down take the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
+        <source>How strong the grain is, from the blacks at the left to the whites at the right. Page Up and Page Down select the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
         <translation>La force du grain, du noir à gauche au blanc à droite. Page précédente et Page suivante saisissent le point à gauche ou à droite, les flèches le déplacent. Inser ajoute un point à sa droite, Suppr le retire&#xa0;; les deux extrémités restent.</translation>
     </message>
     <message>
@@ -440,7 +440,7 @@ et le confort.</translation>
         <translation>&lt;div style=&quot; color:#ff0000;&quot;&gt;Rouge&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Red&apos;s share of the grey. It counts with the next change of the luma.</source>
+        <source>Red&apos;s share of the grey. It takes effect with the next change of the luma.</source>
         <translation>La part du rouge dans le gris. Elle compte au prochain changement de luma.</translation>
     </message>
     <message>
@@ -452,7 +452,7 @@ et le confort.</translation>
         <translation>&lt;div style=&quot; color:green;&quot;&gt;Vert&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Green&apos;s share of the grey. It counts with the next change of the luma.</source>
+        <source>Green&apos;s share of the grey. It takes effect with the next change of the luma.</source>
         <translation>La part du vert dans le gris. Elle compte au prochain changement de luma.</translation>
     </message>
     <message>
@@ -464,7 +464,7 @@ et le confort.</translation>
         <translation>&lt;div style=&quot; color:#0000ff;&quot;&gt;Bleu&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Blue&apos;s share of the grey. It counts with the next change of the luma.</source>
+        <source>Blue&apos;s share of the grey. It takes effect with the next change of the luma.</source>
         <translation>La part du bleu dans le gris. Elle compte au prochain changement de luma.</translation>
     </message>
     <message>
@@ -551,7 +551,7 @@ et le confort.</translation>
         <translation>Journal&#xa0;:</translation>
     </message>
     <message>
-        <source>What the program did and what went wrong, a line each</source>
+        <source>Actions and errors of the program, one per line</source>
         <translation>Ce que le programme a fait et ce qui a échoué, ligne par ligne</translation>
     </message>
     <message>
@@ -670,7 +670,7 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <translation>&lt;div style=&quot; color:#ff0000;&quot;&gt;Rouge&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Red of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
+        <source>Red of the highlights. It takes effect with the next change of the weight, a wheel or a luma.</source>
         <translation>Le rouge des hautes lumières. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
     </message>
     <message>
@@ -682,7 +682,7 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <translation>&lt;div style=&quot; color:green;&quot;&gt;Vert&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Green of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
+        <source>Green of the highlights. It takes effect with the next change of the weight, a wheel or a luma.</source>
         <translation>Le vert des hautes lumières. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
     </message>
     <message>
@@ -694,7 +694,7 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <translation>&lt;div style=&quot; color:#0000ff;&quot;&gt;Bleu&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Blue of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
+        <source>Blue of the highlights. It takes effect with the next change of the weight, a wheel or a luma.</source>
         <translation>Le bleu des hautes lumières. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
     </message>
     <message>
@@ -730,7 +730,7 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <translation>Les flèches choisissent la teinte des ombres&#xa0;: le rouge vers le haut, le bleu vers la droite, le gris au centre. Page précédente et Page suivante l’éclaircissent ou l’assombrissent.</translation>
     </message>
     <message>
-        <source>Red of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
+        <source>Red of the shadows. It takes effect with the next change of the weight, a wheel or a luma.</source>
         <translation>Le rouge des ombres. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
     </message>
     <message>
@@ -738,7 +738,7 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <translation>Rouge des ombres</translation>
     </message>
     <message>
-        <source>Green of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
+        <source>Green of the shadows. It takes effect with the next change of the weight, a wheel or a luma.</source>
         <translation>Le vert des ombres. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
     </message>
     <message>
@@ -746,7 +746,7 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <translation>Vert des ombres</translation>
     </message>
     <message>
-        <source>Blue of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
+        <source>Blue of the shadows. It takes effect with the next change of the weight, a wheel or a luma.</source>
         <translation>Le bleu des ombres. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
     </message>
     <message>
@@ -982,7 +982,7 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <translation>Progression</translation>
     </message>
     <message>
-        <source>How much of reading, rendering or writing is done</source>
+        <source>Progress of reading, rendering or writing</source>
         <translation>La part de lecture, de calcul ou d’écriture déjà faite</translation>
     </message>
     <message>
