@@ -63,7 +63,7 @@ void MainWindow::setUpStatusBar()
 {
     m_progressBar->setObjectName(QStringLiteral("progressBar"));
     m_progressBar->setAccessibleName(tr("Progress"));
-    m_progressBar->setAccessibleDescription(tr("How much of reading, rendering or writing is done"));
+    m_progressBar->setAccessibleDescription(tr("Progress of reading, rendering or writing"));
     m_progressBar->setTextVisible(false);
     m_progressBar->setFixedSize(progressBarSize);
     // The progress bar appears during a job, while the layout cannot be updated, so its space is always reserved.

@@ -114,6 +114,6 @@ grisal::graphics::Message Settings::problem()
         return {};
     }
     return grisal::graphics::Message(
-        QT_TRANSLATE_NOOP("Message", "The settings cannot be used, because %1 is not a regular file or too large."),
+        QT_TRANSLATE_NOOP("Message", "The settings cannot be used, because %1 is too large or is not a regular file."),
         *unusable);
 }

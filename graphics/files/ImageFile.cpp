@@ -41,7 +41,7 @@ ImageFile::ImageFile(const QString &path) : m_path(path)
         detectFormat();
     }
     if (m_problem.isEmpty() && m_format == ImageFormat::Png && hasInvalidTexts()) {
-        m_problem = QStringLiteral("%1 holds texts of absurd length").arg(m_path);
+        m_problem = QStringLiteral("%1 contains texts that are too long").arg(m_path);
     }
     if (m_problem.isEmpty()) {
         checkHeader();

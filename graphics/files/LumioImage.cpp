@@ -207,8 +207,7 @@ void LumioImage::readFrom(const ImageFile &file)
         return;
     }
     if (m_warning.isEmpty() && !metadata.isComplete()) {
-        m_warning =
-            Message(QT_TRANSLATE_NOOP("Message", "Not all that %1 says about its picture could be read"), file.path());
+        m_warning = Message(QT_TRANSLATE_NOOP("Message", "Some metadata in %1 could not be read"), file.path());
     }
     fresh.fileName(QFile::encodeName(file.path()).toStdString());
     raiseDepth(fresh);
@@ -286,8 +285,7 @@ void LumioImage::writeMetadata(const OpenFile &file, ImageFormat format)
         complete = false;
     }
     if (!complete && m_warning.isEmpty()) {
-        m_warning =
-            Message(QT_TRANSLATE_NOOP("Message", "Not all that was said about the picture could be saved with it"));
+        m_warning = Message(QT_TRANSLATE_NOOP("Message", "Some metadata could not be saved"));
     }
 }
 

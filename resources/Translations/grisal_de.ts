@@ -37,7 +37,7 @@ Komfort ausgelegt.</translation>
     </message>
     <message>
         <source>The library whose licence is shown</source>
-        <translation>Die Bibliothek, deren Lizenz gezeigt wird</translation>
+        <translation>Die Bibliothek, deren Lizenz angezeigt wird</translation>
     </message>
     <message>
         <source>Licence</source>
@@ -55,8 +55,8 @@ Komfort ausgelegt.</translation>
 <context>
     <name>CurveFrame</name>
     <message>
-        <source>Points: %1, none taken</source>
-        <translation>Punkte: %1, keiner gegriffen</translation>
+        <source>Points: %1, none selected</source>
+        <translation>Punkte: %1, keiner ausgewählt</translation>
     </message>
     <message>
         <source>Point %1 of %2: %3 % from the left, %4 % from the bottom</source>
@@ -98,16 +98,16 @@ Komfort ausgelegt.</translation>
         <translation>&lt;div style=&quot; background:white; color:black; white-space:nowrap;&quot;&gt;Die Grautöne nach der Kurve, Schwarz unten&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Click to take the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
-        <translation>Ein Klick greift den Punkt darüber oder darunter oder fügt einen hinzu. Ziehen bewegt ihn. Entf löscht den orangefarbenen Punkt; die beiden Enden bleiben.</translation>
+        <source>Click to select the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
+        <translation>Ein Klick wählt den Punkt darüber oder darunter aus oder fügt einen hinzu. Ziehen bewegt ihn. Entf löscht den orangefarbenen Punkt; die beiden Enden bleiben.</translation>
     </message>
     <message>
         <source>Tone curve</source>
         <translation>Tonwertkurve</translation>
     </message>
     <message>
-        <source>Page Up and Page Down take the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
-        <translation>Bild auf und Bild ab greifen den Punkt links oder rechts, die Pfeiltasten bewegen ihn. Einfg fügt rechts davon einen Punkt hinzu, Entf löscht ihn; die beiden Enden bleiben.</translation>
+        <source>Page Up and Page Down select the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
+        <translation>Bild auf und Bild ab wählen den Punkt links oder rechts aus, die Pfeiltasten bewegen ihn. Einfg fügt rechts davon einen Punkt hinzu, Entf löscht ihn; die beiden Enden bleiben.</translation>
     </message>
     <message>
         <source>The greys before the curve</source>
@@ -123,7 +123,7 @@ Komfort ausgelegt.</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation>Art</translation>
+        <translation>Kurventyp</translation>
     </message>
     <message>
         <source>Straight lines between the points</source>
@@ -135,7 +135,7 @@ Komfort ausgelegt.</translation>
     </message>
     <message>
         <source>A smooth curve through the points</source>
-        <translation>Eine weiche Kurve durch die Punkte</translation>
+        <translation>Eine glatte Kurve durch die Punkte</translation>
     </message>
     <message>
         <source>BSpline</source>
@@ -180,16 +180,16 @@ Komfort ausgelegt.</translation>
         <translation>Zurücksetzen</translation>
     </message>
     <message>
-        <source>How strong the grain is, from the blacks at the left to the whites at the right. Click to take the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
-        <translation>Wie stark das Korn ist, vom Schwarz links bis zum Weiß rechts. Ein Klick greift den Punkt darüber oder darunter oder fügt einen hinzu. Ziehen bewegt ihn. Entf löscht den orangefarbenen Punkt; die beiden Enden bleiben.</translation>
+        <source>How strong the grain is, from the blacks at the left to the whites at the right. Click to select the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
+        <translation>Wie stark das Korn ist, vom Schwarz links bis zum Weiß rechts. Ein Klick wählt den Punkt darüber oder darunter aus oder fügt einen hinzu. Ziehen bewegt ihn. Entf löscht den orangefarbenen Punkt; die beiden Enden bleiben.</translation>
     </message>
     <message>
         <source>Strength of the grain</source>
         <translation>Stärke des Korns</translation>
     </message>
     <message>
-        <source>How strong the grain is, from the blacks at the left to the whites at the right. Page Up and Page Down take the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
-        <translation>Wie stark das Korn ist, vom Schwarz links bis zum Weiß rechts. Bild auf und Bild ab greifen den Punkt links oder rechts, die Pfeiltasten bewegen ihn. Einfg fügt rechts davon einen Punkt hinzu, Entf löscht ihn; die beiden Enden bleiben.</translation>
+        <source>How strong the grain is, from the blacks at the left to the whites at the right. Page Up and Page Down select the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
+        <translation>Wie stark das Korn ist, vom Schwarz links bis zum Weiß rechts. Bild auf und Bild ab wählen den Punkt links oder rechts aus, die Pfeiltasten bewegen ihn. Einfg fügt rechts davon einen Punkt hinzu, Entf löscht ihn; die beiden Enden bleiben.</translation>
     </message>
     <message>
         <source>The grain on the greys from black to white</source>
@@ -227,7 +227,7 @@ Komfort ausgelegt.</translation>
     </message>
     <message>
         <source>Arrow keys move about in the picture, plus and minus zoom. The space bar, while it is held, shows the picture without the filters.</source>
-        <translation>Die Pfeiltasten bewegen Sie durch das Bild, Plus und Minus zoomen. Die Leertaste zeigt, solange sie gedrückt ist, das Bild ohne die Filter.</translation>
+        <translation>Die Pfeiltasten verschieben den Ausschnitt, Plus und Minus vergrößern und verkleinern. Die Leertaste zeigt, solange sie gedrückt ist, das Bild ohne die Filter.</translation>
     </message>
     <message>
         <source>File</source>
@@ -369,20 +369,20 @@ Komfort ausgelegt.</translation>
         <translation>Auf diesem Bildschirm gibt es kein OpenGL.</translation>
     </message>
     <message>
-        <source>Not all that %1 says about its picture could be read</source>
-        <translation>Nicht alle Angaben zum Bild in %1 konnten gelesen werden</translation>
+        <source>Some metadata in %1 could not be read</source>
+        <translation>Einige Metadaten in %1 konnten nicht gelesen werden</translation>
     </message>
     <message>
-        <source>Not all that was said about the picture could be saved with it</source>
-        <translation>Nicht alle Angaben zum Bild konnten mit ihm gespeichert werden</translation>
+        <source>Some metadata could not be saved</source>
+        <translation>Einige Metadaten konnten nicht gespeichert werden</translation>
     </message>
     <message>
         <source>The log %1 cannot be written.</source>
-        <translation>Das Protokoll %1 kann nicht geschrieben werden.</translation>
+        <translation>In das Protokoll %1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>The settings cannot be used, because %1 is not a regular file or too large.</source>
-        <translation>Die Einstellungen können nicht verwendet werden, weil %1 keine gewöhnliche Datei oder zu groß ist.</translation>
+        <source>The settings cannot be used, because %1 is too large or is not a regular file.</source>
+        <translation>Die Einstellungen können nicht verwendet werden, weil %1 zu groß oder keine gewöhnliche Datei ist.</translation>
     </message>
 </context>
 <context>
@@ -440,8 +440,8 @@ Komfort ausgelegt.</translation>
         <translation>&lt;div style=&quot; color:#ff0000;&quot;&gt;Rot&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Red&apos;s share of the grey. It counts with the next change of the luma.</source>
-        <translation>Der Anteil von Rot am Grau. Er zählt mit der nächsten Änderung der Luma.</translation>
+        <source>Red&apos;s share of the grey. It takes effect with the next change of the luma.</source>
+        <translation>Der Anteil von Rot am Grau. Er wird mit der nächsten Änderung der Luma wirksam.</translation>
     </message>
     <message>
         <source>Red weight</source>
@@ -452,8 +452,8 @@ Komfort ausgelegt.</translation>
         <translation>&lt;div style=&quot; color:green;&quot;&gt;Grün&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Green&apos;s share of the grey. It counts with the next change of the luma.</source>
-        <translation>Der Anteil von Grün am Grau. Er zählt mit der nächsten Änderung der Luma.</translation>
+        <source>Green&apos;s share of the grey. It takes effect with the next change of the luma.</source>
+        <translation>Der Anteil von Grün am Grau. Er wird mit der nächsten Änderung der Luma wirksam.</translation>
     </message>
     <message>
         <source>Green weight</source>
@@ -464,8 +464,8 @@ Komfort ausgelegt.</translation>
         <translation>&lt;div style=&quot; color:#0000ff;&quot;&gt;Blau&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Blue&apos;s share of the grey. It counts with the next change of the luma.</source>
-        <translation>Der Anteil von Blau am Grau. Er zählt mit der nächsten Änderung der Luma.</translation>
+        <source>Blue&apos;s share of the grey. It takes effect with the next change of the luma.</source>
+        <translation>Der Anteil von Blau am Grau. Er wird mit der nächsten Änderung der Luma wirksam.</translation>
     </message>
     <message>
         <source>Blue weight</source>
@@ -551,8 +551,8 @@ Komfort ausgelegt.</translation>
         <translation>Protokoll:</translation>
     </message>
     <message>
-        <source>What the program did and what went wrong, a line each</source>
-        <translation>Was das Programm getan hat und was misslungen ist, Zeile für Zeile</translation>
+        <source>Actions and errors of the program, one per line</source>
+        <translation>Aktionen und Fehler des Programms, Zeile für Zeile</translation>
     </message>
     <message>
         <source>Log</source>
@@ -605,14 +605,14 @@ Komfort ausgelegt.</translation>
         <source>%1
 Grisal needs OpenGL 2.1 to show and save pictures. Please install or update the graphics driver and start Grisal again.</source>
         <translation>%1
-Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installieren oder aktualisieren Sie den Grafiktreiber und starten Sie Grisal neu.</translation>
+Grisal braucht OpenGL 2.1, um Bilder anzuzeigen und zu speichern. Bitte installieren oder aktualisieren Sie den Grafiktreiber und starten Sie Grisal neu.</translation>
     </message>
 </context>
 <context>
     <name>Sharpen</name>
     <message>
         <source>There is no sharpening yet: the button does nothing</source>
-        <translation>Das Schärfen gibt es noch nicht: Der Knopf bewirkt nichts</translation>
+        <translation>Das Schärfen ist noch nicht verfügbar: Der Knopf bewirkt nichts</translation>
     </message>
     <message>
         <source>Sharpen Not Yet Available</source>
@@ -674,8 +674,8 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <translation>&lt;div style=&quot; color:#ff0000;&quot;&gt;Rot&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Red of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
-        <translation>Rot der Lichter. Es zählt mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma.</translation>
+        <source>Red of the highlights. It takes effect with the next change of the weight, a wheel or a luma.</source>
+        <translation>Rot der Lichter. Es wird mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma wirksam.</translation>
     </message>
     <message>
         <source>Red of the highlights</source>
@@ -686,8 +686,8 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <translation>&lt;div style=&quot; color:green;&quot;&gt;Grün&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Green of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
-        <translation>Grün der Lichter. Es zählt mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma.</translation>
+        <source>Green of the highlights. It takes effect with the next change of the weight, a wheel or a luma.</source>
+        <translation>Grün der Lichter. Es wird mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma wirksam.</translation>
     </message>
     <message>
         <source>Green of the highlights</source>
@@ -698,8 +698,8 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <translation>&lt;div style=&quot; color:#0000ff;&quot;&gt;Blau&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Blue of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
-        <translation>Blau der Lichter. Es zählt mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma.</translation>
+        <source>Blue of the highlights. It takes effect with the next change of the weight, a wheel or a luma.</source>
+        <translation>Blau der Lichter. Es wird mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma wirksam.</translation>
     </message>
     <message>
         <source>Blue of the highlights</source>
@@ -734,24 +734,24 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <translation>Die Pfeiltasten wählen die Tönung der Schatten: Rot nach oben, Blau nach rechts, Grau in der Mitte. Bild auf und Bild ab machen sie heller oder dunkler.</translation>
     </message>
     <message>
-        <source>Red of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
-        <translation>Rot der Schatten. Es zählt mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma.</translation>
+        <source>Red of the shadows. It takes effect with the next change of the weight, a wheel or a luma.</source>
+        <translation>Rot der Schatten. Es wird mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma wirksam.</translation>
     </message>
     <message>
         <source>Red of the shadows</source>
         <translation>Rot der Schatten</translation>
     </message>
     <message>
-        <source>Green of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
-        <translation>Grün der Schatten. Es zählt mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma.</translation>
+        <source>Green of the shadows. It takes effect with the next change of the weight, a wheel or a luma.</source>
+        <translation>Grün der Schatten. Es wird mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma wirksam.</translation>
     </message>
     <message>
         <source>Green of the shadows</source>
         <translation>Grün der Schatten</translation>
     </message>
     <message>
-        <source>Blue of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
-        <translation>Blau der Schatten. Es zählt mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma.</translation>
+        <source>Blue of the shadows. It takes effect with the next change of the weight, a wheel or a luma.</source>
+        <translation>Blau der Schatten. Es wird mit der nächsten Änderung der Gewichtung, eines Farbrads oder einer Luma wirksam.</translation>
     </message>
     <message>
         <source>Blue of the shadows</source>
@@ -782,7 +782,7 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
     </message>
     <message>
         <source>Along the link that was followed before going back</source>
-        <translation>Noch einmal dem Verweis nach, von dem Sie zurückgekehrt sind</translation>
+        <translation>Wieder dem Verweis folgen, von dem Sie zurückgekehrt sind</translation>
     </message>
     <message>
         <source>Forward</source>
@@ -860,7 +860,7 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
     </message>
     <message>
         <source>How far from the centre the strength is reached, in percent of the mean of the picture&apos;s width and height</source>
-        <translation>Wie weit von der Mitte die Stärke erreicht ist, in Prozent des Mittels von Bildbreite und Bildhöhe</translation>
+        <translation>In welchem Abstand von der Mitte die Stärke erreicht wird, in Prozent des Mittelwerts von Bildbreite und Bildhöhe</translation>
     </message>
     <message>
         <source>Radius in percent</source>
@@ -872,7 +872,7 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
     </message>
     <message>
         <source>How much the picture is darkened at the radius, in percent: 0 leaves it as it is</source>
-        <translation>Wie sehr das Bild am Radius abgedunkelt wird, in Prozent: 0 lässt es, wie es ist</translation>
+        <translation>Wie stark das Bild am Radius abgedunkelt wird, in Prozent: 0 lässt es, wie es ist</translation>
     </message>
     <message>
         <source>Strength in percent</source>
@@ -969,7 +969,7 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
     </message>
     <message>
         <source>The picture could not be rendered. Nothing was saved; the log tells more.</source>
-        <translation>Das Bild konnte nicht berechnet werden. Nichts wurde gespeichert; mehr steht im Protokoll.</translation>
+        <translation>Das Bild konnte nicht berechnet werden. Es wurde nichts gespeichert; mehr steht im Protokoll.</translation>
     </message>
     <message>
         <source>File %1 already exists.
@@ -986,8 +986,8 @@ Grisal braucht OpenGL 2.1, um Bilder zu zeigen und zu speichern. Bitte installie
         <translation>Fortschritt</translation>
     </message>
     <message>
-        <source>How much of reading, rendering or writing is done</source>
-        <translation>Wie viel vom Lesen, Berechnen oder Schreiben getan ist</translation>
+        <source>Progress of reading, rendering or writing</source>
+        <translation>Fortschritt beim Lesen, Berechnen oder Schreiben</translation>
     </message>
     <message>
         <source>Reading %1</source>

@@ -55,8 +55,8 @@ et le confort.</translation>
 <context>
     <name>CurveFrame</name>
     <message>
-        <source>Points: %1, none taken</source>
-        <translation>Points&#xa0;: %1, aucun saisi</translation>
+        <source>Points: %1, none selected</source>
+        <translation>Points&#xa0;: %1, aucun sélectionné</translation>
     </message>
     <message>
         <source>Point %1 of %2: %3 % from the left, %4 % from the bottom</source>
@@ -98,16 +98,16 @@ et le confort.</translation>
         <translation>&lt;div style=&quot; background:white; color:black; white-space:nowrap;&quot;&gt;Les gris après la courbe, le noir en bas&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Click to take the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
-        <translation>Cliquez pour saisir le point au-dessus ou au-dessous, ou pour en ajouter un. Faites-le glisser pour le déplacer. Suppr retire le point orange&#xa0;; les deux extrémités restent.</translation>
+        <source>Click to select the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
+        <translation>Cliquez pour sélectionner le point au-dessus ou au-dessous, ou pour en ajouter un. Faites-le glisser pour le déplacer. Suppr retire le point orange&#xa0;; les deux extrémités restent.</translation>
     </message>
     <message>
         <source>Tone curve</source>
         <translation>Courbe des tons</translation>
     </message>
     <message>
-        <source>Page Up and Page Down take the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
-        <translation>Page précédente et Page suivante saisissent le point à gauche ou à droite, les flèches le déplacent. Inser ajoute un point à sa droite, Suppr le retire&#xa0;; les deux extrémités restent.</translation>
+        <source>Page Up and Page Down select the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
+        <translation>Page précédente et Page suivante sélectionnent le point à gauche ou à droite, les flèches le déplacent. Inser ajoute un point à sa droite, Suppr le retire&#xa0;; les deux extrémités restent.</translation>
     </message>
     <message>
         <source>The greys before the curve</source>
@@ -135,7 +135,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>A smooth curve through the points</source>
-        <translation>Une courbe douce par les points</translation>
+        <translation>Une courbe lisse passant par les points</translation>
     </message>
     <message>
         <source>BSpline</source>
@@ -180,16 +180,16 @@ et le confort.</translation>
         <translation>Réinitialiser</translation>
     </message>
     <message>
-        <source>How strong the grain is, from the blacks at the left to the whites at the right. Click to take the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
-        <translation>La force du grain, du noir à gauche au blanc à droite. Cliquez pour saisir le point au-dessus ou au-dessous, ou pour en ajouter un. Faites-le glisser pour le déplacer. Suppr retire le point orange&#xa0;; les deux extrémités restent.</translation>
+        <source>How strong the grain is, from the blacks at the left to the whites at the right. Click to select the point above or below, or to add one. Drag to move it. Delete removes the orange point; the two ends stay.</source>
+        <translation>La force du grain, du noir à gauche au blanc à droite. Cliquez pour sélectionner le point au-dessus ou au-dessous, ou pour en ajouter un. Faites-le glisser pour le déplacer. Suppr retire le point orange&#xa0;; les deux extrémités restent.</translation>
     </message>
     <message>
         <source>Strength of the grain</source>
         <translation>Force du grain</translation>
     </message>
     <message>
-        <source>How strong the grain is, from the blacks at the left to the whites at the right. Page Up and Page Down take the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
-        <translation>La force du grain, du noir à gauche au blanc à droite. Page précédente et Page suivante saisissent le point à gauche ou à droite, les flèches le déplacent. Inser ajoute un point à sa droite, Suppr le retire&#xa0;; les deux extrémités restent.</translation>
+        <source>How strong the grain is, from the blacks at the left to the whites at the right. Page Up and Page Down select the point to the left or to the right, arrow keys move it. Insert adds a point to its right, Delete removes it; the two ends stay.</source>
+        <translation>La force du grain, du noir à gauche au blanc à droite. Page précédente et Page suivante sélectionnent le point à gauche ou à droite, les flèches le déplacent. Inser ajoute un point à sa droite, Suppr le retire&#xa0;; les deux extrémités restent.</translation>
     </message>
     <message>
         <source>The grain on the greys from black to white</source>
@@ -205,7 +205,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>How coarse the grain is, in pixels</source>
-        <translation>La grosseur du grain, en pixels</translation>
+        <translation>La taille du grain, en pixels</translation>
     </message>
 </context>
 <context>
@@ -227,7 +227,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>Arrow keys move about in the picture, plus and minus zoom. The space bar, while it is held, shows the picture without the filters.</source>
-        <translation>Les flèches vous déplacent dans l’image, plus et moins agrandissent et réduisent. La barre d’espace, tant qu’elle est enfoncée, montre l’image sans les filtres.</translation>
+        <translation>Les flèches déplacent la vue, plus et moins agrandissent et réduisent. La barre d’espace, tant qu’elle est enfoncée, affiche l’image sans les filtres.</translation>
     </message>
     <message>
         <source>File</source>
@@ -369,20 +369,20 @@ et le confort.</translation>
         <translation>Il n’y a pas d’OpenGL sur cet écran.</translation>
     </message>
     <message>
-        <source>Not all that %1 says about its picture could be read</source>
-        <translation>Les informations de %1 sur son image n’ont pas toutes pu être lues</translation>
+        <source>Some metadata in %1 could not be read</source>
+        <translation>Certaines métadonnées de %1 n’ont pas pu être lues</translation>
     </message>
     <message>
-        <source>Not all that was said about the picture could be saved with it</source>
-        <translation>Les informations sur l’image n’ont pas toutes pu être enregistrées avec elle</translation>
+        <source>Some metadata could not be saved</source>
+        <translation>Certaines métadonnées n’ont pas pu être enregistrées</translation>
     </message>
     <message>
         <source>The log %1 cannot be written.</source>
-        <translation>Le journal %1 ne peut pas être écrit.</translation>
+        <translation>Impossible d’écrire dans le journal %1.</translation>
     </message>
     <message>
-        <source>The settings cannot be used, because %1 is not a regular file or too large.</source>
-        <translation>Les réglages ne peuvent pas être utilisés, car %1 n’est pas un fichier ordinaire ou est trop volumineux.</translation>
+        <source>The settings cannot be used, because %1 is too large or is not a regular file.</source>
+        <translation>Impossible d’utiliser les réglages&#xa0;: %1 est trop volumineux ou n’est pas un fichier ordinaire.</translation>
     </message>
 </context>
 <context>
@@ -393,7 +393,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>Looks named after black-and-white film stocks</source>
-        <translation>Des rendus qui portent des noms de films en noir et blanc</translation>
+        <translation>Des rendus portant le nom de films en noir et blanc</translation>
     </message>
     <message>
         <source>Presets</source>
@@ -409,7 +409,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>Click or drag to choose the weights: red upwards, blue to the right, the plain average in the middle. The mouse wheel raises and lowers them all.</source>
-        <translation>Cliquez ou faites glisser pour choisir les poids&#xa0;: le rouge vers le haut, le bleu vers la droite, la simple moyenne au centre. La molette les élève et les abaisse tous.</translation>
+        <translation>Cliquez ou faites glisser pour choisir les poids&#xa0;: le rouge vers le haut, le bleu vers la droite, la simple moyenne au centre. La molette les augmente et les diminue tous.</translation>
     </message>
     <message>
         <source>Colour wheel</source>
@@ -417,7 +417,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>Arrow keys choose the weights: red upwards, blue to the right, the plain average in the middle. Page Up and Page Down raise and lower them all.</source>
-        <translation>Les flèches choisissent les poids&#xa0;: le rouge vers le haut, le bleu vers la droite, la simple moyenne au centre. Page précédente et Page suivante les élèvent et les abaissent tous.</translation>
+        <translation>Les flèches choisissent les poids&#xa0;: le rouge vers le haut, le bleu vers la droite, la simple moyenne au centre. Page précédente et Page suivante les augmentent et les diminuent tous.</translation>
     </message>
     <message>
         <source>Luma</source>
@@ -440,8 +440,8 @@ et le confort.</translation>
         <translation>&lt;div style=&quot; color:#ff0000;&quot;&gt;Rouge&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Red&apos;s share of the grey. It counts with the next change of the luma.</source>
-        <translation>La part du rouge dans le gris. Elle compte au prochain changement de luma.</translation>
+        <source>Red&apos;s share of the grey. It takes effect with the next change of the luma.</source>
+        <translation>La part du rouge dans le gris. Elle prend effet au prochain changement de luma.</translation>
     </message>
     <message>
         <source>Red weight</source>
@@ -452,8 +452,8 @@ et le confort.</translation>
         <translation>&lt;div style=&quot; color:green;&quot;&gt;Vert&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Green&apos;s share of the grey. It counts with the next change of the luma.</source>
-        <translation>La part du vert dans le gris. Elle compte au prochain changement de luma.</translation>
+        <source>Green&apos;s share of the grey. It takes effect with the next change of the luma.</source>
+        <translation>La part du vert dans le gris. Elle prend effet au prochain changement de luma.</translation>
     </message>
     <message>
         <source>Green weight</source>
@@ -464,8 +464,8 @@ et le confort.</translation>
         <translation>&lt;div style=&quot; color:#0000ff;&quot;&gt;Bleu&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Blue&apos;s share of the grey. It counts with the next change of the luma.</source>
-        <translation>La part du bleu dans le gris. Elle compte au prochain changement de luma.</translation>
+        <source>Blue&apos;s share of the grey. It takes effect with the next change of the luma.</source>
+        <translation>La part du bleu dans le gris. Elle prend effet au prochain changement de luma.</translation>
     </message>
     <message>
         <source>Blue weight</source>
@@ -484,7 +484,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>Remembered from the last pictures</source>
-        <translation>Retenu des dernières images</translation>
+        <translation>Mémorisé</translation>
     </message>
     <message>
         <source>Last directory:</source>
@@ -492,7 +492,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>Where the dialogs for opening and saving start</source>
-        <translation>Là où commencent les dialogues d’ouverture et d’enregistrement</translation>
+        <translation>Le dossier où s’ouvrent les boîtes de dialogue d’ouverture et d’enregistrement</translation>
     </message>
     <message>
         <source>Last directory</source>
@@ -500,11 +500,11 @@ et le confort.</translation>
     </message>
     <message>
         <source>None: dialogs start in your home directory</source>
-        <translation>Aucun&#xa0;: les dialogues partent du dossier personnel</translation>
+        <translation>Aucun&#xa0;: les boîtes de dialogue s’ouvrent dans le dossier personnel</translation>
     </message>
     <message>
         <source>Forget the last directory: dialogs start in your home directory again</source>
-        <translation>Oublier le dernier dossier&#xa0;: les dialogues commencent de nouveau dans votre dossier personnel</translation>
+        <translation>Oublier le dernier dossier&#xa0;: les boîtes de dialogue s’ouvrent de nouveau dans votre dossier personnel</translation>
     </message>
     <message>
         <source>Forget the last directory</source>
@@ -512,7 +512,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>Dialogs start in your home directory again</source>
-        <translation>Les dialogues commencent de nouveau dans votre dossier personnel</translation>
+        <translation>Les boîtes de dialogue s’ouvrent de nouveau dans votre dossier personnel</translation>
     </message>
     <message>
         <source>Forget</source>
@@ -524,7 +524,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>The pictures of the menu File, Recent, and those whose files are missing at the moment</source>
-        <translation>Les images du menu «&#xa0;Fichier&#xa0;», «&#xa0;Récents&#xa0;» et celles dont les fichiers manquent en ce moment</translation>
+        <translation>Les images du menu «&#xa0;Fichier&#xa0;», «&#xa0;Récents&#xa0;» et celles dont les fichiers sont actuellement introuvables</translation>
     </message>
     <message>
         <source>Recent images</source>
@@ -532,7 +532,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>Forget the recent images: the menu File, Recent becomes empty</source>
-        <translation>Oublier les images récentes&#xa0;: le menu «&#xa0;Fichier&#xa0;», «&#xa0;Récents&#xa0;» devient vide</translation>
+        <translation>Oublier les images récentes&#xa0;: le menu «&#xa0;Fichier&#xa0;», «&#xa0;Récents&#xa0;» est vidé</translation>
     </message>
     <message>
         <source>Forget the recent images</source>
@@ -540,7 +540,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>The menu File, Recent becomes empty</source>
-        <translation>Le menu «&#xa0;Fichier&#xa0;», «&#xa0;Récents&#xa0;» devient vide</translation>
+        <translation>Le menu «&#xa0;Fichier&#xa0;», «&#xa0;Récents&#xa0;» est vidé</translation>
     </message>
     <message>
         <source>Files of the program</source>
@@ -551,8 +551,8 @@ et le confort.</translation>
         <translation>Journal&#xa0;:</translation>
     </message>
     <message>
-        <source>What the program did and what went wrong, a line each</source>
-        <translation>Ce que le programme a fait et ce qui a échoué, ligne par ligne</translation>
+        <source>Actions and errors of the program, one per line</source>
+        <translation>Actions et erreurs du programme, ligne par ligne</translation>
     </message>
     <message>
         <source>Log</source>
@@ -564,7 +564,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>Shows it in the file manager</source>
-        <translation>Le montre dans le gestionnaire de fichiers</translation>
+        <translation>L’affiche dans le gestionnaire de fichiers</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -576,7 +576,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>Where the last directory and the recent images are kept</source>
-        <translation>Là où sont gardés le dernier dossier et les images récentes</translation>
+        <translation>L’emplacement où sont conservés le dernier dossier et les images récentes</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -605,18 +605,18 @@ et le confort.</translation>
         <source>%1
 Grisal needs OpenGL 2.1 to show and save pictures. Please install or update the graphics driver and start Grisal again.</source>
         <translation>%1
-Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez installer ou mettre à jour le pilote graphique, puis relancer Grisal.</translation>
+Grisal a besoin d’OpenGL 2.1 pour afficher et enregistrer des images. Veuillez installer ou mettre à jour le pilote graphique, puis relancer Grisal.</translation>
     </message>
 </context>
 <context>
     <name>Sharpen</name>
     <message>
         <source>There is no sharpening yet: the button does nothing</source>
-        <translation>La netteté n’existe pas encore&#xa0;: le bouton ne fait rien</translation>
+        <translation>L’accentuation n’est pas encore disponible&#xa0;: le bouton ne fait rien</translation>
     </message>
     <message>
         <source>Sharpen Not Yet Available</source>
-        <translation>Netteté pas encore disponible</translation>
+        <translation>L’accentuation n’est pas encore disponible</translation>
     </message>
 </context>
 <context>
@@ -647,11 +647,11 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
     </message>
     <message>
         <source>&lt;div style=&quot; background:white; color:black; white-space:nowrap;&quot;&gt;How light the tint is; it keeps its colour&lt;/div&gt;</source>
-        <translation>&lt;div style=&quot; background:white; color:black; white-space:nowrap;&quot;&gt;La clarté de la teinte&#xa0;; elle garde sa couleur&lt;/div&gt;</translation>
+        <translation>&lt;div style=&quot; background:white; color:black; white-space:nowrap;&quot;&gt;La luminosité de la teinte&#xa0;; sa couleur ne change pas&lt;/div&gt;</translation>
     </message>
     <message>
         <source>How light the tint is; it keeps its colour</source>
-        <translation>La clarté de la teinte&#xa0;; elle garde sa couleur</translation>
+        <translation>La luminosité de la teinte&#xa0;; sa couleur ne change pas</translation>
     </message>
     <message>
         <source>Luma of the highlights</source>
@@ -674,8 +674,8 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <translation>&lt;div style=&quot; color:#ff0000;&quot;&gt;Rouge&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Red of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
-        <translation>Le rouge des hautes lumières. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
+        <source>Red of the highlights. It takes effect with the next change of the weight, a wheel or a luma.</source>
+        <translation>Le rouge des hautes lumières. Il prend effet au prochain changement de la balance, d’une roue ou d’une luma.</translation>
     </message>
     <message>
         <source>Red of the highlights</source>
@@ -686,8 +686,8 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <translation>&lt;div style=&quot; color:green;&quot;&gt;Vert&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Green of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
-        <translation>Le vert des hautes lumières. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
+        <source>Green of the highlights. It takes effect with the next change of the weight, a wheel or a luma.</source>
+        <translation>Le vert des hautes lumières. Il prend effet au prochain changement de la balance, d’une roue ou d’une luma.</translation>
     </message>
     <message>
         <source>Green of the highlights</source>
@@ -698,8 +698,8 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <translation>&lt;div style=&quot; color:#0000ff;&quot;&gt;Bleu&lt;/div&gt;</translation>
     </message>
     <message>
-        <source>Blue of the highlights. It counts with the next change of the weight, a wheel or a luma.</source>
-        <translation>Le bleu des hautes lumières. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
+        <source>Blue of the highlights. It takes effect with the next change of the weight, a wheel or a luma.</source>
+        <translation>Le bleu des hautes lumières. Il prend effet au prochain changement de la balance, d’une roue ou d’une luma.</translation>
     </message>
     <message>
         <source>Blue of the highlights</source>
@@ -734,24 +734,24 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <translation>Les flèches choisissent la teinte des ombres&#xa0;: le rouge vers le haut, le bleu vers la droite, le gris au centre. Page précédente et Page suivante l’éclaircissent ou l’assombrissent.</translation>
     </message>
     <message>
-        <source>Red of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
-        <translation>Le rouge des ombres. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
+        <source>Red of the shadows. It takes effect with the next change of the weight, a wheel or a luma.</source>
+        <translation>Le rouge des ombres. Il prend effet au prochain changement de la balance, d’une roue ou d’une luma.</translation>
     </message>
     <message>
         <source>Red of the shadows</source>
         <translation>Rouge des ombres</translation>
     </message>
     <message>
-        <source>Green of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
-        <translation>Le vert des ombres. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
+        <source>Green of the shadows. It takes effect with the next change of the weight, a wheel or a luma.</source>
+        <translation>Le vert des ombres. Il prend effet au prochain changement de la balance, d’une roue ou d’une luma.</translation>
     </message>
     <message>
         <source>Green of the shadows</source>
         <translation>Vert des ombres</translation>
     </message>
     <message>
-        <source>Blue of the shadows. It counts with the next change of the weight, a wheel or a luma.</source>
-        <translation>Le bleu des ombres. Il compte au prochain changement de la balance, d’une roue ou d’une luma.</translation>
+        <source>Blue of the shadows. It takes effect with the next change of the weight, a wheel or a luma.</source>
+        <translation>Le bleu des ombres. Il prend effet au prochain changement de la balance, d’une roue ou d’une luma.</translation>
     </message>
     <message>
         <source>Blue of the shadows</source>
@@ -774,7 +774,7 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
     </message>
     <message>
         <source>To where the last link was followed</source>
-        <translation>Là où le dernier lien a été suivi</translation>
+        <translation>Vers l’endroit où le dernier lien a été suivi</translation>
     </message>
     <message>
         <source>Back</source>
@@ -840,7 +840,7 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
     </message>
     <message>
         <source>Where the centre lies, in percent of the picture&apos;s width from the left</source>
-        <translation>La place du centre, en pour cent de la largeur de l’image depuis la gauche</translation>
+        <translation>La position du centre, en pour cent de la largeur de l’image depuis la gauche</translation>
     </message>
     <message>
         <source>Centre from the left in percent</source>
@@ -848,7 +848,7 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
     </message>
     <message>
         <source>Where the centre lies, in percent of the picture&apos;s height from the top</source>
-        <translation>La place du centre, en pour cent de la hauteur de l’image depuis le haut</translation>
+        <translation>La position du centre, en pour cent de la hauteur de l’image depuis le haut</translation>
     </message>
     <message>
         <source>Centre from the top in percent</source>
@@ -986,8 +986,8 @@ Grisal a besoin d’OpenGL 2.1 pour montrer et enregistrer des images. Veuillez 
         <translation>Progression</translation>
     </message>
     <message>
-        <source>How much of reading, rendering or writing is done</source>
-        <translation>La part de lecture, de calcul ou d’écriture déjà faite</translation>
+        <source>Progress of reading, rendering or writing</source>
+        <translation>Progression de la lecture, du calcul ou de l’écriture</translation>
     </message>
     <message>
         <source>Reading %1</source>

@@ -124,7 +124,7 @@ void CurveFrame::showChange()
 QString CurveFrame::accessibleValue() const
 {
     if (m_selected < 0) {
-        return tr("Points: %1, none taken").arg(m_points.count());
+        return tr("Points: %1, none selected").arg(m_points.count());
     }
     constexpr float percent = 100;
     return tr("Point %1 of %2: %3 % from the left, %4 % from the bottom")

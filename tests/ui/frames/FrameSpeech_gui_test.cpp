@@ -79,7 +79,7 @@ TEST_F(FrameSpeech, CurveReportsItsPoints)
 {
     CurveFrame curve;
     EXPECT_EQ(roleOf(curve), QAccessible::Canvas);
-    EXPECT_EQ(value(curve), "Points: 2, none taken");
+    EXPECT_EQ(value(curve), "Points: 2, none selected");
     curve.setPoints({0, 0.25F, 1}, {1, 0.6F, 0});
     show(curve);
     AccessibilityEventRecorder recorder;
@@ -94,9 +94,9 @@ TEST_F(FrameSpeech, CurveReportsItsPoints)
     curve.deleteSelected();
     EXPECT_EQ(reported(recorder, curve), "Point 1 of 2: 0 % from the left, 0 % from the bottom");
     curve.slotSetInactive();
-    EXPECT_EQ(reported(recorder, curve), "Points: 2, none taken");
+    EXPECT_EQ(reported(recorder, curve), "Points: 2, none selected");
     curve.setPoints({0, 0.5F, 1}, {1, 0.5F, 0});
-    EXPECT_EQ(reported(recorder, curve), "Points: 3, none taken");
+    EXPECT_EQ(reported(recorder, curve), "Points: 3, none selected");
 }
 
 TEST_F(FrameSpeech, CurveReportsEveryPositionOfADraggedPoint)
