@@ -184,7 +184,7 @@ std::optional<graphics::Image> MainWindow::renderImage(BusyNotice &notice)
 void MainWindow::showRenderFailed(const QString &reason)
 {
     qWarning("The picture could not be rendered. %s", qPrintable(reason));
-    showStatus(tr("The picture could not be rendered. Nothing was saved; the log tells more."));
+    showStatus(tr("The picture could not be rendered. Nothing was saved; the log contains the reason."));
 }
 
 void MainWindow::on_actionSave_triggered()

@@ -968,7 +968,7 @@ Grisal braucht OpenGL 2.1, um Bilder anzuzeigen und zu speichern. Bitte installi
         <translation>%1 kann nicht gespeichert werden. Wählen Sie einen anderen Ort oder Namen.</translation>
     </message>
     <message>
-        <source>The picture could not be rendered. Nothing was saved; the log tells more.</source>
+        <source>The picture could not be rendered. Nothing was saved; the log contains the reason.</source>
         <translation>Das Bild konnte nicht berechnet werden. Es wurde nichts gespeichert; mehr steht im Protokoll.</translation>
     </message>
     <message>

@@ -968,7 +968,7 @@ Grisal a besoin d’OpenGL 2.1 pour afficher et enregistrer des images. Veuillez
         <translation>Impossible d’enregistrer %1. Choisissez un autre emplacement ou un autre nom.</translation>
     </message>
     <message>
-        <source>The picture could not be rendered. Nothing was saved; the log tells more.</source>
+        <source>The picture could not be rendered. Nothing was saved; the log contains the reason.</source>
         <translation>L’image n’a pas pu être calculée. Rien n’a été enregistré&#xa0;; le journal en dit plus.</translation>
     </message>
     <message>

@@ -153,7 +153,7 @@ TEST_F(MainWindowSave, FinalRenderingWithoutAnImageFails)
     start();
     expectWarning(QStringLiteral("The picture could not be rendered. No picture is open"));
     window.slotFinalRendering();
-    EXPECT_EQ(status(), "The picture could not be rendered. Nothing was saved; the log tells more.");
+    EXPECT_EQ(status(), "The picture could not be rendered. Nothing was saved; the log contains the reason.");
 }
 
 TEST_F(MainWindowSave, CancelledSaveAsShowsAStatusForTwoSeconds)
@@ -290,7 +290,7 @@ TEST_F(MainWindowSave, FailedRenderingWritesNoFile)
     window.openImage(makePicture(QStringLiteral("a.png"), width, height));
     expectWarning(QStringLiteral("The picture could not be rendered."));
     window.saveImage(inHome(QStringLiteral("b.png")));
-    EXPECT_EQ(status(), "The picture could not be rendered. Nothing was saved; the log tells more.");
+    EXPECT_EQ(status(), "The picture could not be rendered. Nothing was saved; the log contains the reason.");
     EXPECT_FALSE(QFile::exists(inHome(QStringLiteral("b.png"))));
 }
 

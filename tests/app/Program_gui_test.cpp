@@ -144,8 +144,7 @@ TEST_F(Program, StartsIfTheSettingsAreAPipe)
     EXPECT_TRUE(QTest::qWaitFor([] { return greyPixels() > 297 * 197; }, 10000)) << greyPixels();
     end();
     const QByteArray problem =
-        "The settings cannot be used, because " + settings + " is too large or is not a regular file.
-";
+        "The settings cannot be used, because " + settings + " is too large or is not a regular file.\n";
     EXPECT_TRUE(process.readAllStandardError().contains(problem));
     EXPECT_TRUE(logged().contains(" Warning: " + problem)) << logged().toStdString();
 }
