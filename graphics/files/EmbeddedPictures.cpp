@@ -60,18 +60,56 @@ bool describesOtherImages(const std::string &key, const std::string &property)
            });
 }
 
-/// Whether a value as it is written into files contains the start of a JPEG image that is not cut off at once.
+std::uint8_t byteAt(QByteArrayView bytes, qsizetype offset)
+{
+    return static_cast<std::uint8_t>(bytes[offset]);
+}
+
+bool isStartOfFrame(std::uint8_t marker)
+{
+    return marker >= 0xc0 && marker <= 0xcf && marker != 0xc4 && marker != 0xc8 && marker != 0xcc;
+}
+
+bool hasLength(std::uint8_t marker)
+{
+    return marker >= 0xc0 && (marker < 0xd0 || marker > 0xd9);
+}
+
+/// Whether the bytes are the segments at the start of a JPEG image, up to the one with the size of the image.
+bool areJpegSegments(QByteArrayView bytes)
+{
+    constexpr int maxSegments = 100;
+    constexpr int headSize = 4;
+    qsizetype at = 0;
+    for (int i = 0; i < maxSegments && at + headSize <= bytes.size(); ++i) {
+        const std::uint8_t marker = byteAt(bytes, at + 1);
+        const int length = byteAt(bytes, at + 2) * 256 + byteAt(bytes, at + 3);
+        if (byteAt(bytes, at) != 0xff || !hasLength(marker) || length < 2) {
+            return false;
+        }
+        at += 2 + length;
+        if (isStartOfFrame(marker)) {
+            return at <= bytes.size();
+        }
+    }
+    return false;
+}
+
+/// Whether a value as it is written into files contains a JPEG image. Its first three bytes alone are common in tables
+/// of negative numbers.
 template <typename Datum>
 bool containsJpeg(const Datum &datum)
 {
-    constexpr qsizetype smallestImage = 100;
-    if (datum.size() < smallestImage) {
-        return false;
-    }
+    constexpr qsizetype startOfImageSize = 2;
     QByteArray value(static_cast<qsizetype>(datum.size()), '\0');
     datum.copy(reinterpret_cast<Exiv2::byte *>(value.data()), Exiv2::littleEndian);
-    const qsizetype start = value.indexOf(jpegStart);
-    return start >= 0 && value.size() - start >= smallestImage;
+    const QByteArrayView view(value);
+    for (qsizetype start = view.indexOf(jpegStart); start >= 0; start = view.indexOf(jpegStart, start + 1)) {
+        if (areJpegSegments(view.sliced(start + startOfImageSize))) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool isEncodedImage(const std::string &text)

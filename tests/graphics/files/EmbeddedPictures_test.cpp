@@ -17,7 +17,9 @@ namespace
 {
 
 constexpr int quality = 90;
-const QByteArray jpeg = QByteArray::fromHex("ffd8ffe000104a464946") + "ColoursOfTheOriginal" + QByteArray(7'000, 'J');
+const QByteArray jpeg = QByteArray::fromHex("ffd8ffe000104a46494600010101006000600000"
+                                            "ffc0000b080010001001011100") +
+                        "ColoursOfTheOriginal" + QByteArray(7'000, 'J');
 const QByteArray png = QByteArray("\x89PNG\r\n\x1a\n") + "ColoursOfTheOriginal" + QByteArray(7'000, 'P');
 
 QByteArray packetOf(const QByteArray &properties)
@@ -160,6 +162,37 @@ TEST_F(EmbeddedPicturesTest, OtherMakersNotesAreKept)
         setMetadata(file, withMakerNote(note));
         EXPECT_EQ(saved(file).second.count("TheNote"), 3);
     }
+}
+
+// 100 times the 16-bit numbers -3, -40 and -32.
+const QByteArray littleEndianTable = QByteArray::fromHex("fdffd8ffe0ff").repeated(100);
+const QByteArray bigEndianTable = QByteArray::fromHex("fffdffd8ffe0").repeated(100);
+
+TEST_F(EmbeddedPicturesTest, TablesOfNegativeNumbersAreKept)
+{
+    for (const QByteArray &numbers : {littleEndianTable, bigEndianTable}) {
+        const QString file = written(QStringLiteral("a.jpg"));
+        setMetadata(file, withMakerNote("TheNote" + numbers));
+        EXPECT_EQ(saved(file).second.count("TheNote" + numbers), 3);
+    }
+    Metadata metadata;
+    metadata.exif["Exif.Image.Make"] = "Canon";
+    metadata.exif["Exif.Canon.OwnerName"] = "Ansel of the mountains";
+    Exiv2::ValueType<std::int16_t> value;
+    for (int i = 0; i < 100; ++i) {
+        value.value_.insert(value.value_.end(), {-3, -40, -32});
+    }
+    metadata.exif.add(Exiv2::ExifKey("Exif.Canon.0x4fff"), &value);
+    const QString file = written(QStringLiteral("a.jpg"));
+    setMetadata(file, metadata);
+    EXPECT_EQ(saved(file).second.count(littleEndianTable), 3);
+}
+
+TEST_F(EmbeddedPicturesTest, AnImageBehindATableIsFound)
+{
+    const QString file = written(QStringLiteral("a.jpg"));
+    setMetadata(file, withMakerNote(littleEndianTable + jpeg));
+    EXPECT_FALSE(saved(file).second.contains("ColoursOfTheOriginal"));
 }
 
 // Of a note that Exiv2 decodes, only the value with the image is dropped.
