@@ -12,6 +12,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -250,6 +251,25 @@ TEST_F(MetadataLimitsTest, ProfilesOfExcessiveSizeAreLeftOut)
     EXPECT_FALSE(isComplete());
     EXPECT_TRUE(saved.profile.isEmpty());
     EXPECT_EQ(saved["Exif.Image.Make"], "Acme");
+}
+
+// A file with them opens, too.
+TEST_F(MetadataLimitsTest, LargeProfilesAndXmpAreKeptInEveryFormat)
+{
+    Metadata all = fullMetadata();
+    all.profile = profileFor("RGB ", 1 << 22);
+    std::mt19937 random(1);
+    std::generate(all.profile.begin() + 132, all.profile.end(), [&] { return static_cast<char>(random()); });
+    all.xmp["Xmp.dc.source"] = std::string(1'500'000, 'x');
+    const QString source = written(QStringLiteral("a.tif"));
+    setMetadata(source, all);
+    ASSERT_TRUE(image.read(source));
+    ASSERT_TRUE(image.save(path(QStringLiteral("b.png")), quality));
+    ASSERT_TRUE(image.read(path(QStringLiteral("b.png")))) << image.problem().toStdString();
+    ASSERT_TRUE(image.save(path(QStringLiteral("c.tif")), quality));
+    const Metadata saved = metadataIn(path(QStringLiteral("c.tif")));
+    EXPECT_EQ(saved.profile, all.profile);
+    EXPECT_EQ(saved["Xmp.dc.source"].size(), 1'500'000);
 }
 
 TEST_F(MetadataLimitsTest, AMillionEmptySegmentsAreNotVisited)
