@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/EmbeddedPictures.h"
 
+#include "graphics/files/ExivData.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 
@@ -147,14 +149,6 @@ bool containsEncodedImage(const Exiv2::Xmpdatum &datum)
 std::string propertyOf(const std::string &key)
 {
     return key.substr(0, key.find_first_of("[/"));
-}
-
-template <typename Data, typename Predicate>
-void eraseIf(Data &data, Predicate predicate)
-{
-    for (auto datum = data.begin(); datum != data.end();) {
-        datum = predicate(*datum) ? data.erase(datum) : std::next(datum);
-    }
 }
 
 } // namespace

@@ -2,14 +2,13 @@
 #include "graphics/files/Metadata.h"
 
 #include "graphics/files/EmbeddedPictures.h"
+#include "graphics/files/ExivData.h"
 #include "graphics/files/MetadataBlocks.h"
 #include "graphics/files/PngChunks.h"
 #include "graphics/files/TiffDirectory.h"
 
 #include <QByteArray>
 #include <QtEndian>
-
-#include <exiv2/exiv2.hpp>
 
 #include <algorithm>
 #include <array>
@@ -47,11 +46,6 @@ void initializeExiv2()
     }
 }
 
-const Exiv2::byte *exivBytes(const QByteArray &bytes)
-{
-    return reinterpret_cast<const Exiv2::byte *>(bytes.constData());
-}
-
 Exiv2::Image::AutoPtr imageOn(Exiv2::BasicIo::AutoPtr io, ImageFormat format, bool create = false)
 {
     switch (format) {
@@ -69,14 +63,6 @@ Exiv2::Image::AutoPtr imageOn(Exiv2::BasicIo::AutoPtr io, ImageFormat format, bo
 Exiv2::Image::AutoPtr imageIn(const QByteArray &file, ImageFormat format)
 {
     return imageOn(Exiv2::BasicIo::AutoPtr(new Exiv2::MemIo(exivBytes(file), static_cast<long>(file.size()))), format);
-}
-
-template <typename Data, typename Predicate>
-void eraseIf(Data &data, Predicate predicate)
-{
-    for (auto datum = data.begin(); datum != data.end();) {
-        datum = predicate(*datum) ? data.erase(datum) : std::next(datum);
-    }
 }
 
 bool isOneOf(const std::string &text, std::initializer_list<const char *> others)

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // A saved file contains no image of the coloured original.
+#include "graphics/files/EmbeddedPictures.h"
 #include "graphics/files/LumioImage.h"
 #include "tests/graphics/files/MetadataFiles.h"
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <gtest/gtest.h>
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <string>
@@ -224,6 +226,36 @@ TEST_F(EmbeddedPicturesTest, PreviewsInIptcAreDropped)
     const auto [kept, contents] = saved(file);
     EXPECT_FALSE(contents.contains("ColoursOfTheOriginal"));
     EXPECT_EQ(kept["Iptc.Application2.City"], "Chur");
+}
+
+/// Instead of minutes; also with sanitizers.
+constexpr qint64 generousMilliseconds = 10'000;
+
+TEST_F(EmbeddedPicturesTest, ManyIptcRecordsAreDroppedInLinearTime)
+{
+    Exiv2::IptcData iptc;
+    for (int i = 0; i < 20'000; ++i) {
+        Exiv2::Iptcdatum datum(Exiv2::IptcKey(10, 8));
+        datum.setValue(std::string(20, 'x'));
+        iptc.add(datum);
+    }
+    iptc["Iptc.Application2.City"] = "Chur";
+    QElapsedTimer timer;
+    timer.start();
+    grisal::graphics::removePictures(iptc);
+    EXPECT_LT(timer.elapsed(), generousMilliseconds);
+    EXPECT_EQ(iptc.count(), 1);
+}
+
+TEST_F(EmbeddedPicturesTest, LongListsOfImagesInXmpAreDroppedInLinearTime)
+{
+    // A structure among the items makes a property of each.
+    const QByteArray items =
+        "<rdf:li rdf:parseType='Resource'><q:a>1</q:a></rdf:li>" + QByteArray("<rdf:li>1</rdf:li>").repeated(49'998);
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_TRUE(dropsXmp("<xmp:Thumbnails><rdf:Bag>" + items + "</rdf:Bag></xmp:Thumbnails>"));
+    EXPECT_LT(timer.elapsed(), generousMilliseconds);
 }
 
 } // namespace
