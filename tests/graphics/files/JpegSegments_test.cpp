@@ -28,8 +28,8 @@ struct JpegSegmentsTest : testing::Test {
     std::vector<int> markersIn(const QByteArray &contents) const
     {
         std::vector<int> markers;
-        EXPECT_TRUE(visitJpegSegments(
-            fileOf(contents), [&](const JpegSegment &segment) { markers.push_back(segment.marker); }));
+        EXPECT_TRUE(visitJpegSegments(fileOf(contents),
+                                      [&](const JpegSegment &segment) { markers.push_back(segment.marker); }));
         return markers;
     }
 
@@ -47,8 +47,8 @@ TEST_F(JpegSegmentsTest, VisitsSegmentsUpToTheFirstScan)
 
 TEST_F(JpegSegmentsTest, SkipsOtherBytesBetweenSegments)
 {
-    for (const QByteArray &stray :
-         {QByteArray("s"), QByteArray(5'000, '\0'), QByteArray(5'000, '\xff'), QByteArray("\xff\0\xff\x01\xff\xd3", 6)}) {
+    for (const QByteArray &stray : {QByteArray("s"), QByteArray(5'000, '\0'), QByteArray(5'000, '\xff'),
+                                    QByteArray("\xff\0\xff\x01\xff\xd3", 6)}) {
         EXPECT_EQ(markersIn(app + stray + app + stray + scan), (std::vector<int>{0xe1, 0xe1, 0xda}));
     }
 }
