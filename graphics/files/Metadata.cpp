@@ -169,11 +169,20 @@ QByteArray writtenBy(Exiv2::Image &image)
     return {reinterpret_cast<const char *>(io.mmap()), static_cast<qsizetype>(io.size())};
 }
 
-QByteArray exifChunk(const Exiv2::ExifData &exif)
+// ExifParser::encode() would leave out what exceeds the segment of a JPEG file.
+QByteArray exifBlock(const Exiv2::ExifData &exif)
 {
-    Exiv2::Blob blob;
-    Exiv2::ExifParser::encode(blob, Exiv2::littleEndian, exif);
-    return pngChunk("eXIf", {blob.data(), static_cast<qsizetype>(blob.size())});
+    const Exiv2::Image::AutoPtr image = emptyImage({}, ImageFormat::Tiff);
+    image->setExifData(exif);
+    return writtenBy(*image);
+}
+
+/// Whether Exif fits into the single segment of a JPEG file that it may occupy. Exiv2 leaves out large values
+/// otherwise.
+bool fitsSegment(const Exiv2::ExifData &exif)
+{
+    constexpr qsizetype maxSize = 65'527;
+    return exif.empty() || exifBlock(exif).size() <= maxSize;
 }
 
 QByteArray profileChunk(const QByteArray &profile)
@@ -243,7 +252,7 @@ QByteArray Metadata::pngOf(const Contents &contents)
     image->setXmpData(contents.xmp);
     const QByteArray end = pngChunk("IEND", {});
     QByteArray file = writtenBy(*image).chopped(end.size());
-    file += contents.exif.empty() ? QByteArray() : exifChunk(contents.exif);
+    file += contents.exif.empty() ? QByteArray() : pngChunk("eXIf", exifBlock(contents.exif));
     file += contents.profile.isEmpty() ? QByteArray() : profileChunk(contents.profile);
     return file + end;
 }
@@ -276,6 +285,7 @@ bool Metadata::writeInto(const OpenFile &file, ImageFormat format, int width, in
         Contents contents = *m_contents;
         setSize(contents.exif, width, height);
         setSize(contents.xmp, width, height);
+        complete = format != ImageFormat::Jpeg || fitsSegment(contents.exif);
         if (format == ImageFormat::Jpeg && !fitsSegment(contents.xmp)) {
             contents.xmp.clear();
             complete = false;

@@ -272,6 +272,31 @@ TEST_F(MetadataLimitsTest, LargeProfilesAndXmpAreKeptInEveryFormat)
     EXPECT_EQ(saved["Xmp.dc.source"].size(), 1'500'000);
 }
 
+// A segment of a JPEG file has 65,533 bytes.
+TEST_F(MetadataLimitsTest, LargeMakersNotesAreKeptExceptInJpegFiles)
+{
+    const QByteArray note = "Acme" + QByteArray(100'000, 'n') + "TheNote";
+    Metadata all = fullMetadata();
+    const Exiv2::DataValue value(reinterpret_cast<const Exiv2::byte *>(note.constData()),
+                                 static_cast<long>(note.size()));
+    all.exif.add(Exiv2::ExifKey("Exif.Photo.MakerNote"), &value);
+    const QString source = written(QStringLiteral("a.tif"));
+    setMetadata(source, all);
+    for (const char *name : {"b.tif", "b.png", "b.jpg"}) {
+        const QString target = path(QString::fromLatin1(name));
+        ASSERT_TRUE(image.read(source));
+        ASSERT_TRUE(image.metadata().isComplete());
+        ASSERT_TRUE(image.save(target, quality));
+        const bool isJpeg = target.endsWith("jpg");
+        EXPECT_EQ(contentsOf(target).contains(note), !isJpeg) << name;
+        EXPECT_EQ(image.warning().isEmpty(), !isJpeg) << name;
+        EXPECT_EQ(metadataIn(target)["Exif.Photo.ExposureTime"], "1/60") << name;
+        EXPECT_EQ(metadataIn(target)["Exif.Image.Make"], "Acme") << name;
+    }
+    ASSERT_TRUE(image.read(path(QStringLiteral("b.png"))));
+    EXPECT_TRUE(image.metadata().isComplete());
+}
+
 TEST_F(MetadataLimitsTest, AMillionEmptySegmentsAreNotVisited)
 {
     const QString source = written(QStringLiteral("a.jpg"));
