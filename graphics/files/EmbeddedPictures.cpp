@@ -116,8 +116,8 @@ bool containsJpeg(const Datum &datum)
 
 bool isEncodedImage(const std::string &text)
 {
-    constexpr std::size_t smallestText = 8'000;
-    if (text.size() <= smallestText) {
+    constexpr std::size_t smallestText = 200;
+    if (text.size() < smallestText) {
         return false;
     }
     constexpr QByteArrayView dataUri{";base64,"};
@@ -125,7 +125,8 @@ bool isEncodedImage(const std::string &text)
     const qsizetype marker = view.first(100).indexOf(dataUri);
     const QByteArray encoded = view.sliced(marker < 0 ? 0 : marker + dataUri.size()).toByteArray();
     const QByteArray start = QByteArray::fromBase64(encoded.first(std::min<qsizetype>(encoded.size(), 1'000)));
-    return start.startsWith(jpegStart) || start.startsWith(pngStart);
+    const bool isWebp = start.startsWith("RIFF") && start.mid(8, 4) == "WEBP";
+    return start.startsWith(jpegStart) || start.startsWith(pngStart) || isWebp;
 }
 
 bool containsEncodedImage(const Exiv2::Xmpdatum &datum)
