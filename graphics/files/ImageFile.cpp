@@ -24,8 +24,13 @@ namespace
 constexpr std::uint64_t maxUncheckedPixels = maxUncheckedMemory / 20;
 
 /// Whether the offset of the directory of a TIFF file lies behind the header and within the file.
-bool isWithin(std::uint32_t directory, std::uint64_t size)
+bool hasCompleteTiffEnd(const OpenFile &file, std::uint64_t size)
 {
+    const QByteArray offset = file.bytesAt(4, 4);
+    if (offset.size() < 4) {
+        return false;
+    }
+    const auto directory = qFromLittleEndian<std::uint32_t>(offset.constData());
     return directory >= signatureLength && directory < size;
 }
 
@@ -118,7 +123,7 @@ bool hasCompleteEnd(const OpenFile &file, ImageFormat format)
     case ImageFormat::Png:
         return file.bytesAt(size - 8, 4) == "IEND";
     case ImageFormat::Tiff:
-        return isWithin(qFromLittleEndian<std::uint32_t>(file.bytesAt(4, 4).constData()), size);
+        return hasCompleteTiffEnd(file, size);
     }
     return false;
 }

@@ -107,6 +107,8 @@ private:
             const qsizetype at = profile.indexOf(start);
             if (at >= 0) {
                 addExif(profile.mid(at + start.size()));
+            } else {
+                m_blocks.complete = false;
             }
         }
     }

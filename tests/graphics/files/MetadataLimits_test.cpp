@@ -223,6 +223,26 @@ TEST_F(MetadataLimitsTest, EntriesOfExifAreLimitedOverAllDirectories)
     EXPECT_FALSE(isComplete());
 }
 
+TEST_F(MetadataLimitsTest, DirectoriesOfTooManyEntriesAreReported)
+{
+    QByteArray block = QByteArray("II*\0\x08\0\0\0", 8) + shorts({257});
+    for (int i = 0; i < 257; ++i) {
+        block += shorts({40'000 + i, 3, 1, 0, 7, 0});
+    }
+    EXPECT_FALSE(grisal::graphics::extractExif(block + QByteArray(4, '\0')).complete);
+}
+
+TEST_F(MetadataLimitsTest, InvalidRawProfilesOfAPngAreReported)
+{
+    for (const QByteArray &profile : {QByteArray("\nexif\n 4\n41414141"), QByteArray("no digits")}) {
+        const QString png = path(QStringLiteral("plain.png"));
+        painted(24, 16, 8, [](int, int) { return Samples{}; }).write(png.toStdString());
+        addChunk(png, "tEXt", QByteArray("Raw profile type exif\0", 22) + profile);
+        carried(png);
+        EXPECT_FALSE(isComplete());
+    }
+}
+
 TEST_F(MetadataLimitsTest, RecordsOfIptcAreLimited)
 {
     for (const int count : {1'000, 12'000}) {
