@@ -2,6 +2,7 @@
 #include "graphics/files/EmbeddedPictures.h"
 
 #include "graphics/files/ExivData.h"
+#include "graphics/files/JpegSegments.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -67,11 +68,6 @@ std::uint8_t byteAt(QByteArrayView bytes, qsizetype offset)
     return static_cast<std::uint8_t>(bytes[offset]);
 }
 
-bool isStartOfFrame(std::uint8_t marker)
-{
-    return marker >= 0xc0 && marker <= 0xcf && marker != 0xc4 && marker != 0xc8 && marker != 0xcc;
-}
-
 bool hasLength(std::uint8_t marker)
 {
     return marker >= 0xc0 && (marker < 0xd0 || marker > 0xd9);
@@ -90,7 +86,7 @@ bool areJpegSegments(QByteArrayView bytes)
             return false;
         }
         at += 2 + length;
-        if (isStartOfFrame(marker)) {
+        if (JpegSegment{marker}.isStartOfFrame()) {
             return at <= bytes.size();
         }
     }
