@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/EmbeddedPictures.h"
 
+#include "graphics/files/ExivData.h"
+#include "graphics/files/JpegSegments.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 
@@ -60,24 +63,57 @@ bool describesOtherImages(const std::string &key, const std::string &property)
            });
 }
 
-/// Whether a value as it is written into files contains the start of a JPEG image that is not cut off at once.
+std::uint8_t byteAt(QByteArrayView bytes, qsizetype offset)
+{
+    return static_cast<std::uint8_t>(bytes[offset]);
+}
+
+bool hasLength(std::uint8_t marker)
+{
+    return marker >= 0xc0 && (marker < 0xd0 || marker > 0xd9);
+}
+
+/// Whether the bytes are the segments at the start of a JPEG image, up to the one with the size of the image.
+bool areJpegSegments(QByteArrayView bytes)
+{
+    constexpr int maxSegments = 100;
+    constexpr int headSize = 4;
+    qsizetype at = 0;
+    for (int i = 0; i < maxSegments && at + headSize <= bytes.size(); ++i) {
+        const std::uint8_t marker = byteAt(bytes, at + 1);
+        const int length = byteAt(bytes, at + 2) * 256 + byteAt(bytes, at + 3);
+        if (byteAt(bytes, at) != 0xff || !hasLength(marker) || length < 2) {
+            return false;
+        }
+        at += 2 + length;
+        if (JpegSegment{marker}.isStartOfFrame()) {
+            return at <= bytes.size();
+        }
+    }
+    return false;
+}
+
+/// Whether a value as it is written into files contains a JPEG image. Its first three bytes alone are common in tables
+/// of negative numbers.
 template <typename Datum>
 bool containsJpeg(const Datum &datum)
 {
-    constexpr qsizetype smallestImage = 100;
-    if (datum.size() < smallestImage) {
-        return false;
-    }
+    constexpr qsizetype startOfImageSize = 2;
     QByteArray value(static_cast<qsizetype>(datum.size()), '\0');
     datum.copy(reinterpret_cast<Exiv2::byte *>(value.data()), Exiv2::littleEndian);
-    const qsizetype start = value.indexOf(jpegStart);
-    return start >= 0 && value.size() - start >= smallestImage;
+    const QByteArrayView view(value);
+    for (qsizetype start = view.indexOf(jpegStart); start >= 0; start = view.indexOf(jpegStart, start + 1)) {
+        if (areJpegSegments(view.sliced(start + startOfImageSize))) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool isEncodedImage(const std::string &text)
 {
-    constexpr std::size_t smallestText = 8'000;
-    if (text.size() <= smallestText) {
+    constexpr std::size_t smallestText = 200;
+    if (text.size() < smallestText) {
         return false;
     }
     constexpr QByteArrayView dataUri{";base64,"};
@@ -85,7 +121,8 @@ bool isEncodedImage(const std::string &text)
     const qsizetype marker = view.first(100).indexOf(dataUri);
     const QByteArray encoded = view.sliced(marker < 0 ? 0 : marker + dataUri.size()).toByteArray();
     const QByteArray start = QByteArray::fromBase64(encoded.first(std::min<qsizetype>(encoded.size(), 1'000)));
-    return start.startsWith(jpegStart) || start.startsWith(pngStart);
+    const bool isWebp = start.startsWith("RIFF") && start.mid(8, 4) == "WEBP";
+    return start.startsWith(jpegStart) || start.startsWith(pngStart) || isWebp;
 }
 
 bool containsEncodedImage(const Exiv2::Xmpdatum &datum)
@@ -109,14 +146,6 @@ bool containsEncodedImage(const Exiv2::Xmpdatum &datum)
 std::string propertyOf(const std::string &key)
 {
     return key.substr(0, key.find_first_of("[/"));
-}
-
-template <typename Data, typename Predicate>
-void eraseIf(Data &data, Predicate predicate)
-{
-    for (auto datum = data.begin(); datum != data.end();) {
-        datum = predicate(*datum) ? data.erase(datum) : std::next(datum);
-    }
 }
 
 } // namespace

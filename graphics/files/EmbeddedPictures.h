@@ -13,9 +13,9 @@ void registerPictureNamespaces();
 /// Remove the images and depth maps in metadata, which would show the colours of the original: those that are known by
 /// name, such as thumbnails and previews, and those that are recognised by their contents.
 ///
-/// Exif and IPTC values, and maker's notes that Exiv2 does not decode, are removed where they contain the start of a
-/// JPEG image. An XMP property is removed with all its parts where a value of more than 8,000 characters is a JPEG or
-/// PNG image in Base64.
+/// Exif and IPTC values, and maker's notes that Exiv2 does not decode, are removed where they contain a JPEG image: its
+/// segments up to the one with the size of the image. An XMP property is removed with all its parts where a value of at
+/// least 200 characters is a JPEG, PNG or WebP image in Base64.
 void removePictures(Exiv2::ExifData &exif);
 void removePictures(Exiv2::IptcData &iptc);
 void removePictures(Exiv2::XmpData &xmp);

@@ -2,7 +2,7 @@
 #include "graphics/files/ImageFile.h"
 
 #include "graphics/files/ImageMemory.h"
-#include "graphics/files/PngChunks.h"
+#include "graphics/files/PngTexts.h"
 #include "graphics/files/TiffOrientation.h"
 
 #include <QFile>
@@ -23,12 +23,14 @@ namespace
 /// Sufficient for images that are not checked, and for the tiles of a TIFF file, which may exceed its image.
 constexpr std::uint64_t maxUncheckedPixels = maxUncheckedMemory / 20;
 
-constexpr std::uint32_t maxTextLength = 1 << 20;
-constexpr int maxCompressedTexts = 16;
-
 /// Whether the offset of the directory of a TIFF file lies behind the header and within the file.
-bool isWithin(std::uint32_t directory, std::uint64_t size)
+bool hasCompleteTiffEnd(const OpenFile &file, std::uint64_t size)
 {
+    const QByteArray offset = file.bytesAt(4, 4);
+    if (offset.size() < 4) {
+        return false;
+    }
+    const auto directory = qFromLittleEndian<std::uint32_t>(offset.constData());
     return directory >= signatureLength && directory < size;
 }
 
@@ -40,7 +42,7 @@ ImageFile::ImageFile(const QString &path) : m_path(path)
     if (m_problem.isEmpty()) {
         detectFormat();
     }
-    if (m_problem.isEmpty() && m_format == ImageFormat::Png && hasInvalidTexts()) {
+    if (m_problem.isEmpty() && m_format == ImageFormat::Png && !arePngTextsWithinLimits(m_file)) {
         m_problem = QStringLiteral("%1 contains texts that are too long").arg(m_path);
     }
     if (m_problem.isEmpty()) {
@@ -107,18 +109,6 @@ void ImageFile::normalise()
     }
 }
 
-// Whatever follows the closing chunk, or bytes that are no chunk, is not read by GraphicsMagick.
-bool ImageFile::hasInvalidTexts() const
-{
-    int compressedTexts = 0;
-    return !visitPngChunks(m_file, [&](const PngChunk &chunk) {
-        const bool isCompressed = chunk.kind == "zTXt" || chunk.kind == "iTXt" || chunk.kind == "iCCP";
-        const bool isText = isCompressed || chunk.kind == "tEXt";
-        compressedTexts += isCompressed ? 1 : 0;
-        return !(isText && chunk.length > maxTextLength) && compressedTexts <= maxCompressedTexts;
-    });
-}
-
 bool hasCompleteEnd(const OpenFile &file, ImageFormat format)
 {
     struct stat status {
@@ -133,7 +123,7 @@ bool hasCompleteEnd(const OpenFile &file, ImageFormat format)
     case ImageFormat::Png:
         return file.bytesAt(size - 8, 4) == "IEND";
     case ImageFormat::Tiff:
-        return isWithin(qFromLittleEndian<std::uint32_t>(file.bytesAt(4, 4).constData()), size);
+        return hasCompleteTiffEnd(file, size);
     }
     return false;
 }

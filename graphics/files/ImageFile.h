@@ -51,7 +51,6 @@ public:
 private:
     void open();
     void detectFormat();
-    bool hasInvalidTexts() const;
     void checkHeader();
 
     QString m_path;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/ImageHeader.h"
 
+#include "graphics/files/JpegSegments.h"
 #include "graphics/files/TiffHeader.h"
 
 #include <QtEndian>
@@ -21,64 +22,22 @@ Number bigEndianAt(const QByteArray &bytes, qsizetype offset)
     return qFromBigEndian<Number>(bytes.constData() + offset);
 }
 
-/// More segments or more bytes between two of them are invalid.
-constexpr int maxJpegSegments = 10'000;
-constexpr std::uint64_t maxBytesBetweenSegments = 1 << 20;
-constexpr qsizetype blockSize = 1 << 12;
-
-constexpr std::uint8_t markerStart = 0xff;
-constexpr std::uint8_t startOfScan = 0xda;
 constexpr std::uint64_t coefficientSize = 2;
 
-/// A segment of a JPEG file: its marker and the offset of its length.
-struct JpegSegment {
-    std::uint8_t marker = 0;
-    std::uint64_t offset = 0;
-};
-
-bool isStartOfFrame(std::uint8_t marker)
-{
-    return marker >= 0xc0 && marker <= 0xcf && marker != 0xc4 && marker != 0xc8 && marker != 0xcc;
-}
-
-/// Whether a segment follows the marker: not the case for 0, which is no marker, and for the markers without one.
-bool hasSegment(std::uint8_t marker)
-{
-    return marker > 1 && marker != markerStart && (marker < 0xd0 || marker > 0xd9);
-}
-
-/// The first segment at or behind an offset; like libjpeg, skips other bytes.
-std::optional<JpegSegment> nextJpegSegment(const OpenFile &file, std::uint64_t start)
-{
-    for (std::uint64_t offset = start; offset < start + maxBytesBetweenSegments; offset += blockSize - 1) {
-        const QByteArray block = file.bytesAt(offset, blockSize);
-        for (qsizetype i = 0; i + 1 < block.size(); ++i) {
-            const auto marker = static_cast<std::uint8_t>(block[i + 1]);
-            if (static_cast<std::uint8_t>(block[i]) == markerStart && hasSegment(marker)) {
-                return JpegSegment{marker, offset + static_cast<std::uint64_t>(i) + 2};
-            }
-        }
-        if (block.size() < blockSize) {
-            break;
-        }
-    }
-    return std::nullopt;
-}
-
-/// From a start of frame: length, bits per sample, height, width, number of components.
+/// From a start of frame: bits per sample, height, width, number of components.
 std::optional<ImageHeader> frameHeader(const OpenFile &file, const JpegSegment &segment, bool isProgressive)
 {
-    constexpr int size = 8;
+    constexpr int size = 6;
     const QByteArray frame = file.bytesAt(segment.offset, size);
     if (frame.size() < size) {
         return std::nullopt;
     }
     ImageHeader header;
     header.isJpeg = true;
-    header.bitsPerSample = static_cast<std::uint8_t>(frame[2]);
-    header.height = bigEndianAt<std::uint16_t>(frame, 3);
-    header.width = bigEndianAt<std::uint16_t>(frame, 5);
-    header.samplesPerPixel = static_cast<std::uint8_t>(frame[7]);
+    header.bitsPerSample = static_cast<std::uint8_t>(frame[0]);
+    header.height = bigEndianAt<std::uint16_t>(frame, 1);
+    header.width = bigEndianAt<std::uint16_t>(frame, 3);
+    header.samplesPerPixel = static_cast<std::uint8_t>(frame[5]);
     header.decoderBytesPerPixel =
         isProgressive ? coefficientSize * static_cast<std::uint32_t>(header.samplesPerPixel) : 0;
     return header;
@@ -88,24 +47,15 @@ std::optional<ImageHeader> frameHeader(const OpenFile &file, const JpegSegment &
 std::optional<ImageHeader> jpegHeader(const OpenFile &file)
 {
     std::optional<ImageHeader> header;
-    std::uint64_t offset = 2;
-    for (int i = 0; i < maxJpegSegments; ++i) {
-        const std::optional<JpegSegment> segment = nextJpegSegment(file, offset);
-        const QByteArray start = segment ? file.bytesAt(segment->offset, 3) : QByteArray();
-        if (start.size() < 3) {
-            break;
+    visitJpegSegments(file, [&](const JpegSegment &segment) {
+        if (segment.isStartOfFrame() && !header) {
+            header = frameHeader(file, segment, segment.marker % 4 == 2);
         }
-        if (isStartOfFrame(segment->marker) && !header) {
-            header = frameHeader(file, *segment, segment->marker % 4 == 2);
+        const QByteArray components = segment.isScan() && header ? file.bytesAt(segment.offset, 1) : QByteArray();
+        if (!components.isEmpty() && static_cast<std::uint8_t>(components[0]) < header->samplesPerPixel) {
+            header->decoderBytesPerPixel = coefficientSize * static_cast<std::uint32_t>(header->samplesPerPixel);
         }
-        if (segment->marker == startOfScan) {
-            if (header && static_cast<std::uint8_t>(start[2]) < header->samplesPerPixel) {
-                header->decoderBytesPerPixel = coefficientSize * static_cast<std::uint32_t>(header->samplesPerPixel);
-            }
-            break;
-        }
-        offset = segment->offset + bigEndianAt<std::uint16_t>(start, 0);
-    }
+    });
     return header;
 }
 

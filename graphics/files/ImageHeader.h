@@ -4,6 +4,7 @@
 #include "graphics/files/ImageFormat.h"
 #include "graphics/files/OpenFile.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 
@@ -23,7 +24,12 @@ struct ImageHeader {
     /// several scans, an interlaced PNG, a TIFF strip as large as the image.
     std::uint32_t decoderBytesPerPixel = 0;
 
-    std::uint64_t pixels() const { return std::uint64_t{width} * height; }
+    /// Limited, so that the memory for them can be computed.
+    std::uint64_t pixels() const
+    {
+        constexpr std::uint64_t most = std::uint64_t{1} << 32;
+        return std::min(std::uint64_t{width} * height, most);
+    }
 };
 
 /// Reads the header of a JPEG, PNG or TIFF file without GraphicsMagick, whose ping() decodes all of a progressive JPEG.

@@ -18,27 +18,21 @@ constexpr std::uint64_t maxPixelsPerBaselineJpegByteBeyond = 100;
 constexpr std::uint64_t maxPixelsPerByteBeyond = 40;
 constexpr std::uint64_t maxCopiedBytesPerPixel = 64;
 
-/// Declared sizes are limited, so that products do not overflow.
-std::uint64_t pixelsOf(const ImageHeader &header)
-{
-    return std::min(header.pixels(), std::uint64_t{1} << 32);
-}
-
 } // namespace
 
 std::uint64_t memoryToRead(const ImageHeader &header)
 {
-    return pixelsOf(header) * (bytesPerPixel + std::max(bytesPerPixel, std::uint64_t{header.decoderBytesPerPixel}));
+    return header.pixels() * (bytesPerPixel + std::max(bytesPerPixel, std::uint64_t{header.decoderBytesPerPixel}));
 }
 
 std::uint64_t memoryToWrite(const ImageHeader &header)
 {
-    return pixelsOf(header) * bytesPerPixel;
+    return header.pixels() * bytesPerPixel;
 }
 
 bool isPlausible(const ImageHeader &header, std::uint64_t storedBytes)
 {
-    const std::uint64_t pixels = pixelsOf(header);
+    const std::uint64_t pixels = header.pixels();
     const bool isBaselineJpeg = header.isJpeg && header.decoderBytesPerPixel == 0;
     const std::uint64_t pixelsPerByteBeyond =
         isBaselineJpeg ? maxPixelsPerBaselineJpegByteBeyond : maxPixelsPerByteBeyond;
@@ -49,7 +43,7 @@ bool isPlausible(const ImageHeader &header, std::uint64_t storedBytes)
 bool isPlausibleCopy(const ImageHeader &header, std::uint64_t copiedBytes)
 {
     return memoryToRead(header) + copiedBytes <= maxUncheckedMemory ||
-           copiedBytes <= pixelsOf(header) * maxCopiedBytesPerPixel;
+           copiedBytes <= header.pixels() * maxCopiedBytesPerPixel;
 }
 
 } // namespace grisal::graphics

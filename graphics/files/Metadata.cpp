@@ -2,14 +2,13 @@
 #include "graphics/files/Metadata.h"
 
 #include "graphics/files/EmbeddedPictures.h"
+#include "graphics/files/ExivData.h"
 #include "graphics/files/MetadataBlocks.h"
 #include "graphics/files/PngChunks.h"
 #include "graphics/files/TiffDirectory.h"
 
 #include <QByteArray>
 #include <QtEndian>
-
-#include <exiv2/exiv2.hpp>
 
 #include <algorithm>
 #include <array>
@@ -47,11 +46,6 @@ void initializeExiv2()
     }
 }
 
-const Exiv2::byte *exivBytes(const QByteArray &bytes)
-{
-    return reinterpret_cast<const Exiv2::byte *>(bytes.constData());
-}
-
 Exiv2::Image::AutoPtr imageOn(Exiv2::BasicIo::AutoPtr io, ImageFormat format, bool create = false)
 {
     switch (format) {
@@ -69,14 +63,6 @@ Exiv2::Image::AutoPtr imageOn(Exiv2::BasicIo::AutoPtr io, ImageFormat format, bo
 Exiv2::Image::AutoPtr imageIn(const QByteArray &file, ImageFormat format)
 {
     return imageOn(Exiv2::BasicIo::AutoPtr(new Exiv2::MemIo(exivBytes(file), static_cast<long>(file.size()))), format);
-}
-
-template <typename Data, typename Predicate>
-void eraseIf(Data &data, Predicate predicate)
-{
-    for (auto datum = data.begin(); datum != data.end();) {
-        datum = predicate(*datum) ? data.erase(datum) : std::next(datum);
-    }
 }
 
 bool isOneOf(const std::string &text, std::initializer_list<const char *> others)
@@ -183,11 +169,20 @@ QByteArray writtenBy(Exiv2::Image &image)
     return {reinterpret_cast<const char *>(io.mmap()), static_cast<qsizetype>(io.size())};
 }
 
-QByteArray exifChunk(const Exiv2::ExifData &exif)
+// ExifParser::encode() would leave out what exceeds the segment of a JPEG file.
+QByteArray exifBlock(const Exiv2::ExifData &exif)
 {
-    Exiv2::Blob blob;
-    Exiv2::ExifParser::encode(blob, Exiv2::littleEndian, exif);
-    return pngChunk("eXIf", {blob.data(), static_cast<qsizetype>(blob.size())});
+    const Exiv2::Image::AutoPtr image = emptyImage({}, ImageFormat::Tiff);
+    image->setExifData(exif);
+    return writtenBy(*image);
+}
+
+/// Whether Exif fits into the single segment of a JPEG file that it may occupy. Exiv2 leaves out large values
+/// otherwise.
+bool fitsSegment(const Exiv2::ExifData &exif)
+{
+    constexpr qsizetype maxSize = 65'527;
+    return exif.empty() || exifBlock(exif).size() <= maxSize;
 }
 
 QByteArray profileChunk(const QByteArray &profile)
@@ -257,7 +252,7 @@ QByteArray Metadata::pngOf(const Contents &contents)
     image->setXmpData(contents.xmp);
     const QByteArray end = pngChunk("IEND", {});
     QByteArray file = writtenBy(*image).chopped(end.size());
-    file += contents.exif.empty() ? QByteArray() : exifChunk(contents.exif);
+    file += contents.exif.empty() ? QByteArray() : pngChunk("eXIf", exifBlock(contents.exif));
     file += contents.profile.isEmpty() ? QByteArray() : profileChunk(contents.profile);
     return file + end;
 }
@@ -290,6 +285,7 @@ bool Metadata::writeInto(const OpenFile &file, ImageFormat format, int width, in
         Contents contents = *m_contents;
         setSize(contents.exif, width, height);
         setSize(contents.xmp, width, height);
+        complete = format != ImageFormat::Jpeg || fitsSegment(contents.exif);
         if (format == ImageFormat::Jpeg && !fitsSegment(contents.xmp)) {
             contents.xmp.clear();
             complete = false;

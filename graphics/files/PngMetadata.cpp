@@ -2,12 +2,10 @@
 #include "graphics/files/PngMetadata.h"
 
 #include "graphics/files/PhotoshopBlocks.h"
-#include "graphics/files/PngChunks.h"
+#include "graphics/files/PngTexts.h"
 #include "graphics/files/TiffMetadata.h"
 
 #include <QByteArrayView>
-
-#include <zlib.h>
 
 namespace grisal::graphics
 {
@@ -25,38 +23,6 @@ constexpr std::uint64_t maxChunks = 1 << 24;
 
 constexpr QByteArrayView rawProfile{"Raw profile type "};
 constexpr QByteArrayView xmpKeyword{"XML:com.adobe.xmp"};
-
-/// Empty if the bytes are invalid or expand to more than `most`.
-QByteArray inflated(const QByteArray &bytes, qsizetype most)
-{
-    QByteArray text(most, Qt::Uninitialized);
-    auto size = static_cast<uLongf>(most);
-    const int status = uncompress(reinterpret_cast<Bytef *>(text.data()), &size,
-                                  reinterpret_cast<const Bytef *>(bytes.constData()), static_cast<uLong>(bytes.size()));
-    return status == Z_OK ? text.first(static_cast<qsizetype>(size)) : QByteArray();
-}
-
-/// What follows the next zero byte.
-QByteArray behindZero(const QByteArray &bytes)
-{
-    const qsizetype zero = bytes.indexOf('\0');
-    return zero < 0 ? QByteArray() : bytes.mid(zero + 1);
-}
-
-/// The text of a chunk; empty if it is invalid or too long.
-QByteArray textIn(const PngChunk &chunk, const QByteArray &contents)
-{
-    const QByteArray value = behindZero(contents);
-    if (chunk.kind == "tEXt") {
-        return value;
-    }
-    if (chunk.kind == "zTXt") {
-        return inflated(value.mid(1), maxText);
-    }
-    // Flag and method of compression, language, translated keyword.
-    const QByteArray text = behindZero(behindZero(value.mid(2)));
-    return value.startsWith('\1') ? inflated(text, maxText) : text;
-}
 
 /// Decodes a line with a name, a line with the number of bytes, and the bytes in hexadecimal digits.
 QByteArray decodedProfile(const QByteArray &text)
@@ -80,8 +46,8 @@ public:
         if (chunk.kind == "eXIf" && m_blocks.exif.isEmpty()) {
             addExif(contentsOf(chunk, maxExifSize));
         } else if (chunk.kind == "iCCP" && m_blocks.profile.isEmpty()) {
-            setBlock(m_blocks.profile, inflated(behindZero(contentsOf(chunk, maxProfileSize)).mid(1), maxProfileSize));
-        } else if (chunk.kind == "tEXt" || chunk.kind == "zTXt" || chunk.kind == "iTXt") {
+            setBlock(m_blocks.profile, textOf(chunk, maxProfileSize));
+        } else if (isPngText(chunk) && chunk.kind != "iCCP") {
             addText(chunk);
         }
     }
@@ -98,6 +64,12 @@ private:
         }
         m_read += chunk.length;
         return m_file.bytesAt(chunk.offset + headSize, chunk.length);
+    }
+
+    QByteArray textOf(const PngChunk &chunk, qsizetype most)
+    {
+        // Incompressible bytes take somewhat more when they are compressed.
+        return pngText(chunk.kind, contentsOf(chunk, most + most / 64), most);
     }
 
     /// An empty block is one that could not be read.
@@ -123,18 +95,20 @@ private:
         // "exif", "APP1", "iptc" or "xmp"; the start of the chunk ends within it.
         const QByteArray type = isXmp ? QByteArray("xmp") : chunk.start.mid(rawProfile.size());
         if (type == "xmp" && m_blocks.xmp.isEmpty()) {
-            const QByteArray text = textIn(chunk, contentsOf(chunk, maxText));
+            const QByteArray text = textOf(chunk, maxText);
             setBlock(m_blocks.xmp, isXmp ? text : decodedProfile(text));
         } else if (type == "ipt" && m_blocks.iptc.isEmpty()) {
-            const QByteArray profile = decodedProfile(textIn(chunk, contentsOf(chunk, maxText)));
+            const QByteArray profile = decodedProfile(textOf(chunk, maxText));
             const QByteArray iptc = iptcInPhotoshopBlocks(profile);
             setBlock(m_blocks.iptc, iptc.isEmpty() ? profile : iptc);
         } else if ((type == "exi" || type == "APP") && m_blocks.exif.isEmpty()) {
-            const QByteArray profile = decodedProfile(textIn(chunk, contentsOf(chunk, maxText)));
+            const QByteArray profile = decodedProfile(textOf(chunk, maxText));
             constexpr QByteArrayView start{"Exif\0\0", 6};
             const qsizetype at = profile.indexOf(start);
             if (at >= 0) {
                 addExif(profile.mid(at + start.size()));
+            } else {
+                m_blocks.complete = false;
             }
         }
     }

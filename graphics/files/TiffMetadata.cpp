@@ -142,9 +142,11 @@ private:
         if (!reserve(maxTiffDirectorySize)) {
             return {};
         }
+        const QByteArray count = m_source(from, 2);
         std::vector<TiffEntry> entries = directoryAt(from);
         m_entries += entries.size();
-        if (m_entries > maxEntries) {
+        const bool isTooLong = count.size() == 2 && m_order.get<std::uint16_t>(count.constData()) > maxTiffEntries;
+        if (isTooLong || m_entries > maxEntries) {
             m_blocks.complete = false;
             return {};
         }

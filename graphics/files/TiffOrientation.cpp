@@ -28,12 +28,12 @@ void copyRange(const FileRange &range, const OpenFile &from, const OpenFile &to)
 {
     auto offset = static_cast<off_t>(range.start);
     const auto end = static_cast<off_t>(range.end);
-    ssize_t sent = lseek(to.descriptor(), offset, SEEK_SET) == offset ? 1 : 0;
+    ssize_t sent = lseek(to.descriptor(), offset, SEEK_SET) == offset ? 1 : -1;
     while (offset < end && sent > 0) {
         sent = sendfile(to.descriptor(), from.descriptor(), &offset, static_cast<std::size_t>(end - offset));
     }
     if (offset < end) {
-        throw std::system_error(errno, std::generic_category(), "The file cannot be copied");
+        throw std::system_error(sent == 0 ? EIO : errno, std::generic_category(), "The file cannot be copied");
     }
 }
 

@@ -17,8 +17,11 @@ namespace grisal::graphics
 namespace
 {
 
-/// Elements and attributes, except items of arrays.
-constexpr int maxProperties = 4'000;
+/// Elements and attributes, except items of arrays. Exiv2 compares each one with those before it that have the same
+/// parent; those within an item of an array are compared among themselves only, as the entries of a history.
+constexpr qsizetype maxSiblings = 4'000;
+constexpr qsizetype maxComparisons = maxSiblings * (maxSiblings + 1) / 2;
+constexpr int maxProperties = 25'000;
 /// Items of arrays, which Exiv2 reads in linear time.
 constexpr int maxItems = 50'000;
 constexpr int maxNamespaces = 100;
@@ -27,7 +30,7 @@ constexpr int maxDepth = 40;
 constexpr qsizetype maxName = 256;
 /// Characters of all keys: Exiv2's key of a value consists of the names of all elements around it.
 constexpr qsizetype maxKeys = 3'000'000;
-/// QXmlStreamReader compares every attribute of an element with every other one.
+/// Of an element: QXmlStreamReader compares every attribute with every other one.
 constexpr qsizetype maxEqualSigns = 5'000;
 
 constexpr QStringView rdf = u"http://www.w3.org/1999/02/22-rdf-syntax-ns#";
@@ -43,6 +46,16 @@ QString textOf(const QByteArray &packet)
     return text.mid(std::max<qsizetype>(text.indexOf(u'<'), 0));
 }
 
+/// Whether no element can have too many attributes: none of them contains the start of another element.
+bool hasFewAttributes(const QString &text)
+{
+    qsizetype equalSigns = 0;
+    return std::none_of(text.begin(), text.end(), [&](QChar c) {
+        equalSigns = c == u'<' ? 0 : equalSigns + (c == u'=' ? 1 : 0);
+        return equalSigns > maxEqualSigns;
+    });
+}
+
 /// Counts the elements of a packet.
 class XmpCount
 {
@@ -50,9 +63,15 @@ public:
     void addElement(const QXmlStreamReader &reader)
     {
         const bool isItem = reader.name() == u"li" && reader.namespaceUri() == rdf;
-        (isItem ? m_items : m_properties) += 1;
         const QXmlStreamAttributes attributes = reader.attributes();
-        m_properties += attributes.size();
+        if (isItem) {
+            m_items += 1;
+            m_siblings.push_back(0);
+        } else {
+            addProperties(1);
+        }
+        addProperties(attributes.size());
+        m_isItem.push_back(isItem);
         m_path.push_back(lengthOf(reader.qualifiedName()) + (m_path.isEmpty() ? 0 : m_path.back()));
         m_keys += m_path.back() * (1 + attributes.size());
         for (const QXmlStreamAttribute &attribute : attributes) {
@@ -63,15 +82,29 @@ public:
             m_namespaces.insert(declaration.namespaceUri().toString());
         }
     }
-    void endElement() { m_path.pop_back(); }
+    void endElement()
+    {
+        m_path.pop_back();
+        if (m_isItem.takeLast()) {
+            m_siblings.pop_back();
+        }
+    }
 
     bool isWithinLimits() const
     {
         return m_path.size() <= maxDepth && m_items <= maxItems && m_properties <= maxProperties &&
-               m_namespaces.size() <= maxNamespaces && m_longestName <= maxName && m_keys <= maxKeys;
+               m_comparisons <= maxComparisons && m_namespaces.size() <= maxNamespaces && m_longestName <= maxName &&
+               m_keys <= maxKeys;
     }
 
 private:
+    void addProperties(qsizetype count)
+    {
+        m_properties += count;
+        for (qsizetype i = 0; i < count; ++i) {
+            m_comparisons += ++m_siblings.back();
+        }
+    }
     qsizetype lengthOf(QStringView name)
     {
         m_longestName = std::max(m_longestName, name.size());
@@ -79,6 +112,9 @@ private:
     }
 
     QList<qsizetype> m_path; ///< for each element around the current position, the length of the key so far
+    QList<bool> m_isItem;
+    QList<qsizetype> m_siblings{0}; ///< the properties of the packet, and of each item around the current position
+    qsizetype m_comparisons = 0;
     qsizetype m_items = 0;
     qsizetype m_properties = 0;
     qsizetype m_keys = 0;
@@ -94,7 +130,7 @@ bool isWithinXmpLimits(const QByteArray &packet)
         return false;
     }
     const QString text = textOf(packet);
-    if (text.count(u'=') > maxEqualSigns) {
+    if (!hasFewAttributes(text)) {
         return false;
     }
     QXmlStreamReader reader(text);

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // A saved file contains no image of the coloured original.
+#include "graphics/files/EmbeddedPictures.h"
 #include "graphics/files/LumioImage.h"
 #include "tests/graphics/files/MetadataFiles.h"
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <gtest/gtest.h>
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <string>
@@ -17,8 +19,12 @@ namespace
 {
 
 constexpr int quality = 90;
-const QByteArray jpeg = QByteArray::fromHex("ffd8ffe000104a464946") + "ColoursOfTheOriginal" + QByteArray(7'000, 'J');
+const QByteArray jpeg = QByteArray::fromHex("ffd8ffe000104a46494600010101006000600000"
+                                            "ffc0000b080010001001011100") +
+                        "ColoursOfTheOriginal" + QByteArray(7'000, 'J');
 const QByteArray png = QByteArray("\x89PNG\r\n\x1a\n") + "ColoursOfTheOriginal" + QByteArray(7'000, 'P');
+
+const QByteArray webp = QByteArray("RIFF\0\0\1\0WEBPVP8 ", 16) + "ColoursOfTheOriginal" + QByteArray(7'000, 'W');
 
 QByteArray packetOf(const QByteArray &properties)
 {
@@ -68,7 +74,8 @@ struct EmbeddedPicturesTest : testing::Test {
     {
         const auto [metadata, contents] = saved(writtenWithXmp(properties));
         EXPECT_EQ(metadata["Xmp.dc.source"], "roll 7");
-        return metadata.xmp.count() == 1 && !contents.contains("/9j/") && !contents.contains("iVBOR");
+        return metadata.xmp.count() == 1 && !contents.contains("/9j/") && !contents.contains("iVBOR") &&
+               !contents.contains("UklGR");
     }
 };
 
@@ -102,9 +109,9 @@ TEST_F(EmbeddedPicturesTest, XmpKnownByNameIsDropped)
                                               "/9j/4AAQ</GImage:Data>")));
 }
 
-TEST_F(EmbeddedPicturesTest, LongXmpValuesThatAreImagesAreDropped)
+TEST_F(EmbeddedPicturesTest, XmpValuesThatAreImagesAreDropped)
 {
-    for (const QByteArray &image : {jpeg, png}) {
+    for (const QByteArray &image : {jpeg, png, webp, jpeg.first(150), png.first(150), webp.first(150)}) {
         const QByteArray text = image.toBase64();
         EXPECT_TRUE(dropsXmp("<q:a>" + text + "</q:a>"));
         EXPECT_TRUE(dropsXmp("<q:a>\n data:image/any;base64,\n" + text + "</q:a>"));
@@ -162,6 +169,37 @@ TEST_F(EmbeddedPicturesTest, OtherMakersNotesAreKept)
     }
 }
 
+// 100 times the 16-bit numbers -3, -40 and -32.
+const QByteArray littleEndianTable = QByteArray::fromHex("fdffd8ffe0ff").repeated(100);
+const QByteArray bigEndianTable = QByteArray::fromHex("fffdffd8ffe0").repeated(100);
+
+TEST_F(EmbeddedPicturesTest, TablesOfNegativeNumbersAreKept)
+{
+    for (const QByteArray &numbers : {littleEndianTable, bigEndianTable}) {
+        const QString file = written(QStringLiteral("a.jpg"));
+        setMetadata(file, withMakerNote("TheNote" + numbers));
+        EXPECT_EQ(saved(file).second.count("TheNote" + numbers), 3);
+    }
+    Metadata metadata;
+    metadata.exif["Exif.Image.Make"] = "Canon";
+    metadata.exif["Exif.Canon.OwnerName"] = "Ansel of the mountains";
+    Exiv2::ValueType<std::int16_t> value;
+    for (int i = 0; i < 100; ++i) {
+        value.value_.insert(value.value_.end(), {-3, -40, -32});
+    }
+    metadata.exif.add(Exiv2::ExifKey("Exif.Canon.0x4fff"), &value);
+    const QString file = written(QStringLiteral("a.jpg"));
+    setMetadata(file, metadata);
+    EXPECT_EQ(saved(file).second.count(littleEndianTable), 3);
+}
+
+TEST_F(EmbeddedPicturesTest, AnImageBehindATableIsFound)
+{
+    const QString file = written(QStringLiteral("a.jpg"));
+    setMetadata(file, withMakerNote(littleEndianTable + jpeg));
+    EXPECT_FALSE(saved(file).second.contains("ColoursOfTheOriginal"));
+}
+
 // Of a note that Exiv2 decodes, only the value with the image is dropped.
 TEST_F(EmbeddedPicturesTest, ValuesOfDecodedMakersNotesAreDroppedSingly)
 {
@@ -191,6 +229,36 @@ TEST_F(EmbeddedPicturesTest, PreviewsInIptcAreDropped)
     const auto [kept, contents] = saved(file);
     EXPECT_FALSE(contents.contains("ColoursOfTheOriginal"));
     EXPECT_EQ(kept["Iptc.Application2.City"], "Chur");
+}
+
+/// Instead of minutes; also with sanitizers.
+constexpr qint64 generousMilliseconds = 10'000;
+
+TEST_F(EmbeddedPicturesTest, ManyIptcRecordsAreDroppedInLinearTime)
+{
+    Exiv2::IptcData iptc;
+    for (int i = 0; i < 20'000; ++i) {
+        Exiv2::Iptcdatum datum(Exiv2::IptcKey(10, 8));
+        datum.setValue(std::string(20, 'x'));
+        iptc.add(datum);
+    }
+    iptc["Iptc.Application2.City"] = "Chur";
+    QElapsedTimer timer;
+    timer.start();
+    grisal::graphics::removePictures(iptc);
+    EXPECT_LT(timer.elapsed(), generousMilliseconds);
+    EXPECT_EQ(iptc.count(), 1);
+}
+
+TEST_F(EmbeddedPicturesTest, LongListsOfImagesInXmpAreDroppedInLinearTime)
+{
+    // A structure among the items makes a property of each.
+    const QByteArray items =
+        "<rdf:li rdf:parseType='Resource'><q:a>1</q:a></rdf:li>" + QByteArray("<rdf:li>1</rdf:li>").repeated(49'998);
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_TRUE(dropsXmp("<xmp:Thumbnails><rdf:Bag>" + items + "</rdf:Bag></xmp:Thumbnails>"));
+    EXPECT_LT(timer.elapsed(), generousMilliseconds);
 }
 
 } // namespace

@@ -58,6 +58,14 @@ struct ImageHeaderTest : testing::Test {
     const QByteArray scanOfAll = segment('\xda', QByteArray("\x03\0\0\0\0\0\0\0\0\0", 10));
 };
 
+TEST_F(ImageHeaderTest, LimitsTheNumberOfPixels)
+{
+    ImageHeader header;
+    header.width = 0xffff'ffff;
+    header.height = 0xffff'ffff;
+    EXPECT_EQ(header.pixels(), std::uint64_t{1} << 32);
+}
+
 TEST_F(ImageHeaderTest, ReadsAJpeg)
 {
     const ImageHeader baseline = headerOfWritten("a.jpg", ImageFormat::Jpeg, 8, [](Magick::Image &) {});

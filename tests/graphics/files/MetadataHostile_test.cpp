@@ -131,22 +131,6 @@ TEST_F(MetadataHostileTest, MetadataThatMakesATiffUnreadableIsLeftOut)
     EXPECT_TRUE(again.read(path("b.tif"))) << again.problem().toStdString();
 }
 
-// ImageFile rejects PNG files with texts of that length.
-TEST_F(MetadataHostileTest, MetadataThatMakesAPngUnreadableIsLeftOut)
-{
-    const QString tiff = written("a.tif");
-    Metadata large;
-    large.xmp["Xmp.dc.source"] = std::string(1'200'000, 'x');
-    setMetadata(tiff, large);
-    ASSERT_TRUE(reads(tiff));
-    testing::internal::CaptureStderr();
-    ASSERT_TRUE(image.save(path("b.png"), quality));
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-    EXPECT_FALSE(image.warning().isEmpty());
-    LumioImage again;
-    EXPECT_TRUE(again.read(path("b.png"))) << again.problem().toStdString();
-}
-
 TEST_F(MetadataHostileTest, TooLargeValuesOfATiffAreLeftOut)
 {
     const QString tiff = written("a.tif");

@@ -12,6 +12,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -222,6 +223,26 @@ TEST_F(MetadataLimitsTest, EntriesOfExifAreLimitedOverAllDirectories)
     EXPECT_FALSE(isComplete());
 }
 
+TEST_F(MetadataLimitsTest, DirectoriesOfTooManyEntriesAreReported)
+{
+    QByteArray block = QByteArray("II*\0\x08\0\0\0", 8) + shorts({257});
+    for (int i = 0; i < 257; ++i) {
+        block += shorts({40'000 + i, 3, 1, 0, 7, 0});
+    }
+    EXPECT_FALSE(grisal::graphics::extractExif(block + QByteArray(4, '\0')).complete);
+}
+
+TEST_F(MetadataLimitsTest, InvalidRawProfilesOfAPngAreReported)
+{
+    for (const QByteArray &profile : {QByteArray("\nexif\n 4\n41414141"), QByteArray("no digits")}) {
+        const QString png = path(QStringLiteral("plain.png"));
+        painted(24, 16, 8, [](int, int) { return Samples{}; }).write(png.toStdString());
+        addChunk(png, "tEXt", QByteArray("Raw profile type exif\0", 22) + profile);
+        carried(png);
+        EXPECT_FALSE(isComplete());
+    }
+}
+
 TEST_F(MetadataLimitsTest, RecordsOfIptcAreLimited)
 {
     for (const int count : {1'000, 12'000}) {
@@ -250,6 +271,50 @@ TEST_F(MetadataLimitsTest, ProfilesOfExcessiveSizeAreLeftOut)
     EXPECT_FALSE(isComplete());
     EXPECT_TRUE(saved.profile.isEmpty());
     EXPECT_EQ(saved["Exif.Image.Make"], "Acme");
+}
+
+// A file with them opens, too.
+TEST_F(MetadataLimitsTest, LargeProfilesAndXmpAreKeptInEveryFormat)
+{
+    Metadata all = fullMetadata();
+    all.profile = profileFor("RGB ", 1 << 22);
+    std::mt19937 random(1);
+    std::generate(all.profile.begin() + 132, all.profile.end(), [&] { return static_cast<char>(random()); });
+    all.xmp["Xmp.dc.source"] = std::string(1'500'000, 'x');
+    const QString source = written(QStringLiteral("a.tif"));
+    setMetadata(source, all);
+    ASSERT_TRUE(image.read(source));
+    ASSERT_TRUE(image.save(path(QStringLiteral("b.png")), quality));
+    ASSERT_TRUE(image.read(path(QStringLiteral("b.png")))) << image.problem().toStdString();
+    ASSERT_TRUE(image.save(path(QStringLiteral("c.tif")), quality));
+    const Metadata saved = metadataIn(path(QStringLiteral("c.tif")));
+    EXPECT_EQ(saved.profile, all.profile);
+    EXPECT_EQ(saved["Xmp.dc.source"].size(), 1'500'000);
+}
+
+// A segment of a JPEG file has 65,533 bytes.
+TEST_F(MetadataLimitsTest, LargeMakersNotesAreKeptExceptInJpegFiles)
+{
+    const QByteArray note = "Acme" + QByteArray(100'000, 'n') + "TheNote";
+    Metadata all = fullMetadata();
+    const Exiv2::DataValue value(reinterpret_cast<const Exiv2::byte *>(note.constData()),
+                                 static_cast<long>(note.size()));
+    all.exif.add(Exiv2::ExifKey("Exif.Photo.MakerNote"), &value);
+    const QString source = written(QStringLiteral("a.tif"));
+    setMetadata(source, all);
+    for (const char *name : {"b.tif", "b.png", "b.jpg"}) {
+        const QString target = path(QString::fromLatin1(name));
+        ASSERT_TRUE(image.read(source));
+        ASSERT_TRUE(image.metadata().isComplete());
+        ASSERT_TRUE(image.save(target, quality));
+        const bool isJpeg = target.endsWith("jpg");
+        EXPECT_EQ(contentsOf(target).contains(note), !isJpeg) << name;
+        EXPECT_EQ(image.warning().isEmpty(), !isJpeg) << name;
+        EXPECT_EQ(metadataIn(target)["Exif.Photo.ExposureTime"], "1/60") << name;
+        EXPECT_EQ(metadataIn(target)["Exif.Image.Make"], "Acme") << name;
+    }
+    ASSERT_TRUE(image.read(path(QStringLiteral("b.png"))));
+    EXPECT_TRUE(image.metadata().isComplete());
 }
 
 TEST_F(MetadataLimitsTest, AMillionEmptySegmentsAreNotVisited)

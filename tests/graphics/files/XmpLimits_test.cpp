@@ -78,6 +78,28 @@ TEST(XmpLimits, AllowMoreItemsThanProperties)
     EXPECT_FALSE(isWithinXmpLimits(packetOf(items(50'000).replace("rdf:li", "q:li"))));
 }
 
+QByteArray history(int count)
+{
+    const QByteArray entry = "<rdf:li q:action='saved' q:instanceID='1' q:when='2020' q:agent='Acme' q:changed='/'"
+                             " q:parameters='none'/>";
+    const QByteArray longEntry = "<rdf:li rdf:parseType='Resource'><q:action>saved</q:action><q:when>2020</q:when>"
+                                 "<q:agent>Acme</q:agent><q:changed>/</q:changed></rdf:li>";
+    return "<q:History><rdf:Seq>" + (entry + longEntry).repeated(count / 2) + "</rdf:Seq></q:History>";
+}
+
+TEST(XmpLimits, AllowLongHistories)
+{
+    EXPECT_TRUE(isWithinXmpLimits(packetOf(history(3'000))));
+    EXPECT_FALSE(isWithinXmpLimits(packetOf(history(10'000))));
+}
+
+TEST(XmpLimits, LimitTheFieldsOfOneItem)
+{
+    const auto item = [](int count) { return "<q:a><rdf:Seq><rdf:li" + attributes(count) + "/></rdf:Seq></q:a>"; };
+    EXPECT_TRUE(isWithinXmpLimits(packetOf(item(3'900))));
+    EXPECT_FALSE(isWithinXmpLimits(packetOf(item(4'001))));
+}
+
 TEST(XmpLimits, LimitNamespaces)
 {
     const auto declarations = [](int count) {
