@@ -134,6 +134,22 @@ void previewFrame(benchmark::State &state)
     }
 }
 
+/// The mipmaps that a frame needs when it is shown reduced.
+void previewMipmaps(benchmark::State &state)
+{
+    PreviewStage stage;
+    const Image preview = plainImage<std::uint8_t>(previewWidth, previewHeight);
+    stage.load(preview, pixelFormatsFor(preview), 1000, 700);
+    for ([[maybe_unused]] auto _ : state) {
+        state.PauseTiming();
+        stage.preview()->render();
+        glFinish();
+        state.ResumeTiming();
+        stage.preview()->updateMipmaps();
+        glFinish();
+    }
+}
+
 /// The minimum GPU cost of the first frame of an image: the upload of its preview, and the mixer twice.
 void firstFrame(benchmark::State &state)
 {
@@ -191,6 +207,7 @@ BENCHMARK(withContext<transfers>)->Name("transfers")->Arg(8)->Arg(16)->Apply(inM
 BENCHMARK(withContext<finalRender>)->Name("finalRender")->Arg(8)->Arg(16)->Apply(inMilliseconds<1>);
 BENCHMARK(withContext<previewPasses>)->Name("previewPasses")->Apply(inMilliseconds<2>);
 BENCHMARK(withContext<previewFrame>)->Name("previewFrame")->Apply(inMilliseconds<2>);
+BENCHMARK(withContext<previewMipmaps>)->Name("previewMipmaps")->Apply(inMilliseconds<10>);
 BENCHMARK(withContext<firstFrame>)->Name("firstFrame")->Apply(inMilliseconds<10>);
 BENCHMARK(zoomStep)->Apply(inMilliseconds<50>);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/render/Preview.h"
 
+#include <utility>
+
 namespace grisal::graphics
 {
 
@@ -39,6 +41,22 @@ Preview::Preview(const Image &image, const PixelFormats &formats, float viewport
                  formats.pixelFormat, formats.internalFormat, formats.pixelType)
 {
     m_document.setView(&m_view);
+}
+
+void Preview::render()
+{
+    m_renderer.render(m_document);
+    m_mipmapsAreCurrent = false;
+}
+
+void Preview::updateMipmaps()
+{
+    if (std::exchange(m_mipmapsAreCurrent, true)) {
+        return;
+    }
+    glBindTexture(GL_TEXTURE_2D, output());
+    glGenerateMipmap(GL_TEXTURE_2D);
+    glBindTexture(GL_TEXTURE_2D, 0);
 }
 
 } // namespace grisal::graphics

@@ -36,8 +36,11 @@ public:
     DocumentFilterQueue &queue() { return m_queue; }
 
     /// Runs the queue; output() then returns the texture with the result.
-    void render() { m_renderer.render(m_document); }
+    void render();
     GLuint output() const { return m_renderer.output(); }
+
+    /// Makes output() contain the mipmaps of the last render. Does nothing if it already contains them.
+    void updateMipmaps();
 
 private:
     Texture m_source;
@@ -45,6 +48,7 @@ private:
     FlexibleDocumentView m_view;
     Document m_document;
     DocumentRenderer m_renderer;
+    bool m_mipmapsAreCurrent = false;
 };
 
 } // namespace grisal::graphics

@@ -10,9 +10,17 @@ namespace grisal::ui
 namespace
 {
 
-void drawQuad(GLuint texture, int width, int height)
+// Between two mipmaps, the sharper one counts more: an unbiased choice blurs fine detail.
+constexpr float sharperMipmaps = -0.5F;
+
+void filterReducedTexture(GLint filter, float bias)
 {
-    glBindTexture(GL_TEXTURE_2D, texture);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, filter);
+    glTexParameterf(GL_TEXTURE_2D, GL_TEXTURE_LOD_BIAS, bias);
+}
+
+void drawQuad(int width, int height)
+{
     glBegin(GL_QUADS);
     glTexCoord2i(0, 1);
     glVertex2i(0, 0);
@@ -23,7 +31,6 @@ void drawQuad(GLuint texture, int width, int height)
     glTexCoord2i(1, 1);
     glVertex2i(width, 0);
     glEnd();
-    glBindTexture(GL_TEXTURE_2D, 0);
 }
 
 } // namespace
@@ -48,7 +55,18 @@ void drawPreview(graphics::Preview &preview, QSize imageSize)
     // After the render, because creating textures switches them off.
     glEnable(GL_TEXTURE_2D);
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_FALSE); // transparent parts of the image stay opaque on the screen
-    drawQuad(preview.output(), imageSize.width(), imageSize.height());
+    const bool reduced = preview.view().scale() < 1;
+    if (reduced) {
+        preview.updateMipmaps();
+    }
+    glBindTexture(GL_TEXTURE_2D, preview.output());
+    if (reduced) {
+        filterReducedTexture(GL_LINEAR_MIPMAP_LINEAR, sharperMipmaps);
+    }
+    drawQuad(imageSize.width(), imageSize.height());
+    // The passes of the next render read single pixels of this texture.
+    filterReducedTexture(GL_NEAREST, 0);
+    glBindTexture(GL_TEXTURE_2D, 0);
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     glDisable(GL_TEXTURE_2D);
 }
