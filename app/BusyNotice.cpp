@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/BusyNotice.h"
 
+#include "app/StatusBar.h"
+
 #include <QEvent>
 #include <QGuiApplication>
 #include <QProgressBar>
-#include <QStatusBar>
 
 namespace
 {
@@ -13,8 +14,7 @@ constexpr int readingTime = 300; // minimum milliseconds between two progress te
 
 } // namespace
 
-BusyNotice::BusyNotice(QStatusBar &statusBar, QProgressBar &progressBar)
-    : m_statusBar(statusBar), m_progressBar(progressBar)
+BusyNotice::BusyNotice(grisal::ui::StatusBar &statusBar) : m_statusBar(statusBar)
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
 }
@@ -26,7 +26,7 @@ BusyNotice::~BusyNotice()
 
 void BusyNotice::show(const QString &text)
 {
-    m_progressBar.setRange(0, 0);
+    m_statusBar.progressBar().setRange(0, 0);
     paint(text);
 }
 
@@ -36,8 +36,8 @@ void BusyNotice::show(const QString &text, int done, int all)
     if (!first && m_sincePainted.elapsed() < readingTime) {
         return;
     }
-    m_progressBar.setRange(0, all);
-    m_progressBar.setValue(done);
+    m_statusBar.progressBar().setRange(0, all);
+    m_statusBar.progressBar().setValue(done);
     paint(text);
 }
 
@@ -47,7 +47,7 @@ void BusyNotice::paint(const QString &text)
         return;
     }
     m_text = text;
-    m_progressBar.show();
+    m_statusBar.progressBar().show();
     m_statusBar.showMessage(text);
     m_statusBar.update();
     // repaint() would wait for the event loop if the last repaint was a moment ago.
@@ -62,7 +62,7 @@ void BusyNotice::end()
         return;
     }
     m_ended = true;
-    m_progressBar.hide();
+    m_statusBar.progressBar().hide();
     // A message that was shown by other code in the meantime stays.
     if (m_statusBar.currentMessage() == m_text) {
         m_statusBar.clearMessage();

@@ -4,17 +4,18 @@
 #include <QElapsedTimer>
 #include <QString>
 
-class QProgressBar;
-class QStatusBar;
+namespace grisal::ui
+{
+class StatusBar;
+} // namespace grisal::ui
 
 /// Shows during its lifetime that the program is busy: wait cursor, a text in the status bar, a progress bar.
 /// Everything is painted immediately and no event is processed, so that user input cannot interfere with the work.
 class BusyNotice
 {
 public:
-    /// Both parameters must outlive the object. The progress bar is in the status bar and hidden while the program is
-    /// idle.
-    BusyNotice(QStatusBar &statusBar, QProgressBar &progressBar);
+    /// The status bar must outlive the object.
+    explicit BusyNotice(grisal::ui::StatusBar &statusBar);
     BusyNotice(const BusyNotice &) = delete;
     BusyNotice &operator=(const BusyNotice &) = delete;
     ~BusyNotice();
@@ -32,8 +33,7 @@ public:
 private:
     void paint(const QString &text);
 
-    QStatusBar &m_statusBar;
-    QProgressBar &m_progressBar;
+    grisal::ui::StatusBar &m_statusBar;
     QElapsedTimer m_sincePainted;
     QString m_text;
     bool m_ended = false;

@@ -92,9 +92,10 @@ QString FileDealer::openDialog()
     return m_currentPath;
 }
 
-QString FileDealer::saveDialog() const
+QString FileDealer::saveDialog(const QString &proposedName) const
 {
-    return QFileDialog::getSaveFileName(nullptr, tr("Save image"), startDirectory(), filter());
+    const QString proposed = QDir(startDirectory()).filePath(proposedName);
+    return QFileDialog::getSaveFileName(nullptr, tr("Save image"), proposed, filter());
 }
 
 // Records the path of the last open dialog, even if the image came from the Recent menu: Save writes to this path, and

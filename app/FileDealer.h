@@ -24,8 +24,9 @@ public:
     /// Asks for an image to open. The result, empty if the user cancels, becomes the current path.
     QString openDialog();
 
-    /// Asks for a path to save to; empty if the user cancels. The path is not stored.
-    QString saveDialog() const;
+    /// Asks for a path to save to and proposes a file name in the last directory. Empty if the user cancels. The path
+    /// is not stored.
+    QString saveDialog(const QString &proposedName = {}) const;
 
     /// The result of the last open dialog; empty before.
     QString currentPath() const { return m_currentPath; }

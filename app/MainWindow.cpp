@@ -5,6 +5,7 @@
 #include "app/FilterToolBar.h"
 #include "app/Preferences.h"
 #include "app/Product.h"
+#include "app/StatusBar.h"
 #include "app/UserGuide.h"
 #include "graphics/image/ToneHistogram.h"
 #include "ui/panels/Curves.h"
@@ -16,31 +17,25 @@
 #include "ui_MainWindow.h"
 
 #include <QDesktopServices>
-#include <QProgressBar>
+#include <QShortcut>
 #include <QUrl>
 
 namespace grisal::ui
 {
 
-namespace
-{
-
-constexpr QSize progressBarSize(140, 12);
-
-} // namespace
-
 MainWindow::MainWindow(QWidget *parent)
-    : QMainWindow(parent), m_toolBar(new FilterToolBar(this)), m_progressBar(new QProgressBar),
-      m_form(std::make_unique<Ui::MainWindow>())
+    : QMainWindow(parent), m_toolBar(new FilterToolBar(this)), m_form(std::make_unique<Ui::MainWindow>())
 {
     m_form->setupUi(this);
     setContextMenuPolicy(Qt::NoContextMenu);
     m_fileDealer.setUpRecentMenu(m_form->menuRecent);
     setUpToolBar();
     setUpStatusBar();
+    setAcceptDrops(true);
     m_panels.setUp(*m_form->container, *m_form->glWidgetPreview);
     connect(&m_fileDealer, &FileDealer::signalOpenImage, this, &MainWindow::openImage, Qt::UniqueConnection);
     connect(m_form->actionHelp, &QAction::triggered, this, &MainWindow::showGuide);
+    new QShortcut(Qt::Key_F1, this, this, &MainWindow::showGuide);
     connect(m_form->actionPreferences, &QAction::triggered, this, &MainWindow::showPreferences);
 }
 
@@ -61,17 +56,17 @@ void MainWindow::setUpToolBar()
 
 void MainWindow::setUpStatusBar()
 {
-    m_progressBar->setObjectName(QStringLiteral("progressBar"));
-    m_progressBar->setAccessibleName(tr("Progress"));
-    m_progressBar->setAccessibleDescription(tr("Progress of reading, rendering or writing"));
-    m_progressBar->setTextVisible(false);
-    m_progressBar->setFixedSize(progressBarSize);
-    // The progress bar appears during a job, while the layout cannot be updated, so its space is always reserved.
-    QSizePolicy placed = m_progressBar->sizePolicy();
-    placed.setRetainSizeWhenHidden(true);
-    m_progressBar->setSizePolicy(placed);
-    m_form->statusbar->addPermanentWidget(m_progressBar);
-    m_progressBar->hide();
+    const QString shortcut = m_form->actionOpen->shortcut().toString(QKeySequence::NativeText);
+    m_form->statusbar->setHint(tr("%1 opens a picture").arg(shortcut));
+    connect(m_form->glWidgetPreview, &GLWidget::signalScaleChanged, this, &MainWindow::showScale);
+}
+
+void MainWindow::showScale()
+{
+    const GLWidget &preview = *m_form->glWidgetPreview;
+    if (m_session.picture() && preview.previewWidth() > 0) {
+        m_form->statusbar->setScale(preview.percentOfImage(), preview.previewDownscaling());
+    }
 }
 
 graphics::Message MainWindow::graphicsProblem() const

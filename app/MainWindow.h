@@ -17,7 +17,6 @@
 #include <optional>
 
 class BusyNotice;
-class QProgressBar;
 class UserGuide;
 
 namespace Ui
@@ -79,28 +78,35 @@ public slots:
     void on_actionFitOnHeight_triggered();
     void on_actionActualPixels_triggered();
 
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
 private:
     /// The actions of the filters other than the mixer, in the order of the tool bar.
     QList<QAction *> filterActions() const;
     void setUpToolBar();
     void setUpStatusBar();
+    void showScale();
     void showGuide();
     void showPreferences();
     void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem);
     void showPreviewOf(const graphics::Image &image);
     void showWarning();
+    void showSaved(const QString &path);
     void showCannotLoad(const QString &filename);
-    void showStatus(const QString &message);
     void openFile(const QString &filename);
+    void openDropped(const QStringList &paths);
+    QString proposedName() const;
     std::optional<graphics::Image> renderOutput(BusyNotice &notice);
     std::optional<graphics::Image> renderImage(BusyNotice &notice);
     void showRenderFailed(const QString &reason);
 
     FilterPanels m_panels{*this};
     FilterToolBar *m_toolBar;
-    QProgressBar *m_progressBar;
     Session m_session;
     FileDealer m_fileDealer;
+    QString m_openedPath;         // of the open image
     UserGuide *m_guide = nullptr; // null until it is shown for the first time
     std::unique_ptr<Ui::MainWindow> m_form;
 };

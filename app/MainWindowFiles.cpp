@@ -3,12 +3,18 @@
 #include "app/MainWindow.h"
 
 #include "app/BusyNotice.h"
+#include "app/DroppedImages.h"
 #include "app/Product.h"
+#include "app/StatusBar.h"
+#include "graphics/files/ImageFormat.h"
 #include "ui_MainWindow.h"
 
+#include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
+#include <QMimeData>
+#include <QTimer>
 
 #include <malloc.h>
 
@@ -20,8 +26,6 @@ namespace grisal::ui
 
 namespace
 {
-
-constexpr int messageDuration = 2000;
 
 QString titleFor(const QString &path, const graphics::Image &image)
 {
@@ -64,9 +68,35 @@ void MainWindow::openImage(QString filename)
     malloc_trim(0);
 }
 
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!droppedImages(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+// Opened afterwards, because a message box would block the program that the files come from.
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    const QStringList paths = droppedImages(*event->mimeData());
+    event->acceptProposedAction();
+    QTimer::singleShot(0, this, [this, paths] { openDropped(paths); });
+}
+
+void MainWindow::openDropped(const QStringList &paths)
+{
+    if (paths.isEmpty()) {
+        return;
+    }
+    openImage(paths.first());
+    if (paths.size() > 1) {
+        m_form->statusbar->showBriefly(tr("Only the first of the %n pictures was opened", nullptr, paths.size()));
+    }
+}
+
 void MainWindow::openFile(const QString &filename)
 {
-    BusyNotice notice(*m_form->statusbar, *m_progressBar);
+    BusyNotice notice(*m_form->statusbar);
     notice.show(tr("Reading %1").arg(QFileInfo(filename).fileName()));
     const Session::PicturePointer picture = m_session.read(filename);
     if (!picture) {
@@ -76,6 +106,9 @@ void MainWindow::openFile(const QString &filename)
     }
     showPreviewOf(picture->image);
     m_session.setPicture(picture);
+    m_openedPath = filename;
+    m_form->statusbar->setHint({});
+    showScale();
     m_fileDealer.addToRecent();
     setWindowTitle(titleFor(filename, picture->image));
     slotResetActions();
@@ -96,7 +129,7 @@ void MainWindow::showPreviewOf(const graphics::Image &image)
 void MainWindow::showWarning()
 {
     if (!m_session.warning().isEmpty()) {
-        showStatus(m_session.warning().translated());
+        m_form->statusbar->showBriefly(m_session.warning().translated());
     }
 }
 
@@ -113,39 +146,41 @@ void MainWindow::showCannotLoad(const QString &filename)
     box.exec();
 }
 
-void MainWindow::showStatus(const QString &message)
-{
-    m_form->statusbar->showMessage(message, messageDuration);
-}
-
 void MainWindow::saveImage(const QString &path)
 {
     if (path.isEmpty()) {
         qWarning("MainWindow::saveImage(): Invalid filename");
-        showStatus(tr("No filename"));
+        m_form->statusbar->showBriefly(tr("No filename"));
         return;
     }
     if (!m_session.picture()) {
         qWarning("MainWindow::saveImage(): Image is Null");
-        showStatus(tr("No image"));
+        m_form->statusbar->showBriefly(tr("No image"));
         return;
     }
-    BusyNotice notice(*m_form->statusbar, *m_progressBar);
+    BusyNotice notice(*m_form->statusbar);
     std::optional<graphics::Image> output = renderOutput(notice);
     if (!output) {
         return;
     }
     notice.show(tr("Writing %1").arg(QFileInfo(path).fileName()));
     if (!m_session.write(*std::move(output), path)) {
-        showStatus(tr("Cannot save %1. Choose another place or name.").arg(path));
+        m_form->statusbar->showBriefly(tr("Cannot save %1. Choose another place or name.").arg(path));
         return;
     }
-    showWarning();
+    showSaved(path);
+}
+
+void MainWindow::showSaved(const QString &path)
+{
+    const QString saved = tr("Saved %1").arg(QFileInfo(path).fileName());
+    const QString warning = m_session.warning().translated();
+    m_form->statusbar->showBriefly(warning.isEmpty() ? saved : saved + QStringLiteral(". ") + warning);
 }
 
 void MainWindow::slotFinalRendering()
 {
-    BusyNotice notice(*m_form->statusbar, *m_progressBar);
+    BusyNotice notice(*m_form->statusbar);
     renderOutput(notice);
 }
 
@@ -184,7 +219,8 @@ std::optional<graphics::Image> MainWindow::renderImage(BusyNotice &notice)
 void MainWindow::showRenderFailed(const QString &reason)
 {
     qWarning("The picture could not be rendered. %s", qPrintable(reason));
-    showStatus(tr("The picture could not be rendered. Nothing was saved; the log contains the reason."));
+    m_form->statusbar->showBriefly(
+        tr("The picture could not be rendered. Nothing was saved; the log contains the reason."));
 }
 
 void MainWindow::on_actionSave_triggered()
@@ -203,10 +239,23 @@ void MainWindow::on_actionSave_triggered()
     activateWindow();
 }
 
+// A name that cannot be saved to, of an image that was recognised by its contents, gets an extension.
+QString MainWindow::proposedName() const
+{
+    if (m_openedPath.isEmpty()) {
+        return {};
+    }
+    const QFileInfo file(m_openedPath);
+    if (!graphics::formatOfName(m_openedPath)) {
+        return file.fileName() + QStringLiteral("-bw.jpg");
+    }
+    return file.completeBaseName() + QStringLiteral("-bw.") + file.suffix();
+}
+
 void MainWindow::on_actionSave_As_triggered()
 {
     m_panels.takeTypedNumber();
-    saveImage(m_fileDealer.saveDialog());
+    saveImage(m_fileDealer.saveDialog(proposedName()));
     activateWindow();
 }
 

@@ -132,6 +132,7 @@ bool Session::write(Image image, const QString &path)
     }
     m_warning = file.warning();
     logProblems(file);
+    qDebug("Saved %s", qPrintable(path));
     return true;
 }
 

@@ -67,6 +67,11 @@ int roundedPreviewSide(int side)
     return side < 4 ? side : side - side % 4;
 }
 
+int previewDownscaling(int width, int height)
+{
+    return 1 << downscalingsFor(roundedPreviewSide(width), roundedPreviewSide(height));
+}
+
 Image makePreview(const Image &image)
 {
     return std::visit([](const auto &raster) { return Image(previewOf(raster)); }, image);

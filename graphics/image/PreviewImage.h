@@ -13,6 +13,9 @@ constexpr int maxPreviewSide = 4096;
 /// 0.
 int roundedPreviewSide(int side);
 
+/// Returns by how much an image of the given size is downscaled for its preview: 1, 2, 4 and so on.
+int previewDownscaling(int width, int height);
+
 /// Copies the top left roundedPreviewSide(width) x roundedPreviewSide(height) pixels, without alpha, and downscales the
 /// copy by two until no side exceeds maxPreviewSide. The preview of an empty image is empty.
 Image makePreview(const Image &image);

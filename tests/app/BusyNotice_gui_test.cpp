@@ -58,11 +58,11 @@ protected:
     QStatusBar &statusBar() { return child<QStatusBar>(window, "statusbar"); }
     QProgressBar &progressBar() { return child<QProgressBar>(window, "progressBar"); }
 
-    void expectNothingShown()
+    void expectIdle(const std::string &message = {})
     {
         EXPECT_EQ(QApplication::overrideCursor(), nullptr);
         EXPECT_FALSE(progressBar().isVisible());
-        EXPECT_EQ(status(), "");
+        EXPECT_EQ(status(), message);
     }
 };
 
@@ -73,7 +73,7 @@ TEST_F(BusyNotice, IsShownWhileReading)
     window.openImage(path);
     EXPECT_EQ(recorder.texts, QStringList("Reading a.png"));
     EXPECT_EQ(recorder.barsSeen, 1);
-    expectNothingShown();
+    expectIdle();
 }
 
 TEST_F(BusyNotice, IsShownWhileRenderingAndWriting)
@@ -85,7 +85,7 @@ TEST_F(BusyNotice, IsShownWhileRenderingAndWriting)
     EXPECT_EQ(recorder.texts.first(), "Rendering tile 1 of 4");
     EXPECT_EQ(recorder.texts.last(), "Writing b.png");
     EXPECT_EQ(recorder.barsSeen, recorder.texts.size());
-    expectNothingShown();
+    expectIdle("Saved b.png");
 }
 
 TEST_F(BusyNotice, ProgressBarIsPaintedOnTheScreen)
@@ -147,7 +147,7 @@ TEST_F(BusyNotice, EndsBeforeTheErrorBoxOpens)
     });
     window.openImage(inHome(QStringLiteral("a.png")));
     EXPECT_FALSE(cursorInBox);
-    expectNothingShown();
+    expectIdle();
 }
 
 TEST_F(BusyNotice, ErrorTextStaysInTheStatusBar)

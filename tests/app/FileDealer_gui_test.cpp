@@ -283,6 +283,15 @@ TEST_F(FileDealerTest, DialogsStartInTheDirectoryOfTheLastOpenedImage)
     EXPECT_EQ(save.directory, inHome(QStringLiteral("travels")));
 }
 
+TEST_F(FileDealerTest, SaveDialogProposesTheNameInTheLastDirectory)
+{
+    open(makeFile(QStringLiteral("a.png"), QStringLiteral("travels")));
+    FileDialogAnswer save({});
+    dealer.saveDialog(QStringLiteral("a-bw.png"));
+    EXPECT_EQ(save.directory, inHome(QStringLiteral("travels")));
+    EXPECT_EQ(save.proposedName, QStringLiteral("a-bw.png"));
+}
+
 TEST_F(FileDealerTest, DialogsHaveCaptionsAndImageFilters)
 {
     const QStringList filters(QStringLiteral("Images (*.jpg *.jpeg *.JPG *.JPEG *.png *.PNG *.tif *.TIF)"));

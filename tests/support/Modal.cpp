@@ -88,6 +88,9 @@ bool FileDialogAnswer::answer(QWidget &dialog)
     nameFilters = files->nameFilters();
     hasParent = files->parentWidget() != nullptr;
     auto *name = files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    if (name != nullptr) {
+        proposedName = name->text();
+    }
     if (m_path.isEmpty() || name == nullptr) {
         EXPECT_NE(name, nullptr) << "no field to type a path into";
         files->reject();

@@ -61,6 +61,7 @@ public:
 
     QString title;
     QString directory;
+    QString proposedName;
     QStringList nameFilters;
     bool hasParent = false;
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/frames/CurveFrame.h"
 
+#include "ui/StatusTip.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -27,6 +29,7 @@ CurveFrame::CurveFrame(QWidget *parent) : QFrame(parent), m_histogram(bins, init
 {
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
     QSizePolicy square(QSizePolicy::Preferred, QSizePolicy::Preferred);
     square.setHeightForWidth(true);
     setSizePolicy(square);
@@ -170,10 +173,11 @@ void CurveFrame::mouseMoveEvent(QMouseEvent *event)
         qWarning("ERROR: Invalid event");
         return;
     }
+    const QPointF place = placeOf(*event);
+    showStatusTip(*this, valuesAt(place));
     if (!m_pressed || m_selected < 0) {
         return;
     }
-    const QPointF place = placeOf(*event);
     movePoint(m_points, m_selected, static_cast<float>(place.x()), static_cast<float>(std::clamp(place.y(), 0.0, 1.0)));
     showChange();
 }
@@ -188,6 +192,19 @@ void CurveFrame::mouseReleaseEvent(QMouseEvent *event)
         m_pressed = false;
         emitMoved();
     }
+}
+
+void CurveFrame::leaveEvent(QEvent *event)
+{
+    showStatusTip(*this, {});
+    QFrame::leaveEvent(event);
+}
+
+QString CurveFrame::valuesAt(QPointF place)
+{
+    constexpr double white = 255;
+    const auto value = [](double share) { return std::lround(std::clamp(share, 0.0, 1.0) * white); };
+    return tr("In %1, out %2").arg(value(place.x())).arg(value(1 - place.y()));
 }
 
 QPointF CurveFrame::onFrame(double x, double y) const

@@ -11,6 +11,8 @@
 /// Edits a curve in the unit square over a tone histogram. A mouse press selects the point at that x position or adds a
 /// point there; a drag moves the selected point. signalMoved() is emitted when the mouse button is released.
 ///
+/// While the mouse is over the frame, the status bar of the window shows the input and output value under it, 0..255.
+///
 /// Page Up and Page Down select the previous and the next point, the arrow keys move the selected point, and Insert
 /// adds a point between it and its right neighbour. Each key acts like a mouse press followed by a release.
 class CurveFrame : public QFrame, public AccessibleControl
@@ -70,6 +72,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
@@ -77,6 +80,7 @@ protected:
 
 private:
     QVector<float> curve(int count) const;
+    static QString valuesAt(QPointF place);
     QPointF placeOf(const QMouseEvent &event) const;
     QPointF onFrame(double x, double y) const;
     void emitMoved();

@@ -3,9 +3,12 @@
 
 #include "math/OpponentColour.h"
 #include "ui/panels/FilmPresets.h"
+#include "ui/StatusTip.h"
 #include "ui_Mixer.h"
 
 #include <QSignalBlocker>
+
+#include <utility>
 
 using grisal::graphics::ColorRGB;
 
@@ -55,7 +58,18 @@ void Mixer::slotSetRGB(float r, float g, float b)
         m_form->spinBoxB->setValue(wholeB);
         m_form->spinBoxLuma->setValue(sum);
     }
+    showWeightsArePending(false);
     emit signalMixer(r / fullWeight, g / fullWeight, b / fullWeight);
+}
+
+void Mixer::showWeightsArePending(bool pending)
+{
+    const bool changed = std::exchange(m_weightsArePending, pending) != pending;
+    if (pending) {
+        showStatusTip(*this, tr("Counts when Luma changes next; that shifts all three equally"));
+    } else if (changed) {
+        showStatusTip(*this, {});
+    }
 }
 
 ColorRGB<float> Mixer::channels() const
@@ -92,18 +106,21 @@ void Mixer::on_sliderR_valueChanged(int value)
 {
     m_form->spinBoxR->setValue(value);
     refreshFromSliders();
+    showWeightsArePending(true);
 }
 
 void Mixer::on_sliderG_valueChanged(int value)
 {
     m_form->spinBoxG->setValue(value);
     refreshFromSliders();
+    showWeightsArePending(true);
 }
 
 void Mixer::on_sliderB_valueChanged(int value)
 {
     m_form->spinBoxB->setValue(value);
     refreshFromSliders();
+    showWeightsArePending(true);
 }
 
 void Mixer::on_spinBoxLuma_valueChanged(int value)
@@ -149,6 +166,7 @@ void Mixer::on_buttonReset_clicked()
         m_form->sliderLuma->setValue(neutralSum);
         m_form->spinBoxLuma->setValue(neutralSum);
     }
+    showWeightsArePending(false);
     constexpr float third = 1.0F / 3;
     emit signalMixer(third, third, third);
 }

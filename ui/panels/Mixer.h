@@ -53,9 +53,11 @@ private:
     void fillPresets();
     void applyPreset(int index);
     void refreshFromSliders();
+    void showWeightsArePending(bool pending);
     void showOnWheel(const grisal::graphics::ColorRGB<float> &weights);
     grisal::graphics::ColorRGB<float> channels() const;
 
     std::unique_ptr<Ui::Mixer> m_form;
     grisal::graphics::ColorRGB<float> m_preset;
+    bool m_weightsArePending = false;
 };

@@ -96,6 +96,7 @@ void GLWidget::loadImage(const graphics::Image &image)
     qDebug() << "Buffer: " << hasPixels;
     qDebug() << "(INFO) Max Texture Size: " << graphics::maxPreviewSide;
 
+    m_previewDownscaling = graphics::previewDownscaling(widthOf(image), heightOf(image));
     graphics::Image preview = graphics::makePreview(image);
     if (makeContextCurrent()) {
         showImage(preview);

@@ -85,6 +85,14 @@ public:
     float scale() const;
     QPointF offset() const;
 
+    /// By how much the preview is downscaled: 1 if it is not, otherwise 2, 4 and so on.
+    int previewDownscaling() const { return m_previewDownscaling; }
+    /// Size of the image on the screen, in percent of its full size.
+    int percentOfImage() const;
+
+signals:
+    void signalScaleChanged();
+
 public slots:
     void renderImage();
     void slotZoomIn();
@@ -125,6 +133,7 @@ private:
     bool handleKey(const QKeyEvent &event);
     void fitViewToWidget();
     void showCentred(float scale);
+    void showScale();
     FitRatios ratios() const;
     QSize pixelSize() const;
     QPointF pixelPosition(const QMouseEvent *event) const;
@@ -134,6 +143,7 @@ private:
     std::optional<graphics::Image> m_waitingPreview; ///< to be shown as soon as there is a context
     int m_previewWidth = 0;
     int m_previewHeight = 0;
+    int m_previewDownscaling = 1;
     bool m_dirty = false;
     bool m_started = false;
     bool m_renderingFinal = false;

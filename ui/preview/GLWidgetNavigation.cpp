@@ -55,6 +55,12 @@ float GLWidget::scale() const
     return m_stage.preview() ? m_stage.preview()->view().scale() : 1.0F;
 }
 
+int GLWidget::percentOfImage() const
+{
+    constexpr float percent = 100;
+    return static_cast<int>(std::lround(scale() * percent / static_cast<float>(m_previewDownscaling)));
+}
+
 QPointF GLWidget::offset() const
 {
     const graphics::Preview *preview = m_stage.preview();
@@ -75,9 +81,15 @@ void GLWidget::zoom(float step)
 {
     if (graphics::Preview *preview = m_stage.preview()) {
         preview->view().setScale(zoomedScale(scale(), step, ratios().smaller()));
-        update();
-        notifyValueChanged();
+        showScale();
     }
+}
+
+void GLWidget::showScale()
+{
+    update();
+    notifyValueChanged();
+    emit signalScaleChanged();
 }
 
 void GLWidget::slotFitTo(enumFitTo mode)
@@ -110,8 +122,7 @@ void GLWidget::showCentred(float scale)
         fitViewToWidget();
         preview->view().setScale(scale);
         preview->view().centre();
-        update();
-        notifyValueChanged();
+        showScale();
     }
 }
 
@@ -235,9 +246,7 @@ QString GLWidget::accessibleValue() const
     if (m_stage.preview() == nullptr) {
         return tr("No picture");
     }
-    constexpr float percent = 100;
-    const QString shown =
-        tr("%1 x %2 pixels at %3 %").arg(m_previewWidth).arg(m_previewHeight).arg(std::lround(scale() * percent));
+    const QString shown = tr("%1 x %2 pixels at %3 %").arg(m_previewWidth).arg(m_previewHeight).arg(percentOfImage());
     return m_bypass ? tr("%1, without the filters").arg(shown) : shown;
 }
 

@@ -51,6 +51,9 @@ void clearToBlack()
 
 void drawPreview(graphics::Preview &preview, QSize imageSize)
 {
+    if (preview.output() == 0) {
+        return;
+    }
     preview.view().setup();
     // After the render, because creating textures switches them off.
     glEnable(GL_TEXTURE_2D);

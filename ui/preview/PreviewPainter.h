@@ -21,7 +21,8 @@ void bindFramebuffer(GLuint framebuffer, QSize size);
 /// Fills the bound framebuffer with opaque black.
 void clearToBlack();
 
-/// Draws the result of the preview's last render through its view into the bound framebuffer, whose pixels stay opaque.
+/// Draws the result of the preview's last render, if there is one, through its view into the bound framebuffer, whose
+/// pixels stay opaque.
 /// The image has the given size. At scales below 1 it is filtered with mipmaps, as a reduced copy of the file would be;
 /// at 1 and above, image pixels stay sharp squares.
 void drawPreview(graphics::Preview &preview, QSize imageSize);
