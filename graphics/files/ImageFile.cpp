@@ -3,10 +3,10 @@
 
 #include "graphics/files/ImageMemory.h"
 #include "graphics/files/PngTexts.h"
+#include "graphics/files/TiffDirectory.h"
 #include "graphics/files/TiffOrientation.h"
 
 #include <QFile>
-#include <QtEndian>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -26,12 +26,8 @@ constexpr std::uint64_t maxUncheckedPixels = maxUncheckedMemory / 20;
 /// Whether the offset of the directory of a TIFF file lies behind the header and within the file.
 bool hasCompleteTiffEnd(const OpenFile &file, std::uint64_t size)
 {
-    const QByteArray offset = file.bytesAt(4, 4);
-    if (offset.size() < 4) {
-        return false;
-    }
-    const auto directory = qFromLittleEndian<std::uint32_t>(offset.constData());
-    return directory >= signatureLength && directory < size;
+    const std::optional<TiffFileHeader> header = decodeTiffFileHeader(file.bytesAt(0, tiffHeaderSize));
+    return header && header->directoryOffset >= tiffHeaderSize && header->directoryOffset < size;
 }
 
 } // namespace

@@ -23,7 +23,6 @@ constexpr qsizetype endSize = 2;
 /// Photoshop splits its blocks among segments.
 constexpr int maxPhotoshopSegments = 64;
 
-constexpr QByteArrayView exifStart{"Exif\0\0", 6};
 constexpr QByteArrayView xmpStart{"http://ns.adobe.com/xap/1.0/\0", 29};
 constexpr QByteArrayView photoshopStart{"Photoshop 3.0\0", 14};
 constexpr QByteArrayView profileStart{"ICC_PROFILE\0", 12};
@@ -43,8 +42,8 @@ public:
     void add(const JpegSegment &segment)
     {
         const QByteArray start = m_file.bytesAt(segment.offset, std::min(segment.length, xmpStart.size()));
-        if (segment.marker == app1 && start.startsWith(exifStart) && m_exif.isEmpty()) {
-            m_exif = contentsOf(segment).mid(exifStart.size());
+        if (segment.marker == app1 && start.startsWith(exifSignature) && m_exif.isEmpty()) {
+            m_exif = contentsOf(segment).mid(exifSignature.size());
         } else if (segment.marker == app1 && start.startsWith(xmpStart) && m_blocks.xmp.isEmpty()) {
             m_blocks.xmp = contentsOf(segment).mid(xmpStart.size());
         } else if (segment.marker == app2 && start.startsWith(profileStart)) {

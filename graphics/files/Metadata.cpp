@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/Metadata.h"
 
-#include "graphics/files/EmbeddedPictures.h"
+#include "graphics/files/EmbeddedImages.h"
 #include "graphics/files/ExivData.h"
 #include "graphics/files/MetadataBlocks.h"
 #include "graphics/files/PngChunks.h"
@@ -38,7 +38,7 @@ void initializeExiv2()
 {
     static const bool initialized = [] {
         Exiv2::LogMsg::setHandler(discardMessage);
-        registerPictureNamespaces();
+        registerImageNamespaces();
         return Exiv2::XmpParser::initialize();
     }();
     if (!initialized) {
@@ -231,9 +231,9 @@ Metadata::Metadata(const OpenFile &file, ImageFormat format)
         m_orientation = extractOrientation(contents->exif);
         eraseIf(contents->exif, [](const auto &datum) { return describesFile(datum); });
         eraseIf(contents->xmp, [](const auto &datum) { return describesFile(datum); });
-        removePictures(contents->exif);
-        removePictures(contents->iptc);
-        removePictures(contents->xmp);
+        removeEmbeddedImages(contents->exif);
+        removeEmbeddedImages(contents->iptc);
+        removeEmbeddedImages(contents->xmp);
         if (!contents->isEmpty()) {
             m_contents = std::move(contents);
         }

@@ -103,10 +103,9 @@ private:
             setBlock(m_blocks.iptc, iptc.isEmpty() ? profile : iptc);
         } else if ((type == "exi" || type == "APP") && m_blocks.exif.isEmpty()) {
             const QByteArray profile = decodedProfile(textOf(chunk, maxText));
-            constexpr QByteArrayView start{"Exif\0\0", 6};
-            const qsizetype at = profile.indexOf(start);
+            const qsizetype at = profile.indexOf(exifSignature);
             if (at >= 0) {
-                addExif(profile.mid(at + start.size()));
+                addExif(profile.mid(at + exifSignature.size()));
             } else {
                 m_blocks.complete = false;
             }

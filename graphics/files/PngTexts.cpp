@@ -14,7 +14,7 @@ namespace
 /// Of a chunk as stored and of one text when it is expanded; GraphicsMagick does not expand texts beyond this size.
 constexpr qsizetype maxTextSize = 8'000'000;
 /// Of all texts when they are expanded.
-constexpr qsizetype maxTextsSize = 16 * maxTextSize;
+constexpr qsizetype maxTextsSize = 4 * maxTextSize;
 
 /// The most that deflate expands to, with some reserve.
 constexpr qsizetype maxExpansion = 1'100;

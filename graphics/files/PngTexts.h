@@ -15,9 +15,9 @@ bool isPngText(const PngChunk &chunk);
 /// bytes.
 QByteArray pngText(const QByteArray &kind, const QByteArray &contents, qsizetype most);
 
-/// Whether GraphicsMagick reads the texts and profiles of a file in about a second and with less than 300 megabytes:
-/// compressed ones expand about a thousandfold, it reads up to a thousand of them, and it copies them. No metadata that
-/// is read or written here comes near the limits.
+/// Whether the texts and profiles of a file are checked and read in less than a second and with less than 100
+/// megabytes: compressed ones expand about a thousandfold, GraphicsMagick reads up to a thousand of them, and it copies
+/// them. They may expand to 32 megabytes in all; metadata that is read or written here has less than half of that.
 bool arePngTextsWithinLimits(const OpenFile &file);
 
 } // namespace grisal::graphics

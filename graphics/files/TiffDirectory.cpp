@@ -49,6 +49,15 @@ std::optional<TiffByteOrder> tiffByteOrderOf(QByteArrayView start)
     return std::nullopt;
 }
 
+std::optional<TiffFileHeader> decodeTiffFileHeader(QByteArrayView start)
+{
+    const std::optional<TiffByteOrder> order = start.size() < tiffHeaderSize ? std::nullopt : tiffByteOrderOf(start);
+    if (!order) {
+        return std::nullopt;
+    }
+    return TiffFileHeader{*order, order->get<std::uint32_t>(start.data() + 4)};
+}
+
 std::vector<TiffEntry> decodeDirectory(const QByteArray &bytes, TiffByteOrder order)
 {
     const int count = bytes.size() < 2 ? 0 : order.get<std::uint16_t>(bytes.constData());
@@ -66,6 +75,16 @@ std::vector<TiffEntry> decodeDirectory(const QByteArray &bytes, TiffByteOrder or
         }
     }
     return entries;
+}
+
+std::optional<TiffFirstDirectory> readFirstDirectory(const OpenFile &file)
+{
+    const std::optional<TiffFileHeader> header = decodeTiffFileHeader(file.bytesAt(0, tiffHeaderSize));
+    if (!header) {
+        return std::nullopt;
+    }
+    const QByteArray bytes = file.bytesAt(header->directoryOffset, maxTiffDirectorySize);
+    return TiffFirstDirectory{*header, decodeDirectory(bytes, header->order)};
 }
 
 QByteArray encodeEntry(const TiffEntry &entry, TiffByteOrder order)

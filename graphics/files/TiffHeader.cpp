@@ -12,17 +12,6 @@ namespace grisal::graphics
 namespace
 {
 
-enum class HeaderTag : std::uint16_t {
-    ImageWidth = 256,
-    ImageLength = 257,
-    BitsPerSample = 258,
-    Compression = 259,
-    Photometric = 262,
-    SamplesPerPixel = 277,
-};
-
-enum Type : std::uint16_t { Byte = 1, Short = 3, Long = 4, Long8 = 16 };
-
 constexpr std::uint64_t paletteImage = 3;
 constexpr std::uint64_t oldJpegCompression = 6;
 constexpr std::uint64_t jpegCompression = 7;
@@ -30,7 +19,7 @@ constexpr std::uint64_t jpegCompression = 7;
 /// The bytes of the first value of an entry: `value` contains the values, or the offset of longer ones in the file.
 struct HeaderEntry {
     std::uint16_t tag = 0;
-    std::uint16_t type = 0;
+    TiffType type = TiffType::Byte;
     bool isInline = true;
     QByteArray value;
 };
@@ -39,9 +28,12 @@ struct HeaderEntry {
 HeaderEntry decodeBigEntry(const char *bytes, TiffByteOrder order)
 {
     constexpr std::uint64_t inlineSize = 8;
-    const auto type = order.get<std::uint16_t>(bytes + 2);
+    const auto type = static_cast<TiffType>(order.get<std::uint16_t>(bytes + 2));
     const auto count = order.get<std::uint64_t>(bytes + 4);
-    const std::uint64_t valueSize = type == Byte ? 1 : type == Short ? 2 : type == Long ? 4 : inlineSize;
+    const std::uint64_t valueSize = type == TiffType::Byte    ? 1
+                                    : type == TiffType::Short ? 2
+                                    : type == TiffType::Long  ? 4
+                                                              : inlineSize;
     return {order.get<std::uint16_t>(bytes), type, count <= inlineSize / valueSize, QByteArray(bytes + 12, inlineSize)};
 }
 
@@ -65,15 +57,11 @@ std::vector<HeaderEntry> bigDirectory(const OpenFile &file, TiffByteOrder order)
     return entries;
 }
 
-std::vector<HeaderEntry> classicDirectory(const OpenFile &file, TiffByteOrder order)
+std::vector<HeaderEntry> headerEntries(const std::vector<TiffEntry> &directory)
 {
-    const QByteArray header = file.bytesAt(0, tiffHeaderSize);
     std::vector<HeaderEntry> entries;
-    if (header.size() == tiffHeaderSize) {
-        const auto start = order.get<std::uint32_t>(header.constData() + 4);
-        for (const TiffEntry &entry : decodeDirectory(file.bytesAt(start, maxTiffDirectorySize), order)) {
-            entries.push_back({entry.tag, entry.type, entry.isInline(), entry.content});
-        }
+    for (const TiffEntry &entry : directory) {
+        entries.push_back({entry.tag, static_cast<TiffType>(entry.type), entry.isInline(), entry.content});
     }
     return entries;
 }
@@ -84,14 +72,17 @@ class TiffValues
 public:
     explicit TiffValues(const OpenFile &file) : m_file(file)
     {
-        const QByteArray start = file.bytesAt(0, signatureLength);
-        const std::optional<TiffByteOrder> classicOrder = tiffByteOrderOf(start);
-        m_order = classicOrder.value_or(TiffByteOrder(start.startsWith('M')));
-        m_entries = classicOrder ? classicDirectory(file, m_order) : bigDirectory(file, m_order);
+        if (const std::optional<TiffFirstDirectory> directory = readFirstDirectory(file)) {
+            m_order = directory->header.order;
+            m_entries = headerEntries(directory->entries);
+        } else {
+            m_order = TiffByteOrder(file.bytesAt(0, 1) == "M");
+            m_entries = bigDirectory(file, m_order);
+        }
     }
 
     /// The first value of a tag; none where the tag is missing or is no unsigned integer.
-    std::optional<std::uint64_t> first(HeaderTag tag) const
+    std::optional<std::uint64_t> first(TiffTag tag) const
     {
         for (const HeaderEntry &entry : m_entries) {
             if (entry.tag == static_cast<std::uint16_t>(tag)) {
@@ -110,17 +101,17 @@ private:
                               sizeof(std::uint64_t));
     }
 
-    std::optional<std::uint64_t> decode(std::uint16_t type, QByteArray bytes) const
+    std::optional<std::uint64_t> decode(TiffType type, QByteArray bytes) const
     {
         bytes.resize(sizeof(std::uint64_t), '\0');
         switch (type) {
-        case Byte:
+        case TiffType::Byte:
             return static_cast<std::uint8_t>(bytes[0]);
-        case Short:
+        case TiffType::Short:
             return m_order.get<std::uint16_t>(bytes.constData());
-        case Long:
+        case TiffType::Long:
             return m_order.get<std::uint32_t>(bytes.constData());
-        case Long8:
+        case TiffType::Long8:
             return m_order.get<std::uint64_t>(bytes.constData());
         default:
             return std::nullopt;
@@ -152,21 +143,21 @@ std::optional<ImageHeader> readTiffHeader(const OpenFile &file)
 {
     constexpr std::uint64_t maxSide = std::numeric_limits<std::uint32_t>::max();
     const TiffValues values(file);
-    const std::optional<std::uint64_t> width = values.first(HeaderTag::ImageWidth);
-    const std::optional<std::uint64_t> height = values.first(HeaderTag::ImageLength);
+    const std::optional<std::uint64_t> width = values.first(TiffTag::ImageWidth);
+    const std::optional<std::uint64_t> height = values.first(TiffTag::ImageLength);
     if (!width || !height) {
         return std::nullopt;
     }
-    const auto compression = values.first(HeaderTag::Compression).value_or(1);
+    const auto compression = values.first(TiffTag::Compression).value_or(1);
     ImageHeader header;
     header.width = static_cast<std::uint32_t>(std::min(*width, maxSide));
     header.height = static_cast<std::uint32_t>(std::min(*height, maxSide));
-    header.bitsPerSample = shortOf(values.first(HeaderTag::BitsPerSample));
-    header.samplesPerPixel = shortOf(values.first(HeaderTag::SamplesPerPixel));
+    header.bitsPerSample = shortOf(values.first(TiffTag::BitsPerSample));
+    header.samplesPerPixel = shortOf(values.first(TiffTag::SamplesPerPixel));
     header.isJpeg = compression == oldJpegCompression || compression == jpegCompression;
     const int decodedBits = header.bitsPerSample * (header.isJpeg ? 2 : 1);
     header.decoderBytesPerPixel = bytesPerPixel(decodedBits, header.samplesPerPixel);
-    if (values.first(HeaderTag::Photometric) == paletteImage) {
+    if (values.first(TiffTag::Photometric) == paletteImage) {
         header.bitsPerSample = 16;
     }
     return header;

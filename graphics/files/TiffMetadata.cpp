@@ -24,15 +24,10 @@ constexpr std::size_t maxEntries = 4'000;
 constexpr std::uint64_t maxMakerNoteEnd = 1 << 17;
 constexpr qsizetype maxWithMakerNote = 1 << 19;
 
-bool is(const TiffEntry &entry, TiffTag tag)
-{
-    return entry.tag == static_cast<std::uint16_t>(tag);
-}
-
 bool isDirectory(const TiffEntry &entry)
 {
-    return is(entry, TiffTag::ExifDirectory) || is(entry, TiffTag::GpsDirectory) ||
-           is(entry, TiffTag::InteroperabilityDirectory);
+    return entry.has(TiffTag::ExifDirectory) || entry.has(TiffTag::GpsDirectory) ||
+           entry.has(TiffTag::InteroperabilityDirectory);
 }
 
 /// Copies the directories of a TIFF structure with their values, except those that describe the pixels, and the other
@@ -42,25 +37,23 @@ class TiffCopy
 public:
     using Source = std::function<QByteArray(std::uint64_t offset, qsizetype count)>;
 
-    TiffCopy(Source source, TiffByteOrder order, bool withMakerNote)
-        : m_source(std::move(source)), m_order(order), m_copy(m_source(0, 4) + QByteArray(4, '\0'))
+    TiffCopy(Source source, const TiffFileHeader &header, bool withMakerNote)
+        : m_source(std::move(source)), m_order(header.order), m_copy(m_source(0, 4) + QByteArray(4, '\0'))
     {
-        const auto start = offsetIn(m_source(4, 4));
         if (withMakerNote) {
-            copyMakerNote(makerNoteIn(start));
+            copyMakerNote(makerNoteIn(header.directoryOffset));
         }
-        appendDirectories(start);
+        appendDirectories(header.directoryOffset);
     }
 
-    TiffCopy(const QByteArray &block, TiffByteOrder order)
+    TiffCopy(const QByteArray &block, const TiffFileHeader &header)
         : m_source([&block](std::uint64_t offset, qsizetype count) {
               return block.mid(static_cast<qsizetype>(offset), count);
           }),
-          m_order(order), m_copy(block), m_isBlock(true)
+          m_order(header.order), m_copy(block), m_isBlock(true)
     {
-        const auto start = offsetIn(block.mid(4, 4));
-        m_makerNote = offsetIn(makerNoteIn(start).content);
-        appendDirectories(start);
+        m_makerNote = offsetIn(makerNoteIn(header.directoryOffset).content);
+        appendDirectories(header.directoryOffset);
     }
 
     MetadataBlocks result() const
@@ -85,11 +78,11 @@ private:
     TiffEntry makerNoteIn(std::uint32_t start) const
     {
         for (const TiffEntry &outer : directoryAt(start)) {
-            if (!is(outer, TiffTag::ExifDirectory)) {
+            if (!outer.has(TiffTag::ExifDirectory)) {
                 continue;
             }
             for (const TiffEntry &entry : directoryAt(offsetIn(outer.content))) {
-                if (is(entry, TiffTag::MakerNote) && !entry.isInline() && offsetIn(entry.content) >= tiffHeaderSize) {
+                if (entry.has(TiffTag::MakerNote) && !entry.isInline() && offsetIn(entry.content) >= tiffHeaderSize) {
                     const bool isExcessive =
                         entry.size() <= maxExifSize &&
                         repeatsTags(m_source(offsetIn(entry.content), static_cast<qsizetype>(entry.size())));
@@ -156,11 +149,11 @@ private:
     /// Returns whether the entry is another block of metadata.
     bool extractBlock(const TiffEntry &entry)
     {
-        if (is(entry, TiffTag::Xmp)) {
+        if (entry.has(TiffTag::Xmp)) {
             extractValues(entry, maxXmpSize, m_blocks.xmp);
-        } else if (is(entry, TiffTag::Iptc)) {
+        } else if (entry.has(TiffTag::Iptc)) {
             extractValues(entry, maxIptcSize, m_blocks.iptc);
-        } else if (is(entry, TiffTag::Profile)) {
+        } else if (entry.has(TiffTag::Profile)) {
             extractValues(entry, maxProfileSize, m_blocks.profile);
         } else {
             return false;
@@ -188,7 +181,7 @@ private:
         if (entry.isInline()) {
             return true;
         }
-        if (is(entry, TiffTag::MakerNote)) {
+        if (entry.has(TiffTag::MakerNote)) {
             return keepMakerNote(offsetIn(entry.content));
         }
         if (!reserve(entry.size())) {
@@ -270,19 +263,15 @@ std::vector<TiffEntry> inOrder(const Directory &directory)
     return entries;
 }
 
-std::uint32_t directoryOffset(QByteArrayView file, TiffByteOrder order)
-{
-    return order.get<std::uint32_t>(file.data() + 4);
-}
-
 /// Replaces the header of an image file: `metadata`, the offsets of the strips, and a directory with the entries of
 /// both files.
-QByteArray encodeFront(const OpenFile &file, TiffByteOrder order, const QByteArray &header, const QByteArray &metadata)
+QByteArray encodeFront(const OpenFile &file, const TiffFirstDirectory &first, const QByteArray &metadata,
+                       const TiffFileHeader &metadataHeader)
 {
-    Directory pixels =
-        byTag(decodeDirectory(file.bytesAt(directoryOffset(header, order), maxTiffDirectorySize), order));
+    const TiffByteOrder order = first.header.order;
+    Directory pixels = byTag(first.entries);
     Directory merged =
-        byTag(decodeDirectory(metadata.mid(directoryOffset(metadata, order), maxTiffDirectorySize), order));
+        byTag(decodeDirectory(metadata.mid(metadataHeader.directoryOffset, maxTiffDirectorySize), order));
     const auto strips = pixels.find(static_cast<std::uint16_t>(TiffTag::StripOffsets));
     if (strips == pixels.end()) {
         return {};
@@ -303,8 +292,7 @@ QByteArray encodeFront(const OpenFile &file, TiffByteOrder order, const QByteArr
             entry.content = order.bytesOf(order.get<std::uint32_t>(entry.content.constData()) + distance);
         }
     }
-    constexpr std::uint16_t longType = 4;
-    strips->second.type = longType;
+    strips->second.type = static_cast<std::uint16_t>(TiffType::Long);
     strips->second.content = strips->second.count == 1 ? front.last(4) : order.bytesOf(stripOffsets);
     merged.insert(pixels.begin(), pixels.end());
     order.put(directory, front.data() + 4);
@@ -315,14 +303,14 @@ QByteArray encodeFront(const OpenFile &file, TiffByteOrder order, const QByteArr
 
 MetadataBlocks extractTiffMetadata(const OpenFile &file)
 {
-    const std::optional<TiffByteOrder> order = tiffByteOrderOf(file.bytesAt(0, signatureLength));
-    if (!order) {
+    const std::optional<TiffFileHeader> header = decodeTiffFileHeader(file.bytesAt(0, tiffHeaderSize));
+    if (!header) {
         return {{}, {}, {}, {}, false};
     }
     const auto source = [&file](std::uint64_t offset, qsizetype count) { return file.bytesAt(offset, count); };
-    MetadataBlocks blocks = TiffCopy(source, *order, true).result();
+    MetadataBlocks blocks = TiffCopy(source, *header, true).result();
     if (blocks.exif.size() > maxWithMakerNote) {
-        blocks = TiffCopy(source, *order, false).result();
+        blocks = TiffCopy(source, *header, false).result();
     }
     blocks.xmp = blocks.xmp.mid(std::max<qsizetype>(blocks.xmp.indexOf('<'), 0));
     return blocks;
@@ -331,9 +319,9 @@ MetadataBlocks extractTiffMetadata(const OpenFile &file)
 MetadataBlocks extractExif(const QByteArray &block)
 {
     MetadataBlocks blocks{{}, {}, {}, {}, false};
-    const std::optional<TiffByteOrder> order = tiffByteOrderOf(block);
-    if (order && block.size() >= tiffHeaderSize && block.size() <= qsizetype{maxExifSize}) {
-        const MetadataBlocks all = TiffCopy(block, *order).result();
+    const std::optional<TiffFileHeader> header = decodeTiffFileHeader(block);
+    if (header && block.size() <= qsizetype{maxExifSize}) {
+        const MetadataBlocks all = TiffCopy(block, *header).result();
         blocks.exif = all.exif;
         blocks.complete = all.complete;
     }
@@ -344,13 +332,12 @@ MetadataBlocks extractExif(const QByteArray &block)
 // everything behind the header of the image file moves back.
 bool insertTiffMetadata(const OpenFile &file, const QByteArray &metadata)
 {
-    const QByteArray header = file.bytesAt(0, tiffHeaderSize);
-    const std::optional<TiffByteOrder> order = tiffByteOrderOf(header);
-    if (!order || header.size() < tiffHeaderSize || metadata.size() < tiffHeaderSize ||
-        !metadata.startsWith(header.first(4))) {
+    const std::optional<TiffFirstDirectory> first = readFirstDirectory(file);
+    const std::optional<TiffFileHeader> header = decodeTiffFileHeader(metadata);
+    if (!first || !header || !metadata.startsWith(file.bytesAt(0, 4))) {
         return false;
     }
-    const QByteArray front = encodeFront(file, *order, header, metadata);
+    const QByteArray front = encodeFront(file, *first, metadata, *header);
     if (front.isEmpty() || !file.insert(tiffHeaderSize, QByteArrayView(front).sliced(tiffHeaderSize))) {
         return false;
     }

@@ -17,11 +17,9 @@ namespace grisal::graphics
 namespace
 {
 
-constexpr std::uint16_t shortType = 3;
-
 bool isNormal(const TiffEntry &entry, TiffByteOrder order)
 {
-    return entry.type == shortType && entry.count == 1 && order.get<std::uint16_t>(entry.content.constData()) == 1;
+    return entry.has(TiffType::Short) && entry.count == 1 && order.get<std::uint16_t>(entry.content.constData()) == 1;
 }
 
 void copyRange(const FileRange &range, const OpenFile &from, const OpenFile &to)
@@ -58,15 +56,14 @@ struct OrientationEntry {
 
 std::optional<OrientationEntry> findAbnormalOrientation(const OpenFile &file)
 {
-    const QByteArray header = file.bytesAt(0, tiffHeaderSize);
-    const std::optional<TiffByteOrder> order = header.size() == tiffHeaderSize ? tiffByteOrderOf(header) : std::nullopt;
-    if (!order) {
+    const std::optional<TiffFirstDirectory> directory = readFirstDirectory(file);
+    if (!directory) {
         return std::nullopt;
     }
-    const auto start = order->get<std::uint32_t>(header.constData() + 4);
-    for (const TiffEntry &entry : decodeDirectory(file.bytesAt(start, maxTiffDirectorySize), *order)) {
-        if (entry.tag == static_cast<std::uint16_t>(TiffTag::Orientation) && !isNormal(entry, *order)) {
-            return OrientationEntry{*order, entry, std::uint64_t{start} + entry.offset};
+    const auto &[order, start] = directory->header;
+    for (const TiffEntry &entry : directory->entries) {
+        if (entry.has(TiffTag::Orientation) && !isNormal(entry, order)) {
+            return OrientationEntry{order, entry, std::uint64_t{start} + entry.offset};
         }
     }
     return std::nullopt;
@@ -82,7 +79,8 @@ OpenFile copyWithNormalOrientation(const OpenFile &file)
     }
     OpenFile copy = copyInMemory(file);
     const QByteArray first = found->order.bytesOf(std::uint16_t{1}) + QByteArray(2, '\0');
-    copy.overwrite(found->offset, encodeEntry({found->entry.tag, shortType, 1, first}, found->order));
+    copy.overwrite(found->offset, encodeEntry({found->entry.tag, static_cast<std::uint16_t>(TiffType::Short), 1, first},
+                                              found->order));
     return copy;
 }
 

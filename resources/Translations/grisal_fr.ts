@@ -1003,7 +1003,7 @@ Grisal a besoin d’OpenGL 2.1 pour afficher et enregistrer des images. Veuillez
     </message>
     <message>
         <source>Opening and saving it takes up to %1 of memory, but only %2 are free.</source>
-        <translation>L’ouvrir et l’enregistrer demande jusqu’à %1 de mémoire, mais seuls %2 sont libres.</translation>
+        <translation>L’ouvrir et l’enregistrer demande jusqu’à %1 de mémoire, mais il n’en reste que %2 de libre.</translation>
     </message>
 </context>
 </TS>

@@ -60,7 +60,7 @@ TEST_F(JpegSegmentsTest, VisitsALimitedNumberOfSegments)
     EXPECT_FALSE(visitJpegSegments(fileOf(app.repeated(21'000)), ignore));
 }
 
-TEST_F(JpegSegmentsTest, MetadataBehindOtherBytesAreExtracted)
+TEST_F(JpegSegmentsTest, MetadataBehindOtherBytesIsExtracted)
 {
     const QByteArray xmp = "http://ns.adobe.com/xap/1.0/" + QByteArray(1, '\0') + "<x/>";
     const QByteArray segment = QByteArray("\xff\xe1\0", 3) + static_cast<char>(xmp.size() + 2) + xmp;

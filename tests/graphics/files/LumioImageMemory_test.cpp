@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Files that would exhaust the memory.
 #include "graphics/files/ImageLibrary.h"
-#include "graphics/files/LumioImage.h"
 #include "graphics/files/TiffDirectory.h"
-#include "tests/graphics/files/PictureFiles.h"
+#include "tests/graphics/files/ImageTest.h"
 
-#include <gtest/gtest.h>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <sys/resource.h>
 
@@ -30,18 +27,7 @@ Samples colourful(int x, int y)
     return {static_cast<std::uint16_t>(x * 900), static_cast<std::uint16_t>(y * 1300), 7};
 }
 
-struct LumioImageMemoryTest : testing::Test {
-    QTemporaryDir directory;
-    LumioImage image;
-
-    QString path(const QString &name) const { return directory.filePath(name); }
-
-    QString written(Magick::Image picture, const QString &name) const
-    {
-        picture.write(path(name).toStdString());
-        return path(name);
-    }
-};
+using LumioImageMemoryTest = ImageTest;
 
 // libjpeg would decode all of it before its size is known.
 TEST_F(LumioImageMemoryTest, RejectsAProgressiveJpegOfTooManyPixelsBeforeDecodingIt)

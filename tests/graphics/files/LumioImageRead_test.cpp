@@ -1,9 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/files/LumioImage.h"
-#include "tests/graphics/files/PictureFiles.h"
-
-#include <gtest/gtest.h>
-#include <QTemporaryDir>
+#include "tests/graphics/files/ImageTest.h"
 
 #include <list>
 
@@ -33,18 +29,7 @@ Samples noise(int x, int y)
             static_cast<std::uint16_t>(hash >> 16)};
 }
 
-struct LumioImageReadTest : testing::Test {
-    QTemporaryDir directory;
-    LumioImage image;
-
-    QString path(const QString &name) const { return directory.filePath(name); }
-
-    QString written(Magick::Image picture, const QString &name) const
-    {
-        picture.write(path(name).toStdString());
-        return path(name);
-    }
-
+struct LumioImageReadTest : ImageTest {
     /// A JPEG file of 64 x 48 pixels, truncated to its first half.
     QString cutJpeg() const
     {

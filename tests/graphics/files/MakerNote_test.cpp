@@ -60,7 +60,7 @@ int entriesOf(const QByteArray &exif)
     return static_cast<int>(data.count());
 }
 
-TEST(MakerNote, RepeatsTagsBeyondEightTimes)
+TEST(RepeatsTags, IsTrueIfATagOccursMoreThanEightTimes)
 {
     for (const QByteArray &header :
          {QByteArray(), QByteArray("OLYMP\0\1\0", 8), QByteArray("Acme\0\0\0\0\0\0\0\0", 12)}) {
@@ -72,7 +72,7 @@ TEST(MakerNote, RepeatsTagsBeyondEightTimes)
     EXPECT_FALSE(repeatsTags(QByteArray(5'000, '\1')));
 }
 
-TEST(MakerNote, RepeatsTagsBehindTheHeaderOfATiffFile)
+TEST(RepeatsTags, IsTrueForSuchADirectoryBehindTheHeaderOfATiffFile)
 {
     const QByteArray start = QByteArray("Nikon\0\2\x10\0\0MM\0*\0\0\x03\0", 18) + QByteArray(0x300 - 8, '\0');
     EXPECT_FALSE(repeatsTags(start + repeatedDirectories(8, 0)));

@@ -106,7 +106,7 @@ TEST_F(OpenFileTest, StaysUnchangedOnAFullDisk)
     EXPECT_EQ(contentsOf(path), contents);
 }
 
-TEST_F(OpenFileTest, OverwritesOrThrows)
+TEST_F(OpenFileTest, OverwritesBytesOrThrowsIfReadOnly)
 {
     const OpenFile file = opened("abcdef");
     file.overwrite(2, "XY");

@@ -7,6 +7,7 @@
 #include <QtEndian>
 
 #include <cstddef>
+#include <numeric>
 
 namespace grisal::test
 {
@@ -107,6 +108,22 @@ void writeFile(const QString &path, const QByteArray &contents)
     if (file.open(QIODevice::WriteOnly)) {
         file.write(contents);
     }
+}
+
+Bytes countedBytes(std::size_t count)
+{
+    Bytes bytes(count);
+    std::iota(bytes.begin(), bytes.end(), std::uint8_t{0});
+    return bytes;
+}
+
+Samples16 spread(const Bytes &bytes)
+{
+    Samples16 samples16;
+    for (const std::uint8_t byte : bytes) {
+        samples16.push_back(static_cast<std::uint16_t>(byte * 257));
+    }
+    return samples16;
 }
 
 graphics::LumioImage pictureOf(const Bytes &bytes, int width, int height)

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -35,6 +36,12 @@ int channelsPerPixel(const QString &path);
 
 QByteArray contentsOf(const QString &path);
 void writeFile(const QString &path, const QByteArray &contents);
+
+/// Bytes that count from 0 to 255 again and again.
+Bytes countedBytes(std::size_t count);
+
+/// The 16-bit samples of the same brightness as bytes.
+Samples16 spread(const Bytes &bytes);
 
 /// An image filled from `bytes` or `samples`, R, G, B per pixel.
 graphics::LumioImage pictureOf(const Bytes &bytes, int width, int height);

@@ -27,6 +27,24 @@ TEST(TiffByteOrder, IsAbsentForBigTiffAndOtherFiles)
     }
 }
 
+TEST(TiffFileHeader, HasTheByteOrderAndTheOffsetOfTheFirstDirectory)
+{
+    for (const QByteArray &start :
+         {QByteArray("II*\0\x04\x03\x02\x01", 8), QByteArray("MM\0*\x01\x02\x03\x04...", 11)}) {
+        const auto header = decodeTiffFileHeader(start);
+        ASSERT_TRUE(header);
+        EXPECT_EQ(header->directoryOffset, 0x01020304U);
+        EXPECT_EQ(header->order.bytesOf(std::uint16_t{0x0102}).startsWith('\x01'), start.startsWith('M'));
+    }
+}
+
+TEST(TiffFileHeader, IsAbsentIfItIsCutShortOrForOtherFiles)
+{
+    EXPECT_FALSE(decodeTiffFileHeader(QByteArrayView("II*\0\x08\0\0", 7)));
+    EXPECT_FALSE(decodeTiffFileHeader({}));
+    EXPECT_FALSE(decodeTiffFileHeader(QByteArrayView("II+\0\x08\0\0\0", 8)));
+}
+
 class TiffDirectory : public testing::TestWithParam<bool>
 {
 protected:

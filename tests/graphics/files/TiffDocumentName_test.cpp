@@ -45,7 +45,7 @@ TEST_F(TiffDocumentNameTest, IsRemovedWithItsText)
     EXPECT_EQ(left[1].content, "Acme");
 }
 
-TEST_F(TiffDocumentNameTest, IsNotExpectedInEveryFile)
+TEST_F(TiffDocumentNameTest, FilesWithoutItStayUnchanged)
 {
     const QByteArray none =
         QByteArray("II*\0\x08\0\0\0", 8) + encodeDirectory({{256, 3, 1, "wide"}}, TiffByteOrder(false));

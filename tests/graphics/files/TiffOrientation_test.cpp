@@ -73,7 +73,7 @@ TEST_F(TiffOrientationTest, CopyTakesTheSizeOfTheFile)
     EXPECT_EQ(sizeOfNormalisedCopy(opened(fileWith({orientationTag, 3, 1, QByteArray("\0\1\0\0", 4)}))), 0U);
 }
 
-TEST_F(TiffOrientationTest, NeedsNoCopyWithNormalOrientationOrNone)
+TEST_F(TiffOrientationTest, NoCopyIsMadeWithNormalOrientationOrNone)
 {
     for (const QByteArray &contents : {fileWith({orientationTag, 3, 1, QByteArray("\0\1\0\0", 4)}),
                                        fileWith({271, 2, 4, "Acme"}), QByteArray("MM\0*\0\0\0\x10", 8),

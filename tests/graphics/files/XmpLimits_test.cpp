@@ -63,7 +63,7 @@ TEST(XmpLimits, LimitElementsAndAttributes)
     EXPECT_FALSE(isWithinXmpLimits(packetOf(elements(2'000), attributes(2'000))));
 }
 
-TEST(XmpLimits, CountManyAttributesOfOneElementAtOnce)
+TEST(XmpLimits, RejectTooManyAttributesOfOneElement)
 {
     EXPECT_FALSE(isWithinXmpLimits(packetOf({}, attributes(120'000))));
 }

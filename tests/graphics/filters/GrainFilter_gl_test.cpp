@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/filters/GrainFilter.h"
 
-#include "graphics/filters/NoiseMap.h"
+#include "tests/graphics/filters/GrainNoise.h"
 #include "tests/support/FilterRun.h"
 #include "tests/support/GlState.h"
 #include "tests/support/GlTest.h"
@@ -18,8 +18,6 @@ namespace
 {
 
 using graphics::GrainFilter;
-using graphics::noiseMapSide;
-using graphics::Texture;
 using reference::Rgb;
 
 class GrainFilterTest : public GlTest
@@ -41,26 +39,6 @@ QVector<float> risingWeights()
         weights[i] = static_cast<float>(i) / 300 + 0.1F;
     }
     return weights;
-}
-
-BytePixels noiseOf(const GrainFilter &filter)
-{
-    return readBytes(filter.blurredNoise()->record(), noiseMapSide, noiseMapSide);
-}
-
-/// Overwrites the blurred noise in order to detect whether it is blurred again.
-void spoilNoise(const GrainFilter &filter)
-{
-    const std::vector<std::uint8_t> black(std::size_t{noiseMapSide} * noiseMapSide * 3);
-    glBindTexture(GL_TEXTURE_2D, filter.blurredNoise()->record().texture);
-    glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, noiseMapSide, noiseMapSide, GL_RGB, GL_UNSIGNED_BYTE, black.data());
-    glBindTexture(GL_TEXTURE_2D, 0);
-}
-
-BytePixels bareNoise()
-{
-    const Texture texture(graphics::loadNoiseMap());
-    return readTexture(texture.name(), noiseMapSide, noiseMapSide);
 }
 
 template <typename Picture>
@@ -248,104 +226,6 @@ TEST_F(GrainFilterTest, NoiseIsMirroredBeyondItsEdgesAlongY)
     FloatPixels expected = expectedOf(grey, bareNoise(), everywhere);
     levelBetweenTexels(expected, result);
     EXPECT_TRUE(picturesNear("grain-mirrored-y", result, expected, {1e-6, 0}));
-}
-
-// Sums half way between two levels may differ by one level: 10 of 786432 with llvmpipe.
-TEST_F(GrainFilterTest, NoiseIsBlurredByTheSigma)
-{
-    GrainFilter filter;
-    filter.setSigma(2.5F);
-
-    const std::vector<float> weights = reference::blurWeights(2.5F);
-    const BytePixels between =
-        reference::asBytes(reference::blurredAlong(reference::asFloats(bareNoise()), weights, true));
-    const BytePixels expected =
-        reference::asBytes(reference::blurredAlong(reference::asFloats(between), weights, false));
-    EXPECT_TRUE(picturesNear("grain-noise", noiseOf(filter), expected, {1, 0.001}));
-}
-
-TEST_F(GrainFilterTest, SigmaOfZeroLeavesTheNoiseUnblurred)
-{
-    GrainFilter filter;
-    filter.setSigma(0);
-
-    EXPECT_TRUE(picturesNear("grain-bare-noise", noiseOf(filter), bareNoise()));
-}
-
-TEST_F(GrainFilterTest, SettingTheSigmaBlursTheNoise)
-{
-    GrainFilter filter;
-    filter.setSigma(0);
-    const GLuint texture = filter.blurredNoise()->record().texture;
-    const BytePixels bare = readTexture(texture, noiseMapSide, noiseMapSide);
-
-    filter.setSigma(2.5F);
-
-    EXPECT_NE(readTexture(texture, noiseMapSide, noiseMapSide).values, bare.values);
-}
-
-TEST_F(GrainFilterTest, SettingTheSameSigmaDoesNotBlurAgain)
-{
-    GrainFilter filter;
-    filter.setSigma(0);
-    spoilNoise(filter);
-
-    filter.setSigma(0);
-
-    EXPECT_EQ(noiseOf(filter).values, BytePixels(noiseMapSide, noiseMapSide).values);
-}
-
-TEST_F(GrainFilterTest, DiscardedNoiseIsBlurredAgainWithTheSameSigma)
-{
-    GrainFilter filter;
-    filter.setSigma(0);
-    spoilNoise(filter);
-
-    filter.discardNoise();
-    EXPECT_EQ(filter.blur(), nullptr);
-    EXPECT_EQ(filter.blurredNoise(), nullptr);
-    filter.setSigma(0);
-
-    EXPECT_TRUE(picturesNear("grain-forgotten", noiseOf(filter), bareNoise()));
-}
-
-TEST_F(GrainFilterTest, PassDoesNotBlurTheNoise)
-{
-    GrainFilter filter;
-    filter.setSigma(1);
-    filter.setWeights(everywhere);
-    filter.discardNoise();
-
-    runFilter(filter, FloatPixels(3, 2));
-
-    EXPECT_EQ(filter.blurredNoise(), nullptr);
-}
-
-TEST_F(GrainFilterTest, SecondSigmaBlursTheMapWithTheSameBlurAndTarget)
-{
-    GrainFilter filter;
-    filter.setSigma(3);
-    const graphics::GaussianBlurFilter *blur = filter.blur();
-    const graphics::FramebufferObject target = filter.blurredNoise()->record();
-
-    filter.setSigma(0);
-
-    EXPECT_EQ(filter.blur(), blur);
-    EXPECT_EQ(filter.blurredNoise()->record().framebuffer, target.framebuffer);
-    EXPECT_EQ(filter.blurredNoise()->record().texture, target.texture);
-    EXPECT_TRUE(picturesNear("grain-again", noiseOf(filter), bareNoise()));
-}
-
-TEST_F(GrainFilterTest, SigmaIsTheRadiusOfTheBlur)
-{
-    GrainFilter filter;
-
-    filter.setSigma(2.5F);
-
-    EXPECT_EQ(filter.sigma(), 2.5F);
-    EXPECT_EQ(filter.blur()->sigma, 2.5F);
-    EXPECT_EQ(filter.blur()->radius, 2.5F);
-    EXPECT_EQ(filter.blur()->scale, 1.0F);
 }
 
 TEST_F(GrainFilterTest, NewWeightsDeleteTheFormerTexture)

@@ -4,10 +4,6 @@
 #include "ui/panels/SplitTone.h"
 
 #include <QApplication>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QMetaMethod>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
@@ -77,31 +73,6 @@ protected:
     QSignalSpy emitted{&panel, &SplitTone::signalSplit};
 };
 
-TEST_F(SplitToneTest, FormHasItsRangesAndInitialValues)
-{
-    for (const char *name : channels) {
-        EXPECT_EQ(spinBox(name).minimum(), 0) << name;
-        EXPECT_EQ(spinBox(name).maximum(), 255) << name;
-    }
-    for (const char *name : {"sliderHLuma", "sliderSLuma"}) {
-        EXPECT_EQ(slider(name).orientation(), Qt::Vertical) << name;
-        EXPECT_EQ(slider(name).minimum(), 0) << name;
-        EXPECT_EQ(slider(name).maximum(), 255) << name;
-        EXPECT_EQ(slider(name).value(), 128) << name;
-    }
-    EXPECT_EQ(slider("sliderWeight").orientation(), Qt::Horizontal);
-    EXPECT_EQ(slider("sliderWeight").minimum(), 0);
-    EXPECT_EQ(slider("sliderWeight").maximum(), 100);
-    EXPECT_EQ(slider("sliderWeight").value(), 50);
-    EXPECT_EQ(spinBox("spinBoxWeight").minimum(), 0);
-    EXPECT_EQ(spinBox("spinBoxWeight").maximum(), 100);
-    EXPECT_EQ(spinBox("spinBoxWeight").value(), 50);
-    EXPECT_EQ(frameHighlights.minimumSize(), QSize(0, 100));
-    EXPECT_EQ(frameShadows.minimumSize(), QSize(0, 100));
-    EXPECT_EQ(frameHighlights.colorSpace(), 0);
-    EXPECT_EQ(frameShadows.colorSpace(), 0);
-}
-
 // The blue of the shadows differs between the form and the reset on purpose.
 TEST_F(SplitToneTest, FormHasItsInitialTints)
 {
@@ -110,58 +81,6 @@ TEST_F(SplitToneTest, FormHasItsInitialTints)
     reset();
     EXPECT_EQ(highlights(), warm);
     EXPECT_EQ(shadows(), cool);
-}
-
-TEST_F(SplitToneTest, FormHasItsTexts)
-{
-    EXPECT_EQ(panel.windowTitle(), QStringLiteral("Form"));
-    EXPECT_EQ(child<QLabel>(panel, "labelPresets").text(), QStringLiteral("Presets:"));
-    EXPECT_EQ(child<QGroupBox>(panel, "groupBoxHighlights").title(), QStringLiteral("Highlights"));
-    EXPECT_EQ(child<QGroupBox>(panel, "groupBoxShadows").title(), QStringLiteral("Shadows"));
-    EXPECT_EQ(child<QLabel>(panel, "labelWeight").text(), QStringLiteral("Weight"));
-    EXPECT_EQ(child<QPushButton>(panel, "buttonReset").text(), QStringLiteral("\t↻"));
-    for (const QString &tone : {QStringLiteral("H"), QStringLiteral("S")}) {
-        const auto text = [&](const char *channel) {
-            return child<QLabel>(panel, qPrintable(QStringLiteral("label") + tone + QLatin1String(channel))).text();
-        };
-        EXPECT_EQ(text("R"), QStringLiteral("<div style=\" color:#ff0000;\">Red</div>"));
-        EXPECT_EQ(text("G"), QStringLiteral("<div style=\" color:green;\">Green</div>"));
-        EXPECT_EQ(text("B"), QStringLiteral("<div style=\" color:#0000ff;\">Blue</div>"));
-    }
-}
-
-TEST_F(SplitToneTest, FormHasItsColours)
-{
-    for (const char *name : {"sliderHLuma", "sliderSLuma"}) {
-        EXPECT_EQ(slider(name).styleSheet(),
-                  QStringLiteral("background-color:qlineargradient(spread:pad, x1:1, y1:1, x2:1, y2:0, stop:0 rgba(0, "
-                                 "0, 0, 255), stop:1 rgba(255, 255, 255, 255));"));
-    }
-    const QStringList colours{QStringLiteral("red"), QStringLiteral("green"), QStringLiteral("blue")};
-    for (std::size_t i = 0; i < channels.size(); ++i) {
-        EXPECT_EQ(spinBox(channels[i]).styleSheet(),
-                  QStringLiteral("background:%1;\ncolor:white;").arg(colours[static_cast<int>(i % 3)]));
-    }
-}
-
-TEST_F(SplitToneTest, PresetsAreEmptyAndDisabled)
-{
-    EXPECT_EQ(child<QComboBox>(panel, "comboPresets").count(), 0);
-    EXPECT_FALSE(child<QComboBox>(panel, "comboPresets").isEnabled());
-    EXPECT_EQ(child<QComboBox>(panel, "comboPresets").toolTip(), QStringLiteral("There are no presets yet"));
-}
-
-TEST_F(SplitToneTest, SignalsAndSlotsHaveFixedNamesAndOrder)
-{
-    const QMetaObject &meta = SplitTone::staticMetaObject;
-    EXPECT_EQ(methodsOf(SplitTone::staticMetaObject),
-              "signalSplit(float,float,float,float,float,float,float) on_spinBoxHR_valueChanged(int) "
-              "on_spinBoxWeight_valueChanged(int) on_spinBoxHG_valueChanged(int) on_spinBoxHB_valueChanged(int) "
-              "on_spinBoxSR_valueChanged(int) on_spinBoxSG_valueChanged(int) on_spinBoxSB_valueChanged(int) "
-              "on_sliderWeight_valueChanged(int) on_sliderHLuma_valueChanged(int) slotSetShadows(float,float,float) "
-              "slotSetHighlights(float,float,float) on_sliderSLuma_valueChanged(int) emitAll() "
-              "on_buttonReset_clicked()");
-    EXPECT_EQ(meta.method(meta.methodOffset()).parameterNames().join(','), "weight,r1,g1,b1,r2,g2,b2");
 }
 
 /// Counts the emissions of the first panel that is constructed during its lifetime, from its first child on.
@@ -379,25 +298,6 @@ TEST_F(SplitToneTest, DragOnAWheelEmitsItsColourAtEveryMove)
     }
     EXPECT_EQ(shadows()[0], 0);
     EXPECT_EQ(shadows()[2], 255);
-}
-
-TEST_F(SplitToneTest, ControlsHaveNamesTipsAndTabOrder)
-{
-    panel.show();
-    panel.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
-    child<QPushButton>(panel, "buttonReset").setFocus();
-    QStringList names;
-    for (int i = 0; i < 13; ++i) {
-        QWidget *control = panel.focusWidget();
-        names << control->objectName();
-        EXPECT_FALSE(control->accessibleName().isEmpty()) << names.last().toStdString();
-        EXPECT_FALSE(control->toolTip().isEmpty()) << names.last().toStdString();
-        QTest::keyClick(control, Qt::Key_Tab);
-    }
-    EXPECT_EQ(names.join(' ').toStdString(),
-              "buttonReset sliderHLuma frameHighlights spinBoxHR spinBoxHG spinBoxHB sliderWeight spinBoxWeight "
-              "sliderSLuma frameShadows spinBoxSR spinBoxSG spinBoxSB");
 }
 
 } // namespace

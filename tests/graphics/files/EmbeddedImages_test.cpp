@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A saved file contains no image of the coloured original.
-#include "graphics/files/EmbeddedPictures.h"
+#include "graphics/files/EmbeddedImages.h"
 #include "graphics/files/LumioImage.h"
 #include "tests/graphics/files/MetadataFiles.h"
 #include "tests/graphics/files/PictureFiles.h"
@@ -37,7 +37,7 @@ QByteArray packetOf(const QByteArray &properties)
            properties + "</rdf:Description></rdf:RDF></x:xmpmeta>";
 }
 
-struct EmbeddedPicturesTest : testing::Test {
+struct EmbeddedImagesTest : testing::Test {
     QTemporaryDir directory;
 
     QString path(const QString &name) const { return directory.filePath(name); }
@@ -95,7 +95,7 @@ Metadata withMakerNote(const QByteArray &note)
     return metadata;
 }
 
-TEST_F(EmbeddedPicturesTest, XmpKnownByNameIsDropped)
+TEST_F(EmbeddedImagesTest, XmpKnownByNameIsDropped)
 {
     EXPECT_TRUE(dropsXmp("<p:Mime xmlns:p='http://ns.google.com/photos/1.0/image/'>image/jpeg</p:Mime>"
                          "<p:Data xmlns:p='http://ns.google.com/photos/1.0/image/'>/9j/4AAQ</p:Data>"));
@@ -109,7 +109,7 @@ TEST_F(EmbeddedPicturesTest, XmpKnownByNameIsDropped)
                                               "/9j/4AAQ</GImage:Data>")));
 }
 
-TEST_F(EmbeddedPicturesTest, XmpValuesThatAreImagesAreDropped)
+TEST_F(EmbeddedImagesTest, XmpValuesThatAreImagesAreDropped)
 {
     for (const QByteArray &image : {jpeg, png, webp, jpeg.first(150), png.first(150), webp.first(150)}) {
         const QByteArray text = image.toBase64();
@@ -121,7 +121,7 @@ TEST_F(EmbeddedPicturesTest, XmpValuesThatAreImagesAreDropped)
     }
 }
 
-TEST_F(EmbeddedPicturesTest, OtherXmpIsKept)
+TEST_F(EmbeddedImagesTest, OtherXmpIsKept)
 {
     const std::string text = QByteArray(9'000, 'x').toBase64().toStdString();
     EXPECT_EQ(saved(writtenWithXmp("<q:a>" + QByteArray::fromStdString(text) + "</q:a>")).first["Xmp.q.a"], text);
@@ -130,7 +130,7 @@ TEST_F(EmbeddedPicturesTest, OtherXmpIsKept)
 }
 
 // It would refer to extension segments, which are not kept.
-TEST_F(EmbeddedPicturesTest, XmpInExtensionSegmentsIsDropped)
+TEST_F(EmbeddedImagesTest, XmpInExtensionSegmentsIsDropped)
 {
     const QString source = written(QStringLiteral("a.jpg"));
     const QByteArray digest(32, 'A');
@@ -146,7 +146,7 @@ TEST_F(EmbeddedPicturesTest, XmpInExtensionSegmentsIsDropped)
     EXPECT_EQ(kept["Xmp.dc.source"], "roll 7");
 }
 
-TEST_F(EmbeddedPicturesTest, MakersNotesWithAnImageAreDropped)
+TEST_F(EmbeddedImagesTest, MakersNotesWithAnImageAreDropped)
 {
     for (const char *source : {"a.jpg", "a.png", "a.tif"}) {
         const QByteArray image = QByteArray("Acme\0\1 lens 50 mm", 16) + jpeg;
@@ -159,7 +159,7 @@ TEST_F(EmbeddedPicturesTest, MakersNotesWithAnImageAreDropped)
     }
 }
 
-TEST_F(EmbeddedPicturesTest, OtherMakersNotesAreKept)
+TEST_F(EmbeddedImagesTest, OtherMakersNotesAreKept)
 {
     for (const QByteArray &note :
          {QByteArray(7'000, 'n') + "TheNote", QByteArray("TheNote\xff\xd8\xff and no image")}) {
@@ -173,7 +173,7 @@ TEST_F(EmbeddedPicturesTest, OtherMakersNotesAreKept)
 const QByteArray littleEndianTable = QByteArray::fromHex("fdffd8ffe0ff").repeated(100);
 const QByteArray bigEndianTable = QByteArray::fromHex("fffdffd8ffe0").repeated(100);
 
-TEST_F(EmbeddedPicturesTest, TablesOfNegativeNumbersAreKept)
+TEST_F(EmbeddedImagesTest, TablesOfNegativeNumbersAreKept)
 {
     for (const QByteArray &numbers : {littleEndianTable, bigEndianTable}) {
         const QString file = written(QStringLiteral("a.jpg"));
@@ -193,7 +193,7 @@ TEST_F(EmbeddedPicturesTest, TablesOfNegativeNumbersAreKept)
     EXPECT_EQ(saved(file).second.count(littleEndianTable), 3);
 }
 
-TEST_F(EmbeddedPicturesTest, AnImageBehindATableIsFound)
+TEST_F(EmbeddedImagesTest, AnImageBehindATableIsFound)
 {
     const QString file = written(QStringLiteral("a.jpg"));
     setMetadata(file, withMakerNote(littleEndianTable + jpeg));
@@ -201,7 +201,7 @@ TEST_F(EmbeddedPicturesTest, AnImageBehindATableIsFound)
 }
 
 // Of a note that Exiv2 decodes, only the value with the image is dropped.
-TEST_F(EmbeddedPicturesTest, ValuesOfDecodedMakersNotesAreDroppedSingly)
+TEST_F(EmbeddedImagesTest, ValuesOfDecodedMakersNotesAreDroppedSingly)
 {
     Metadata metadata;
     metadata.exif["Exif.Image.Make"] = "Canon";
@@ -217,7 +217,7 @@ TEST_F(EmbeddedPicturesTest, ValuesOfDecodedMakersNotesAreDroppedSingly)
     EXPECT_EQ(kept["Exif.Canon.OwnerName"], "Ansel of the mountains");
 }
 
-TEST_F(EmbeddedPicturesTest, PreviewsInIptcAreDropped)
+TEST_F(EmbeddedImagesTest, PreviewsInIptcAreDropped)
 {
     Metadata metadata;
     Exiv2::DataValue value(reinterpret_cast<const Exiv2::byte *>(png.constData()), static_cast<long>(png.size()));
@@ -234,7 +234,7 @@ TEST_F(EmbeddedPicturesTest, PreviewsInIptcAreDropped)
 /// Instead of minutes; also with sanitizers.
 constexpr qint64 generousMilliseconds = 10'000;
 
-TEST_F(EmbeddedPicturesTest, ManyIptcRecordsAreDroppedInLinearTime)
+TEST_F(EmbeddedImagesTest, ManyIptcRecordsAreDroppedInLinearTime)
 {
     Exiv2::IptcData iptc;
     for (int i = 0; i < 20'000; ++i) {
@@ -245,12 +245,12 @@ TEST_F(EmbeddedPicturesTest, ManyIptcRecordsAreDroppedInLinearTime)
     iptc["Iptc.Application2.City"] = "Chur";
     QElapsedTimer timer;
     timer.start();
-    grisal::graphics::removePictures(iptc);
+    grisal::graphics::removeEmbeddedImages(iptc);
     EXPECT_LT(timer.elapsed(), generousMilliseconds);
     EXPECT_EQ(iptc.count(), 1);
 }
 
-TEST_F(EmbeddedPicturesTest, LongListsOfImagesInXmpAreDroppedInLinearTime)
+TEST_F(EmbeddedImagesTest, LongListsOfImagesInXmpAreDroppedInLinearTime)
 {
     // A structure among the items makes a property of each.
     const QByteArray items =

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/files/EmbeddedPictures.h"
+#include "graphics/files/EmbeddedImages.h"
 
 #include "graphics/files/ExivData.h"
 #include "graphics/files/JpegSegments.h"
@@ -27,7 +27,7 @@ struct Namespace {
 };
 
 // Photographs and depth maps of mobile phones.
-constexpr std::array<Namespace, 2> pictureNamespaces{{
+constexpr std::array<Namespace, 2> imageNamespaces{{
     {"http://ns.google.com/photos/1.0/image/", "GImage"},
     {"http://ns.google.com/photos/1.0/depthmap/", "GDepth"},
 }};
@@ -57,7 +57,7 @@ bool describesOtherImages(const Exiv2::Iptcdatum &datum)
 bool describesOtherImages(const std::string &key, const std::string &property)
 {
     return property == "Xmp.xmp.Thumbnails" || property == "Xmp.xmp.PageInfo" || contains(key, "xmpGImg:") ||
-           std::any_of(pictureNamespaces.begin(), pictureNamespaces.end(), [&](const Namespace &space) {
+           std::any_of(imageNamespaces.begin(), imageNamespaces.end(), [&](const Namespace &space) {
                return key.starts_with(std::string("Xmp.") + space.prefix + '.') ||
                       contains(key, (std::string(space.prefix) + ':').c_str());
            });
@@ -150,25 +150,25 @@ std::string propertyOf(const std::string &key)
 
 } // namespace
 
-void registerPictureNamespaces()
+void registerImageNamespaces()
 {
-    for (const Namespace &space : pictureNamespaces) {
+    for (const Namespace &space : imageNamespaces) {
         Exiv2::XmpProperties::registerNs(space.uri, space.prefix);
     }
 }
 
-void removePictures(Exiv2::ExifData &exif)
+void removeEmbeddedImages(Exiv2::ExifData &exif)
 {
     eraseIf(exif, [](const auto &datum) { return describesOtherImages(datum) || containsJpeg(datum); });
 }
 
-void removePictures(Exiv2::IptcData &iptc)
+void removeEmbeddedImages(Exiv2::IptcData &iptc)
 {
     eraseIf(iptc, [](const auto &datum) { return describesOtherImages(datum) || containsJpeg(datum); });
 }
 
 // Without its images a property might be invalid, such as an array without its second item.
-void removePictures(Exiv2::XmpData &xmp)
+void removeEmbeddedImages(Exiv2::XmpData &xmp)
 {
     std::set<std::string> properties;
     for (const Exiv2::Xmpdatum &datum : xmp) {

@@ -6,9 +6,9 @@
 namespace grisal::graphics
 {
 
-/// Registers the name spaces of XMP that removePictures() knows under fixed prefixes. To be called once, before XMP is
-/// decoded.
-void registerPictureNamespaces();
+/// Registers the name spaces of XMP that removeEmbeddedImages() knows under fixed prefixes. To be called once, before
+/// XMP is decoded.
+void registerImageNamespaces();
 
 /// Remove the images and depth maps in metadata, which would show the colours of the original: those that are known by
 /// name, such as thumbnails and previews, and those that are recognised by their contents.
@@ -16,8 +16,8 @@ void registerPictureNamespaces();
 /// Exif and IPTC values, and maker's notes that Exiv2 does not decode, are removed where they contain a JPEG image: its
 /// segments up to the one with the size of the image. An XMP property is removed with all its parts where a value of at
 /// least 200 characters is a JPEG, PNG or WebP image in Base64.
-void removePictures(Exiv2::ExifData &exif);
-void removePictures(Exiv2::IptcData &iptc);
-void removePictures(Exiv2::XmpData &xmp);
+void removeEmbeddedImages(Exiv2::ExifData &exif);
+void removeEmbeddedImages(Exiv2::IptcData &iptc);
+void removeEmbeddedImages(Exiv2::XmpData &xmp);
 
 } // namespace grisal::graphics
