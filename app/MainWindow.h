@@ -93,6 +93,7 @@ private:
     void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem);
     void showPreviewOf(const graphics::Image &image);
     void showWarning();
+    void showCannotSave(const QString &path);
     void showSaved(const QString &path);
     void showCannotLoad(const QString &filename);
     void openFile(const QString &filename);

@@ -158,6 +158,10 @@ void MainWindow::saveImage(const QString &path)
         m_form->statusbar->showBriefly(tr("No image"));
         return;
     }
+    if (!m_session.acceptsName(path)) {
+        showCannotSave(path);
+        return;
+    }
     BusyNotice notice(*m_form->statusbar);
     std::optional<graphics::Image> output = renderOutput(notice);
     if (!output) {
@@ -165,10 +169,16 @@ void MainWindow::saveImage(const QString &path)
     }
     notice.show(tr("Writing %1").arg(QFileInfo(path).fileName()));
     if (!m_session.write(*std::move(output), path)) {
-        m_form->statusbar->showBriefly(tr("Cannot save %1. Choose another place or name.").arg(path));
+        showCannotSave(path);
         return;
     }
     showSaved(path);
+}
+
+void MainWindow::showCannotSave(const QString &path)
+{
+    const QString name = QFileInfo(path).fileName();
+    m_form->statusbar->showBriefly(tr("Cannot save %1: %2").arg(name, m_session.problem().translated()));
 }
 
 void MainWindow::showSaved(const QString &path)

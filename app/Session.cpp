@@ -3,6 +3,7 @@
 
 #include "app/PictureMemory.h"
 #include "graphics/files/ImageFile.h"
+#include "graphics/files/ImageFormat.h"
 #include "graphics/files/LumioImage.h"
 
 #include <QFile>
@@ -37,7 +38,7 @@ Image imageOf(LumioImage &file)
 {
     Raster<Sample> image(file.width(), file.height());
     if (!file.getPixels(image.samples.data(), false, file.is16Bit())) {
-        throw std::runtime_error(file.problem().toStdString());
+        throw std::runtime_error(file.problem().english().toStdString());
     }
     return image;
 }
@@ -71,7 +72,7 @@ QString sizeInEnglish(std::uint64_t bytes)
 void logProblems(const LumioImage &file)
 {
     if (!file.problem().isEmpty()) {
-        qWarning("%s", qPrintable(file.problem()));
+        qWarning("%s", qPrintable(file.problem().english()));
     }
     if (!file.warning().isEmpty()) {
         qWarning("%s", qPrintable(file.warning().english()));
@@ -118,17 +119,30 @@ bool Session::fitsIntoMemory(const graphics::ImageFile &file)
     return false;
 }
 
+bool Session::failToWrite(const QString &path, const graphics::Message &problem)
+{
+    m_problem = problem;
+    qWarning("Cannot save %s: %s", qPrintable(path), qPrintable(problem.english()));
+    return false;
+}
+
+bool Session::acceptsName(const QString &path)
+{
+    m_problem = {};
+    return graphics::formatOfName(path) || failToWrite(path, graphics::unknownExtension());
+}
+
 bool Session::write(Image image, const QString &path)
 {
     m_warning = {};
+    m_problem = {};
     LumioImage file = fileOf(image);
     image = {};
     if (m_picture) {
         file.setMetadata(m_picture->metadata);
     }
     if (!file.problem().isEmpty() || !file.save(path, saveQuality)) {
-        qWarning("Cannot save %s: %s", qPrintable(path), qPrintable(file.problem()));
-        return false;
+        return failToWrite(path, file.problem());
     }
     m_warning = file.warning();
     logProblems(file);

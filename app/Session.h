@@ -56,19 +56,27 @@ public:
     /// Of the last read; none where it was read or could not be read for another reason.
     const std::optional<MemoryShortage> &shortage() const { return m_shortage; }
 
+    /// Returns whether the extension of a path is that of a format; otherwise problem() contains the reason.
+    bool acceptsName(const QString &path);
+
     /// Writes an image with the metadata of the open image, in the format given by the extension of `path`. Returns
-    /// false on failure; an existing file is then unchanged.
+    /// false on failure; an existing file is then unchanged, and problem() contains the reason.
     bool write(graphics::Image image, const QString &path);
+
+    /// Why the last write failed or the last name was not accepted; empty otherwise.
+    const graphics::Message &problem() const { return m_problem; }
 
     /// A problem of the last read or write that did not prevent its result; empty if there was none.
     const graphics::Message &warning() const { return m_warning; }
 
 private:
+    bool failToWrite(const QString &path, const graphics::Message &problem);
     bool fitsIntoMemory(const graphics::ImageFile &file);
 
     MemorySources m_memory;
     PicturePointer m_picture;
     std::optional<MemoryShortage> m_shortage;
+    graphics::Message m_problem;
     graphics::Message m_warning;
 };
 

@@ -75,6 +75,11 @@ std::optional<ImageFormat> formatOfName(const QString &path)
     return std::nullopt;
 }
 
+Message unknownExtension()
+{
+    return Message(QT_TRANSLATE_NOOP("Message", "the name has to end in .jpg, .jpeg, .png, .tif or .tiff"));
+}
+
 std::string magickName(ImageFormat format, const std::string &file)
 {
     return prefixOf(format) + file;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/Message.h"
+
 #include <QByteArrayView>
 #include <QString>
 
@@ -22,6 +24,9 @@ std::optional<ImageFormat> formatOfContents(QByteArrayView start);
 
 /// The format of a file by the extension of its name, in upper or lower case.
 std::optional<ImageFormat> formatOfName(const QString &path);
+
+/// Why formatOfName() returns nothing.
+Message unknownExtension();
 
 /// The file name as GraphicsMagick takes it, with the format in front: it then chooses the format by neither name nor
 /// contents.

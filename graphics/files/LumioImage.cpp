@@ -104,7 +104,7 @@ LumioImage::LumioImage() : m_image(emptyImage()) {}
 LumioImage::LumioImage(int width, int height, bool sixteenBit) : LumioImage()
 {
     if (width < 1 || height < 1) {
-        m_problem = QStringLiteral("A picture cannot be %1 x %2 pixels large").arg(width).arg(height);
+        m_problem = Message::quoting(QStringLiteral("A picture cannot be %1 x %2 pixels large").arg(width).arg(height));
         return;
     }
     attempt([&] {
@@ -120,14 +120,14 @@ bool LumioImage::attemptWithPixels(Step step)
 {
     return attempt([&] {
         if (isNull()) {
-            m_problem = QStringLiteral("Image is not valid");
+            m_problem = Message::quoting(QStringLiteral("Image is not valid"));
             return;
         }
         m_image.modifyImage();
         m_image.type(Magick::TrueColorType);
         Magick::PixelPacket *pixels = m_image.getPixels(0, 0, m_image.columns(), m_image.rows());
         if (pixels == nullptr) {
-            m_problem = QStringLiteral("The pixels cannot be reached");
+            m_problem = Message::quoting(QStringLiteral("The pixels cannot be reached"));
             return;
         }
         step(pixels, std::size_t{m_image.columns()} * m_image.rows());
@@ -178,7 +178,7 @@ bool LumioImage::read(const QString &path)
 bool LumioImage::read(ImageFile &file)
 {
     const bool good = attempt([&] {
-        m_problem = file.problem();
+        m_problem = Message::quoting(file.problem());
         if (m_problem.isEmpty()) {
             file.normalise();
             readFrom(file);
@@ -192,7 +192,7 @@ bool LumioImage::read(ImageFile &file)
 void LumioImage::replaceNameInMessages(int descriptor, const QString &path)
 {
     const QString name = QString::fromStdString(pathOfOpenFile(descriptor));
-    m_problem.replace(name, path);
+    m_problem.replaceInDetail(name, path);
     m_warning.replaceInDetail(name, path);
 }
 
@@ -203,7 +203,8 @@ void LumioImage::readFrom(const ImageFile &file)
     Magick::Image fresh = firstImage();
     m_warning = warningOf([&] { fresh.read(file.name()); });
     if (!fresh.isValid()) {
-        m_problem = m_warning.isEmpty() ? QStringLiteral("No picture in %1").arg(file.path()) : m_warning.english();
+        m_problem =
+            m_warning.isEmpty() ? Message::quoting(QStringLiteral("No picture in %1").arg(file.path())) : m_warning;
         return;
     }
     if (m_warning.isEmpty() && !metadata.isComplete()) {
@@ -227,6 +228,11 @@ bool LumioImage::save(const QString &path, int quality)
     }
     ReplacementFile target(path);
     const bool good = attempt([&] { writeTo(target, path, quality); });
+    if (!good && target.file().isOpen()) {
+        if (const Message shortage = target.shortageOfSpace(); !shortage.isEmpty()) {
+            m_problem = shortage;
+        }
+    }
     replaceNameInMessages(target.file().descriptor(), path);
     return good;
 }
@@ -235,7 +241,7 @@ void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quali
 {
     const std::optional<ImageFormat> format = formatOfName(path);
     if (!format) {
-        m_problem = QStringLiteral("The name ends in none of .jpg, .jpeg, .png, .tif and .tiff");
+        m_problem = unknownExtension();
         return;
     }
     m_problem = target.problem();
@@ -250,11 +256,11 @@ void LumioImage::writeTo(ReplacementFile &target, const QString &path, int quali
     }
     m_image.fileName(QFile::encodeName(path).toStdString());
     if (!hasCompleteEnd(target.file(), *format)) {
-        m_problem = QStringLiteral("Not all of the picture could be written");
+        m_problem = Message(QT_TRANSLATE_NOOP("Message", "not all of the picture could be written"));
     } else if (!target.commit()) {
         m_problem = target.problem();
     } else if (!opensForReading(path)) {
-        m_problem = QStringLiteral("Cannot open %1 after writing it").arg(path);
+        m_problem = Message(QT_TRANSLATE_NOOP("Message", "%1 cannot be read after it was written"), path);
     }
 }
 

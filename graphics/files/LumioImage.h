@@ -74,7 +74,7 @@ public:
     std::string info() const;
 
     /// Why the last operation failed; empty if it did not.
-    QString problem() const { return m_problem; }
+    const Message &problem() const { return m_problem; }
     /// What was wrong with the last operation although it gave a result; empty otherwise.
     const Message &warning() const { return m_warning; }
 
@@ -82,12 +82,12 @@ private:
     template <typename Step>
     bool attempt(Step step)
     {
-        m_problem.clear();
+        m_problem = {};
         m_warning = {};
         try {
             step();
         } catch (const std::exception &exception) {
-            m_problem = QString::fromLocal8Bit(exception.what());
+            m_problem = Message::quoting(QString::fromLocal8Bit(exception.what()));
             return false;
         }
         return m_problem.isEmpty();
@@ -103,7 +103,7 @@ private:
 
     Magick::Image m_image;
     Metadata m_metadata;
-    QString m_problem;
+    Message m_problem;
     Message m_warning;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/ReplacementFile.h"
 
+#include "graphics/files/FileError.h"
 #include "graphics/files/ImageFormat.h"
 #include "graphics/files/LeftoverFiles.h"
 
@@ -113,7 +114,8 @@ ReplacementFile::ReplacementFile(const QString &path)
     const fs::path folder = fs::path(m_target).parent_path();
     m_temporary.setFileTemplate(QFile::decodeName((folder / temporaryNameTemplate()).c_str()));
     if (!m_temporary.open()) {
-        m_problem = QStringLiteral("The folder cannot be written to: %1").arg(m_temporary.errorString());
+        m_problem =
+            Message(QT_TRANSLATE_NOOP("Message", "the folder cannot be written to (%1)"), m_temporary.errorString());
         return;
     }
     m_file = OpenFile(m_temporary.handle());
@@ -131,7 +133,8 @@ ReplacementFile::~ReplacementFile()
 
 bool ReplacementFile::fail(const char *what, int error)
 {
-    m_problem = QStringLiteral("%1: %2").arg(QString::fromLatin1(what), QString::fromLocal8Bit(std::strerror(error)));
+    const Message reason = fileErrorMessage(error);
+    m_problem = error == ENOSPC || error == EDQUOT ? reason : Message(what, reason.english());
     return false;
 }
 
@@ -140,7 +143,7 @@ bool ReplacementFile::findTarget(const QString &path)
     try {
         m_target = endOfLinks(QFile::encodeName(path).toStdString());
     } catch (const fs::filesystem_error &error) {
-        return fail("The file cannot be reached", error.code().value());
+        return fail(QT_TRANSLATE_NOOP("Message", "the folder cannot be reached (%1)"), error.code().value());
     }
     struct stat status {
     };
@@ -148,10 +151,19 @@ bool ReplacementFile::findTarget(const QString &path)
         return true;
     }
     if (!S_ISREG(status.st_mode)) {
-        m_problem = QStringLiteral("There is something else than a file");
+        m_problem = Message(QT_TRANSLATE_NOOP("Message", "the name belongs to something other than a file"));
         return false;
     }
-    return access(m_target.c_str(), W_OK) == 0 || fail("The file is not to be written", errno);
+    return access(m_target.c_str(), W_OK) == 0 ||
+           fail(QT_TRANSLATE_NOOP("Message", "the file is write-protected (%1)"), errno);
+}
+
+// Asks for space that a failed write may have lacked: GraphicsMagick does not report why it failed.
+Message ReplacementFile::shortageOfSpace() const
+{
+    constexpr off_t wanted = 1 << 20;
+    const int error = posix_fallocate(m_file.descriptor(), static_cast<off_t>(m_file.size()), wanted);
+    return error == ENOSPC || error == EDQUOT || error == EFBIG ? fileErrorMessage(error) : Message();
 }
 
 bool ReplacementFile::commit()
@@ -160,10 +172,10 @@ bool ReplacementFile::commit()
         return false;
     }
     if (!copyAccess() || fsync(m_file.descriptor()) != 0) {
-        return fail("The file cannot be completed", errno);
+        return fail(QT_TRANSLATE_NOOP("Message", "the file cannot be completed (%1)"), errno);
     }
     if (!linkToTarget() && !renameToTarget()) {
-        return fail("The file cannot be put in its place", errno);
+        return fail(QT_TRANSLATE_NOOP("Message", "the old file cannot be replaced (%1)"), errno);
     }
     m_temporary.setAutoRemove(false);
     const fs::path folderPath = fs::path(m_target).parent_path();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "graphics/files/OpenFile.h"
+#include "graphics/Message.h"
 
 #include <QString>
 #include <QTemporaryFile>
@@ -30,10 +31,13 @@ public:
     ~ReplacementFile();
 
     /// Why there is no file to write to, or why it did not replace the old one; empty if there is no problem.
-    QString problem() const { return m_problem; }
+    const Message &problem() const { return m_problem; }
 
     /// The file to write; only without a problem.
     const OpenFile &file() const { return m_file; }
+
+    /// Why the disk has no space for more of the file; empty if it has.
+    Message shortageOfSpace() const;
 
     /// Writes the file to the disk and replaces the old one. False, with the old file still there, if that fails.
     bool commit();
@@ -48,7 +52,7 @@ private:
     std::string m_target; ///< the path at the end of all links
     QTemporaryFile m_temporary;
     OpenFile m_file; ///< the descriptor of m_temporary, which owns it
-    QString m_problem;
+    Message m_problem;
 };
 
 } // namespace grisal::graphics

@@ -48,7 +48,7 @@ bool painted(const Order &order)
     if (filled && image.save(QString::fromLocal8Bit(order.output.c_str()), quality)) {
         return true;
     }
-    std::cerr << image.problem().toStdString() << '\n';
+    std::cerr << image.problem().english().toStdString() << '\n';
     return false;
 }
 

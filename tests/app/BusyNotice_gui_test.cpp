@@ -152,7 +152,7 @@ TEST_F(BusyNotice, EndsBeforeTheErrorBoxOpens)
 
 TEST_F(BusyNotice, ErrorTextStaysInTheStatusBar)
 {
-    expectWarning(QStringLiteral("The name ends in none of .jpg, .jpeg, .png, .tif and .tiff"));
+    expectWarning(QStringLiteral("the name has to end in .jpg, .jpeg, .png, .tif or .tiff"));
     window.openImage(makePicture(QStringLiteral("a.png"), 8, 8));
     window.saveImage(inHome(QStringLiteral("b.xyz")));
     EXPECT_TRUE(status().starts_with("Cannot save ")) << status();

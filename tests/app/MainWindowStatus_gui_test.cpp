@@ -77,6 +77,17 @@ TEST_F(MainWindowStatus, SaveIsConfirmedWithTheNameInTheStatusBarAndTheLog)
     EXPECT_TRUE(log.debugs().contains(QStringLiteral("Saved ") + inHome(QStringLiteral("b.png"))));
 }
 
+TEST_F(MainWindowStatus, UnknownExtensionIsReportedBeforeTheRender)
+{
+    open(makePicture(QStringLiteral("a.png"), 30, 20));
+    expectWarning(QStringLiteral("Cannot save ") + inHome(QStringLiteral("b.xyz")));
+    window.saveImage(inHome(QStringLiteral("b.xyz")));
+    EXPECT_EQ(message(), QStringLiteral("Cannot save b.xyz: the name has to end in .jpg, .jpeg, .png, .tif or .tiff"));
+    EXPECT_FALSE(log.debugs().contains(QStringLiteral("(INFO) Begin Rendering Loop")));
+    window.saveImage(inHome(QStringLiteral("b.png")));
+    EXPECT_TRUE(log.debugs().contains(QStringLiteral("(INFO) Begin Rendering Loop")));
+}
+
 TEST_F(MainWindowStatus, LastMessageStaysAsToolTip)
 {
     open(makePicture(QStringLiteral("a.png"), 30, 20));

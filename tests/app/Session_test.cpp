@@ -114,6 +114,9 @@ TEST_F(SessionTest, LogsWhyAFileCannotBeWritten)
     EXPECT_FALSE(session.write(Image8(2, 1), path("nowhere/a.png")));
     ASSERT_EQ(log.warnings().size(), 1);
     EXPECT_TRUE(log.warnings().first().startsWith("Cannot save " + path("nowhere/a.png")));
+    EXPECT_FALSE(session.problem().isEmpty());
+    EXPECT_TRUE(session.write(Image8(2, 1), path("a.png")));
+    EXPECT_TRUE(session.problem().isEmpty());
 }
 
 // Otherwise a black image would be written.

@@ -59,7 +59,7 @@ struct EmbeddedImagesTest : testing::Test {
     std::pair<Metadata, QByteArray> saved(const QString &source) const
     {
         LumioImage image;
-        EXPECT_TRUE(image.read(source)) << image.problem().toStdString();
+        EXPECT_TRUE(image.read(source)) << image.problem().english().toStdString();
         EXPECT_TRUE(image.metadata().isComplete());
         QByteArray contents;
         for (const char *name : {"b.jpg", "b.png", "b.tif"}) {

@@ -12,6 +12,9 @@
 #endif
 #include <sys/resource.h>
 
+#include <cerrno>
+#include <cstring>
+
 using namespace grisal::test;
 using grisal::graphics::LumioImage;
 
@@ -50,7 +53,7 @@ TEST(LumioImageFullDisk, KeepsTheOldFile)
             const bool saved = image.save(path(name), 90);
             ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
             EXPECT_FALSE(saved) << name << " in " << space << " bytes";
-            EXPECT_FALSE(image.problem().isEmpty());
+            EXPECT_EQ(image.problem().english(), QString::fromLocal8Bit(std::strerror(EFBIG)));
             EXPECT_EQ(contentsOf(path(name)), "old") << name << " in " << space << " bytes";
         }
         EXPECT_TRUE(image.save(path(name), 90)) << name;

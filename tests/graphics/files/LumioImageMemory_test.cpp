@@ -44,7 +44,7 @@ TEST_F(LumioImageMemoryTest, RejectsAProgressiveJpegOfTooManyPixelsBeforeDecodin
     const long before = mostMemory();
     EXPECT_FALSE(image.read(path("b.jpg")));
     EXPECT_LT(mostMemory() - before, 100'000);
-    EXPECT_TRUE(image.problem().contains("too small a file")) << image.problem().toStdString();
+    EXPECT_TRUE(image.problem().english().contains("too small a file")) << image.problem().english().toStdString();
 }
 
 TEST_F(LumioImageMemoryTest, RejectsASparseTiffOfTooManyPixels)
@@ -62,7 +62,7 @@ TEST_F(LumioImageMemoryTest, RejectsASparseTiffOfTooManyPixels)
     const long before = mostMemory();
     EXPECT_FALSE(image.read(path("b.tif")));
     EXPECT_LT(mostMemory() - before, 100'000);
-    EXPECT_TRUE(image.problem().contains("too small a file")) << image.problem().toStdString();
+    EXPECT_TRUE(image.problem().english().contains("too small a file")) << image.problem().english().toStdString();
 }
 
 // It is copied for the orientation; the copy of 16 gigabytes ended the program.
@@ -72,7 +72,7 @@ TEST_F(LumioImageMemoryTest, ReadsASparseTiffInAnotherOrientation)
     picture.orientation(Magick::RightTopOrientation);
     const QString file = written(picture, "a.tif");
     ASSERT_TRUE(QFile(file).resize(qint64{1} << 34));
-    ASSERT_TRUE(image.read(file)) << image.problem().toStdString();
+    ASSERT_TRUE(image.read(file)) << image.problem().english().toStdString();
     EXPECT_EQ(image.width(), 4);
 }
 
@@ -90,9 +90,9 @@ TEST_F(LumioImageMemoryTest, RejectsATiffOfTooManyPixelsWhoseSizeIsNotFound)
         }
         const QByteArray pixels(10'000, 'a');
         writeFile(path("a.tif"), QByteArray("II*\0", 4) + value(10'008) + pixels + encodeDirectory(entries, order));
-        EXPECT_EQ(image.read(path("a.tif")), side == 100) << image.problem().toStdString();
+        EXPECT_EQ(image.read(path("a.tif")), side == 100) << image.problem().english().toStdString();
     }
-    EXPECT_TRUE(image.problem().contains("ixel")) << image.problem().toStdString();
+    EXPECT_TRUE(image.problem().english().contains("ixel")) << image.problem().english().toStdString();
 }
 
 TEST_F(LumioImageMemoryTest, ScopedPixelLimitAppliesToEachImageDuringItsLifetime)

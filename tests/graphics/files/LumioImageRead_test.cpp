@@ -133,8 +133,8 @@ TEST_F(LumioImageReadTest, MessagesContainThePathOfTheFile)
     const QByteArray png = contentsOf(written(painted(64, 48, 8, noise), "whole.png"));
     writeFile(path("cut.png"), png.left(png.size() / 2));
     EXPECT_FALSE(image.read(path("cut.png")));
-    EXPECT_TRUE(image.problem().contains(path("cut.png"))) << image.problem().toStdString();
-    EXPECT_FALSE(image.problem().contains("/proc"));
+    EXPECT_TRUE(image.problem().english().contains(path("cut.png"))) << image.problem().english().toStdString();
+    EXPECT_FALSE(image.problem().english().contains("/proc"));
 }
 
 // It declares more pixels than it can contain, which would exhaust the memory.
@@ -149,7 +149,7 @@ TEST_F(LumioImageReadTest, FailsForAFileThatIsTooSmallForItsPixels)
     }
     writeFile(path("b.jpg"), jpeg);
     EXPECT_FALSE(image.read(path("b.jpg")));
-    EXPECT_TRUE(image.problem().contains("too small a file")) << image.problem().toStdString();
+    EXPECT_TRUE(image.problem().english().contains("too small a file")) << image.problem().english().toStdString();
     EXPECT_TRUE(isHeld());
 }
 
@@ -183,7 +183,7 @@ TEST_F(LumioImageReadTest, OpensFilesWithUnusualNames)
     for (const QString &name : {QStringLiteral("Bäume und Höfe.png"), QStringLiteral("scan[0].png"),
                                 QStringLiteral("100%d.png"), QStringLiteral("12:30.png"), QStringLiteral("a*b?.png")}) {
         writeFile(path(name), png);
-        EXPECT_TRUE(image.read(path(name))) << name.toStdString() << ": " << image.problem().toStdString();
+        EXPECT_TRUE(image.read(path(name))) << name.toStdString() << ": " << image.problem().english().toStdString();
     }
 }
 
@@ -304,7 +304,7 @@ TEST_F(LumioImageReadTest, ReadsTheFirstPageOfSeveral)
 {
     std::list<Magick::Image> pages{painted(6, 4, 8, fewColours), painted(9, 9, 8, greys)};
     Magick::writeImages(pages.begin(), pages.end(), path("pages.tif").toStdString());
-    ASSERT_TRUE(image.read(path("pages.tif"))) << image.problem().toStdString();
+    ASSERT_TRUE(image.read(path("pages.tif"))) << image.problem().english().toStdString();
     EXPECT_EQ(image.width(), 6);
     EXPECT_EQ(image.height(), 4);
 }

@@ -74,12 +74,12 @@ TEST_F(MetadataHostileTest, ImagesWithInvalidExifAreRead)
                                    QByteArray("II*\0\xff\xff\xff\xff", 8), QByteArray("II*\0\x08\0\0\0\xff\xff", 10)}) {
         const QString jpeg = written(QStringLiteral("%1.jpg").arg(++i));
         addSegment(jpeg, '\xe1', QByteArray("Exif\0\0", 6) + exif);
-        EXPECT_TRUE(reads(jpeg)) << i << ", " << image.problem().toStdString();
+        EXPECT_TRUE(reads(jpeg)) << i << ", " << image.problem().english().toStdString();
         EXPECT_EQ(image.width(), 24) << i;
         EXPECT_TRUE(image.save(path("saved.png"), quality)) << i;
         const QString png = written(QStringLiteral("%1.png").arg(i));
         addChunk(png, "eXIf", exif);
-        EXPECT_TRUE(reads(png)) << i << ", " << image.problem().toStdString();
+        EXPECT_TRUE(reads(png)) << i << ", " << image.problem().english().toStdString();
         EXPECT_EQ(image.width(), 24) << i;
         EXPECT_TRUE(image.save(path("saved.jpg"), quality)) << i;
     }
@@ -128,7 +128,7 @@ TEST_F(MetadataHostileTest, MetadataThatMakesATiffUnreadableIsLeftOut)
     ASSERT_TRUE(image.save(path("b.tif"), quality));
     EXPECT_FALSE(image.warning().isEmpty());
     LumioImage again;
-    EXPECT_TRUE(again.read(path("b.tif"))) << again.problem().toStdString();
+    EXPECT_TRUE(again.read(path("b.tif"))) << again.problem().english().toStdString();
 }
 
 TEST_F(MetadataHostileTest, TooLargeValuesOfATiffAreLeftOut)
@@ -171,7 +171,7 @@ TEST_F(MetadataHostileTest, ATiffDirectoryThatContainsItselfIsRead)
     }
     ASSERT_EQ(changed, 2);
     writeFile(tiff, contents);
-    EXPECT_TRUE(reads(tiff)) << image.problem().toStdString();
+    EXPECT_TRUE(reads(tiff)) << image.problem().english().toStdString();
 }
 
 // Each of 200 inner directories is the outer one.
@@ -222,7 +222,7 @@ TEST_F(MetadataHostileTest, OnAFullDiskTheImageIsSavedWithoutMetadata)
         ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
         const bool saved = image.save(target, quality);
         ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
-        EXPECT_TRUE(saved) << name << ": " << image.problem().toStdString();
+        EXPECT_TRUE(saved) << name << ": " << image.problem().english().toStdString();
         EXPECT_FALSE(image.warning().isEmpty()) << name;
         EXPECT_EQ(contentsOf(target), without) << name;
         ASSERT_TRUE(image.save(target, quality));

@@ -48,7 +48,7 @@ struct MetadataLimitsTest : testing::Test {
     {
         QElapsedTimer timer;
         timer.start();
-        EXPECT_TRUE(image.read(file)) << image.problem().toStdString();
+        EXPECT_TRUE(image.read(file)) << image.problem().english().toStdString();
         EXPECT_EQ(image.width() * image.height(), 24 * 16);
         m_isComplete = image.metadata().isComplete();
         EXPECT_TRUE(m_isComplete || !image.warning().isEmpty());
@@ -306,7 +306,7 @@ TEST_F(MetadataLimitsTest, LargeProfilesAndXmpAreKeptInEveryFormat)
     setMetadata(source, all);
     ASSERT_TRUE(image.read(source));
     ASSERT_TRUE(image.save(path(QStringLiteral("b.png")), quality));
-    ASSERT_TRUE(image.read(path(QStringLiteral("b.png")))) << image.problem().toStdString();
+    ASSERT_TRUE(image.read(path(QStringLiteral("b.png")))) << image.problem().english().toStdString();
     ASSERT_TRUE(image.save(path(QStringLiteral("c.tif")), quality));
     const Metadata saved = metadataIn(path(QStringLiteral("c.tif")));
     EXPECT_EQ(saved.profile, all.profile);

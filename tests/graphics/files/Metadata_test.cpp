@@ -42,12 +42,12 @@ struct MetadataTest : testing::Test {
     static std::string savedAs(const QString &source, const QString &target)
     {
         LumioImage image;
-        EXPECT_TRUE(image.read(source)) << image.problem().toStdString();
+        EXPECT_TRUE(image.read(source)) << image.problem().english().toStdString();
         LumioImage output = image.is16Bit() ? pictureOf(samples16Of(image), image.width(), image.height())
                                             : pictureOf(bytesOf(image), image.width(), image.height());
         output.setMetadata(image.metadata());
         testing::internal::CaptureStderr();
-        EXPECT_TRUE(output.save(target, quality)) << output.problem().toStdString();
+        EXPECT_TRUE(output.save(target, quality)) << output.problem().english().toStdString();
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
         return (image.warning().english() + output.warning().english()).toStdString();
     }

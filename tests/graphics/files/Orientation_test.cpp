@@ -152,20 +152,20 @@ protected:
 
 TEST_P(Orientation, NormalisesAJpeg)
 {
-    ASSERT_TRUE(image.read(kept("a.jpg"))) << image.problem().toStdString();
+    ASSERT_TRUE(image.read(kept("a.jpg"))) << image.problem().english().toStdString();
     expectNormalised(image, 4);
     EXPECT_TRUE(image.warning().isEmpty());
 }
 
 TEST_P(Orientation, NormalisesATiff)
 {
-    ASSERT_TRUE(image.read(kept("a.tif"))) << image.problem().toStdString();
+    ASSERT_TRUE(image.read(kept("a.tif"))) << image.problem().english().toStdString();
     expectNormalised(image, 0);
 }
 
 TEST_P(Orientation, NormalisesATiffOf16Bits)
 {
-    ASSERT_TRUE(image.read(kept("a.tif", 16))) << image.problem().toStdString();
+    ASSERT_TRUE(image.read(kept("a.tif", 16))) << image.problem().english().toStdString();
     EXPECT_TRUE(image.is16Bit());
     expectNormalised(image, 0);
 }
@@ -174,13 +174,13 @@ TEST_P(Orientation, NormalisesAPngWithAnExifChunk)
 {
     const QString path = written("a.png", pictureOf(GetParam().rows));
     addChunk(path, "eXIf", exifBlock(exifOf(GetParam().orientation)));
-    ASSERT_TRUE(image.read(path)) << image.problem().toStdString();
+    ASSERT_TRUE(image.read(path)) << image.problem().english().toStdString();
     expectNormalised(image, 0);
 }
 
 TEST_P(Orientation, NormalisesAPngWithExifInAText)
 {
-    ASSERT_TRUE(image.read(kept("a.png"))) << image.problem().toStdString();
+    ASSERT_TRUE(image.read(kept("a.png"))) << image.problem().english().toStdString();
     EXPECT_TRUE(contentsOf(directory.filePath("a.png")).contains("Raw profile type exif"));
     expectNormalised(image, 0);
 }
@@ -195,7 +195,7 @@ TEST_P(Orientation, NormalisesPaletteImages)
         Metadata metadata;
         metadata.exif = exifOf(GetParam().orientation);
         setMetadata(path, metadata);
-        ASSERT_TRUE(image.read(path)) << image.problem().toStdString();
+        ASSERT_TRUE(image.read(path)) << image.problem().english().toStdString();
         expectNormalised(image, 0);
     }
 }
@@ -208,7 +208,7 @@ TEST_P(Orientation, NormalisesATiffWithJpegCompression)
     Metadata metadata;
     metadata.exif = exifOf(GetParam().orientation);
     setMetadata(path, metadata);
-    ASSERT_TRUE(image.read(path)) << image.problem().toStdString();
+    ASSERT_TRUE(image.read(path)) << image.problem().english().toStdString();
     expectNormalised(image, 8);
 }
 
@@ -218,7 +218,7 @@ TEST_P(Orientation, NormalisesATiffOfLumaAndChroma)
     for (const int rowsPerStrip : {1, 8, 48}) {
         const QString path = directory.filePath(QStringLiteral("a%1.tif").arg(rowsPerStrip));
         writeFile(path, lumaTiff(GetParam(), rowsPerStrip));
-        ASSERT_TRUE(image.read(path)) << image.problem().toStdString();
+        ASSERT_TRUE(image.read(path)) << image.problem().english().toStdString();
         ASSERT_EQ(image.width(), 3 * side);
         const Bytes bytes = bytesOf(image);
         const auto at = [&](int x, int y) {
@@ -233,7 +233,7 @@ TEST_P(Orientation, NormalisesATiffOfLumaAndChroma)
 TEST_P(Orientation, IsNormalInSavedFiles)
 {
     for (const char *name : {"b.jpg", "b.png", "b.tif"}) {
-        ASSERT_TRUE(image.read(kept("a.tif"))) << image.problem().toStdString();
+        ASSERT_TRUE(image.read(kept("a.tif"))) << image.problem().english().toStdString();
         const QString path = directory.filePath(QString::fromLatin1(name));
         ASSERT_TRUE(image.save(path, 100));
         LumioImage again;
@@ -253,7 +253,7 @@ TEST(OrientationInfo, ReportsTheSizeInNormalisedOrientation)
     metadata.exif = exifOf(6);
     setMetadata(path, metadata);
     LumioImage image;
-    ASSERT_TRUE(image.read(path)) << image.problem().toStdString();
+    ASSERT_TRUE(image.read(path)) << image.problem().english().toStdString();
     EXPECT_NE(image.info().find("  width :     48\n  height:     32\n"), std::string::npos) << image.info();
 }
 
