@@ -60,6 +60,7 @@ std::vector<HeaderEntry> bigDirectory(const OpenFile &file, TiffByteOrder order)
 std::vector<HeaderEntry> headerEntries(const std::vector<TiffEntry> &directory)
 {
     std::vector<HeaderEntry> entries;
+    entries.reserve(directory.size());
     for (const TiffEntry &entry : directory) {
         entries.push_back({entry.tag, static_cast<TiffType>(entry.type), entry.isInline(), entry.content});
     }
