@@ -86,6 +86,7 @@ private:
     void setUpStatusBar();
     void showGuide();
     void showPreferences();
+    bool togglePanel(QWidget *panel, QAction *action);
     void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem);
     void showPreviewOf(const graphics::Image &image);
     void showWarning();
