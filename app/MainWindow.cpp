@@ -93,6 +93,7 @@ void MainWindow::loadBuffer(const graphics::Image &image)
     // It throws where there is not enough memory: the panels then stay as they are.
     preview->loadImage(image);
     m_panels.curves->slotSetHistogram(histogram);
+    m_panels.vignette->setImageSize({widthOf(image), heightOf(image)});
     preview->setDirty();
     slotResetFilters();
 }
