@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/FilterToolBar.h"
 
+#include "app/FilterButtonStyle.h"
+
 #include <QAction>
+#include <QLayout>
 
 namespace grisal::ui
 {
@@ -28,8 +31,9 @@ QWidget *newStretch()
 
 } // namespace
 
-FilterToolBar::FilterToolBar(QWidget *parent) : QToolBar(parent)
+FilterToolBar::FilterToolBar(QWidget *parent) : QToolBar(parent), m_buttonStyle(new FilterButtonStyle)
 {
+    m_buttonStyle->setParent(this);
     setFloatable(false);
     setMovable(false);
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
@@ -53,7 +57,19 @@ void FilterToolBar::addButtons(QAction *mixer, const QList<QAction *> &filters)
 void FilterToolBar::addButton(QAction *action)
 {
     addAction(action);
-    widgetForAction(action)->setAccessibleDescription(action->statusTip());
+    QWidget *button = widgetForAction(action);
+    button->setAccessibleDescription(action->statusTip());
+    button->setStyle(m_buttonStyle);
+    // Qt centres each button at its own width; without an alignment, it fills the width of the tool bar.
+    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    layout()->setAlignment(button, {});
+}
+
+void FilterToolBar::markShown(QAction *action)
+{
+    m_buttonStyle->setShown(widgetForAction(action));
+    // Repaints the buttons, too.
+    update();
 }
 
 } // namespace grisal::ui

@@ -51,6 +51,7 @@ void MainWindow::setUpToolBar()
 {
     m_toolBar->setAccessibleName(tr("Filters"));
     m_toolBar->addButtons(m_form->actionMixer, filterActions());
+    m_toolBar->markShown(m_form->actionMixer);
     addToolBar(Qt::LeftToolBarArea, m_toolBar);
 }
 
@@ -87,6 +88,7 @@ void MainWindow::loadBuffer(const graphics::Image &image)
     // It throws where there is not enough memory: the panels then stay as they are.
     preview->loadImage(image);
     m_panels.curves->slotSetHistogram(histogram);
+    m_panels.vignette->setImageSize({widthOf(image), heightOf(image)});
     preview->setDirty();
     slotResetFilters();
 }
@@ -105,12 +107,19 @@ void MainWindow::slotResetActions()
     }
 }
 
+bool MainWindow::togglePanel(QWidget *panel, QAction *action)
+{
+    const bool on = m_panels.toggle(panel, *action);
+    m_toolBar->markShown(on ? action : m_form->actionMixer);
+    return on;
+}
+
 void MainWindow::toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem)
 {
     if (filter == nullptr) {
         qWarning("%s", problem);
     }
-    const bool on = m_panels.toggle(panel, *action);
+    const bool on = togglePanel(panel, action);
     if (filter != nullptr) {
         filter->enabled = on;
     }
@@ -123,6 +132,7 @@ void MainWindow::toggleFilter(QWidget *panel, QAction *action, graphics::IFilter
 void MainWindow::on_actionMixer_triggered()
 {
     m_panels.show(m_panels.mixer);
+    m_toolBar->markShown(m_form->actionMixer);
 }
 
 void MainWindow::on_actionVignette_triggered()
@@ -151,7 +161,7 @@ void MainWindow::on_actionCurves_triggered()
 
 void MainWindow::on_actionSharpen_triggered()
 {
-    if (m_panels.toggle(m_panels.sharpen, *m_form->actionSharpen)) {
+    if (togglePanel(m_panels.sharpen, m_form->actionSharpen)) {
         m_form->glWidgetPreview->setDirty();
     }
     m_form->glWidgetPreview->update();

@@ -90,6 +90,7 @@ private:
     void showScale();
     void showGuide();
     void showPreferences();
+    bool togglePanel(QWidget *panel, QAction *action);
     void toggleFilter(QWidget *panel, QAction *action, graphics::IFilter *filter, const char *problem);
     void showPreviewOf(const graphics::Image &image);
     void showWarning();

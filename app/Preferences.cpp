@@ -7,9 +7,13 @@
 
 #include <QDesktopServices>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QUrl>
+
+#include <algorithm>
+#include <initializer_list>
 
 namespace
 {
@@ -19,6 +23,18 @@ void showPath(QLineEdit *line, const QString &path)
 {
     line->setText(QDir::toNativeSeparators(path));
     line->setCursorPosition(0);
+}
+
+/// Makes all widgets as wide as the widest of them.
+void alignWidths(const std::initializer_list<QWidget *> &widgets)
+{
+    const auto isNarrower = [](const QWidget *a, const QWidget *b) {
+        return a->sizeHint().width() < b->sizeHint().width();
+    };
+    const int widest = (*std::max_element(widgets.begin(), widgets.end(), isNarrower))->sizeHint().width();
+    for (QWidget *widget : widgets) {
+        widget->setMinimumWidth(widest);
+    }
 }
 
 /// The folder of the file. If it does not exist, because there are no settings before the first image, the nearest
@@ -38,11 +54,39 @@ Preferences::Preferences(FileDealer &dealer, QWidget *parent)
     : QDialog(parent), m_dealer(dealer), m_form(std::make_unique<Ui::Preferences>())
 {
     m_form->setupUi(this);
+    alignColumns();
+    colourReadOnlyFields();
     showRemembered();
     showPlaces();
 }
 
 Preferences::~Preferences() = default;
+
+// Each group has a layout of its own.
+void Preferences::alignColumns()
+{
+    alignWidths({m_form->labelDirectory, m_form->labelRecent, m_form->labelLog, m_form->labelSettings});
+    alignWidths(
+        {m_form->buttonForgetDirectory, m_form->buttonForgetRecent, m_form->buttonOpenLog, m_form->buttonOpenSettings});
+}
+
+// White, they would look as if a path could be typed into them.
+void Preferences::colourReadOnlyFields()
+{
+    QPalette colours;
+    colours.setBrush(QPalette::Base, palette().window());
+    for (QLineEdit *field : {m_form->lineDirectory, m_form->lineLog, m_form->lineSettings}) {
+        field->setPalette(colours);
+    }
+}
+
+void Preferences::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        colourReadOnlyFields();
+    }
+}
 
 void Preferences::showRemembered()
 {

@@ -28,7 +28,12 @@ public slots:
     void on_buttonOpenLog_clicked();
     void on_buttonOpenSettings_clicked();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void alignColumns();
+    void colourReadOnlyFields();
     void showRemembered();
     void showPlaces();
     void showForgotten(bool forgotten);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "app/Appearance.h"
 #include "app/MainWindow.h"
 #include "app/MessageLog.h"
 #include "app/Settings.h"
@@ -71,6 +72,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     std::signal(SIGABRT, SIG_DFL);
     QApplication::setDesktopFileName(QStringLiteral(GRISAL_APP_ID));
+    const Appearance appearance;
     const Translation translation(QLocale::system());
     reportProblem(message_log::problem());
     reportProblem(Settings::problem());

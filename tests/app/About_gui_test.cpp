@@ -159,4 +159,15 @@ TEST_F(AboutTest, OkAndEscapeCloseTheDialog)
     EXPECT_EQ(about.result(), QDialog::Rejected);
 }
 
+TEST_F(AboutTest, ButtonsHaveTheirOwnWidthAndTheEdgesOfTheTabs)
+{
+    about.show();
+    const auto &website = child<QPushButton>(about, "buttonWebsite");
+    const auto &buttons = child<QDialogButtonBox>(about, "buttonBox");
+    EXPECT_EQ(website.width(), website.sizeHint().width());
+    EXPECT_EQ(website.geometry().left(), tabs.geometry().left());
+    EXPECT_EQ(buttons.geometry().right(), tabs.geometry().right());
+    EXPECT_EQ(buttons.button(QDialogButtonBox::Ok)->width(), buttons.button(QDialogButtonBox::Ok)->sizeHint().width());
+}
+
 } // namespace

@@ -3,6 +3,7 @@
 #include "tests/app/FilesTest.h"
 
 #include "tests/support/InaccessibleFolder.h"
+#include "ui/frames/VFrame.h"
 #include "ui/panels/Mixer.h"
 
 #include <QComboBox>
@@ -44,6 +45,16 @@ TEST_F(MainWindowOpen, OpenedImageIsShownWithNameAndSizeInTheTitle)
     EXPECT_EQ(title(), "Lumio Grisal (Alpha) - a.png 300x200");
     EXPECT_EQ(preview().previewWidth(), 300);
     EXPECT_EQ(preview().previewHeight(), 200);
+}
+
+TEST_F(MainWindowOpen, VignettePanelTakesTheProportionsOfTheImage)
+{
+    start();
+    window.openImage(makePicture(QStringLiteral("upright.png"), 30, 40));
+    const auto &frame = child<VFrame>(window, "frame");
+    EXPECT_EQ(frame.heightForWidth(300), 300);
+    window.openImage(makePicture(QStringLiteral("wide.png"), 40, 10));
+    EXPECT_EQ(frame.heightForWidth(300), 75);
 }
 
 TEST_F(MainWindowOpen, PercentSignsInNamesAreShownLiterally)

@@ -2,14 +2,17 @@
 #include "app/Preferences.h"
 
 #include "app/Settings.h"
+#include "app/Translation.h"
 #include "tests/app/FilesTest.h"
 #include "tests/support/Modal.h"
 #include "tests/support/UrlInterceptor.h"
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>
+#include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QLocale>
 #include <QMenu>
 #include <QPushButton>
 
@@ -17,6 +20,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <initializer_list>
 
 namespace
 {
@@ -189,6 +193,38 @@ TEST_F(PreferencesTest, EveryControlHasANameAndATip)
         EXPECT_FALSE(control.accessibleName().isEmpty()) << name;
         EXPECT_FALSE(control.accessibleDescription().isEmpty()) << name;
         EXPECT_FALSE(control.toolTip().isEmpty()) << name;
+    }
+}
+
+TEST_F(PreferencesTest, FieldsAndButtonsOfBothGroupsAreAlignedInEachLanguage)
+{
+    for (const QLocale::Language language : {QLocale::English, QLocale::German, QLocale::French}) {
+        const Translation translation{QLocale(language)};
+        Preferences preferences(dealer);
+        preferences.show();
+        const auto expectSameColumn = [&](std::initializer_list<const char *> names) {
+            const auto &first = child<QWidget>(preferences, *names.begin());
+            for (const char *name : names) {
+                const auto &widget = child<QWidget>(preferences, name);
+                EXPECT_EQ(widget.mapTo(&preferences, QPoint()).x(), first.mapTo(&preferences, QPoint()).x()) << name;
+                EXPECT_EQ(widget.width(), first.width()) << name;
+            }
+        };
+        expectSameColumn({"lineDirectory", "listRecent", "lineLog", "lineSettings"});
+        expectSameColumn({"buttonForgetDirectory", "buttonForgetRecent", "buttonOpenLog", "buttonOpenSettings"});
+    }
+}
+
+TEST_F(PreferencesTest, ReadOnlyFieldsHaveTheColourOfTheWindow)
+{
+    Preferences preferences(dealer);
+    preferences.show();
+    for (const QColor &window : {QColor(239, 239, 239), QColor(45, 45, 45)}) {
+        preferences.setPalette(QPalette(window));
+        for (const char *name : {"lineDirectory", "lineLog", "lineSettings"}) {
+            const QImage shown = child<QLineEdit>(preferences, name).grab().toImage();
+            EXPECT_EQ(shown.pixelColor(shown.width() / 2, 3), window) << name;
+        }
     }
 }
 

@@ -271,11 +271,17 @@ void CurveFrame::drawCurve(QPainter &painter) const
     painter.drawPolyline(line);
 }
 
+// A point at the edge is drawn beside it, so that the frame does not cut it off.
 void CurveFrame::drawPoints(QPainter &painter) const
 {
+    constexpr double outerWidth = 10;
+    constexpr double reach = outerWidth / 2;
+    const QRectF whole = QRectF(contentsRect()).adjusted(reach, reach, -reach, -reach);
     for (int i = 0; i < m_points.count(); ++i) {
-        const QPointF place = onFrame(m_points.xs[i], m_points.ys[i]);
-        painter.setPen(QPen(curveColour, 10, Qt::SolidLine, Qt::RoundCap));
+        const QPointF exact = onFrame(m_points.xs[i], m_points.ys[i]);
+        const QPointF place(std::max(whole.left(), std::min(exact.x(), whole.right())),
+                            std::max(whole.top(), std::min(exact.y(), whole.bottom())));
+        painter.setPen(QPen(curveColour, outerWidth, Qt::SolidLine, Qt::RoundCap));
         painter.drawPoint(place);
         painter.setPen(QPen(i == m_selected ? selectedColour : pointColour, 8, Qt::SolidLine, Qt::RoundCap));
         painter.drawPoint(place);

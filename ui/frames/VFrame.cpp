@@ -20,6 +20,28 @@ VFrame::VFrame(QWidget *parent) : QFrame(parent)
     setSizePolicy(proportions);
 }
 
+int VFrame::heightForWidth(int width) const
+{
+    return std::min(width, largestWithin({0, 0, width, QWIDGETSIZE_MAX}, proportions()).height());
+}
+
+void VFrame::setImageSize(QSize size)
+{
+    m_imageSize = size;
+    updateGeometry();
+    update();
+}
+
+QSize VFrame::proportions() const
+{
+    return m_imageSize.isEmpty() ? usualProportions : m_imageSize;
+}
+
+QRect VFrame::imageRect() const
+{
+    return m_imageSize.isEmpty() ? contentsRect() : largestWithin(contentsRect(), m_imageSize);
+}
+
 void VFrame::slotSetX(float x)
 {
     m_posX = x;
@@ -78,11 +100,12 @@ void VFrame::mouseReleaseEvent(QMouseEvent *event)
 
 void VFrame::pick(const QMouseEvent *event)
 {
-    const QSize size = contentsRect().size();
-    if (size.isEmpty()) {
+    const QRect image = imageRect();
+    if (contentsRect().isEmpty()) {
         return;
     }
-    choose(event->position().x() / size.width(), event->position().y() / size.height());
+    const QPointF place = event->position() - image.topLeft();
+    choose(place.x() / image.width(), place.y() / image.height());
 }
 
 void VFrame::choose(double x, double y)
@@ -149,13 +172,13 @@ grisal::graphics::VignetteParameters VFrame::shownVignette() const
 QPainterPath VFrame::marks() const
 {
     constexpr double centreMark = 4;
-    const QRectF contents = contentsRect();
+    const QRectF image = imageRect();
     const grisal::graphics::VignetteParameters shown = shownVignette();
-    const QSizeF reach = vignetteReach(shown.radius);
-    const QPointF centre(std::floor(contents.left() + contents.width() * shown.center.x / 100) + 0.5,
-                         std::floor(contents.top() + contents.height() * shown.center.y / 100) + 0.5);
+    const QSizeF reach = vignetteReach(shown.radius, proportions());
+    const QPointF centre(std::floor(image.left() + image.width() * shown.center.x / 100) + 0.5,
+                         std::floor(image.top() + image.height() * shown.center.y / 100) + 0.5);
     QPainterPath path;
-    path.addEllipse(centre, contents.width() * reach.width(), contents.height() * reach.height());
+    path.addEllipse(centre, image.width() * reach.width(), image.height() * reach.height());
     path.addRect(QRectF(centre, centre).adjusted(-centreMark, -centreMark, centreMark, centreMark));
     return path;
 }
@@ -164,15 +187,15 @@ void VFrame::paintEvent(QPaintEvent *)
 {
     // A higher resolution takes longer and makes no visible difference.
     constexpr QSize finest(600, 400);
-    const QRect contents = contentsRect();
-    if (contents.isEmpty()) {
+    if (contentsRect().isEmpty()) {
         return;
     }
+    const QRect image = imageRect();
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.setClipRect(contents, Qt::ReplaceClip);
-    const QSize pixels = (QSizeF(contents.size()) * devicePixelRatioF()).toSize().boundedTo(finest);
-    painter.drawImage(contents, vignettePicture(shownVignette(), pixels));
+    painter.setClipRect(image, Qt::ReplaceClip);
+    const QSize pixels = (QSizeF(image.size()) * devicePixelRatioF()).toSize().boundedTo(finest);
+    painter.drawImage(image, vignettePicture(shownVignette(), pixels, proportions()));
 
     // Dark lines with a light outline are visible on every grey.
     const QPainterPath path = marks();
@@ -181,5 +204,5 @@ void VFrame::paintEvent(QPaintEvent *)
     painter.fillPath(rim.createStroke(path), QColor(255, 255, 255, 200));
     painter.setPen(QPen(Qt::black, 1));
     painter.drawPath(path);
-    m_focusMark.draw(painter, contents);
+    m_focusMark.draw(painter, image);
 }

@@ -9,8 +9,6 @@
 namespace
 {
 
-constexpr float pictureWidth = 3;
-constexpr float pictureHeight = 2;
 constexpr double hundred = 100;
 
 /// The grey of the image: light enough to be darkened, dark enough for the overlay to have a visible effect.
@@ -65,28 +63,42 @@ double fractionAfterStep(double fraction, int shown, int step)
     return moved * hundred < wanted ? std::nextafter(moved, 1.0) : moved;
 }
 
-QSizeF vignetteReach(float radius)
+QSizeF vignetteReach(float radius, QSize proportions)
 {
-    const double reach = radius * 0.01 * (pictureWidth + pictureHeight) / 2;
-    return {reach / pictureWidth, reach / pictureHeight};
+    const double reach = radius * 0.01 * (proportions.width() + proportions.height()) / 2;
+    return {reach / proportions.width(), reach / proportions.height()};
 }
 
-QImage vignettePicture(const grisal::graphics::VignetteParameters &parameters, QSize pixels)
+QImage vignettePicture(const grisal::graphics::VignetteParameters &parameters, QSize pixels, QSize proportions)
 {
     QImage picture(pixels, QImage::Format_Grayscale8);
     if (!(parameters.strength > 0)) {
         picture.fill(QColor(grey, grey, grey));
         return picture;
     }
-    const float stepX = pictureWidth / static_cast<float>(pixels.width());
-    const float stepY = pictureHeight / static_cast<float>(pixels.height());
+    const auto width = static_cast<float>(proportions.width());
+    const auto height = static_cast<float>(proportions.height());
+    const float stepX = width / static_cast<float>(pixels.width());
+    const float stepY = height / static_cast<float>(pixels.height());
     for (int y = 0; y < picture.height(); ++y) {
         uchar *row = picture.scanLine(y);
         const float py = (static_cast<float>(y) + 0.5F) * stepY;
         for (int x = 0; x < picture.width(); ++x) {
             const float px = (static_cast<float>(x) + 0.5F) * stepX;
-            row[x] = darkenedGrey(grisal::graphics::vignetteValue(parameters, pictureWidth, pictureHeight, px, py));
+            row[x] = darkenedGrey(grisal::graphics::vignetteValue(parameters, width, height, px, py));
         }
     }
     return picture;
+}
+
+QRect largestWithin(const QRect &area, QSize proportions)
+{
+    const qint64 width = proportions.width();
+    const qint64 height = proportions.height();
+    QSize size(area.width(), std::max(1, static_cast<int>(area.width() * height / width)));
+    if (size.height() > area.height()) {
+        size = {std::max(1, static_cast<int>(area.height() * width / height)), area.height()};
+    }
+    const QSize beside = area.size() - size;
+    return {area.topLeft() + QPoint(beside.width() / 2, beside.height() / 2), size};
 }

@@ -4,6 +4,7 @@
 #include "graphics/filters/VignetteParameters.h"
 
 #include <QImage>
+#include <QRect>
 #include <QSize>
 #include <QSizeF>
 
@@ -24,10 +25,17 @@ int wholePercent(double percent, int lowest, int highest);
 /// outside of 0..1, if it is displayed as `shown`.
 double fractionAfterStep(double fraction, int shown, int step);
 
-/// The extent of a vignette's radius in a 3:2 image, as fractions of the image's width and height. The radius is in
-/// percent.
-QSizeF vignetteReach(float radius);
+/// The proportions of an image whose size is unknown: 3:2.
+constexpr QSize usualProportions(3, 2);
 
-/// A 3:2 image in plain light grey with the vignette applied. It has the size `pixels` and is stretched if that is not
-/// 3:2. Unchanged grey for a strength of 0, otherwise black for a radius of 0.
-QImage vignettePicture(const grisal::graphics::VignetteParameters &parameters, QSize pixels);
+/// The extent of a vignette's radius in an image of these proportions, as fractions of the image's width and height.
+/// The radius is in percent.
+QSizeF vignetteReach(float radius, QSize proportions = usualProportions);
+
+/// An image of these proportions in plain light grey with the vignette applied. It has the size `pixels` and is
+/// stretched if that has other proportions. Unchanged grey for a strength of 0, otherwise black for a radius of 0.
+QImage vignettePicture(const grisal::graphics::VignetteParameters &parameters, QSize pixels,
+                       QSize proportions = usualProportions);
+
+/// The largest area of these proportions, in whole pixels, in the middle of `area`.
+QRect largestWithin(const QRect &area, QSize proportions);

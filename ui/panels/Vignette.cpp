@@ -36,6 +36,11 @@ Vignette::Vignette(QWidget *parent) : QWidget(parent), m_form(std::make_unique<U
 
 Vignette::~Vignette() = default;
 
+void Vignette::setImageSize(QSize size)
+{
+    m_form->frame->setImageSize(size);
+}
+
 void Vignette::emitVignette()
 {
     const VignettePercents shown{m_form->spinBoxX->value(), m_form->spinBoxY->value(), m_form->spinBoxRadius->value(),

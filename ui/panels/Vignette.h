@@ -6,6 +6,7 @@
 #include <memory>
 
 class QPointF;
+class QSize;
 
 namespace Ui
 {
@@ -23,6 +24,9 @@ class Vignette : public QWidget
 public:
     explicit Vignette(QWidget *parent = nullptr);
     ~Vignette() override;
+
+    /// Sets the size of the photograph, whose proportions the preview takes.
+    void setImageSize(QSize size);
 
 signals:
     /// Centre in percent of width and height, radius and strength in percent.

@@ -175,4 +175,23 @@ TEST(VignetteShape, StepOfZeroKeepsTheFraction)
     EXPECT_EQ(fractionAfterStep(-0.5, 0, 0), -0.5);
 }
 
+TEST(VignetteShape, RadiusDependsOnTheProportionsOfTheImage)
+{
+    EXPECT_DOUBLE_EQ(vignetteReach(100, {1000, 3000}).width(), 2);
+    EXPECT_DOUBLE_EQ(vignetteReach(100, {1000, 3000}).height(), 2.0 / 3);
+    const QImage upright = vignettePicture({{50, 50, 0}, 60, 40}, QSize(20, 30), {2, 3});
+    const QImage wide = vignettePicture({{50, 50, 0}, 60, 40}, QSize(30, 20), {3, 2});
+    EXPECT_EQ(upright.pixel(10, 0), wide.pixel(0, 10));
+    EXPECT_EQ(upright.pixel(0, 15), wide.pixel(15, 0));
+}
+
+TEST(VignetteShape, LargestAreaIsInTheMiddle)
+{
+    EXPECT_EQ(largestWithin({0, 0, 300, 200}, {3, 2}), QRect(0, 0, 300, 200));
+    EXPECT_EQ(largestWithin({10, 20, 300, 200}, {1, 1}), QRect(60, 20, 200, 200));
+    EXPECT_EQ(largestWithin({10, 20, 300, 200}, {60000, 20000}), QRect(10, 70, 300, 100));
+    EXPECT_EQ(largestWithin({0, 0, 300, 200}, {100000, 1}), QRect(0, 99, 300, 1));
+    EXPECT_EQ(largestWithin({0, 0, 300, 200}, {1, 100000}), QRect(149, 0, 1, 200));
+}
+
 } // namespace

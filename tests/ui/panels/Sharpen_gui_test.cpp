@@ -22,4 +22,10 @@ TEST_F(SharpenTest, ShowsThatSharpeningIsNotAvailable)
     EXPECT_EQ(panel.windowTitle(), QStringLiteral("Form"));
 }
 
+TEST_F(SharpenTest, ButtonWithoutFunctionIsDisabled)
+{
+    const Sharpen panel;
+    EXPECT_FALSE(child<QPushButton>(panel, "pushButton").isEnabled());
+}
+
 } // namespace
