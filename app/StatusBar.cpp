@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QProgressBar>
+#include <QTextDocument>
 
 namespace grisal::ui
 {
@@ -56,7 +57,8 @@ void StatusBar::addProgressBar()
 void StatusBar::showBriefly(const QString &message)
 {
     showMessage(message, messageDuration);
-    setToolTip(message);
+    // A file name may contain characters that look like HTML.
+    setToolTip(Qt::convertFromPlainText(message));
 }
 
 void StatusBar::setHint(const QString &hint)

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QSlider>
+#include <QTextDocument>
 
 namespace
 {
@@ -91,9 +92,11 @@ TEST_F(MainWindowStatus, UnknownExtensionIsReportedBeforeTheRender)
 TEST_F(MainWindowStatus, LastMessageStaysAsToolTip)
 {
     open(makePicture(QStringLiteral("a.png"), 30, 20));
-    window.saveImage(inHome(QStringLiteral("b.png")));
+    window.saveImage(inHome(QStringLiteral("<b>&amp;.png")));
     statusBar().clearMessage();
-    EXPECT_EQ(statusBar().toolTip(), QStringLiteral("Saved b.png"));
+    QTextDocument tip;
+    tip.setHtml(statusBar().toolTip());
+    EXPECT_EQ(tip.toPlainText(), QStringLiteral("Saved <b>&amp;.png"));
 }
 
 TEST_F(MainWindowStatus, ShowsTheValuesUnderTheMouseInTheCurveEditor)
