@@ -16,7 +16,11 @@ QString wrappedToolTip(const QString &text)
     const bool rich = Qt::mightBeRichText(text);
     QTextDocument document;
     document.setDefaultFont(QToolTip::font());
-    rich ? document.setHtml(text) : document.setPlainText(text);
+    if (rich) {
+        document.setHtml(text);
+    } else {
+        document.setPlainText(text);
+    }
     const double width = widest * QFontMetricsF(QToolTip::font()).averageCharWidth();
     if (document.idealWidth() <= width) {
         return text;
@@ -28,12 +32,11 @@ QString wrappedToolTip(const QString &text)
 
 bool ToolTipWrapper::eventFilter(QObject *object, QEvent *event)
 {
-    const auto *widget = qobject_cast<QWidget *>(object);
+    auto *widget = qobject_cast<QWidget *>(object);
     if (event->type() != QEvent::ToolTip || widget == nullptr || widget->toolTip().isEmpty()) {
         return QObject::eventFilter(object, event);
     }
     const QPoint place = static_cast<QHelpEvent *>(event)->globalPos();
-    QToolTip::showText(place, wrappedToolTip(widget->toolTip()), qobject_cast<QWidget *>(object), {},
-                       widget->toolTipDuration());
+    QToolTip::showText(place, wrappedToolTip(widget->toolTip()), widget, {}, widget->toolTipDuration());
     return true;
 }
