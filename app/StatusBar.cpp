@@ -26,6 +26,7 @@ StatusBar::StatusBar(QWidget *parent)
     addPermanentWidget(m_downscaling);
     addPermanentWidget(m_scale);
     m_downscaling->hide();
+    m_scale->hide();
     m_downscaling->setToolTip(
         tr("The preview of a large picture is smaller than the picture. The file is saved in full "
            "size."));
@@ -64,6 +65,7 @@ void StatusBar::showBriefly(const QString &message)
 void StatusBar::setHint(const QString &hint)
 {
     m_hint->setText(hint);
+    m_hint->setVisible(!hint.isEmpty());
 }
 
 void StatusBar::setScale(int percent, int downscaling)
@@ -71,6 +73,7 @@ void StatusBar::setScale(int percent, int downscaling)
     m_downscaling->setText(tr("Preview 1:%1").arg(downscaling));
     m_downscaling->setVisible(downscaling > 1);
     m_scale->setText(tr("%1 %").arg(percent));
+    m_scale->show();
 }
 
 } // namespace grisal::ui

@@ -3,10 +3,10 @@
 #include "tests/app/FilesTest.h"
 
 #include "graphics/filters/IFilter.h"
-#include "resources/sample-picture/Scene.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferenceRenderer.h"
 #include "tests/support/Screen.h"
+#include "tests/support/SyntheticPhoto.h"
 #include "ui/frames/CurveFrame.h"
 #include "ui/frames/VFrame.h"
 #include "ui/frames/YUVFrame.h"
@@ -41,7 +41,7 @@ protected:
     void openSmall()
     {
         startEven();
-        small = {width, height, 3, grisal::sample::asBytes(grisal::sample::paintScene(width, height))};
+        small = asBytes(syntheticPhoto(width, height));
         window.openImage(pictureFile(QStringLiteral("small.png"), small));
         trigger(window, "actionActualPixels");
     }
@@ -321,26 +321,10 @@ TEST_F(MainWindowLooks, AllFiltersTogetherAreShownAndSaved)
     expectEverywhere();
 }
 
-/// An image that repeats `part`: painting a large image would take most of the time of the test.
-template <typename T>
-Pixels<T> repeated(const Pixels<T> &picture, int width, int height)
-{
-    Pixels<T> result(width, height);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            for (int c = 0; c < 3; ++c) {
-                result.at(x, y, c) = picture.at(x % picture.width, y % picture.height, c);
-            }
-        }
-    }
-    return result;
-}
-
 TEST_F(MainWindowLooks, AllFiltersTogetherAreSavedInALarge8BitImage)
 {
     start();
-    const BytePixels part(600, 400, 3, grisal::sample::asBytes(grisal::sample::paintScene(600, 400)));
-    const BytePixels large = repeated(part, 1500, 1000);
+    const BytePixels large = asBytes(syntheticPhoto(1500, 1000));
     window.openImage(pictureFile(QStringLiteral("large.png"), large));
     chooseEverything();
     const QString path = inHome(QStringLiteral("saved.png"));
@@ -352,8 +336,7 @@ TEST_F(MainWindowLooks, AllFiltersTogetherAreSavedInALarge8BitImage)
 TEST_F(MainWindowLooks, AllFiltersTogetherAreSavedInSixteenTilesOf16Bits)
 {
     start();
-    const Samples16Image part(600, 400, 3, grisal::sample::paintScene(600, 400));
-    const Samples16Image large = repeated(part, 2055, 2049);
+    const Samples16Image large = syntheticPhoto(2055, 2049);
     window.openImage(pictureFile(QStringLiteral("large.tif"), large));
     chooseEverything();
     const QString path = inHome(QStringLiteral("saved.tif"));

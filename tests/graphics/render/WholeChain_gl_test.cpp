@@ -3,13 +3,13 @@
 // Complete previews and final renders, compared with an independent CPU implementation.
 #include "graphics/filters/FilterSet.h"
 #include "graphics/render/PreviewStage.h"
-#include "resources/sample-picture/Scene.h"
 #include "tests/support/FilterRun.h"
 #include "tests/support/GlTest.h"
 #include "tests/support/Images.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PictureCompare.h"
 #include "tests/support/ReferenceRenderer.h"
+#include "tests/support/SyntheticPhoto.h"
 
 #include <cmath>
 #include <memory>
@@ -92,24 +92,6 @@ const BytePixels &blurredNoiseMap()
     return blurred;
 }
 
-/// An image that repeats the sample picture: painting a large one would take longer than rendering.
-Samples16Image samplePicture(int width, int height)
-{
-    constexpr int paintedWidth = 600;
-    constexpr int paintedHeight = 400;
-    static const Samples16Image painted(paintedWidth, paintedHeight, 3,
-                                        grisal::sample::paintScene(paintedWidth, paintedHeight));
-    Samples16Image picture(width, height);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            for (int c = 0; c < 3; ++c) {
-                picture.at(x, y, c) = painted.at(x % paintedWidth, y % paintedHeight, c);
-            }
-        }
-    }
-    return picture;
-}
-
 struct Size {
     int width;
     int height;
@@ -136,9 +118,7 @@ protected:
     int width() const { return GetParam().width; }
     int height() const { return GetParam().height; }
 
-    Samples16Image sample() const { return samplePicture(width(), height()); }
-
-    BytePixels sampleBytes() const { return {width(), height(), 3, grisal::sample::asBytes(sample().values)}; }
+    Samples16Image photo() const { return syntheticPhoto(width(), height()); }
 
     void apply(const Look &look)
     {
@@ -239,9 +219,9 @@ TEST_P(WholeChain, PreviewOfARampMatchesTheReference)
     expectPreviewAlike("ramp", rampPicture<std::uint8_t>(width(), height()));
 }
 
-TEST_P(WholeChain, PreviewOfTheSampleMatchesTheReference)
+TEST_P(WholeChain, PreviewOfAPhotoMatchesTheReference)
 {
-    expectPreviewAlike("sample", sampleBytes());
+    expectPreviewAlike("photo", asBytes(photo()));
 }
 
 TEST_P(WholeChain, EightBitFileOfARampMatchesTheReference)
@@ -249,9 +229,9 @@ TEST_P(WholeChain, EightBitFileOfARampMatchesTheReference)
     expectFileAlike("ramp", rampPicture<std::uint8_t>(width(), height()));
 }
 
-TEST_P(WholeChain, EightBitFileOfTheSampleMatchesTheReference)
+TEST_P(WholeChain, EightBitFileOfAPhotoMatchesTheReference)
 {
-    expectFileAlike("sample", sampleBytes());
+    expectFileAlike("photo", asBytes(photo()));
 }
 
 TEST_P(WholeChain, SixteenBitFileOfARampMatchesTheReference)
@@ -259,9 +239,9 @@ TEST_P(WholeChain, SixteenBitFileOfARampMatchesTheReference)
     expectFileAlike("ramp", rampPicture<std::uint16_t>(width(), height()));
 }
 
-TEST_P(WholeChain, SixteenBitFileOfTheSampleMatchesTheReference)
+TEST_P(WholeChain, SixteenBitFileOfAPhotoMatchesTheReference)
 {
-    expectFileAlike("sample", sample());
+    expectFileAlike("photo", photo());
 }
 
 // One tile of 2.25 million pixels: more than the filters process at once.
