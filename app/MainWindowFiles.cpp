@@ -90,7 +90,7 @@ void MainWindow::openDropped(const QStringList &paths)
     }
     openImage(paths.first());
     if (paths.size() > 1) {
-        m_form->statusbar->showBriefly(tr("Only the first of the %n pictures was opened", nullptr, paths.size()));
+        m_form->statusbar->showBriefly(tr("Only the first of the %1 pictures was opened").arg(paths.size()));
     }
 }
 

@@ -62,6 +62,10 @@ Komfort ausgelegt.</translation>
         <source>Point %1 of %2: %3 % from the left, %4 % from the bottom</source>
         <translation>Punkt %1 von %2: %3&#xa0;% von links, %4&#xa0;% von unten</translation>
     </message>
+    <message>
+        <source>In %1, out %2</source>
+        <translation>Eingang %1, Ausgang %2</translation>
+    </message>
 </context>
 <context>
     <name>Curves</name>
@@ -384,6 +388,46 @@ Komfort ausgelegt.</translation>
         <source>The settings cannot be used, because %1 is too large or is not a regular file.</source>
         <translation>Die Einstellungen können nicht verwendet werden, weil %1 zu groß oder keine gewöhnliche Datei ist.</translation>
     </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>Der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>the name has to end in .jpg, .jpeg, .png, .tif or .tiff</source>
+        <translation>Der Name muss auf .jpg, .jpeg, .png, .tif oder .tiff enden</translation>
+    </message>
+    <message>
+        <source>not all of the picture could be written</source>
+        <translation>Das Bild konnte nicht vollständig geschrieben werden</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read after it was written</source>
+        <translation>%1 kann nach dem Schreiben nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written to (%1)</source>
+        <translation>In den Ordner kann nicht geschrieben werden (%1)</translation>
+    </message>
+    <message>
+        <source>the folder cannot be reached (%1)</source>
+        <translation>Der Ordner ist nicht erreichbar (%1)</translation>
+    </message>
+    <message>
+        <source>the name belongs to something other than a file</source>
+        <translation>Der Name gehört zu etwas anderem als einer Datei</translation>
+    </message>
+    <message>
+        <source>the file is write-protected (%1)</source>
+        <translation>Die Datei ist schreibgeschützt (%1)</translation>
+    </message>
+    <message>
+        <source>the file cannot be completed (%1)</source>
+        <translation>Die Datei kann nicht fertiggestellt werden (%1)</translation>
+    </message>
+    <message>
+        <source>the old file cannot be replaced (%1)</source>
+        <translation>Die alte Datei kann nicht ersetzt werden (%1)</translation>
+    </message>
 </context>
 <context>
     <name>Mixer</name>
@@ -474,6 +518,10 @@ Komfort ausgelegt.</translation>
     <message>
         <source>Average</source>
         <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>Counts when Luma changes next; that shifts all three equally</source>
+        <translation>Gilt ab der nächsten Änderung der Luma; sie verschiebt alle drei gleich</translation>
     </message>
 </context>
 <context>
@@ -964,10 +1012,6 @@ Grisal braucht OpenGL 2.1, um Bilder anzuzeigen und zu speichern. Bitte installi
         <translation>Kein Bild</translation>
     </message>
     <message>
-        <source>Cannot save %1. Choose another place or name.</source>
-        <translation>%1 kann nicht gespeichert werden. Wählen Sie einen anderen Ort oder Namen.</translation>
-    </message>
-    <message>
         <source>The picture could not be rendered. Nothing was saved; the log contains the reason.</source>
         <translation>Das Bild konnte nicht berechnet werden. Es wurde nichts gespeichert; mehr steht im Protokoll.</translation>
     </message>
@@ -980,14 +1024,6 @@ Grisal braucht OpenGL 2.1, um Bilder anzuzeigen und zu speichern. Bitte installi
     <message>
         <source>Overwrite?</source>
         <translation>Überschreiben?</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
-    </message>
-    <message>
-        <source>Progress of reading, rendering or writing</source>
-        <translation>Fortschritt beim Lesen, Berechnen oder Schreiben</translation>
     </message>
     <message>
         <source>Reading %1</source>
@@ -1004,6 +1040,49 @@ Grisal braucht OpenGL 2.1, um Bilder anzuzeigen und zu speichern. Bitte installi
     <message>
         <source>Opening and saving it takes up to %1 of memory, but only %2 are free.</source>
         <translation>Zum Öffnen und Speichern sind bis zu %1 Arbeitsspeicher nötig, frei sind nur %2.</translation>
+    </message>
+    <message>
+        <source>%1 opens a picture</source>
+        <translation>%1 öffnet ein Bild</translation>
+    </message>
+    <message>
+        <source>Only the first of the %1 pictures was opened</source>
+        <translation>Nur das erste der %1 Bilder wurde geöffnet</translation>
+    </message>
+    <message>
+        <source>Cannot save %1: %2</source>
+        <translation>%1 kann nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+</context>
+<context>
+    <name>grisal::ui::StatusBar</name>
+    <message>
+        <source>The preview of a large picture is smaller than the picture. The file is saved in full size.</source>
+        <translation>Die Vorschau eines großen Bildes ist kleiner als das Bild. Die Datei wird in voller Größe gespeichert.</translation>
+    </message>
+    <message>
+        <source>Size on the screen, in percent of the size in the file</source>
+        <translation>Größe auf dem Bildschirm in Prozent der Größe in der Datei</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Progress of reading, rendering or writing</source>
+        <translation>Fortschritt beim Lesen, Berechnen oder Schreiben</translation>
+    </message>
+    <message>
+        <source>Preview 1:%1</source>
+        <translation>Vorschau 1:%1</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 </TS>

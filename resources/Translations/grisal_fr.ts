@@ -62,6 +62,10 @@ et le confort.</translation>
         <source>Point %1 of %2: %3 % from the left, %4 % from the bottom</source>
         <translation>Point %1 sur %2&#xa0;: %3&#xa0;% depuis la gauche, %4&#xa0;% depuis le bas</translation>
     </message>
+    <message>
+        <source>In %1, out %2</source>
+        <translation>Entrée %1, sortie %2</translation>
+    </message>
 </context>
 <context>
     <name>Curves</name>
@@ -384,6 +388,46 @@ et le confort.</translation>
         <source>The settings cannot be used, because %1 is too large or is not a regular file.</source>
         <translation>Impossible d’utiliser les réglages&#xa0;: %1 est trop volumineux ou n’est pas un fichier ordinaire.</translation>
     </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>le disque est plein</translation>
+    </message>
+    <message>
+        <source>the name has to end in .jpg, .jpeg, .png, .tif or .tiff</source>
+        <translation>le nom doit se terminer par .jpg, .jpeg, .png, .tif ou .tiff</translation>
+    </message>
+    <message>
+        <source>not all of the picture could be written</source>
+        <translation>l’image n’a pas pu être écrite en entier</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read after it was written</source>
+        <translation>%1 est illisible après l’écriture</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written to (%1)</source>
+        <translation>il est impossible d’écrire dans le dossier (%1)</translation>
+    </message>
+    <message>
+        <source>the folder cannot be reached (%1)</source>
+        <translation>le dossier est inaccessible (%1)</translation>
+    </message>
+    <message>
+        <source>the name belongs to something other than a file</source>
+        <translation>ce nom désigne autre chose qu’un fichier</translation>
+    </message>
+    <message>
+        <source>the file is write-protected (%1)</source>
+        <translation>le fichier est protégé en écriture (%1)</translation>
+    </message>
+    <message>
+        <source>the file cannot be completed (%1)</source>
+        <translation>le fichier ne peut pas être terminé (%1)</translation>
+    </message>
+    <message>
+        <source>the old file cannot be replaced (%1)</source>
+        <translation>l’ancien fichier ne peut pas être remplacé (%1)</translation>
+    </message>
 </context>
 <context>
     <name>Mixer</name>
@@ -474,6 +518,10 @@ et le confort.</translation>
     <message>
         <source>Average</source>
         <translation>Moyenne</translation>
+    </message>
+    <message>
+        <source>Counts when Luma changes next; that shifts all three equally</source>
+        <translation>Prend effet au prochain changement de Luma, qui décale les trois d’autant</translation>
     </message>
 </context>
 <context>
@@ -964,10 +1012,6 @@ Grisal a besoin d’OpenGL 2.1 pour afficher et enregistrer des images. Veuillez
         <translation>Aucune image</translation>
     </message>
     <message>
-        <source>Cannot save %1. Choose another place or name.</source>
-        <translation>Impossible d’enregistrer %1. Choisissez un autre emplacement ou un autre nom.</translation>
-    </message>
-    <message>
         <source>The picture could not be rendered. Nothing was saved; the log contains the reason.</source>
         <translation>L’image n’a pas pu être calculée. Rien n’a été enregistré&#xa0;; le journal en dit plus.</translation>
     </message>
@@ -980,14 +1024,6 @@ Grisal a besoin d’OpenGL 2.1 pour afficher et enregistrer des images. Veuillez
     <message>
         <source>Overwrite?</source>
         <translation>Écraser&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progression</translation>
-    </message>
-    <message>
-        <source>Progress of reading, rendering or writing</source>
-        <translation>Progression de la lecture, du calcul ou de l’écriture</translation>
     </message>
     <message>
         <source>Reading %1</source>
@@ -1004,6 +1040,49 @@ Grisal a besoin d’OpenGL 2.1 pour afficher et enregistrer des images. Veuillez
     <message>
         <source>Opening and saving it takes up to %1 of memory, but only %2 are free.</source>
         <translation>L’ouvrir et l’enregistrer demande jusqu’à %1 de mémoire, mais il n’en reste que %2 de libre.</translation>
+    </message>
+    <message>
+        <source>%1 opens a picture</source>
+        <translation>%1 ouvre une image</translation>
+    </message>
+    <message>
+        <source>Only the first of the %1 pictures was opened</source>
+        <translation>Seule la première des %1 images a été ouverte</translation>
+    </message>
+    <message>
+        <source>Cannot save %1: %2</source>
+        <translation>Impossible d’enregistrer %1 : %2</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 enregistré</translation>
+    </message>
+</context>
+<context>
+    <name>grisal::ui::StatusBar</name>
+    <message>
+        <source>The preview of a large picture is smaller than the picture. The file is saved in full size.</source>
+        <translation>L’aperçu d’une grande image est plus petit que l’image. Le fichier est enregistré en taille réelle.</translation>
+    </message>
+    <message>
+        <source>Size on the screen, in percent of the size in the file</source>
+        <translation>Taille à l’écran, en pourcentage de la taille dans le fichier</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Progress of reading, rendering or writing</source>
+        <translation>Progression de la lecture, du calcul ou de l’écriture</translation>
+    </message>
+    <message>
+        <source>Preview 1:%1</source>
+        <translation>Aperçu 1:%1</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 </TS>

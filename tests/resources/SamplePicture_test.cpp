@@ -14,7 +14,7 @@ const QString path = QStringLiteral(GRISAL_SAMPLE_PICTURE);
 TEST(SamplePictureTest, IsAJpegImageOf1800x1200Pixels)
 {
     grisal::graphics::LumioImage picture;
-    ASSERT_TRUE(picture.read(path)) << picture.problem().toStdString();
+    ASSERT_TRUE(picture.read(path)) << picture.problem().english().toStdString();
     EXPECT_TRUE(picture.warning().isEmpty());
     EXPECT_EQ(picture.width(), 1800);
     EXPECT_EQ(picture.height(), 1200);
