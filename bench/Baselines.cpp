@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/Baselines.h"
 
-#include "graphics/filters/Look.h"
+#include "graphics/look/Look.h"
 
 namespace grisal::bench
 {

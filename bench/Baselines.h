@@ -6,7 +6,7 @@
 #include "graphics/filters/OverlayFilter.h"
 #include "graphics/gl/Framebuffers.h"
 #include "graphics/gl/Textures.h"
-#include "graphics/render/TilePlan.h"
+#include "graphics/image/TilePlan.h"
 
 #include <cstdint>
 #include <vector>

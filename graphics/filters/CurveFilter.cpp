@@ -4,24 +4,6 @@
 namespace grisal::graphics
 {
 
-QVector<float> CurveFilter::Parameters::identity()
-{
-    constexpr int samples = 256;
-    QVector<float> curve(samples);
-    for (int i = 0; i < samples; ++i) {
-        curve[i] = static_cast<float>(i) / samples;
-    }
-    return curve;
-}
-
-const FilterDeclaration<CurveFilter::Parameters> &CurveFilter::declaration()
-{
-    static const FilterDeclaration<Parameters> declared{
-        .name = "CurveFilter",
-        .parameters = {{"curve", "1", 0, 1, std::nullopt, [](Parameters &p) { return std::span(p.curve); }}}};
-    return declared;
-}
-
 CurveFilter::CurveFilter() : IFilter(declaration().name), m_program("CurveFilter", "CurveFilter") {}
 
 void CurveFilter::apply(GLuint sourceTexture, const FramebufferObject &target)

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/FilterDeclaration.h"
 #include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
 #include "graphics/gl/Textures.h"
+#include "graphics/look/CurveFilterParameters.h"
 
 #include <QVector>
 
@@ -16,12 +16,8 @@ namespace grisal::graphics
 class CurveFilter : public IFilter
 {
 public:
-    struct Parameters {
-        QVector<float> curve = identity(); ///< 256 samples 0..1; sample i is the output for grey i / 256
-
-        static QVector<float> identity();
-    };
-    static const FilterDeclaration<Parameters> &declaration();
+    using Parameters = CurveFilterParameters;
+    static const FilterDeclaration<Parameters> &declaration() { return Parameters::declaration(); }
 
     CurveFilter();
 

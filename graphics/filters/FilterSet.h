@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "FilterList.h"
-#include "graphics/filters/Look.h"
+#include "Filters.h"
+#include "graphics/look/Look.h"
 
 #include <tuple>
 #include <vector>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/filters/FinalVignetteFilter.h"
 
+#include "graphics/filters/VignetteUniforms.h"
+
 namespace grisal::graphics
 {
 

@@ -3,8 +3,8 @@
 
 #include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
-#include "graphics/filters/VignetteParameters.h"
 #include "graphics/gl/Textures.h"
+#include "graphics/look/VignetteParameters.h"
 
 namespace grisal::graphics
 {

@@ -7,15 +7,6 @@
 namespace grisal::graphics
 {
 
-const FilterDeclaration<GrainFilter::Parameters> &GrainFilter::declaration()
-{
-    static const FilterDeclaration<Parameters> declared{
-        .name = "GrainFilter",
-        .parameters = {{"weights", "1", 0, 1, 0.0F, [](Parameters &p) { return std::span(p.weights); }},
-                       {"radius", "px", 0, 3, std::nullopt, [](Parameters &p) { return std::span(&p.radius, 1); }}}};
-    return declared;
-}
-
 GrainFilter::GrainFilter() : IFilter(declaration().name), m_program("GrainFilter", "GrainFilter") {}
 
 void GrainFilter::setParameters(const Parameters &wanted)

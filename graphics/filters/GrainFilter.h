@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/FilterDeclaration.h"
 #include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/GaussianBlurFilter.h"
 #include "graphics/filters/IFilter.h"
 #include "graphics/gl/Textures.h"
+#include "graphics/look/GrainFilterParameters.h"
 
 #include <QVector>
 
@@ -22,11 +22,8 @@ namespace grisal::graphics
 class GrainFilter : public IFilter
 {
 public:
-    struct Parameters {
-        QVector<float> weights = QVector<float>(256, 0.0F); ///< 256 strengths 0..1; sample i is for grey i / 256
-        float radius = 1.5F;                                ///< blur radius of the noise in pixels: the coarseness
-    };
-    static const FilterDeclaration<Parameters> &declaration();
+    using Parameters = GrainFilterParameters;
+    static const FilterDeclaration<Parameters> &declaration() { return Parameters::declaration(); }
 
     GrainFilter();
 

@@ -4,17 +4,6 @@
 namespace grisal::graphics
 {
 
-const FilterDeclaration<HalfToneFilter::Parameters> &HalfToneFilter::declaration()
-{
-    static const FilterDeclaration<Parameters> declared{
-        .name = "HalfToneFilter",
-        .parameters = {
-            {"weight", "1", 0.75F, 1.25F, std::nullopt, [](Parameters &p) { return std::span(&p.weight, 1); }},
-            {"highlights", "1", 0, 1, std::nullopt, [](Parameters &p) { return std::span(&p.highlights.r, 3); }},
-            {"shadows", "1", 0, 1, std::nullopt, [](Parameters &p) { return std::span(&p.shadows.r, 3); }}}};
-    return declared;
-}
-
 HalfToneFilter::HalfToneFilter() : IFilter(declaration().name), m_program("HalfTone", "HalfToneFilter") {}
 
 void HalfToneFilter::setParameters(const Parameters &wanted)

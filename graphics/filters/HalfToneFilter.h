@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/ColorRGB.h"
-#include "graphics/filters/FilterDeclaration.h"
 #include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
+#include "graphics/look/HalfToneFilterParameters.h"
 
 namespace grisal::graphics
 {
@@ -15,12 +14,8 @@ namespace grisal::graphics
 class HalfToneFilter : public IFilter
 {
 public:
-    struct Parameters {
-        float weight = 1;                                                    ///< share of the highlights
-        ColorRGB<float> highlights{190 / 255.0F, 156 / 255.0F, 54 / 255.0F}; ///< tint, 0..1
-        ColorRGB<float> shadows{110 / 255.0F, 148 / 255.0F, 198 / 255.0F};   ///< tint, 0..1
-    };
-    static const FilterDeclaration<Parameters> &declaration();
+    using Parameters = HalfToneFilterParameters;
+    static const FilterDeclaration<Parameters> &declaration() { return Parameters::declaration(); }
 
     HalfToneFilter();
 

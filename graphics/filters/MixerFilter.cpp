@@ -4,16 +4,6 @@
 namespace grisal::graphics
 {
 
-const FilterDeclaration<MixerFilter::Parameters> &MixerFilter::declaration()
-{
-    static const FilterDeclaration<Parameters> declared{
-        .name = "MixerFilter",
-        .enabledAtLoad = true,
-        .parameters = {{"weights", "1", -512.0F / 255, 512.0F / 255, std::nullopt,
-                        [](Parameters &p) { return std::span(&p.weights.r, 3); }}}};
-    return declared;
-}
-
 MixerFilter::MixerFilter() : IFilter(declaration().name), m_program("BWConversionMixer", "MixerFilter") {}
 
 void MixerFilter::apply(GLuint sourceTexture, const FramebufferObject &target)

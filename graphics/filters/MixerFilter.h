@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/ColorRGB.h"
-#include "graphics/filters/FilterDeclaration.h"
 #include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
+#include "graphics/look/MixerFilterParameters.h"
 
 namespace grisal::graphics
 {
@@ -13,10 +12,8 @@ namespace grisal::graphics
 class MixerFilter : public IFilter
 {
 public:
-    struct Parameters {
-        ColorRGB<float> weights{1.0F / 3, 1.0F / 3, 1.0F / 3}; ///< multipliers of the channels
-    };
-    static const FilterDeclaration<Parameters> &declaration();
+    using Parameters = MixerFilterParameters;
+    static const FilterDeclaration<Parameters> &declaration() { return Parameters::declaration(); }
 
     MixerFilter();
 

@@ -3,22 +3,10 @@
 
 #include "graphics/filters/NoiseMap.h"
 #include "graphics/filters/VignetteMask.h"
+#include "graphics/filters/VignetteUniforms.h"
 
 namespace grisal::graphics
 {
-
-const FilterDeclaration<VignetteFilter::Parameters> &VignetteFilter::declaration()
-{
-    static const FilterDeclaration<Parameters> declared{
-        .name = "VignetteFilter",
-        .dependsOnPosition = true,
-        .parameters = {
-            {"x", "%", 0, 99, std::nullopt, [](Parameters &p) { return std::span(&p.shape.center.x, 1); }},
-            {"y", "%", 0, 99, std::nullopt, [](Parameters &p) { return std::span(&p.shape.center.y, 1); }},
-            {"radius", "%", 0, 99, std::nullopt, [](Parameters &p) { return std::span(&p.shape.radius, 1); }},
-            {"strength", "%", 0, 99, 0.0F, [](Parameters &p) { return std::span(&p.shape.strength, 1); }}}};
-    return declared;
-}
 
 VignetteFilter::VignetteFilter() : IFilter(declaration().name), m_program("BWVignette", "VignetteFilter")
 {

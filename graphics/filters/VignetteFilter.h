@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/FilterDeclaration.h"
 #include "graphics/filters/FilterProgram.h"
 #include "graphics/filters/IFilter.h"
-#include "graphics/filters/VignetteParameters.h"
 #include "graphics/gl/Textures.h"
+#include "graphics/look/VignetteFilterParameters.h"
 
 namespace grisal::graphics
 {
@@ -15,11 +14,8 @@ namespace grisal::graphics
 class VignetteFilter : public IFilter
 {
 public:
-    struct Parameters {
-        VignetteParameters shape{{50, 50, 0}, 50, 50};
-        bool extraBlur = false; ///< stored but unused
-    };
-    static const FilterDeclaration<Parameters> &declaration();
+    using Parameters = VignetteFilterParameters;
+    static const FilterDeclaration<Parameters> &declaration() { return Parameters::declaration(); }
 
     VignetteFilter();
 

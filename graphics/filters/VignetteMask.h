@@ -2,7 +2,7 @@
 #pragma once
 
 #include "graphics/filters/IPositionMask.h"
-#include "graphics/filters/VignetteParameters.h"
+#include "graphics/look/VignetteParameters.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/Look.h"
 #include "graphics/image/Image.h"
+#include "graphics/look/Look.h"
 #include "graphics/render/TileProgress.h"
 
 namespace grisal::graphics

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/render/TileTransfer.h"
 
-#include "graphics/render/HalfFloats.h"
+#include "graphics/image/HalfFloats.h"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 
 #include "graphics/gl/Framebuffers.h"
 #include "graphics/image/ImageBuffer.h"
+#include "graphics/image/TilePlan.h"
 #include "graphics/render/IRenderer.h"
-#include "graphics/render/TilePlan.h"
 #include "graphics/render/TileProgress.h"
 #include "graphics/render/TileTransfer.h"
 

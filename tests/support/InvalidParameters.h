@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/Look.h"
+#include "graphics/look/Look.h"
 
 #include <limits>
 #include <vector>

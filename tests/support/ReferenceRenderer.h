@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/Look.h"
+#include "graphics/look/Look.h"
 #include "tests/support/Pictures.h"
 
 namespace grisal::test::reference

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/VignetteParameters.h"
+#include "graphics/look/VignetteParameters.h"
 #include "ui/accessible/AccessibleControl.h"
 #include "ui/accessible/FocusMark.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/VignetteParameters.h"
+#include "graphics/look/VignetteParameters.h"
 
 #include <QImage>
 #include <QRect>

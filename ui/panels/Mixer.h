@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/filters/ColorRGB.h"
+#include "graphics/look/ColorRGB.h"
 
 #include <QWidget>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/render/TilePlan.h"
+#include "graphics/image/TilePlan.h"
 
 #include <gtest/gtest.h>
 

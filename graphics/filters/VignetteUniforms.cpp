@@ -1,24 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/filters/VignetteParameters.h"
+#include "graphics/filters/VignetteUniforms.h"
 
 #include "graphics/filters/IFilter.h"
 
-#include <cmath>
-
 namespace grisal::graphics
 {
-
-float vignetteValue(const VignetteParameters &parameters, float width, float height, float px, float py)
-{
-    if (!(parameters.strength > 0)) {
-        return 0;
-    }
-    const float dx = width * 0.01F * parameters.center.x - px;
-    const float dy = height * 0.01F * parameters.center.y - py;
-    const float distance = std::sqrt(dx * dx + dy * dy);
-    const float maxDistance = parameters.radius * 0.01F * ((width + height) * 0.5F);
-    return parameters.strength * 0.01F * distance / maxDistance;
-}
 
 void setVignetteUniforms(const ShaderProgram &program, const VignetteParameters &parameters, int width, int height,
                          float maxWidth, float maxHeight)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/filters/VignetteParameters.h"
+#include "graphics/look/VignetteParameters.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "graphics/render/HalfFloats.h"
+#include "graphics/image/HalfFloats.h"
 
 #include <algorithm>
 #include <array>

@@ -22,8 +22,8 @@ struct ParameterDeclaration {
     std::span<float> (*values)(Parameters &);
 };
 
-/// Declares the properties of a filter that other code depends on. Every filter in the queues has a type `Parameters`,
-/// whose initial values are the defaults, a function declaration() and a function setParameters().
+/// Declares the properties of a filter that other code depends on. Every filter in the queues has a type of parameters,
+/// whose initial values are the defaults, with a function declaration().
 template <typename Parameters>
 struct FilterDeclaration {
     const char *name;               ///< the name of the filter's class

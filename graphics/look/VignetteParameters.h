@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/shader/ShaderProgram.h"
+#include <cmath>
 
 namespace grisal::graphics
 {
@@ -20,11 +20,16 @@ struct VignetteParameters {
 /// Returns the darkening at the point (px, py), in pixels, of an image of width x height pixels. With d the distance
 /// from the centre and dmax = radius * 0.01 * (width + height) / 2 it is strength * 0.01 * d / dmax, not clamped, or 0
 /// if the strength is 0 or less. The first pixel's centre is (0.5, 0.5).
-float vignetteValue(const VignetteParameters &parameters, float width, float height, float px, float py);
-
-/// Sets the uniforms of both vignette filters, always in the same order. Uniforms that the program does not have are
-/// skipped.
-void setVignetteUniforms(const ShaderProgram &program, const VignetteParameters &parameters, int width, int height,
-                         float maxWidth, float maxHeight);
+inline float vignetteValue(const VignetteParameters &parameters, float width, float height, float px, float py)
+{
+    if (!(parameters.strength > 0)) {
+        return 0;
+    }
+    const float dx = width * 0.01F * parameters.center.x - px;
+    const float dy = height * 0.01F * parameters.center.y - py;
+    const float distance = std::sqrt(dx * dx + dy * dy);
+    const float maxDistance = parameters.radius * 0.01F * ((width + height) * 0.5F);
+    return parameters.strength * 0.01F * distance / maxDistance;
+}
 
 } // namespace grisal::graphics
