@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 //
 // For any points, also such as no mouse can set, every curve through them has values within 0..1.
+#include "graphics/look/CurvePoints.h"
 #include "math/BSpline.h"
-#include "ui/frames/CurvePoints.h"
 
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+
+using namespace grisal::graphics;
 
 namespace
 {

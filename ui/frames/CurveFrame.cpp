@@ -64,7 +64,7 @@ QVector<float> CurveFrame::sample(int count)
 
 QVector<float> CurveFrame::outputHistogram() const
 {
-    return histogramBehind(m_samples, m_histogram);
+    return grisal::graphics::histogramBehind(m_samples, m_histogram);
 }
 
 void CurveFrame::setHistogram(const QVector<float> &histogram)

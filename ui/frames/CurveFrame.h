@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/look/CurvePoints.h"
 #include "ui/accessible/AccessibleControl.h"
 #include "ui/accessible/FocusMark.h"
-#include "ui/frames/CurvePoints.h"
 
 #include <QFrame>
 #include <QVector>
@@ -43,7 +43,7 @@ public:
     /// Removes the selected point and selects its left neighbour. The first and the last point cannot be removed.
     void deleteSelected();
 
-    const CurvePoints &points() const { return m_points; }
+    const grisal::graphics::CurvePoints &points() const { return m_points; }
     const QVector<float> &histogram() const { return m_histogram; }
     interpolationType interpolation() const { return m_interpolation; }
 
@@ -93,7 +93,7 @@ private:
     void drawCurve(QPainter &painter) const;
     void drawPoints(QPainter &painter) const;
 
-    CurvePoints m_points;
+    grisal::graphics::CurvePoints m_points;
     QVector<float> m_histogram;
     QVector<float> m_samples;
     int m_selected = -1;

@@ -68,7 +68,8 @@ TEST_F(CurveFrameTest, IsFlatAndSmoothInitially)
     EXPECT_EQ(fresh.points().xs, (QVector<float>{0, 1}));
     EXPECT_EQ(fresh.points().ys, (QVector<float>{0.5F, 0.5F}));
     EXPECT_EQ(fresh.histogram(), QVector<float>(256, 0.3F));
-    EXPECT_EQ(fresh.outputHistogram(), histogramBehind(QVector<float>(256, 0.3F), QVector<float>(256, 0.3F)));
+    EXPECT_EQ(fresh.outputHistogram(),
+              grisal::graphics::histogramBehind(QVector<float>(256, 0.3F), QVector<float>(256, 0.3F)));
     EXPECT_EQ(fresh.selected(), -1);
     EXPECT_EQ(fresh.interpolation(), 1);
     EXPECT_EQ(fresh.frameStyle(), QFrame::Box | QFrame::Plain);
@@ -233,11 +234,11 @@ TEST_F(CurveFrameTest, UnequalNumberOfCoordinatesIsLogged)
 TEST_F(CurveFrameTest, SamplesDependOnTheInterpolation)
 {
     frame.setPoints({0, 0.5F, 1}, {1, 0.25F, 0});
-    EXPECT_EQ(frame.sample(256), smoothCurve(frame.points(), 256));
+    EXPECT_EQ(frame.sample(256), grisal::graphics::smoothCurve(frame.points(), 256));
     frame.slotSetInterpolation(CurveFrame::Linear);
     EXPECT_EQ(frame.interpolation(), 0);
-    EXPECT_EQ(frame.sample(256), linearCurve(frame.points(), 256));
-    EXPECT_EQ(frame.sample(10), linearCurve(frame.points(), 10));
+    EXPECT_EQ(frame.sample(256), grisal::graphics::linearCurve(frame.points(), 256));
+    EXPECT_EQ(frame.sample(10), grisal::graphics::linearCurve(frame.points(), 10));
 }
 
 TEST_F(CurveFrameTest, HistogramOfWrongSizeIsLoggedAndRejected)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/frames/CurvePoints.h"
+#include "graphics/look/CurvePoints.h"
 
 #include <gtest/gtest.h>
 
@@ -7,6 +7,8 @@
 
 namespace
 {
+
+using namespace grisal::graphics;
 
 constexpr int count = 256;
 

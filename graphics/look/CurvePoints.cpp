@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "ui/frames/CurvePoints.h"
+#include "graphics/look/CurvePoints.h"
 
 #include "math/BSpline.h"
 
 #include <algorithm>
 #include <cmath>
+
+namespace grisal::graphics
+{
 
 namespace
 {
@@ -98,8 +101,8 @@ QVector<float> linearCurve(const CurvePoints &points, int count)
 
 QVector<float> smoothCurve(const CurvePoints &points, int count)
 {
-    const grisal::math::BSpline<float> curve(points.xs.constData(), points.count(), points.ys.constData(),
-                                             cutoffWavelength, straightEnds, nodeCount);
+    const math::BSpline<float> curve(points.xs.constData(), points.count(), points.ys.constData(), cutoffWavelength,
+                                     straightEnds, nodeCount);
     if (!curve.ok()) {
         return linearCurve(points, count);
     }
@@ -127,3 +130,5 @@ QVector<float> histogramBehind(const QVector<float> &curve, const QVector<float>
     }
     return behind;
 }
+
+} // namespace grisal::graphics

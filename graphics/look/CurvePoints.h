@@ -3,6 +3,9 @@
 
 #include <QVector>
 
+namespace grisal::graphics
+{
+
 /// The control points of a curve in the unit square, from left to right. x and y are in 0..1, y measured from the top
 /// as on the screen. The values of the curve are measured from the bottom.
 struct CurvePoints {
@@ -41,3 +44,5 @@ QVector<float> smoothCurve(const CurvePoints &points, int count);
 /// into the last bin. Curve and histogram have 256 elements; with another number of curve values, the histogram is
 /// returned unchanged.
 QVector<float> histogramBehind(const QVector<float> &curve, const QVector<float> &histogram);
+
+} // namespace grisal::graphics
