@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/DroppedImages.h"
 
-#include "graphics/files/ImageFile.h"
+#include "app/Session.h"
 
 #include <QMimeData>
 #include <QUrl>
@@ -13,7 +13,7 @@ QStringList droppedImages(const QMimeData &data)
 {
     QStringList paths;
     for (const QUrl &url : data.urls()) {
-        if (url.isLocalFile() && graphics::ImageFile(url.toLocalFile()).problem().isEmpty()) {
+        if (url.isLocalFile() && Session::startsLikeImage(url.toLocalFile())) {
             paths << url.toLocalFile();
         }
     }

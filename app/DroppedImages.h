@@ -8,8 +8,8 @@ class QMimeData;
 namespace grisal
 {
 
-/// Returns the paths of the local files in dragged data that are JPEG, PNG or TIFF images by their contents, in the
-/// order of the data.
+/// Returns the paths of the local files in dragged data that start like JPEG, PNG or TIFF files, in the order of the
+/// data.
 QStringList droppedImages(const QMimeData &data);
 
 } // namespace grisal

@@ -62,6 +62,15 @@ void MainWindow::setUpStatusBar()
     connect(m_form->glWidgetPreview, &GLWidget::signalScaleChanged, this, &MainWindow::showScale);
 }
 
+// A message is shown for its full time, even while the mouse moves over something that has a status tip.
+bool MainWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::StatusTip && m_form->statusbar->isShowingBriefly()) {
+        return true;
+    }
+    return QMainWindow::event(event);
+}
+
 void MainWindow::showScale()
 {
     const GLWidget &preview = *m_form->glWidgetPreview;

@@ -79,6 +79,7 @@ public slots:
     void on_actionActualPixels_triggered();
 
 protected:
+    bool event(QEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
@@ -99,7 +100,6 @@ private:
     void showCannotLoad(const QString &filename);
     void openFile(const QString &filename);
     void openDropped(const QStringList &paths);
-    QString proposedName() const;
     std::optional<graphics::Image> renderOutput(BusyNotice &notice);
     std::optional<graphics::Image> renderImage(BusyNotice &notice);
     void showRenderFailed(const QString &reason);
@@ -108,7 +108,6 @@ private:
     FilterToolBar *m_toolBar;
     Session m_session;
     FileDealer m_fileDealer;
-    QString m_openedPath;         // of the open image
     UserGuide *m_guide = nullptr; // null until it is shown for the first time
     std::unique_ptr<Ui::MainWindow> m_form;
 };

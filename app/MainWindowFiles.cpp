@@ -6,7 +6,6 @@
 #include "app/DroppedImages.h"
 #include "app/Product.h"
 #include "app/StatusBar.h"
-#include "graphics/files/ImageFormat.h"
 #include "ui_MainWindow.h"
 
 #include <QDragEnterEvent>
@@ -41,6 +40,13 @@ QString memorySize(std::uint64_t bytes)
     return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
 }
 
+// After a move, the program that the files come from may delete them.
+void acceptCopy(QDropEvent &event)
+{
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
 } // namespace
 
 void MainWindow::on_actionOpen_triggered()
@@ -71,7 +77,7 @@ void MainWindow::openImage(QString filename)
 void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
     if (!droppedImages(*event->mimeData()).isEmpty()) {
-        event->acceptProposedAction();
+        acceptCopy(*event);
     }
 }
 
@@ -79,7 +85,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 void MainWindow::dropEvent(QDropEvent *event)
 {
     const QStringList paths = droppedImages(*event->mimeData());
-    event->acceptProposedAction();
+    acceptCopy(*event);
     QTimer::singleShot(0, this, [this, paths] { openDropped(paths); });
 }
 
@@ -88,8 +94,10 @@ void MainWindow::openDropped(const QStringList &paths)
     if (paths.isEmpty()) {
         return;
     }
+    const Session::PicturePointer before = m_session.picture();
     openImage(paths.first());
-    if (paths.size() > 1) {
+    const bool opened = m_session.picture() != before;
+    if (opened && m_session.warning().isEmpty() && paths.size() > 1) {
         m_form->statusbar->showBriefly(tr("Only the first of the %1 pictures was opened").arg(paths.size()));
     }
 }
@@ -106,7 +114,6 @@ void MainWindow::openFile(const QString &filename)
     }
     showPreviewOf(picture->image);
     m_session.setPicture(picture);
-    m_openedPath = filename;
     m_form->statusbar->setHint({});
     showScale();
     m_fileDealer.addToRecent();
@@ -158,7 +165,7 @@ void MainWindow::saveImage(const QString &path)
         m_form->statusbar->showBriefly(tr("No image"));
         return;
     }
-    if (!m_session.acceptsName(path)) {
+    if (!m_session.checkName(path)) {
         showCannotSave(path);
         return;
     }
@@ -249,23 +256,10 @@ void MainWindow::on_actionSave_triggered()
     activateWindow();
 }
 
-// A name that cannot be saved to, of an image that was recognised by its contents, gets an extension.
-QString MainWindow::proposedName() const
-{
-    if (m_openedPath.isEmpty()) {
-        return {};
-    }
-    const QFileInfo file(m_openedPath);
-    if (!graphics::formatOfName(m_openedPath)) {
-        return file.fileName() + QStringLiteral("-bw.jpg");
-    }
-    return file.completeBaseName() + QStringLiteral("-bw.") + file.suffix();
-}
-
 void MainWindow::on_actionSave_As_triggered()
 {
     m_panels.takeTypedNumber();
-    saveImage(m_fileDealer.saveDialog(proposedName()));
+    saveImage(m_fileDealer.saveDialog(m_session.picture() ? m_session.picture()->proposedName : QString()));
     activateWindow();
 }
 

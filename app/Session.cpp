@@ -7,6 +7,7 @@
 #include "graphics/files/LumioImage.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QLocale>
 
 #include <sys/stat.h>
@@ -43,10 +44,20 @@ Image imageOf(LumioImage &file)
     return image;
 }
 
-Session::PicturePointer pictureOf(LumioImage &file)
+// A file that was recognised by its contents may have no extension that it could be saved with.
+QString proposedNameFor(const graphics::ImageFile &file)
+{
+    const QFileInfo name(file.path());
+    if (graphics::formatOfName(file.path())) {
+        return name.completeBaseName() + QStringLiteral("-bw.") + name.suffix();
+    }
+    return name.fileName() + QStringLiteral("-bw.") + graphics::extensionOf(file.format());
+}
+
+Session::PicturePointer pictureOf(LumioImage &file, const QString &proposedName)
 {
     Image image = file.is16Bit() ? imageOf<std::uint16_t>(file) : imageOf<std::uint8_t>(file);
-    return std::make_shared<Picture>(Picture{std::move(image), file.metadata(), file.info()});
+    return std::make_shared<Picture>(Picture{std::move(image), file.metadata(), file.info(), proposedName});
 }
 
 /// The image as a file in memory; problem() contains the reason where that fails.
@@ -99,7 +110,7 @@ Session::PicturePointer Session::read(const QString &path)
         const bool again = !good && m_picture;
         qDebug("%s", again ? m_picture->info.c_str() : file.info().c_str());
         m_warning = file.warning();
-        return good ? pictureOf(file) : m_picture;
+        return good ? pictureOf(file, proposedNameFor(opened)) : m_picture;
     } catch (const std::exception &problem) {
         // Usually std::bad_alloc: not enough memory for the image.
         qWarning("%s", problem.what());
@@ -126,7 +137,12 @@ bool Session::failToWrite(const QString &path, const graphics::Message &problem)
     return false;
 }
 
-bool Session::acceptsName(const QString &path)
+bool Session::startsLikeImage(const QString &path)
+{
+    return graphics::startsLikeImage(path);
+}
+
+bool Session::checkName(const QString &path)
 {
     m_problem = {};
     return graphics::formatOfName(path) || failToWrite(path, graphics::unknownExtension());

@@ -24,7 +24,8 @@ class ImageFile;
 struct Picture {
     graphics::Image image;
     graphics::Metadata metadata;
-    std::string info; ///< description for the log
+    std::string info;     ///< description for the log
+    QString proposedName; ///< file name for the converted image
 };
 
 /// Why a picture is not opened: the memory that it needs and that is free, in bytes.
@@ -56,14 +57,18 @@ public:
     /// Of the last read; none where it was read or could not be read for another reason.
     const std::optional<MemoryShortage> &shortage() const { return m_shortage; }
 
-    /// Returns whether the extension of a path is that of a format; otherwise problem() contains the reason.
-    bool acceptsName(const QString &path);
+    /// Whether a file starts like a JPEG, PNG or TIFF file.
+    static bool startsLikeImage(const QString &path);
+
+    /// Checks that the extension of a path is that of a format; otherwise problem() contains the reason.
+    bool checkName(const QString &path);
 
     /// Writes an image with the metadata of the open image, in the format given by the extension of `path`. Returns
-    /// false on failure; an existing file is then unchanged, and problem() contains the reason.
+    /// false on failure; problem() then contains the reason, and an existing file is unchanged, unless the new one
+    /// could not be read back.
     bool write(graphics::Image image, const QString &path);
 
-    /// Why the last write failed or the last name was not accepted; empty otherwise.
+    /// Why the last write failed or the last name has no extension of a format; empty otherwise.
     const graphics::Message &problem() const { return m_problem; }
 
     /// A problem of the last read or write that did not prevent its result; empty if there was none.

@@ -28,8 +28,7 @@ StatusBar::StatusBar(QWidget *parent)
     m_downscaling->hide();
     m_scale->hide();
     m_downscaling->setToolTip(
-        tr("The preview of a large picture is smaller than the picture. The file is saved in full "
-           "size."));
+        tr("The preview of a large picture is smaller than the picture. The file is saved in full size."));
     m_scale->setToolTip(tr("Size on the screen, in percent of the size in the file"));
 }
 
@@ -57,9 +56,15 @@ void StatusBar::addProgressBar()
 
 void StatusBar::showBriefly(const QString &message)
 {
+    m_brief = message;
     showMessage(message, messageDuration);
     // A file name may contain characters that look like HTML.
     setToolTip(Qt::convertFromPlainText(message));
+}
+
+bool StatusBar::isShowingBriefly() const
+{
+    return !m_brief.isEmpty() && currentMessage() == m_brief;
 }
 
 void StatusBar::setHint(const QString &hint)

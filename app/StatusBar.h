@@ -20,6 +20,7 @@ public:
 
     /// Shows a message for two seconds. The last one stays as the tool tip of the status bar.
     void showBriefly(const QString &message);
+    bool isShowingBriefly() const;
 
     /// Shows a text whenever there is no message.
     void setHint(const QString &hint);
@@ -35,6 +36,7 @@ private:
     void addProgressBar();
     QLabel *makeLabel(const char *name);
 
+    QString m_brief;
     QLabel *m_hint;
     QProgressBar *m_progressBar;
     QLabel *m_downscaling;

@@ -9,7 +9,7 @@
 
 #include <cmath>
 
-// A table cell is the only element of Qt's rich text with a width.
+// Of the text elements in Qt's rich text, only table cells have a width.
 QString wrappedToolTip(const QString &text)
 {
     constexpr double widest = 60;
@@ -27,7 +27,7 @@ QString wrappedToolTip(const QString &text)
     }
     return QStringLiteral("<table width=\"%1\"><tr><td>%2</td></tr></table>")
         .arg(std::lround(width))
-        .arg(rich ? text : text.toHtmlEscaped());
+        .arg(rich ? text : Qt::convertFromPlainText(text));
 }
 
 bool ToolTipWrapper::eventFilter(QObject *object, QEvent *event)

@@ -7,9 +7,14 @@
 namespace grisal::graphics
 {
 
+bool isDiskFull(int error)
+{
+    return error == ENOSPC || error == EDQUOT;
+}
+
 Message fileErrorMessage(int error)
 {
-    if (error == ENOSPC || error == EDQUOT) {
+    if (isDiskFull(error)) {
         return Message(QT_TRANSLATE_NOOP("Message", "the disk is full"));
     }
     return Message::quoting(QString::fromLocal8Bit(std::strerror(error)));

@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace grisal::graphics
 {
@@ -30,7 +31,33 @@ bool hasCompleteTiffEnd(const OpenFile &file, std::uint64_t size)
     return header && header->directoryOffset >= tiffHeaderSize && header->directoryOffset < size;
 }
 
+// The type is checked before the file is opened, since opening a device may have side effects, and once more
+// afterwards, since the file may have been replaced.
+OpenFile openRegularFile(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status {
+    };
+    if (stat(name.constData(), &status) != 0 || !S_ISREG(status.st_mode)) {
+        return OpenFile();
+    }
+    OpenFile file(open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    return file.isOpen() && fstat(file.descriptor(), &status) == 0 && S_ISREG(status.st_mode) ? std::move(file)
+                                                                                              : OpenFile();
+}
+
+std::optional<ImageFormat> formatOf(const OpenFile &file)
+{
+    return formatOfContents(file.bytesAt(0, signatureLength));
+}
+
 } // namespace
+
+bool startsLikeImage(const QString &path)
+{
+    const OpenFile file = openRegularFile(path);
+    return file.isOpen() && formatOf(file);
+}
 
 ImageFile::ImageFile(const QString &path) : m_path(path)
 {
@@ -46,25 +73,17 @@ ImageFile::ImageFile(const QString &path) : m_path(path)
     }
 }
 
-// The type is checked before the file is opened, since opening a device may have side effects, and once more
-// afterwards, since the file may have been replaced.
 void ImageFile::open()
 {
-    const QByteArray name = QFile::encodeName(m_path);
-    struct stat status {
-    };
-    const bool isThere = stat(name.constData(), &status) == 0;
-    if (isThere && S_ISREG(status.st_mode)) {
-        m_file = OpenFile(::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    }
-    if (!m_file.isOpen() || fstat(m_file.descriptor(), &status) != 0 || !S_ISREG(status.st_mode)) {
+    m_file = openRegularFile(m_path);
+    if (!m_file.isOpen()) {
         m_problem = QStringLiteral("Cannot open %1").arg(m_path);
     }
 }
 
 void ImageFile::detectFormat()
 {
-    const std::optional<ImageFormat> format = formatOfContents(m_file.bytesAt(0, signatureLength));
+    const std::optional<ImageFormat> format = formatOf(m_file);
     if (!format) {
         m_problem = QStringLiteral("No JPEG, PNG or TIFF picture in %1").arg(m_path);
         return;

@@ -62,6 +62,9 @@ private:
     QString m_problem;
 };
 
+/// Whether a file is a regular file that starts like a JPEG, PNG or TIFF file. Reads a few bytes and does not block.
+bool startsLikeImage(const QString &path);
+
 /// Whether a file that was just written has the end of its format: GraphicsMagick does not report every full disk.
 bool hasCompleteEnd(const OpenFile &file, ImageFormat format);
 

@@ -75,6 +75,19 @@ std::optional<ImageFormat> formatOfName(const QString &path)
     return std::nullopt;
 }
 
+QString extensionOf(ImageFormat format)
+{
+    switch (format) {
+    case ImageFormat::Png:
+        return QStringLiteral("png");
+    case ImageFormat::Tiff:
+        return QStringLiteral("tif");
+    case ImageFormat::Jpeg:
+        break;
+    }
+    return QStringLiteral("jpg");
+}
+
 Message unknownExtension()
 {
     return Message(QT_TRANSLATE_NOOP("Message", "the name has to end in .jpg, .jpeg, .png, .tif or .tiff"));

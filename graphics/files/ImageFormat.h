@@ -25,6 +25,9 @@ std::optional<ImageFormat> formatOfContents(QByteArrayView start);
 /// The format of a file by the extension of its name, in upper or lower case.
 std::optional<ImageFormat> formatOfName(const QString &path);
 
+/// The extension for files of a format, without the dot.
+QString extensionOf(ImageFormat format);
+
 /// Why formatOfName() returns nothing.
 Message unknownExtension();
 

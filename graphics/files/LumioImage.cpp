@@ -104,7 +104,8 @@ LumioImage::LumioImage() : m_image(emptyImage()) {}
 LumioImage::LumioImage(int width, int height, bool sixteenBit) : LumioImage()
 {
     if (width < 1 || height < 1) {
-        m_problem = Message::quoting(QStringLiteral("A picture cannot be %1 x %2 pixels large").arg(width).arg(height));
+        m_problem = Message(QT_TRANSLATE_NOOP("Message", "an image cannot have %1 pixels"),
+                            QStringLiteral("%1 x %2").arg(width).arg(height));
         return;
     }
     attempt([&] {
@@ -120,14 +121,14 @@ bool LumioImage::attemptWithPixels(Step step)
 {
     return attempt([&] {
         if (isNull()) {
-            m_problem = Message::quoting(QStringLiteral("Image is not valid"));
+            m_problem = Message(QT_TRANSLATE_NOOP("Message", "the image is not valid"));
             return;
         }
         m_image.modifyImage();
         m_image.type(Magick::TrueColorType);
         Magick::PixelPacket *pixels = m_image.getPixels(0, 0, m_image.columns(), m_image.rows());
         if (pixels == nullptr) {
-            m_problem = Message::quoting(QStringLiteral("The pixels cannot be reached"));
+            m_problem = Message(QT_TRANSLATE_NOOP("Message", "the pixels cannot be accessed"));
             return;
         }
         step(pixels, std::size_t{m_image.columns()} * m_image.rows());
@@ -204,7 +205,7 @@ void LumioImage::readFrom(const ImageFile &file)
     m_warning = warningOf([&] { fresh.read(file.name()); });
     if (!fresh.isValid()) {
         m_problem =
-            m_warning.isEmpty() ? Message::quoting(QStringLiteral("No picture in %1").arg(file.path())) : m_warning;
+            m_warning.isEmpty() ? Message(QT_TRANSLATE_NOOP("Message", "No picture in %1"), file.path()) : m_warning;
         return;
     }
     if (m_warning.isEmpty() && !metadata.isComplete()) {
@@ -228,10 +229,9 @@ bool LumioImage::save(const QString &path, int quality)
     }
     ReplacementFile target(path);
     const bool good = attempt([&] { writeTo(target, path, quality); });
-    if (!good && target.file().isOpen()) {
-        if (const Message shortage = target.shortageOfSpace(); !shortage.isEmpty()) {
-            m_problem = shortage;
-        }
+    if (!good) {
+        const Message shortage = target.shortageOfSpace();
+        m_problem = shortage.isEmpty() ? m_problem : shortage;
     }
     replaceNameInMessages(target.file().descriptor(), path);
     return good;

@@ -133,8 +133,7 @@ ReplacementFile::~ReplacementFile()
 
 bool ReplacementFile::fail(const char *what, int error)
 {
-    const Message reason = fileErrorMessage(error);
-    m_problem = error == ENOSPC || error == EDQUOT ? reason : Message(what, reason.english());
+    m_problem = isDiskFull(error) ? fileErrorMessage(error) : Message(what, fileErrorMessage(error).english());
     return false;
 }
 
@@ -143,7 +142,7 @@ bool ReplacementFile::findTarget(const QString &path)
     try {
         m_target = endOfLinks(QFile::encodeName(path).toStdString());
     } catch (const fs::filesystem_error &error) {
-        return fail(QT_TRANSLATE_NOOP("Message", "the folder cannot be reached (%1)"), error.code().value());
+        return fail(QT_TRANSLATE_NOOP("Message", "the file cannot be reached (%1)"), error.code().value());
     }
     struct stat status {
     };
@@ -161,9 +160,12 @@ bool ReplacementFile::findTarget(const QString &path)
 // Asks for space that a failed write may have lacked: GraphicsMagick does not report why it failed.
 Message ReplacementFile::shortageOfSpace() const
 {
-    constexpr off_t wanted = 1 << 20;
+    constexpr off_t wanted = 1 << 16;
+    if (m_committed || !m_file.isOpen()) {
+        return {};
+    }
     const int error = posix_fallocate(m_file.descriptor(), static_cast<off_t>(m_file.size()), wanted);
-    return error == ENOSPC || error == EDQUOT || error == EFBIG ? fileErrorMessage(error) : Message();
+    return isDiskFull(error) || error == EFBIG ? fileErrorMessage(error) : Message();
 }
 
 bool ReplacementFile::commit()
@@ -177,6 +179,7 @@ bool ReplacementFile::commit()
     if (!linkToTarget() && !renameToTarget()) {
         return fail(QT_TRANSLATE_NOOP("Message", "the old file cannot be replaced (%1)"), errno);
     }
+    m_committed = true;
     m_temporary.setAutoRemove(false);
     const fs::path folderPath = fs::path(m_target).parent_path();
     const OpenFile folder(open(folderPath.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));

@@ -36,7 +36,7 @@ public:
     /// The file to write; only without a problem.
     const OpenFile &file() const { return m_file; }
 
-    /// Why the disk has no space for more of the file; empty if it has.
+    /// Why the disk has no space for more of the file; empty if it has, or after the file was committed.
     Message shortageOfSpace() const;
 
     /// Writes the file to the disk and replaces the old one. False, with the old file still there, if that fails.
@@ -53,6 +53,7 @@ private:
     QTemporaryFile m_temporary;
     OpenFile m_file; ///< the descriptor of m_temporary, which owns it
     Message m_problem;
+    bool m_committed = false;
 };
 
 } // namespace grisal::graphics

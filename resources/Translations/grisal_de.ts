@@ -66,6 +66,10 @@ Komfort ausgelegt.</translation>
         <source>In %1, out %2</source>
         <translation>Eingang %1, Ausgang %2</translation>
     </message>
+    <message>
+        <source>Tone %1, strength %2 %</source>
+        <translation>Tonwert %1, Stärke %2 %</translation>
+    </message>
 </context>
 <context>
     <name>Curves</name>
@@ -409,10 +413,6 @@ Komfort ausgelegt.</translation>
         <translation>In den Ordner kann nicht geschrieben werden (%1)</translation>
     </message>
     <message>
-        <source>the folder cannot be reached (%1)</source>
-        <translation>Der Ordner ist nicht erreichbar (%1)</translation>
-    </message>
-    <message>
         <source>the name belongs to something other than a file</source>
         <translation>Der Name gehört zu etwas anderem als einer Datei</translation>
     </message>
@@ -427,6 +427,26 @@ Komfort ausgelegt.</translation>
     <message>
         <source>the old file cannot be replaced (%1)</source>
         <translation>Die alte Datei kann nicht ersetzt werden (%1)</translation>
+    </message>
+    <message>
+        <source>an image cannot have %1 pixels</source>
+        <translation>Ein Bild kann keine %1 Pixel haben</translation>
+    </message>
+    <message>
+        <source>the image is not valid</source>
+        <translation>Das Bild ist ungültig</translation>
+    </message>
+    <message>
+        <source>the pixels cannot be accessed</source>
+        <translation>Auf die Pixel kann nicht zugegriffen werden</translation>
+    </message>
+    <message>
+        <source>No picture in %1</source>
+        <translation>Kein Bild in %1</translation>
+    </message>
+    <message>
+        <source>the file cannot be reached (%1)</source>
+        <translation>Die Datei ist nicht erreichbar (%1)</translation>
     </message>
 </context>
 <context>
@@ -520,8 +540,8 @@ Komfort ausgelegt.</translation>
         <translation>Mittelwert</translation>
     </message>
     <message>
-        <source>Counts when Luma changes next; that shifts all three equally</source>
-        <translation>Gilt ab der nächsten Änderung der Luma; sie verschiebt alle drei gleich</translation>
+        <source>Takes effect with the next change of Luma, which shifts all three by the same amount</source>
+        <translation>Wird mit der nächsten Änderung der Luma wirksam, die alle drei um denselben Betrag verschiebt</translation>
     </message>
 </context>
 <context>
@@ -1082,7 +1102,7 @@ Grisal braucht OpenGL 2.1, um Bilder anzuzeigen und zu speichern. Bitte installi
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 </TS>

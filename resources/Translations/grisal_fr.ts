@@ -66,6 +66,10 @@ et le confort.</translation>
         <source>In %1, out %2</source>
         <translation>Entrée %1, sortie %2</translation>
     </message>
+    <message>
+        <source>Tone %1, strength %2 %</source>
+        <translation>Ton %1, force %2 %</translation>
+    </message>
 </context>
 <context>
     <name>Curves</name>
@@ -409,10 +413,6 @@ et le confort.</translation>
         <translation>il est impossible d’écrire dans le dossier (%1)</translation>
     </message>
     <message>
-        <source>the folder cannot be reached (%1)</source>
-        <translation>le dossier est inaccessible (%1)</translation>
-    </message>
-    <message>
         <source>the name belongs to something other than a file</source>
         <translation>ce nom désigne autre chose qu’un fichier</translation>
     </message>
@@ -427,6 +427,26 @@ et le confort.</translation>
     <message>
         <source>the old file cannot be replaced (%1)</source>
         <translation>l’ancien fichier ne peut pas être remplacé (%1)</translation>
+    </message>
+    <message>
+        <source>an image cannot have %1 pixels</source>
+        <translation>une image ne peut pas avoir %1 pixels</translation>
+    </message>
+    <message>
+        <source>the image is not valid</source>
+        <translation>l’image n’est pas valide</translation>
+    </message>
+    <message>
+        <source>the pixels cannot be accessed</source>
+        <translation>les pixels sont inaccessibles</translation>
+    </message>
+    <message>
+        <source>No picture in %1</source>
+        <translation>Aucune image dans %1</translation>
+    </message>
+    <message>
+        <source>the file cannot be reached (%1)</source>
+        <translation>le fichier est inaccessible (%1)</translation>
     </message>
 </context>
 <context>
@@ -520,8 +540,8 @@ et le confort.</translation>
         <translation>Moyenne</translation>
     </message>
     <message>
-        <source>Counts when Luma changes next; that shifts all three equally</source>
-        <translation>Prend effet au prochain changement de Luma, qui décale les trois d’autant</translation>
+        <source>Takes effect with the next change of Luma, which shifts all three by the same amount</source>
+        <translation>Prend effet au prochain changement de Luma, qui décale les trois de la même valeur</translation>
     </message>
 </context>
 <context>
@@ -1051,7 +1071,7 @@ Grisal a besoin d’OpenGL 2.1 pour afficher et enregistrer des images. Veuillez
     </message>
     <message>
         <source>Cannot save %1: %2</source>
-        <translation>Impossible d’enregistrer %1 : %2</translation>
+        <translation>Impossible d’enregistrer %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -1082,7 +1102,7 @@ Grisal a besoin d’OpenGL 2.1 pour afficher et enregistrer des images. Veuillez
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 </TS>

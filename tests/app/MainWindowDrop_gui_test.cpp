@@ -45,9 +45,12 @@ protected:
     void drop(const QStringList &paths)
     {
         ASSERT_TRUE(drag(paths));
-        QDropEvent event(m_place, Qt::CopyAction, &m_data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent event(m_place, Qt::CopyAction | Qt::MoveAction, &m_data, Qt::LeftButton, Qt::ShiftModifier);
+        event.setDropAction(Qt::MoveAction);
         QCoreApplication::sendEvent(&window, &event);
         EXPECT_TRUE(event.isAccepted());
+        // After a move, the other program would delete the files.
+        EXPECT_EQ(event.dropAction(), Qt::CopyAction);
     }
 
     bool titleBecomes(const QString &end)
@@ -85,6 +88,17 @@ TEST_F(MainWindowDrop, OpensTheFirstOfSeveralImagesAndShowsAMessage)
     EXPECT_TRUE(titleBecomes(QStringLiteral("a.png 30x20")));
     EXPECT_EQ(child<QStatusBar>(window, "statusbar").currentMessage(),
               QStringLiteral("Only the first of the 2 pictures was opened"));
+}
+
+TEST_F(MainWindowDrop, DamagedImageShowsTheBoxOfAnOpenedOne)
+{
+    const QString damaged = inHome(QStringLiteral("damaged.jpg"));
+    writeFile(damaged, QByteArray::fromHex("ffd8ffe000104a464946"));
+    allowWarning(QStringLiteral("damaged.jpg"));
+    MessageBoxAnswer box(QMessageBox::Ok);
+    drop({damaged, makePicture(QStringLiteral("a.png"), 30, 20)});
+    QTRY_COMPARE(box.text, QStringLiteral("Cannot load %1.").arg(damaged));
+    EXPECT_TRUE(child<QStatusBar>(window, "statusbar").currentMessage().isEmpty());
 }
 
 TEST_F(MainWindowDrop, SkipsFilesThatAreNoImages)

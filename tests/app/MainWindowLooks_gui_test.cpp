@@ -252,7 +252,8 @@ TEST_F(MainWindowLooks, GrainPanelShowsTheHistogramAfterTheCurve)
     bendCurve();
     const auto &editor = child<CurveFrame>(panel<Curves>(), "frameCurve");
     EXPECT_NE(behind.histogram(), before);
-    EXPECT_EQ(behind.histogram(), histogramBehind(look().parameters.get<CurveFilter>().curve, editor.histogram()));
+    EXPECT_EQ(behind.histogram(),
+              grisal::graphics::histogramBehind(look().parameters.get<CurveFilter>().curve, editor.histogram()));
 }
 
 TEST_F(MainWindowLooks, VignetteSetByMouseIsShownAndSaved)

@@ -4,6 +4,7 @@
 
 #include "app/UserGuide.h"
 #include "ui/frames/CurveFrame.h"
+#include "ui/panels/Grain.h"
 
 #include <QLabel>
 #include <QMouseEvent>
@@ -31,6 +32,12 @@ protected:
     QLabel &label(const char *name) { return child<QLabel>(window, name); }
 
     void open(const QString &path) { window.openImage(path); }
+
+    static void moveMouse(QWidget &widget, QPointF place)
+    {
+        QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, {}, {});
+        QCoreApplication::sendEvent(&widget, &move);
+    }
 };
 
 TEST_F(MainWindowStatus, HintNamesTheShortcutOfOpenUntilAPictureIsOpen)
@@ -105,20 +112,42 @@ TEST_F(MainWindowStatus, ShowsTheValuesUnderTheMouseInTheCurveEditor)
     trigger(window, "actionCurves");
     auto &frame = child<CurveFrame>(window, "frameCurve");
     const QPointF quarter = QPointF(frame.contentsRect().width(), frame.contentsRect().height()) / 4;
-    QMouseEvent move(QEvent::MouseMove, quarter, frame.mapToGlobal(quarter), Qt::NoButton, {}, {});
-    QCoreApplication::sendEvent(&frame, &move);
-    EXPECT_EQ(message(), QStringLiteral("In 64, out 191"));
     EXPECT_TRUE(frame.hasMouseTracking());
+    moveMouse(frame, quarter);
+    EXPECT_EQ(message(), QStringLiteral("In 64, out 191"));
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(&frame, &leave);
     EXPECT_TRUE(message().isEmpty());
+}
+
+TEST_F(MainWindowStatus, ShowsTheStrengthUnderTheMouseInTheGrainEditor)
+{
+    open(makePicture(QStringLiteral("a.png"), 30, 20));
+    trigger(window, "actionGrain");
+    auto &frame = child<CurveFrame>(*window.findChild<Grain *>(), "frameCurve");
+    moveMouse(frame, QPointF(frame.contentsRect().width(), frame.contentsRect().height()) / 4);
+    EXPECT_EQ(message(), QStringLiteral("Tone 64, strength 75 %"));
+}
+
+// The mouse may be over the curve while Ctrl+S is pressed.
+TEST_F(MainWindowStatus, MouseMovesDoNotReplaceAMessage)
+{
+    open(makePicture(QStringLiteral("a.png"), 30, 20));
+    trigger(window, "actionCurves");
+    auto &frame = child<CurveFrame>(window, "frameCurve");
+    window.saveImage(inHome(QStringLiteral("b.png")));
+    moveMouse(frame, QPointF(10, 10));
+    EXPECT_EQ(message(), QStringLiteral("Saved b.png"));
+    statusBar().clearMessage();
+    moveMouse(frame, QPointF(11, 10));
+    EXPECT_TRUE(message().startsWith(QStringLiteral("In ")));
 }
 
 TEST_F(MainWindowStatus, ShowsThatAWeightCountsWithTheNextChangeOfLuma)
 {
     open(makePicture(QStringLiteral("a.png"), 30, 20));
     child<QSlider>(window, "sliderR").setValue(100);
-    EXPECT_EQ(message(), QStringLiteral("Counts when Luma changes next; that shifts all three equally"));
+    EXPECT_EQ(message(), QStringLiteral("Takes effect with the next change of Luma, which shifts all three by the same amount"));
     child<QSlider>(window, "sliderLuma").setValue(200);
     EXPECT_TRUE(message().isEmpty());
 }
@@ -144,12 +173,12 @@ TEST_F(MainWindowStatus, SaveAsProposesTheNameOfTheOpenPictureWithBw)
 
 TEST_F(MainWindowStatus, SaveAsProposesAnExtensionForANameWithoutOne)
 {
-    ASSERT_TRUE(QFile::rename(makePicture(QStringLiteral("a.png"), 30, 20), inHome(QStringLiteral("a"))));
+    ASSERT_TRUE(QFile::rename(makePicture(QStringLiteral("a.tif"), 30, 20), inHome(QStringLiteral("a"))));
     open(inHome(QStringLiteral("a")));
     FileDialogAnswer cancel({});
     expectWarning(QStringLiteral("Invalid filename"));
     trigger(window, "actionSave_As");
-    EXPECT_EQ(cancel.proposedName, QStringLiteral("a-bw.jpg"));
+    EXPECT_EQ(cancel.proposedName, QStringLiteral("a-bw.tif"));
 }
 
 } // namespace

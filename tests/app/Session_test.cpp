@@ -129,7 +129,7 @@ TEST_F(SessionTest, WritesNothingIfMemoryIsInsufficient)
     EXPECT_FALSE(session.write(image, path("a.png")));
     EXPECT_EQ(contentsOf(path("a.png")), before);
     ASSERT_EQ(log.warnings().size(), 1);
-    EXPECT_FALSE(log.warnings().first().contains("Image is not valid")) << log.warnings().first().toStdString();
+    EXPECT_FALSE(log.warnings().first().contains("image is not valid")) << log.warnings().first().toStdString();
 }
 
 struct SessionMemoryTest : SessionTest {

@@ -200,11 +200,14 @@ void CurveFrame::leaveEvent(QEvent *event)
     QFrame::leaveEvent(event);
 }
 
-QString CurveFrame::valuesAt(QPointF place)
+QString CurveFrame::valuesAt(QPointF place) const
 {
     constexpr double white = 255;
-    const auto value = [](double share) { return std::lround(std::clamp(share, 0.0, 1.0) * white); };
-    return tr("In %1, out %2").arg(value(place.x())).arg(value(1 - place.y()));
+    constexpr double percent = 100;
+    const auto value = [](double share, double highest) { return std::lround(std::clamp(share, 0.0, 1.0) * highest); };
+    const auto tone = value(place.x(), white);
+    return m_outputIsStrength ? tr("Tone %1, strength %2 %").arg(tone).arg(value(1 - place.y(), percent))
+                              : tr("In %1, out %2").arg(tone).arg(value(1 - place.y(), white));
 }
 
 QPointF CurveFrame::onFrame(double x, double y) const

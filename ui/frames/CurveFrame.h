@@ -11,7 +11,7 @@
 /// Edits a curve in the unit square over a tone histogram. A mouse press selects the point at that x position or adds a
 /// point there; a drag moves the selected point. signalMoved() is emitted when the mouse button is released.
 ///
-/// While the mouse is over the frame, the status bar of the window shows the input and output value under it, 0..255.
+/// While the mouse is over the frame, the status bar of the window shows its position as input and output value.
 ///
 /// Page Up and Page Down select the previous and the next point, the arrow keys move the selected point, and Insert
 /// adds a point between it and its right neighbour. Each key acts like a mouse press followed by a release.
@@ -35,6 +35,9 @@ public:
 
     /// The histogram that results from the values sampled last: see histogramBehind().
     QVector<float> outputHistogram() const;
+
+    /// Sets whether the status bar shows the output as a strength in percent instead of as a tone 0..255.
+    void setOutputIsStrength(bool isStrength) { m_outputIsStrength = isStrength; }
 
     /// Sets the histogram to 256 bins, where 1 fills the height of the frame. Any other number of bins is rejected and
     /// logged.
@@ -80,7 +83,7 @@ protected:
 
 private:
     QVector<float> curve(int count) const;
-    static QString valuesAt(QPointF place);
+    QString valuesAt(QPointF place) const;
     QPointF placeOf(const QMouseEvent &event) const;
     QPointF onFrame(double x, double y) const;
     void emitMoved();
@@ -99,5 +102,6 @@ private:
     int m_selected = -1;
     bool m_pressed = false;
     interpolationType m_interpolation = BSpline;
+    bool m_outputIsStrength = false;
     FocusMark m_focusMark{this};
 };

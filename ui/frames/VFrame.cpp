@@ -22,7 +22,13 @@ VFrame::VFrame(QWidget *parent) : QFrame(parent)
 
 int VFrame::heightForWidth(int width) const
 {
-    return std::min(width, largestWithin({0, 0, width, QWIDGETSIZE_MAX}, proportions()).height());
+    const QSize image = proportions();
+    return static_cast<int>(qint64{std::min(width, maximumWidth())} * image.height() / image.width());
+}
+
+void VFrame::limitTo(int side)
+{
+    setMaximumWidth(std::max(1, proportions().scaled(side, side, Qt::KeepAspectRatio).width()));
 }
 
 void VFrame::setImageSize(QSize size)
@@ -35,11 +41,6 @@ void VFrame::setImageSize(QSize size)
 QSize VFrame::proportions() const
 {
     return m_imageSize.isEmpty() ? usualProportions : m_imageSize;
-}
-
-QRect VFrame::imageRect() const
-{
-    return m_imageSize.isEmpty() ? contentsRect() : largestWithin(contentsRect(), m_imageSize);
 }
 
 void VFrame::slotSetX(float x)
@@ -100,12 +101,11 @@ void VFrame::mouseReleaseEvent(QMouseEvent *event)
 
 void VFrame::pick(const QMouseEvent *event)
 {
-    const QRect image = imageRect();
-    if (contentsRect().isEmpty()) {
+    const QSize size = contentsRect().size();
+    if (size.isEmpty()) {
         return;
     }
-    const QPointF place = event->position() - image.topLeft();
-    choose(place.x() / image.width(), place.y() / image.height());
+    choose(event->position().x() / size.width(), event->position().y() / size.height());
 }
 
 void VFrame::choose(double x, double y)
@@ -172,7 +172,7 @@ grisal::graphics::VignetteParameters VFrame::shownVignette() const
 QPainterPath VFrame::marks() const
 {
     constexpr double centreMark = 4;
-    const QRectF image = imageRect();
+    const QRectF image = contentsRect();
     const grisal::graphics::VignetteParameters shown = shownVignette();
     const QSizeF reach = vignetteReach(shown.radius, proportions());
     const QPointF centre(std::floor(image.left() + image.width() * shown.center.x / 100) + 0.5,
@@ -187,10 +187,10 @@ void VFrame::paintEvent(QPaintEvent *)
 {
     // A higher resolution takes longer and makes no visible difference.
     constexpr QSize finest(600, 400);
-    if (contentsRect().isEmpty()) {
+    const QRect image = contentsRect();
+    if (image.isEmpty()) {
         return;
     }
-    const QRect image = imageRect();
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.setClipRect(image, Qt::ReplaceClip);

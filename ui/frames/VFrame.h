@@ -19,10 +19,7 @@ struct VignettePercents {
 /// drag moves the centre, also beyond the edge of the image; the mouse wheel changes the radius, or with the Control
 /// key the strength. The arrow keys and Page Up and Page Down do the same.
 ///
-/// The image has the proportions of the photograph and is in the middle of the frame. Until they are known, it fills
-/// the frame.
-///
-/// Its values are fractions: the centre of the width and height of the image, from the top left corner; radius and
+/// Its values are fractions: the centre of the width and height of the contents, from the top left corner; radius and
 /// strength 0..1 of their maximum.
 class VFrame : public QFrame, public AccessibleControl
 {
@@ -39,11 +36,14 @@ public:
     QAccessible::Role accessibleRole() const override { return QAccessible::Canvas; }
     QString accessibleValue() const override;
 
-    /// The proportions of the photograph, 3:2 until they are known, if the layout has enough space; at most square.
+    /// The proportions of the photograph, 3:2 until they are known, if the layout has enough space.
     int heightForWidth(int width) const override;
 
     /// Sets the size of the photograph. Only its proportions are used; an empty size means that they are unknown.
     void setImageSize(QSize size);
+
+    /// Limits the width so that no side of the frame is longer than `side`.
+    void limitTo(int side);
 
     /// Sets the numbers that are displayed beside the frame. Screen readers read them, and keyboard steps start from
     /// them. They cannot be derived from the fractions: 0.29 is displayed as 28 if it was set by the mouse, and as 29
@@ -79,7 +79,6 @@ private:
     void turnWheel(int delta, bool strength);
     grisal::graphics::VignetteParameters shownVignette() const;
     QSize proportions() const;
-    QRect imageRect() const;
     QPainterPath marks() const;
 
     QSize m_imageSize;

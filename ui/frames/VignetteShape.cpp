@@ -90,15 +90,3 @@ QImage vignettePicture(const grisal::graphics::VignetteParameters &parameters, Q
     }
     return picture;
 }
-
-QRect largestWithin(const QRect &area, QSize proportions)
-{
-    const qint64 width = proportions.width();
-    const qint64 height = proportions.height();
-    QSize size(area.width(), std::max(1, static_cast<int>(area.width() * height / width)));
-    if (size.height() > area.height()) {
-        size = {std::max(1, static_cast<int>(area.height() * width / height)), area.height()};
-    }
-    const QSize beside = area.size() - size;
-    return {area.topLeft() + QPoint(beside.width() / 2, beside.height() / 2), size};
-}

@@ -4,7 +4,6 @@
 #include "graphics/look/VignetteParameters.h"
 
 #include <QImage>
-#include <QRect>
 #include <QSize>
 #include <QSizeF>
 
@@ -36,6 +35,3 @@ QSizeF vignetteReach(float radius, QSize proportions = usualProportions);
 /// stretched if that has other proportions. Unchanged grey for a strength of 0, otherwise black for a radius of 0.
 QImage vignettePicture(const grisal::graphics::VignetteParameters &parameters, QSize pixels,
                        QSize proportions = usualProportions);
-
-/// The largest area of these proportions, in whole pixels, in the middle of `area`.
-QRect largestWithin(const QRect &area, QSize proportions);

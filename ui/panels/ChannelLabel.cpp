@@ -6,18 +6,18 @@
 
 ChannelLabel::ChannelLabel(QWidget *parent) : QLabel(parent)
 {
-    placeText();
+    setMargins();
 }
 
 // On darker windows, the contrast of pure red is below 3:1.
 bool ChannelLabel::needsBox() const
 {
-    constexpr int lightWindow = 222;
+    constexpr int lightWindow = 223;
     return palette().color(QPalette::Window).lightness() < lightWindow;
 }
 
 // Without the box, the text is aligned with the other labels.
-void ChannelLabel::placeText()
+void ChannelLabel::setMargins()
 {
     constexpr int margin = 4;
     setContentsMargins(needsBox() ? margin : 0, 1, needsBox() ? margin : 0, 1);
@@ -27,7 +27,7 @@ void ChannelLabel::changeEvent(QEvent *event)
 {
     QLabel::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
-        placeText();
+        setMargins();
     }
 }
 

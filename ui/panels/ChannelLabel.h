@@ -16,5 +16,5 @@ protected:
 
 private:
     bool needsBox() const;
-    void placeText();
+    void setMargins();
 };

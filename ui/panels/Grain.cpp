@@ -21,6 +21,7 @@ Grain::Grain(QWidget *parent) : QWidget(parent), m_form(std::make_unique<Ui::Gra
 {
     m_form->setupUi(this);
     m_form->frameCurve->slotSetInterpolation(CurveFrame::Linear);
+    m_form->frameCurve->setOutputIsStrength(true);
     connect(m_form->frameCurve, &CurveFrame::signalMoved, this, &Grain::emitAll);
     m_deleteKey = std::make_unique<CurveFrameEventFilter>(m_form->frameCurve);
     QCoreApplication::instance()->installEventFilter(m_deleteKey.get());

@@ -66,7 +66,8 @@ void Mixer::showWeightsArePending(bool pending)
 {
     const bool changed = std::exchange(m_weightsArePending, pending) != pending;
     if (pending) {
-        showStatusTip(*this, tr("Counts when Luma changes next; that shifts all three equally"));
+        showStatusTip(*this,
+                      tr("Takes effect with the next change of Luma, which shifts all three by the same amount"));
     } else if (changed) {
         showStatusTip(*this, {});
     }

@@ -39,6 +39,19 @@ Vignette::~Vignette() = default;
 void Vignette::setImageSize(QSize size)
 {
     m_form->frame->setImageSize(size);
+    limitFrame();
+}
+
+void Vignette::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    limitFrame();
+}
+
+// Otherwise an upright photograph would be higher than the panel.
+void Vignette::limitFrame()
+{
+    m_form->frame->limitTo(layout()->contentsRect().width());
 }
 
 void Vignette::emitVignette()

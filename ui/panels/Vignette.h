@@ -51,7 +51,11 @@ public slots:
     void slotSetRadius(float radius);
     void slotSetStrength(float strength);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void limitFrame();
     void showRadius(float radius);
     void showStrength(float strength);
     void emitVignette();

@@ -45,8 +45,8 @@ void GLWidget::initializeGL()
     }
     m_started = true;
     callBeforeContextEnds(this, SLOT(releaseGraphics()));
-    if (const auto waiting = std::exchange(m_waitingPreview, std::nullopt)) {
-        showImage(*waiting);
+    if (const auto waiting = std::exchange(m_waiting, std::nullopt)) {
+        showImage(waiting->preview, waiting->imageSize);
         m_stage.setGrain(m_stage.look().get<graphics::GrainFilter>());
     }
 }
@@ -96,21 +96,21 @@ void GLWidget::loadImage(const graphics::Image &image)
     qDebug() << "Buffer: " << hasPixels;
     qDebug() << "(INFO) Max Texture Size: " << graphics::maxPreviewSide;
 
-    m_previewDownscaling = graphics::previewDownscaling(widthOf(image), heightOf(image));
     graphics::Image preview = graphics::makePreview(image);
     if (makeContextCurrent()) {
-        showImage(preview);
+        showImage(preview, {widthOf(image), heightOf(image)});
     } else {
-        m_waitingPreview = std::move(preview);
+        m_waiting = {std::move(preview), {widthOf(image), heightOf(image)}};
     }
 }
 
-void GLWidget::showImage(const graphics::Image &preview)
+void GLWidget::showImage(const graphics::Image &preview, QSize imageSize)
 {
     const QSizeF size = pixelSize();
+    m_stage.load(preview, m_formats, static_cast<float>(size.width()), static_cast<float>(size.height()));
+    m_imageSize = imageSize;
     m_previewWidth = widthOf(preview);
     m_previewHeight = heightOf(preview);
-    m_stage.load(preview, m_formats, static_cast<float>(size.width()), static_cast<float>(size.height()));
     m_dirty = true;
     m_bypass = false;
     slotFitTo(m_previewWidth <= m_previewHeight ? FitLarger : FitSmaller);

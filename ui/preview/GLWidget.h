@@ -86,7 +86,7 @@ public:
     QPointF offset() const;
 
     /// By how much the preview is downscaled: 1 if it is not, otherwise 2, 4 and so on.
-    int previewDownscaling() const { return m_previewDownscaling; }
+    int previewDownscaling() const;
     /// Size of the image on the screen, in percent of its full size.
     int percentOfImage() const;
 
@@ -124,8 +124,13 @@ private slots:
     void releaseGraphics();
 
 private:
+    struct Waiting {
+        graphics::Image preview;
+        QSize imageSize;
+    };
+
     bool makeContextCurrent();
-    void showImage(const graphics::Image &preview);
+    void showImage(const graphics::Image &preview, QSize imageSize);
     void bindOwnFramebuffer();
     void paintPreview(graphics::Preview &preview);
     void setBypass(bool bypass);
@@ -140,10 +145,10 @@ private:
 
     graphics::PreviewStage m_stage;
     graphics::PixelFormats m_formats;
-    std::optional<graphics::Image> m_waitingPreview; ///< to be shown as soon as there is a context
+    std::optional<Waiting> m_waiting; ///< to be shown as soon as there is a context
     int m_previewWidth = 0;
     int m_previewHeight = 0;
-    int m_previewDownscaling = 1;
+    QSize m_imageSize; ///< of the full image
     bool m_dirty = false;
     bool m_started = false;
     bool m_renderingFinal = false;

@@ -3,6 +3,8 @@
 // Navigation in the preview: zoom, fit, pan, and comparison with the original.
 #include "ui/preview/GLWidget.h"
 
+#include "graphics/image/PreviewImage.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
@@ -58,7 +60,12 @@ float GLWidget::scale() const
 int GLWidget::percentOfImage() const
 {
     constexpr float percent = 100;
-    return static_cast<int>(std::lround(scale() * percent / static_cast<float>(m_previewDownscaling)));
+    return static_cast<int>(std::lround(scale() * percent / static_cast<float>(previewDownscaling())));
+}
+
+int GLWidget::previewDownscaling() const
+{
+    return graphics::previewDownscaling(m_imageSize.width(), m_imageSize.height());
 }
 
 QPointF GLWidget::offset() const
@@ -246,7 +253,8 @@ QString GLWidget::accessibleValue() const
     if (m_stage.preview() == nullptr) {
         return tr("No picture");
     }
-    const QString shown = tr("%1 x %2 pixels at %3 %").arg(m_previewWidth).arg(m_previewHeight).arg(percentOfImage());
+    const QString shown =
+        tr("%1 x %2 pixels at %3 %").arg(m_imageSize.width()).arg(m_imageSize.height()).arg(percentOfImage());
     return m_bypass ? tr("%1, without the filters").arg(shown) : shown;
 }
 

@@ -255,6 +255,15 @@ TEST_F(ReplacementFileTest, FailsWhenTheFolderIsRemoved)
     EXPECT_FALSE(file.problem().isEmpty());
 }
 
+TEST_F(ReplacementFileTest, CommittedFileIsNotEnlargedToTestTheDisk)
+{
+    ReplacementFile file(path("a.png"));
+    put(file, "new");
+    ASSERT_TRUE(file.commit());
+    EXPECT_TRUE(file.shortageOfSpace().isEmpty());
+    EXPECT_EQ(contentsOf(path("a.png")), "new");
+}
+
 /// Runs a step as an ordinary user in a child process; returns its result.
 template <typename Step>
 bool asAnybody(Step step)

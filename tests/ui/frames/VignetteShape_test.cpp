@@ -185,13 +185,4 @@ TEST(VignetteShape, RadiusDependsOnTheProportionsOfTheImage)
     EXPECT_EQ(upright.pixel(0, 15), wide.pixel(15, 0));
 }
 
-TEST(VignetteShape, LargestAreaIsInTheMiddle)
-{
-    EXPECT_EQ(largestWithin({0, 0, 300, 200}, {3, 2}), QRect(0, 0, 300, 200));
-    EXPECT_EQ(largestWithin({10, 20, 300, 200}, {1, 1}), QRect(60, 20, 200, 200));
-    EXPECT_EQ(largestWithin({10, 20, 300, 200}, {60000, 20000}), QRect(10, 70, 300, 100));
-    EXPECT_EQ(largestWithin({0, 0, 300, 200}, {100000, 1}), QRect(0, 99, 300, 1));
-    EXPECT_EQ(largestWithin({0, 0, 300, 200}, {1, 100000}), QRect(149, 0, 1, 200));
-}
-
 } // namespace

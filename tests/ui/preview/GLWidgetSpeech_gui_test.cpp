@@ -38,4 +38,12 @@ TEST_F(GLWidgetSpeech, ReportsSizeZoomAndComparison)
     EXPECT_EQ(recorder.valuesOf(widget), QStringList(QStringLiteral("120 x 80 pixels at 100 %")));
 }
 
+TEST_F(GLWidgetSpeech, DownscaledPreviewIsDescribedByTheImage)
+{
+    show();
+    load(BytePixels(4101, 8));
+    widget.slotActualPixels();
+    EXPECT_EQ(value(), "4101 x 8 pixels at 50 %");
+}
+
 } // namespace
