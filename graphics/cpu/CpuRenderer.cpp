@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "graphics/cpu/CpuRenderer.h"
+
+#include "graphics/cpu/PixelRun.h"
+#include "graphics/image/TilePlan.h"
+
+#include <algorithm>
+#include <tuple>
+#include <type_traits>
+#include <variant>
+#include <vector>
+
+// Compiles a function, with everything that it calls, also for processors with AVX2; the dynamic linker chooses.
+#if defined(__x86_64__) && defined(__gnu_linux__)
+#define GRISAL_WITH_AVX2_CLONE [[gnu::target_clones("avx2", "default"), gnu::flatten]]
+#else
+#define GRISAL_WITH_AVX2_CLONE
+#endif
+
+namespace grisal::graphics
+{
+
+namespace
+{
+
+using cpu::GrainNoise;
+using cpu::PixelRun;
+
+static_assert(
+    std::is_same_v<FinalFilters, std::tuple<MixerFilter, CurveFilter, HalfToneFilter, GrainFilter, VignetteFilter>>,
+    "the filters of CpuRenderer and their order must be those of the final render");
+
+/// The filters that run if these are enabled: of a single one, the first of the chain, which is the mixer.
+EnabledFilters runningFilters(EnabledFilters enabled)
+{
+    if (enabled.count() == 1) {
+        enabled.get<CurveFilter>() = enabled.get<HalfToneFilter>() = enabled.get<GrainFilter>() =
+            enabled.get<VignetteFilter>() = false;
+    }
+    enabled.get<MixerFilter>() = true;
+    return enabled;
+}
+
+/// The texels of the noise for the columns of an image.
+std::vector<int> noiseColumns(int width, const TileSide &side)
+{
+    std::vector<int> texels(static_cast<std::size_t>(width));
+    for (int x = 0; x < width; ++x) {
+        texels[static_cast<std::size_t>(x)] = GrainNoise::texelFor(x % static_cast<int>(side.tile));
+    }
+    return texels;
+}
+
+} // namespace
+
+CpuRenderer::CpuRenderer(const Look &look, const EnabledFilters &enabled)
+    : m_anyEnabled(enabled.count() > 0), m_running(runningFilters(enabled)), m_weights(look.get<MixerFilter>().weights),
+      m_vignette(look.get<VignetteFilter>().shape), m_tables8(look, m_running), m_tables16(look, m_running)
+{
+    if (m_running.get<GrainFilter>()) {
+        m_noise.emplace(look.get<GrainFilter>().radius);
+    }
+}
+
+template <typename Sample>
+void CpuRenderer::renderRows(Raster<Sample> &image, const cpu::ToneTables<Sample> &tables) const
+{
+    const TileSide horizontal = planTileSide(static_cast<std::uint32_t>(image.width));
+    const TileSide vertical = planTileSide(static_cast<std::uint32_t>(image.height));
+    const std::vector<int> columns = noiseColumns(image.width, horizontal);
+    const auto components = static_cast<std::size_t>(image.components);
+    const auto width = static_cast<std::size_t>(image.width);
+    PixelRun run;
+    Sample *pixels = image.samples.data();
+    for (int y = 0; y < image.height; ++y) {
+        const int noiseRow = GrainNoise::texelFor(y % static_cast<int>(vertical.tile));
+        for (std::size_t x = 0; x < width; x += run.count) {
+            run.count = std::min(PixelRun::capacity, width - x);
+            cpu::mixAndTone(pixels, components, m_weights, tables, run);
+            if (m_noise) {
+                cpu::setNoise(m_noise->row(noiseRow), columns.data() + x, run);
+                cpu::applyGrain(run.red, run);
+                cpu::applyGrain(run.green, run);
+                cpu::applyGrain(run.blue, run);
+            }
+            if (m_running.get<VignetteFilter>()) {
+                cpu::setMask(m_vignette, static_cast<float>(horizontal.padded), static_cast<float>(vertical.padded),
+                             static_cast<int>(x), y, run);
+                cpu::applyMask<Sample>(run.red, run);
+                cpu::applyMask<Sample>(run.green, run);
+                cpu::applyMask<Sample>(run.blue, run);
+            }
+            cpu::write(run, pixels, components);
+            pixels += run.count * components;
+        }
+    }
+}
+
+GRISAL_WITH_AVX2_CLONE void CpuRenderer::renderRaster(Image8 &image) const
+{
+    renderRows(image, m_tables8);
+}
+
+GRISAL_WITH_AVX2_CLONE void CpuRenderer::renderRaster(Image16 &image) const
+{
+    renderRows(image, m_tables16);
+}
+
+void CpuRenderer::render(Image &image) const
+{
+    if (!m_anyEnabled) {
+        return;
+    }
+    std::visit([this](auto &raster) { renderRaster(raster); }, image);
+}
+
+} // namespace grisal::graphics

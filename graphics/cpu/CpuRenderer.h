@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "graphics/cpu/GrainNoise.h"
+#include "graphics/cpu/ToneTables.h"
+#include "graphics/image/Image.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace grisal::graphics
+{
+
+/// The final render of images with one look, without OpenGL: mixer, curve, split tone, grain and vignette, with the
+/// tiles, mask and roundings of renderFinalImage(). 8-bit samples are rounded after each pass; 16-bit samples are
+/// processed as half floats, rounded when they are read and truncated after each pass.
+///
+/// The constructor computes tables of about 2 megabytes. A render allocates four bytes per column, and several threads
+/// may render different images with the same renderer.
+class CpuRenderer
+{
+public:
+    /// The radius of the look's grain must be finite. Any other value is allowed; NaN is written as 0.
+    CpuRenderer(const Look &look, const EnabledFilters &enabled);
+
+    /// Renders the image in place, on the calling thread; alpha stays unchanged. If filters are enabled, the mixer runs
+    /// even if it is not one of them, and if only one is, it runs alone. If none is enabled, the image is unchanged.
+    void render(Image &image) const;
+
+private:
+    void renderRaster(Image8 &image) const;
+    void renderRaster(Image16 &image) const;
+    template <typename Sample>
+    void renderRows(Raster<Sample> &image, const cpu::ToneTables<Sample> &tables) const;
+
+    bool m_anyEnabled;
+    EnabledFilters m_running; ///< the filters that run if any is enabled
+    ColorRGB<float> m_weights;
+    VignetteParameters m_vignette;
+    cpu::ToneTables<std::uint8_t> m_tables8;
+    cpu::ToneTables<std::uint16_t> m_tables16;
+    std::optional<cpu::GrainNoise> m_noise; ///< empty without grain
+};
+
+} // namespace grisal::graphics
