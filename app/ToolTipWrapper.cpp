@@ -27,7 +27,7 @@ QString wrappedToolTip(const QString &text)
     }
     return QStringLiteral("<table width=\"%1\"><tr><td>%2</td></tr></table>")
         .arg(std::lround(width))
-        .arg(rich ? text : Qt::convertFromPlainText(text));
+        .arg(rich ? text : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
 }
 
 bool ToolTipWrapper::eventFilter(QObject *object, QEvent *event)

@@ -280,7 +280,7 @@ TEST_F(MainWindowSave, UnwritablePathShowsAStatusAndKeepsTheTitle)
     const QString path = inHome(QStringLiteral("no such folder/b.png"));
     expectWarning(QStringLiteral("Cannot save %1: ").arg(path));
     window.saveImage(path);
-    EXPECT_EQ(status(), "Cannot save b.png: the folder cannot be reached (No such file or directory)");
+    EXPECT_EQ(status(), "Cannot save b.png: the file cannot be reached (No such file or directory)");
     EXPECT_EQ(title(), QStringLiteral("Lumio Grisal (Alpha) - a.png %1x%2").arg(width).arg(height).toStdString());
 }
 

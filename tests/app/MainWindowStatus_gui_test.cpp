@@ -4,6 +4,7 @@
 
 #include "app/UserGuide.h"
 #include "ui/frames/CurveFrame.h"
+#include "ui/panels/Curves.h"
 #include "ui/panels/Grain.h"
 
 #include <QLabel>
@@ -110,7 +111,7 @@ TEST_F(MainWindowStatus, ShowsTheValuesUnderTheMouseInTheCurveEditor)
 {
     open(makePicture(QStringLiteral("a.png"), 30, 20));
     trigger(window, "actionCurves");
-    auto &frame = child<CurveFrame>(window, "frameCurve");
+    auto &frame = child<CurveFrame>(*window.findChild<Curves *>(), "frameCurve");
     const QPointF quarter = QPointF(frame.contentsRect().width(), frame.contentsRect().height()) / 4;
     EXPECT_TRUE(frame.hasMouseTracking());
     moveMouse(frame, quarter);
@@ -134,7 +135,7 @@ TEST_F(MainWindowStatus, MouseMovesDoNotReplaceAMessage)
 {
     open(makePicture(QStringLiteral("a.png"), 30, 20));
     trigger(window, "actionCurves");
-    auto &frame = child<CurveFrame>(window, "frameCurve");
+    auto &frame = child<CurveFrame>(*window.findChild<Curves *>(), "frameCurve");
     window.saveImage(inHome(QStringLiteral("b.png")));
     moveMouse(frame, QPointF(10, 10));
     EXPECT_EQ(message(), QStringLiteral("Saved b.png"));

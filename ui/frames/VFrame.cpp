@@ -22,13 +22,17 @@ VFrame::VFrame(QWidget *parent) : QFrame(parent)
 
 int VFrame::heightForWidth(int width) const
 {
-    const QSize image = proportions();
-    return static_cast<int>(qint64{std::min(width, maximumWidth())} * image.height() / image.width());
+    return sizeWithin(width).height();
 }
 
 void VFrame::limitTo(int side)
 {
-    setMaximumWidth(std::max(1, proportions().scaled(side, side, Qt::KeepAspectRatio).width()));
+    setMaximumWidth(sizeWithin(side).width());
+}
+
+QSize VFrame::sizeWithin(int side) const
+{
+    return proportions().scaled(side, side, Qt::KeepAspectRatio).expandedTo({1, 1});
 }
 
 void VFrame::setImageSize(QSize size)

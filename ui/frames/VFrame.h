@@ -36,7 +36,7 @@ public:
     QAccessible::Role accessibleRole() const override { return QAccessible::Canvas; }
     QString accessibleValue() const override;
 
-    /// The proportions of the photograph, 3:2 until they are known, if the layout has enough space.
+    /// The proportions of the photograph, 3:2 until they are known, if the layout has enough space; at most square.
     int heightForWidth(int width) const override;
 
     /// Sets the size of the photograph. Only its proportions are used; an empty size means that they are unknown.
@@ -79,6 +79,7 @@ private:
     void turnWheel(int delta, bool strength);
     grisal::graphics::VignetteParameters shownVignette() const;
     QSize proportions() const;
+    QSize sizeWithin(int side) const;
     QPainterPath marks() const;
 
     QSize m_imageSize;

