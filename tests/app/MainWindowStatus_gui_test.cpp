@@ -148,7 +148,8 @@ TEST_F(MainWindowStatus, ShowsThatAWeightCountsWithTheNextChangeOfLuma)
 {
     open(makePicture(QStringLiteral("a.png"), 30, 20));
     child<QSlider>(window, "sliderR").setValue(100);
-    EXPECT_EQ(message(), QStringLiteral("Takes effect with the next change of Luma, which shifts all three by the same amount"));
+    EXPECT_EQ(message(),
+              QStringLiteral("Takes effect with the next change of Luma, which shifts all three by the same amount"));
     child<QSlider>(window, "sliderLuma").setValue(200);
     EXPECT_TRUE(message().isEmpty());
 }
