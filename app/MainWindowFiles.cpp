@@ -147,6 +147,8 @@ void MainWindow::showCannotLoad(const QString &filename)
     if (const auto &shortage = m_session.shortage()) {
         box.setInformativeText(tr("Opening and saving it takes up to %1 of memory, but only %2 are free.")
                                    .arg(memorySize(shortage->needed), memorySize(shortage->free)));
+    } else {
+        box.setInformativeText(m_session.problem().translated());
     }
     // A file name may contain characters that look like HTML.
     box.setTextFormat(Qt::PlainText);

@@ -95,6 +95,7 @@ void logProblems(const LumioImage &file)
 Session::PicturePointer Session::read(const QString &path)
 {
     m_warning = {};
+    m_problem = {};
     m_shortage = {};
     try {
         graphics::ImageFile opened(path);
@@ -104,6 +105,7 @@ Session::PicturePointer Session::read(const QString &path)
         LumioImage file;
         const bool good = file.read(opened);
         logProblems(file);
+        m_problem = file.problem();
         if (!good && !isKnownToBeMissing(path)) {
             return nullptr;
         }
@@ -114,6 +116,7 @@ Session::PicturePointer Session::read(const QString &path)
     } catch (const std::exception &problem) {
         // Usually std::bad_alloc: not enough memory for the image.
         qWarning("%s", problem.what());
+        m_problem = graphics::Message::quoting(QString::fromLocal8Bit(problem.what()));
         return nullptr;
     }
 }

@@ -68,7 +68,8 @@ public:
     /// could not be read back.
     bool write(graphics::Image image, const QString &path);
 
-    /// Why the last write failed or the last name has no extension of a format; empty otherwise.
+    /// Why the last read or write failed, or the last name has no extension of a format; empty otherwise. For a read
+    /// that failed for lack of memory, see shortage().
     const graphics::Message &problem() const { return m_problem; }
 
     /// A problem of the last read or write that did not prevent its result; empty if there was none.

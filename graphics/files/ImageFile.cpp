@@ -66,7 +66,7 @@ ImageFile::ImageFile(const QString &path) : m_path(path)
         detectFormat();
     }
     if (m_problem.isEmpty() && m_format == ImageFormat::Png && !arePngTextsWithinLimits(m_file)) {
-        m_problem = QStringLiteral("%1 contains texts that are too long").arg(m_path);
+        m_problem = Message(QT_TRANSLATE_NOOP("Message", "%1 contains texts that are too long"), m_path);
     }
     if (m_problem.isEmpty()) {
         checkHeader();
@@ -77,7 +77,7 @@ void ImageFile::open()
 {
     m_file = openRegularFile(m_path);
     if (!m_file.isOpen()) {
-        m_problem = QStringLiteral("Cannot open %1").arg(m_path);
+        m_problem = Message(QT_TRANSLATE_NOOP("Message", "Cannot open %1"), m_path);
     }
 }
 
@@ -85,7 +85,7 @@ void ImageFile::detectFormat()
 {
     const std::optional<ImageFormat> format = formatOf(m_file);
     if (!format) {
-        m_problem = QStringLiteral("No JPEG, PNG or TIFF picture in %1").arg(m_path);
+        m_problem = Message(QT_TRANSLATE_NOOP("Message", "No JPEG, PNG or TIFF picture in %1"), m_path);
         return;
     }
     m_format = *format;
@@ -96,14 +96,12 @@ void ImageFile::checkHeader()
 {
     m_header = readImageHeader(m_file, m_format).value_or(ImageHeader());
     if (!isPlausible(m_header, m_file.storedSize())) {
-        m_problem = QStringLiteral("%1 is too small a file for its %2 x %3 pixels")
-                        .arg(m_path, QString::number(m_header.width), QString::number(m_header.height));
+        m_problem = Message(QT_TRANSLATE_NOOP("Message", "%1 is too small a file for its number of pixels"), m_path);
         return;
     }
     m_copySize = m_format == ImageFormat::Tiff ? sizeOfNormalisedCopy(m_file) : 0;
     if (!isPlausibleCopy(m_header, m_copySize)) {
-        m_problem = QStringLiteral("%1 is too large a file for its %2 x %3 pixels")
-                        .arg(m_path, QString::number(m_header.width), QString::number(m_header.height));
+        m_problem = Message(QT_TRANSLATE_NOOP("Message", "%1 is too large a file for its number of pixels"), m_path);
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/Message.h"
 #include "graphics/files/ImageFormat.h"
 #include "graphics/files/ImageHeader.h"
 #include "graphics/files/OpenFile.h"
@@ -23,7 +24,7 @@ public:
     explicit ImageFile(const QString &path);
 
     /// Why the file cannot be opened as an image; empty if it can.
-    QString problem() const { return m_problem; }
+    const Message &problem() const { return m_problem; }
 
     /// The file name to give to GraphicsMagick, valid while this object exists. Only without a problem.
     std::string name() const { return magickName(m_format, pathOfOpenFile(descriptor())); }
@@ -59,7 +60,7 @@ private:
     std::uint64_t m_copySize = 0;
     ImageFormat m_format = ImageFormat::Jpeg;
     ImageHeader m_header;
-    QString m_problem;
+    Message m_problem;
 };
 
 /// Whether a file is a regular file that starts like a JPEG, PNG or TIFF file. Reads a few bytes and does not block.

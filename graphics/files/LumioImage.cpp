@@ -179,7 +179,7 @@ bool LumioImage::read(const QString &path)
 bool LumioImage::read(ImageFile &file)
 {
     const bool good = attempt([&] {
-        m_problem = Message::quoting(file.problem());
+        m_problem = file.problem();
         if (m_problem.isEmpty()) {
             file.normalise();
             readFrom(file);

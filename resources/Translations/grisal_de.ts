@@ -68,7 +68,7 @@ Komfort ausgelegt.</translation>
     </message>
     <message>
         <source>Tone %1, strength %2 %</source>
-        <translation>Tonwert %1, Stärke %2 %</translation>
+        <translation>Tonwert %1, Stärke %2&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -447,6 +447,26 @@ Komfort ausgelegt.</translation>
     <message>
         <source>the file cannot be reached (%1)</source>
         <translation>Die Datei ist nicht erreichbar (%1)</translation>
+    </message>
+    <message>
+        <source>%1 contains texts that are too long</source>
+        <translation>%1 enthält zu lange Texte</translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation>%1 kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>No JPEG, PNG or TIFF picture in %1</source>
+        <translation>Kein JPEG-, PNG- oder TIFF-Bild in %1</translation>
+    </message>
+    <message>
+        <source>%1 is too small a file for its number of pixels</source>
+        <translation>%1 ist eine zu kleine Datei für die Zahl ihrer Pixel</translation>
+    </message>
+    <message>
+        <source>%1 is too large a file for its number of pixels</source>
+        <translation>%1 ist eine zu große Datei für die Zahl ihrer Pixel</translation>
     </message>
 </context>
 <context>

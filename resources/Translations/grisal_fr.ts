@@ -68,7 +68,7 @@ et le confort.</translation>
     </message>
     <message>
         <source>Tone %1, strength %2 %</source>
-        <translation>Ton %1, force %2 %</translation>
+        <translation>Ton %1, force %2&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -447,6 +447,26 @@ et le confort.</translation>
     <message>
         <source>the file cannot be reached (%1)</source>
         <translation>le fichier est inaccessible (%1)</translation>
+    </message>
+    <message>
+        <source>%1 contains texts that are too long</source>
+        <translation>%1 contient des textes trop longs</translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation>Impossible d’ouvrir %1</translation>
+    </message>
+    <message>
+        <source>No JPEG, PNG or TIFF picture in %1</source>
+        <translation>Aucune image JPEG, PNG ou TIFF dans %1</translation>
+    </message>
+    <message>
+        <source>%1 is too small a file for its number of pixels</source>
+        <translation>%1 est un fichier trop petit pour le nombre de ses pixels</translation>
+    </message>
+    <message>
+        <source>%1 is too large a file for its number of pixels</source>
+        <translation>%1 est un fichier trop gros pour le nombre de ses pixels</translation>
     </message>
 </context>
 <context>

@@ -179,6 +179,7 @@ TEST_F(MainWindowOpen, InvalidFileShowsABoxAndChangesNothing)
     MessageBoxAnswer box(QMessageBox::Ok);
     window.openImage(path);
     EXPECT_EQ(box.text, QStringLiteral("Cannot load %1.").arg(path));
+    EXPECT_EQ(box.informativeText, QStringLiteral("No JPEG, PNG or TIFF picture in %1").arg(path));
     EXPECT_EQ(title(), "Lumio Grisal (Alpha) - a.png 40x20");
     EXPECT_EQ(weights(), luma);
     EXPECT_EQ(shownPanel(), "Vignette");

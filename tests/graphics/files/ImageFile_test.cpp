@@ -79,7 +79,7 @@ TEST_F(ImageFileTest, RejectsNonRegularFilesWithoutBlocking)
     ASSERT_TRUE(QFile::link("nowhere.jpg", path("dangling.jpg")));
     for (const char *name : {"pipe.jpg", "endless.png", "loop-a.jpg", "dangling.jpg", "missing.jpg", "."}) {
         const ImageFile file(path(name));
-        EXPECT_EQ(file.problem(), QStringLiteral("Cannot open %1").arg(path(name)));
+        EXPECT_EQ(file.problem().english(), QStringLiteral("Cannot open %1").arg(path(name)));
     }
 }
 
@@ -163,7 +163,7 @@ TEST_F(ImageFileTest, RejectsAFileThatIsTooSmallForItsPixels)
 {
     const QByteArray header = png + pngHeaderChunk(12'000, 10'000);
     const ImageFile small(fileOf("a.png", header));
-    EXPECT_EQ(small.problem(), path("a.png") + " is too small a file for its 12000 x 10000 pixels");
+    EXPECT_EQ(small.problem().english(), path("a.png") + " is too small a file for its number of pixels");
     EXPECT_TRUE(passes(fileOf("b.png", header + QByteArray(120'000'000 / 40, '.'))));
     QFile sparse(fileOf("c.png", header));
     ASSERT_TRUE(sparse.resize(120'000'000));
@@ -183,7 +183,7 @@ TEST_F(ImageFileTest, ReadsTheHeader)
 TEST_F(ImageFileTest, AcceptsAFileWithoutAHeader)
 {
     const ImageFile file(fileOf("a.png", png));
-    EXPECT_EQ(file.problem(), QString());
+    EXPECT_TRUE(file.problem().isEmpty()) << file.problem().english().toStdString();
     EXPECT_EQ(file.memoryToRead(), maxUncheckedMemory);
 }
 
