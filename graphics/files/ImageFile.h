@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/Message.h"
 #include "graphics/files/ImageFormat.h"
 #include "graphics/files/ImageHeader.h"
 #include "graphics/files/OpenFile.h"
+#include "graphics/Message.h"
 
 #include <QString>
 
