@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/Baselines.h"
 
-#include "graphics/look/Look.h"
+#include "graphics/look/FilterParameters.h"
 
 namespace grisal::bench
 {
@@ -25,9 +25,9 @@ FinalPasses::FinalPasses(std::uint32_t width, std::uint32_t height, GLenum inter
       m_first(length(m_horizontal.tile), length(m_vertical.tile), GL_RGB, internalFormat, type),
       m_second(length(m_horizontal.tile), length(m_vertical.tile), GL_RGB, internalFormat, type)
 {
-    Look parameters;
+    FilterParameters parameters;
     parameters.get<GrainFilter>().weights.fill(0.5F);
-    m_filters.setLook(parameters);
+    m_filters.setParameters(parameters);
     m_filters.get<GrainFilter>().setSigma(1.5F);
     m_filters.setSize(length(m_horizontal.tile), length(m_vertical.tile));
     m_overlay.width = length(m_horizontal.tile);

@@ -18,11 +18,11 @@ using namespace grisal::bench;
 constexpr int width = 6000;
 constexpr int height = 4000;
 
-Look visibleLook()
+FilterParameters visibleParameters()
 {
-    Look look;
-    look.get<GrainFilter>().weights.fill(0.5F);
-    return look;
+    FilterParameters parameters;
+    parameters.get<GrainFilter>().weights.fill(0.5F);
+    return parameters;
 }
 
 EnabledFilters allFilters()
@@ -49,7 +49,7 @@ Raster<Sample> paintedRaster()
 template <typename Sample>
 void render(benchmark::State &state)
 {
-    const CpuRenderer renderer(visibleLook(), allFilters());
+    const CpuRenderer renderer(visibleParameters(), allFilters());
     const Image original = paintedRaster<Sample>();
     Image image = original;
     for ([[maybe_unused]] auto _ : state) {
@@ -60,11 +60,11 @@ void render(benchmark::State &state)
     }
 }
 
-/// The tables of one look.
+/// The tables of one set of parameters.
 void prepare(benchmark::State &state)
 {
     for ([[maybe_unused]] auto _ : state) {
-        const CpuRenderer renderer(visibleLook(), allFilters());
+        const CpuRenderer renderer(visibleParameters(), allFilters());
         benchmark::DoNotOptimize(&renderer);
     }
 }

@@ -102,9 +102,9 @@ void previewPasses(benchmark::State &state)
     const RenderTarget first(previewWidth, previewHeight, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     const RenderTarget second(previewWidth, previewHeight, GL_RGB, GL_RGB8, GL_UNSIGNED_BYTE);
     FilterSet filters;
-    Look parameters;
+    FilterParameters parameters;
     parameters.get<GrainFilter>().weights.fill(0.5F);
-    filters.setLook(parameters);
+    filters.setParameters(parameters);
     filters.setSize(previewWidth, previewHeight);
     filters.setImageSize(previewWidth, previewHeight);
     filters.get<GrainFilter>().setSigma(1.5F);

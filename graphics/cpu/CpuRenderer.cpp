@@ -53,12 +53,13 @@ std::vector<int> noiseColumns(int width, const TileSide &side)
 
 } // namespace
 
-CpuRenderer::CpuRenderer(const Look &look, const EnabledFilters &enabled)
-    : m_anyEnabled(enabled.count() > 0), m_running(runningFilters(enabled)), m_weights(look.get<MixerFilter>().weights),
-      m_vignette(look.get<VignetteFilter>().shape), m_tables8(look, m_running), m_tables16(look, m_running)
+CpuRenderer::CpuRenderer(const FilterParameters &parameters, const EnabledFilters &enabled)
+    : m_anyEnabled(enabled.count() > 0), m_running(runningFilters(enabled)),
+      m_weights(parameters.get<MixerFilter>().weights), m_vignette(parameters.get<VignetteFilter>().shape),
+      m_tables8(parameters, m_running), m_tables16(parameters, m_running)
 {
     if (m_running.get<GrainFilter>()) {
-        m_noise.emplace(look.get<GrainFilter>().radius);
+        m_noise.emplace(parameters.get<GrainFilter>().radius);
     }
 }
 

@@ -21,7 +21,7 @@ class CpuRenderer
 {
 public:
     /// The radius of the look's grain must be finite. Any other value is allowed; NaN is written as 0.
-    CpuRenderer(const Look &look, const EnabledFilters &enabled);
+    CpuRenderer(const FilterParameters &parameters, const EnabledFilters &enabled);
 
     /// Renders the image in place, on the calling thread; alpha stays unchanged. If filters are enabled, the mixer runs
     /// even if it is not one of them, and if only one is, it runs alone. If none is enabled, the image is unchanged.

@@ -53,17 +53,17 @@ ColorRGB<float> splitToned(float grey, const HalfToneFilterParameters &p)
 }
 
 template <typename Sample>
-Tone toneOf(float grey, const Look &look, const EnabledFilters &enabled)
+Tone toneOf(float grey, const FilterParameters &parameters, const EnabledFilters &enabled)
 {
     if (enabled.get<CurveFilter>()) {
         const float inside = std::min(0.999F, std::max(0.0F, grey));
-        grey = StoredValues<Sample>::stored(sampleAt(look.get<CurveFilter>().curve, inside));
+        grey = StoredValues<Sample>::stored(sampleAt(parameters.get<CurveFilter>().curve, inside));
     }
     ColorRGB<float> colour{grey, grey, grey};
     if (enabled.get<HalfToneFilter>()) {
-        colour = splitToned<Sample>(grey, look.get<HalfToneFilter>());
+        colour = splitToned<Sample>(grey, parameters.get<HalfToneFilter>());
     }
-    return {colour.r, colour.g, colour.b, sampleAt(look.get<GrainFilter>().weights, colour.r)};
+    return {colour.r, colour.g, colour.b, sampleAt(parameters.get<GrainFilter>().weights, colour.r)};
 }
 
 template <typename Sample>
@@ -87,12 +87,13 @@ std::vector<float> uploadedValues()
 } // namespace
 
 template <typename Sample>
-ToneTables<Sample>::ToneTables(const Look &look, const EnabledFilters &enabled) : uploaded(uploadedValues<Sample>())
+ToneTables<Sample>::ToneTables(const FilterParameters &parameters, const EnabledFilters &enabled)
+    : uploaded(uploadedValues<Sample>())
 {
     using Values = StoredValues<Sample>;
     tones.reserve(Values::count);
     for (std::size_t i = 0; i < Values::count; ++i) {
-        tones.push_back(toneOf<Sample>(Values::valueOf(i), look, enabled));
+        tones.push_back(toneOf<Sample>(Values::valueOf(i), parameters, enabled));
     }
 }
 

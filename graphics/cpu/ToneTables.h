@@ -2,7 +2,7 @@
 #pragma once
 
 #include "graphics/look/EnabledFilters.h"
-#include "graphics/look/Look.h"
+#include "graphics/look/FilterParameters.h"
 
 #include <vector>
 
@@ -24,8 +24,8 @@ struct Tone {
 /// tone and the grain's weight depend on the grey alone.
 template <typename Sample>
 struct ToneTables {
-    /// A look without samples of a curve or weights of the grain has samples of 0.
-    ToneTables(const Look &look, const EnabledFilters &enabled);
+    /// Parameters without samples of a curve or weights of the grain have samples of 0.
+    ToneTables(const FilterParameters &parameters, const EnabledFilters &enabled);
 
     std::vector<float> uploaded; ///< for each sample, the value 0..1 that the mixer reads
     std::vector<Tone> tones;     ///< for each StoredValues<Sample>::indexOf() of the mixer's grey

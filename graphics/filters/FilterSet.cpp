@@ -40,9 +40,9 @@ void FilterSet::resetEnabled()
     forEach([](auto &filter) { filter.enabled = filter.declaration().enabledAtLoad; });
 }
 
-void FilterSet::setLook(const Look &look)
+void FilterSet::setParameters(const FilterParameters &parameters)
 {
-    forEach([&](auto &filter) { filter.setParameters(look.get<std::decay_t<decltype(filter)>>()); });
+    forEach([&](auto &filter) { filter.setParameters(parameters.get<std::decay_t<decltype(filter)>>()); });
 }
 
 std::vector<IFilter *> FilterSet::previewOrder()

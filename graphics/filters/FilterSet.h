@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Filters.h"
-#include "graphics/look/Look.h"
+#include "graphics/look/FilterParameters.h"
 
 #include <tuple>
 #include <vector>
@@ -44,7 +44,7 @@ public:
 
     /// Passes the parameters to their filters; those that are stored in textures are uploaded only if they have
     /// changed. The grain radius is not passed, because setting it renders.
-    void setLook(const Look &look);
+    void setParameters(const FilterParameters &parameters);
 
     /// The filters in the order of the preview and of the final render.
     std::vector<IFilter *> previewOrder();

@@ -89,14 +89,14 @@ bool renderTiles(Raster<Sample> &image, FilterSet &filters, DocumentView &view, 
 }
 
 template <typename Sample>
-bool render(Raster<Sample> &image, const Look &look, FilterSet &filters, DocumentView &view,
+bool render(Raster<Sample> &image, const FilterParameters &parameters, FilterSet &filters, DocumentView &view,
             const TileProgress &progress)
 {
     const GlErrorScope scope;
     // The grain filter leaves another unit active, but GL_TEXTURE_2D must be enabled on unit 0.
     glActiveTexture(GL_TEXTURE0);
     glEnable(GL_TEXTURE_2D);
-    filters.get<GrainFilter>().setSigma(look.get<GrainFilter>().radius);
+    filters.get<GrainFilter>().setSigma(parameters.get<GrainFilter>().radius);
     qDebug() << "X: " << image.width;
     qDebug() << "Y: " << image.height;
     const TileSide horizontal = planTileSide(static_cast<std::uint32_t>(image.width));
@@ -107,7 +107,7 @@ bool render(Raster<Sample> &image, const Look &look, FilterSet &filters, Documen
     filters.setSize(static_cast<int>(horizontal.tile), static_cast<int>(vertical.tile));
     filters.setImageSize(image.width, image.height);
     qDebug() << "HalfTone Weight: " << filters.get<HalfToneFilter>().weight;
-    filters.setLook(look);
+    filters.setParameters(parameters);
 
     const bool rendered = renderTiles(image, filters, view, horizontal, vertical, scope, progress);
     if (!rendered) {
@@ -119,10 +119,10 @@ bool render(Raster<Sample> &image, const Look &look, FilterSet &filters, Documen
 
 } // namespace
 
-bool renderFinalImage(Image &image, const Look &look, FilterSet &filters, DocumentView &view,
+bool renderFinalImage(Image &image, const FilterParameters &parameters, FilterSet &filters, DocumentView &view,
                       const TileProgress &progress)
 {
-    return std::visit([&](auto &raster) { return render(raster, look, filters, view, progress); }, image);
+    return std::visit([&](auto &raster) { return render(raster, parameters, filters, view, progress); }, image);
 }
 
 } // namespace grisal::graphics

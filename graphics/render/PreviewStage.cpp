@@ -31,7 +31,7 @@ void PreviewStage::prepareFilters(int width, int height)
     }
     m_filters->setSize(width, height);
     m_filters->setImageSize(width, height);
-    m_filters->setLook(m_look);
+    m_filters->setParameters(m_parameters);
     m_filters->get<GrainFilter>().setSigma(firstGrainRadius);
     m_filters->resetEnabled();
 }
@@ -62,7 +62,7 @@ void PreviewStage::setGrain(const GrainFilter::Parameters &parameters)
 
 void PreviewStage::blurGrain()
 {
-    m_filters->get<GrainFilter>().setSigma(m_look.get<GrainFilter>().radius * m_grainScale);
+    m_filters->get<GrainFilter>().setSigma(m_parameters.get<GrainFilter>().radius * m_grainScale);
 }
 
 bool PreviewStage::renderFinal(Image &image, const TileProgress &progress)
@@ -70,7 +70,7 @@ bool PreviewStage::renderFinal(Image &image, const TileProgress &progress)
     if (isEmpty(image) || !m_preview) {
         return false;
     }
-    const bool rendered = renderFinalImage(image, m_look, *m_filters, m_preview->view(), progress);
+    const bool rendered = renderFinalImage(image, m_parameters, *m_filters, m_preview->view(), progress);
     blurGrain();
     return rendered;
 }

@@ -34,7 +34,7 @@ public:
     Preview *preview() const { return m_preview.get(); }
     /// Returns the filters; null before the first load and after release().
     FilterSet *filters() const { return m_filters.get(); }
-    const Look &look() const { return m_look; }
+    const FilterParameters &parameters() const { return m_parameters; }
 
     /// Clears the queue of the preview and adds all filters again.
     void rebuildQueue();
@@ -43,7 +43,7 @@ public:
     template <typename Filter>
     void set(const typename Filter::Parameters &parameters)
     {
-        m_look.get<Filter>() = parameters;
+        m_parameters.get<Filter>() = parameters;
         if (m_filters) {
             m_filters->get<Filter>().setParameters(parameters);
         }
@@ -60,7 +60,7 @@ private:
     void prepareFilters(int width, int height);
     void blurGrain();
 
-    Look m_look;
+    FilterParameters m_parameters;
     std::unique_ptr<FilterSet> m_filters;
     std::unique_ptr<Preview> m_preview;
     float m_grainScale = 1.0F;

@@ -32,7 +32,7 @@ using grisal::graphics::CurveFilter;
 using grisal::graphics::GrainFilter;
 using grisal::graphics::HalfToneFilter;
 using grisal::graphics::IFilter;
-using grisal::graphics::Look;
+using grisal::graphics::FilterParameters;
 using grisal::graphics::MixerFilter;
 using grisal::graphics::VignetteFilter;
 
@@ -179,14 +179,14 @@ TEST_F(MainWindowActions, MixerPanelSetsThePreviewParameters)
 {
     start();
     child<QComboBox>(panel<Mixer>(), "comboPresets").setCurrentText(QStringLiteral("Rochester Tri-X"));
-    EXPECT_EQ(preview().look().get<MixerFilter>().weights, (ColorRGB<float>{64 / 255.0F, 89 / 255.0F, 102 / 255.0F}));
+    EXPECT_EQ(preview().parameters().get<MixerFilter>().weights, (ColorRGB<float>{64 / 255.0F, 89 / 255.0F, 102 / 255.0F}));
 }
 
 TEST_F(MainWindowActions, VignettePanelSetsThePreviewParameters)
 {
     start();
     emit panel<Vignette>().signalVignette(1, 2, 3, 4, true);
-    const Look &now = preview().look();
+    const FilterParameters &now = preview().parameters();
     EXPECT_EQ(now.get<VignetteFilter>().shape.center.x, 1);
     EXPECT_EQ(now.get<VignetteFilter>().shape.center.y, 2);
     EXPECT_EQ(now.get<VignetteFilter>().shape.radius, 3);
@@ -198,7 +198,7 @@ TEST_F(MainWindowActions, SplitTonePanelSetsThePreviewParameters)
 {
     start();
     emit panel<SplitTone>().signalSplit(0.5F, 0.1F, 0.2F, 0.3F, 0.4F, 0.6F, 0.7F);
-    const Look &now = preview().look();
+    const FilterParameters &now = preview().parameters();
     EXPECT_EQ(now.get<HalfToneFilter>().weight, 0.5F);
     EXPECT_EQ(now.get<HalfToneFilter>().highlights, (ColorRGB<float>{0.1F, 0.2F, 0.3F}));
     EXPECT_EQ(now.get<HalfToneFilter>().shadows, (ColorRGB<float>{0.4F, 0.6F, 0.7F}));
@@ -208,15 +208,15 @@ TEST_F(MainWindowActions, GrainPanelSetsThePreviewParameters)
 {
     start();
     emit panel<Grain>().signalGrain(QVector<float>(256, 0.25F), 2.5F);
-    EXPECT_EQ(preview().look().get<GrainFilter>().weights, QVector<float>(256, 0.25F));
-    EXPECT_EQ(preview().look().get<GrainFilter>().radius, 2.5F);
+    EXPECT_EQ(preview().parameters().get<GrainFilter>().weights, QVector<float>(256, 0.25F));
+    EXPECT_EQ(preview().parameters().get<GrainFilter>().radius, 2.5F);
 }
 
 TEST_F(MainWindowActions, CurvesPanelSetsThePreviewParameters)
 {
     start();
     emit panel<Curves>().signalCurves(QVector<float>(256, 0.75F));
-    EXPECT_EQ(preview().look().get<CurveFilter>().curve, QVector<float>(256, 0.75F));
+    EXPECT_EQ(preview().parameters().get<CurveFilter>().curve, QVector<float>(256, 0.75F));
 }
 
 TEST_F(MainWindowActions, LoadingPixelsSetsTheHistogramOfTheCurvesPanel)
@@ -239,8 +239,8 @@ TEST_F(MainWindowActions, LoadingPixelsResetsAllParameters)
     emit panel<Grain>().signalGrain(QVector<float>(256, 0.25F), 2.5F);
     emit panel<Curves>().signalCurves(QVector<float>(256, 0.75F));
     window.loadBuffer(greyImage(1, 1, 255));
-    const Look initial;
-    const Look &now = preview().look();
+    const FilterParameters initial;
+    const FilterParameters &now = preview().parameters();
     EXPECT_EQ(now.get<MixerFilter>().weights, initial.get<MixerFilter>().weights);
     EXPECT_EQ(now.get<VignetteFilter>().shape.center.x, initial.get<VignetteFilter>().shape.center.x);
     EXPECT_EQ(now.get<VignetteFilter>().shape.strength, initial.get<VignetteFilter>().shape.strength);
@@ -286,7 +286,7 @@ TEST_F(MainWindowActions, LoadingNullPixelsLogsAWarningAndChangesNothing)
     expectWarning(QStringLiteral("Buffer is invalid!"));
     window.loadBuffer(grisal::graphics::Image8());
     EXPECT_EQ(preview().previewWidth(), 300);
-    EXPECT_EQ(preview().look().get<MixerFilter>().weights, (ColorRGB<float>{1, 0, 0}));
+    EXPECT_EQ(preview().parameters().get<MixerFilter>().weights, (ColorRGB<float>{1, 0, 0}));
 }
 
 TEST_F(MainWindowActions, LoadingPixelsInitialisesOpenGlAgain)

@@ -84,7 +84,7 @@ protected:
     Look look()
     {
         Look now;
-        grisal::graphics::Look &p = now.parameters;
+        grisal::graphics::FilterParameters &p = now.parameters;
         if (const QVariantList sent = lastOf(mixer); !sent.isEmpty()) {
             p.get<MixerFilter>().weights = {sent[0].toFloat(), sent[1].toFloat(), sent[2].toFloat()};
         }

@@ -32,7 +32,7 @@ protected:
         child<QComboBox>(*window.findChild<Mixer *>(), "comboPresets").setCurrentText(QString::fromLatin1(look));
     }
 
-    ColorRGB<float> weights() { return preview().look().get<MixerFilter>().weights; }
+    ColorRGB<float> weights() { return preview().parameters().get<MixerFilter>().weights; }
 
     const ColorRGB<float> neutral{1.0F / 3, 1.0F / 3, 1.0F / 3};
     const ColorRGB<float> luma{77 / 255.0F, 150 / 255.0F, 28 / 255.0F};

@@ -23,7 +23,7 @@ namespace
 
 using namespace grisal::test;
 using grisal::graphics::HalfToneFilter;
-using grisal::graphics::Look;
+using grisal::graphics::FilterParameters;
 using grisal::graphics::MixerFilter;
 using grisal::graphics::VignetteFilter;
 
@@ -33,15 +33,15 @@ constexpr auto control = Qt::ControlModifier;
 struct Box {
     const char *action;
     const char *name;
-    float (*value)(const Look &);
+    float (*value)(const FilterParameters &);
     float forSixty; ///< the value if the box contains 60
 };
 
 constexpr std::array<Box, 3> boxes{{
-    {"actionVignette", "spinBoxX", [](const Look &now) { return now.get<VignetteFilter>().shape.center.x; }, 60},
-    {"actionSplitTone", "spinBoxWeight", [](const Look &now) { return now.get<HalfToneFilter>().weight; }, 1.05F},
+    {"actionVignette", "spinBoxX", [](const FilterParameters &now) { return now.get<VignetteFilter>().shape.center.x; }, 60},
+    {"actionSplitTone", "spinBoxWeight", [](const FilterParameters &now) { return now.get<HalfToneFilter>().weight; }, 1.05F},
     {"actionMixer", "spinBoxLuma",
-     [](const Look &now) {
+     [](const FilterParameters &now) {
          return 255 * (now.get<MixerFilter>().weights.r + now.get<MixerFilter>().weights.g +
                        now.get<MixerFilter>().weights.b);
      },
@@ -91,7 +91,7 @@ protected:
         ASSERT_NE(box.value(), 60);
     }
 
-    float sumOfWeights() { return boxes.back().value(preview().look()); }
+    float sumOfWeights() { return boxes.back().value(preview().parameters()); }
 
     void expectCommitted() { EXPECT_FLOAT_EQ(sumOfWeights(), 60); }
 
@@ -235,7 +235,7 @@ TEST_F(TypedNumbersCommitted, ByEveryChangeOfThePanel)
             trigger(window, box.action);
             typeSixty(box.name);
             press(other, control);
-            EXPECT_FLOAT_EQ(box.value(preview().look()), box.forSixty) << box.name << " before Ctrl+" << char(other);
+            EXPECT_FLOAT_EQ(box.value(preview().parameters()), box.forSixty) << box.name << " before Ctrl+" << char(other);
         }
     }
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/look/Look.h"
+#include "graphics/look/FilterParameters.h"
 
 #include <limits>
 #include <vector>
@@ -14,9 +14,9 @@ constexpr float infinity = std::numeric_limits<float>::infinity();
 
 /// Parameters that all have this value. The grain radius stays finite, because the loop of a blur with infinite radius
 /// does not end.
-inline graphics::Look everyParameter(float value)
+inline graphics::FilterParameters everyParameter(float value)
 {
-    graphics::Look parameters;
+    graphics::FilterParameters parameters;
     parameters.get<graphics::MixerFilter>().weights = parameters.get<graphics::HalfToneFilter>().highlights =
         parameters.get<graphics::HalfToneFilter>().shadows = {value, value, value};
     parameters.get<graphics::CurveFilter>().curve = parameters.get<graphics::GrainFilter>().weights =
@@ -31,7 +31,7 @@ inline graphics::Look everyParameter(float value)
 }
 
 /// Parameters that the panels never send.
-inline std::vector<graphics::Look> invalidParameters()
+inline std::vector<graphics::FilterParameters> invalidParameters()
 {
     return {everyParameter(notANumber), everyParameter(infinity), everyParameter(-infinity), everyParameter(-1)};
 }

@@ -24,13 +24,13 @@ std::span<const float> samples(const QVector<float> &values)
     return {values.data(), static_cast<std::size_t>(values.size())};
 }
 
-Vignette vignetteOf(const graphics::Look &p)
+Vignette vignetteOf(const graphics::FilterParameters &p)
 {
     return {p.get<graphics::VignetteFilter>().shape.center.x, p.get<graphics::VignetteFilter>().shape.center.y,
             p.get<graphics::VignetteFilter>().shape.strength, p.get<graphics::VignetteFilter>().shape.radius};
 }
 
-Rgb splitToned(Rgb c, const graphics::Look &p)
+Rgb splitToned(Rgb c, const graphics::FilterParameters &p)
 {
     return splitTone(c, p.get<graphics::HalfToneFilter>().weight, rgb(p.get<graphics::HalfToneFilter>().highlights),
                      rgb(p.get<graphics::HalfToneFilter>().shadows));
@@ -75,7 +75,7 @@ public:
 
     Rgb operator()(int x, int y, Rgb colour) const
     {
-        const graphics::Look &p = m_look.parameters;
+        const graphics::FilterParameters &p = m_look.parameters;
         Rgb c = stored<store>(mixer(colour, rgb(p.get<graphics::MixerFilter>().weights)));
         if (m_look.curve) {
             c = stored<store>(curve(c, samples(p.get<graphics::CurveFilter>().curve)));
@@ -134,7 +134,7 @@ BytePixels blurredNoise(const BytePixels &noise, float radius)
 
 BytePixels previewOf(const BytePixels &picture, const Look &look, const BytePixels &noise)
 {
-    const graphics::Look &p = look.parameters;
+    const graphics::FilterParameters &p = look.parameters;
     return asBytes(eachPixel(picture, [&](int x, int y, Rgb colour) {
         Rgb c = stored<storedByte>(mixer(colour, rgb(p.get<graphics::MixerFilter>().weights)));
         if (look.mixer) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/look/Look.h"
+#include "graphics/look/FilterParameters.h"
 #include "tests/support/Pictures.h"
 
 namespace grisal::test::reference
@@ -9,7 +9,7 @@ namespace grisal::test::reference
 
 /// The parameters of all filters, and which filters are on.
 struct Look {
-    graphics::Look parameters;
+    graphics::FilterParameters parameters;
     bool mixer = true;
     bool curve = false;
     bool splitTone = false;

@@ -47,7 +47,7 @@ void GLWidget::initializeGL()
     callBeforeContextEnds(this, SLOT(releaseGraphics()));
     if (const auto waiting = std::exchange(m_waiting, std::nullopt)) {
         showImage(waiting->preview, waiting->imageSize);
-        m_stage.setGrain(m_stage.look().get<graphics::GrainFilter>());
+        m_stage.setGrain(m_stage.parameters().get<graphics::GrainFilter>());
     }
 }
 

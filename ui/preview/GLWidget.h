@@ -75,7 +75,7 @@ public:
     /// Why OpenGL cannot draw the preview; empty if there is no problem.
     graphics::Message graphicsProblem() const;
 
-    const graphics::Look &look() const { return m_stage.look(); }
+    const graphics::FilterParameters &parameters() const { return m_stage.parameters(); }
     QAccessible::Role accessibleRole() const override { return QAccessible::Canvas; }
     QString accessibleValue() const override;
 

@@ -19,9 +19,9 @@ struct NamedLook {
 };
 
 /// Parameters with which every filter changes every tone.
-inline graphics::Look strongParameters()
+inline graphics::FilterParameters strongParameters()
 {
-    graphics::Look p;
+    graphics::FilterParameters p;
     p.get<graphics::MixerFilter>().weights = {64 / 255.0F, 89 / 255.0F, 102 / 255.0F};
     for (int i = 0; i < 256; ++i) {
         const float x = static_cast<float>(i) / 256;
@@ -35,7 +35,7 @@ inline graphics::Look strongParameters()
 
 inline std::vector<NamedLook> everyFilterAloneAndAllTogether()
 {
-    const graphics::Look p = strongParameters();
+    const graphics::FilterParameters p = strongParameters();
     return {{"mixer", {p, true, false, false, false, false}},     {"curve", {p, true, true, false, false, false}},
             {"split tone", {p, true, false, true, false, false}}, {"grain", {p, true, false, false, true, false}},
             {"vignette", {p, true, false, false, false, true}},   {"all", {p, true, true, true, true, true}}};

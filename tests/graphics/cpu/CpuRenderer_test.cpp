@@ -192,7 +192,7 @@ TYPED_TEST(CpuRendererTest, EmptyImageStaysEmpty)
 TYPED_TEST(CpuRendererTest, InvalidParametersLeaveAlphaUnchanged)
 {
     const auto picture = randomPicture<TypeParam>(67, 41, 4);
-    for (const Look &parameters : invalidParameters()) {
+    for (const FilterParameters &parameters : invalidParameters()) {
         for (const auto &[name, look] : everyFilterAloneAndAllTogether()) {
             reference::Look invalid = look;
             invalid.parameters = parameters;

@@ -11,11 +11,11 @@ namespace
 
 using graphics::ColorRGB;
 using graphics::CurveFilter;
+using graphics::FilterParameters;
 using graphics::FilterSet;
 using graphics::GrainFilter;
 using graphics::HalfToneFilter;
 using graphics::IFilter;
-using graphics::Look;
 using graphics::MixerFilter;
 using graphics::VignetteFilter;
 
@@ -23,9 +23,9 @@ class FilterSetTest : public GlTest
 {
 };
 
-Look distinctParameters()
+FilterParameters distinctParameters()
 {
-    Look parameters;
+    FilterParameters parameters;
     parameters.get<MixerFilter>().weights = {0.1F, 0.2F, 0.3F};
     parameters.get<CurveFilter>().curve = {0.25F, 0.75F};
     parameters.get<VignetteFilter>().shape.center.x = 11;
@@ -84,7 +84,7 @@ TEST_F(FilterSetTest, MixerCurveAndSplitToneGetTheirParameters)
 {
     FilterSet filters;
 
-    filters.setLook(distinctParameters());
+    filters.setParameters(distinctParameters());
 
     EXPECT_EQ(filters.get<MixerFilter>().weights, (ColorRGB<float>{0.1F, 0.2F, 0.3F}));
     EXPECT_EQ(filters.get<CurveFilter>().curve(), (QVector<float>{0.25F, 0.75F}));
@@ -98,7 +98,7 @@ TEST_F(FilterSetTest, VignetteGetsItsParameters)
     FilterSet filters;
     filters.get<VignetteFilter>().parameters.center.z = 9;
 
-    filters.setLook(distinctParameters());
+    filters.setParameters(distinctParameters());
 
     EXPECT_EQ(filters.get<VignetteFilter>().parameters.center.x, 11);
     EXPECT_EQ(filters.get<VignetteFilter>().parameters.center.y, 22);
@@ -111,7 +111,7 @@ TEST_F(FilterSetTest, GrainGetsItsWeights)
 {
     FilterSet filters;
 
-    filters.setLook(distinctParameters());
+    filters.setParameters(distinctParameters());
 
     std::vector<float> weights(2);
     glBindTexture(GL_TEXTURE_1D, filters.get<GrainFilter>().weightsTexture());
@@ -124,7 +124,7 @@ TEST_F(FilterSetTest, SettingTheLookDoesNotBlurTheNoise)
 {
     FilterSet filters;
 
-    filters.setLook(distinctParameters());
+    filters.setParameters(distinctParameters());
 
     EXPECT_EQ(filters.get<GrainFilter>().blur(), nullptr);
 }

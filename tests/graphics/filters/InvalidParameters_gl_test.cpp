@@ -58,18 +58,18 @@ QVector<float> straight()
     return samples;
 }
 
-Look usualParameters()
+FilterParameters usualParameters()
 {
-    Look parameters;
+    FilterParameters parameters;
     parameters.get<MixerFilter>().weights = {0.3F, 0.5F, 0.2F};
     parameters.get<GrainFilter>().weights = straight();
     return parameters;
 }
 
 /// The results of the five filters, each applied alone.
-std::vector<BytePixels> resultsOf(FilterSet &filters, const Look &parameters, const BytePixels &image)
+std::vector<BytePixels> resultsOf(FilterSet &filters, const FilterParameters &parameters, const BytePixels &image)
 {
-    filters.setLook(parameters);
+    filters.setParameters(parameters);
     filters.get<GrainFilter>().setSigma(parameters.get<GrainFilter>().radius);
     filters.setImageSize(image.width, image.height);
     std::vector<BytePixels> results;
@@ -88,7 +88,7 @@ TEST_F(InvalidParametersTest, NextPassIsUnaffected)
 {
     FilterSet filters;
     const std::vector<BytePixels> before = resultsOf(filters, usualParameters(), colours);
-    for (const Look &parameters : invalidParameters()) {
+    for (const FilterParameters &parameters : invalidParameters()) {
         resultsOf(filters, parameters, colours);
         const std::vector<BytePixels> after = resultsOf(filters, usualParameters(), colours);
         for (std::size_t i = 0; i < before.size(); ++i) {

@@ -47,13 +47,13 @@ protected:
     }
 
     template <typename T>
-    bool render(Pixels<T> &image, const Look &with)
+    bool render(Pixels<T> &image, const FilterParameters &with)
     {
         return changeInPlace(image, [&](Image &full) { return renderFinalImage(full, with, *filters, *view); });
     }
 
     template <typename T>
-    Pixels<T> rendered(Pixels<T> image, const Look &with)
+    Pixels<T> rendered(Pixels<T> image, const FilterParameters &with)
     {
         EXPECT_TRUE(render(image, with));
         return image;
@@ -68,7 +68,7 @@ protected:
         parameters.get<GrainFilter>().weights = QVector<float>(256, 0.5F);
         const auto source = rampPicture<T>(2055, 6, 4);
         const Pixels<T> before = rendered(source, parameters);
-        for (const Look &invalid : invalidParameters()) {
+        for (const FilterParameters &invalid : invalidParameters()) {
             const Pixels<T> result = rendered(source, invalid);
             for (std::size_t i = 3; i < source.values.size(); i += 4) {
                 ASSERT_EQ(result.values[i], source.values[i]) << "alpha " << i;
@@ -79,7 +79,7 @@ protected:
 
     std::unique_ptr<FlexibleDocumentView> view;
     std::unique_ptr<FilterSet> filters;
-    Look parameters;
+    FilterParameters parameters;
 };
 
 // Saved images have always been rendered in this order; the preview has the opposite one.

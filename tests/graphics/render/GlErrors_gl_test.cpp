@@ -127,7 +127,7 @@ protected:
     LogCapture log;
     std::unique_ptr<FlexibleDocumentView> view;
     std::unique_ptr<FilterSet> filters;
-    Look parameters;
+    FilterParameters parameters;
     const BytePixels source = rampPicture<std::uint8_t>(width, height);
     BytePixels picture;
     BytePixels right;

@@ -104,7 +104,7 @@ protected:
     LogCapture log;
     std::unique_ptr<FlexibleDocumentView> view;
     std::unique_ptr<FilterSet> filters;
-    Look parameters;
+    FilterParameters parameters;
 };
 
 TEST_F(OldDriver, RendersSixteenBitImagesLikeOtherDrivers)

@@ -51,9 +51,9 @@ QVector<float> strongestInTheMiddle()
     return weights;
 }
 
-grisal::graphics::Look strongParameters()
+grisal::graphics::FilterParameters strongParameters()
 {
-    grisal::graphics::Look parameters;
+    grisal::graphics::FilterParameters parameters;
     // The weights of a look: as multiples of 1/255, no sum of bytes is exactly half way between two levels.
     parameters.get<MixerFilter>().weights = {64 / 255.0F, 89 / 255.0F, 102 / 255.0F};
     parameters.get<CurveFilter>().curve = sCurve();
@@ -122,7 +122,7 @@ protected:
 
     void apply(const Look &look)
     {
-        const grisal::graphics::Look &p = look.parameters;
+        const grisal::graphics::FilterParameters &p = look.parameters;
         stage->set<MixerFilter>(p.get<MixerFilter>());
         stage->set<CurveFilter>(p.get<CurveFilter>());
         stage->set<HalfToneFilter>(p.get<HalfToneFilter>());

@@ -177,9 +177,9 @@ TEST_F(GLWidgetTest, ParametersSetWithoutAContextAreKept)
     widget.slotChangeGrain(QVector<float>(256, 0.75F), 2.5F);
 
     EXPECT_EQ(widget.filter<GrainFilter>(), nullptr);
-    EXPECT_EQ(widget.look().get<CurveFilter>().curve.first(), 0.25F);
-    EXPECT_EQ(widget.look().get<GrainFilter>().weights.first(), 0.75F);
-    EXPECT_EQ(widget.look().get<GrainFilter>().radius, 2.5F);
+    EXPECT_EQ(widget.parameters().get<CurveFilter>().curve.first(), 0.25F);
+    EXPECT_EQ(widget.parameters().get<GrainFilter>().weights.first(), 0.75F);
+    EXPECT_EQ(widget.parameters().get<GrainFilter>().radius, 2.5F);
 
     show();
     const auto *grain = dynamic_cast<GrainFilter *>(widget.filter<GrainFilter>());

@@ -10,7 +10,7 @@ namespace grisal::graphics
 
 /// The parameters of all filters, which the panels set; initially the defaults. A plain value: the filters themselves,
 /// which need OpenGL, only select the parameters.
-class Look
+class FilterParameters
 {
 public:
     template <typename Filter>
