@@ -14,6 +14,8 @@ struct CurvePoints {
 
     int count() const { return static_cast<int>(xs.size()); }
     int last() const { return count() - 1; }
+
+    bool operator==(const CurvePoints &) const = default;
 };
 
 /// The index of a point less than 0.02 away from `x`; -1 if there is none. If several points are that close, the first

@@ -30,10 +30,14 @@ public:
                           m_switches);
     }
 
+    bool operator==(const EnabledFilters &) const = default;
+
 private:
     template <typename Filter>
     struct Switch {
         bool on = ParametersOf<Filter>::declaration().enabledAtLoad;
+
+        bool operator==(const Switch &) const = default;
     };
     template <typename... Filters>
     static std::tuple<Switch<Filters>...> switchesOf(const std::tuple<Filters...> *);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/look/Curve.h"
 #include "graphics/look/FilterDeclaration.h"
 
 #include <QVector>
@@ -9,9 +10,11 @@ namespace grisal::graphics
 {
 
 struct GrainFilterParameters {
-    QVector<float> weights = QVector<float>(256, 0.0F); ///< 256 strengths 0..1; sample i is for grey i / 256
-    float radius = 1.5F;                                ///< blur radius of the noise in pixels: the coarseness
+    QVector<float> weights = QVector<float>(curveSamples, 0.0F); ///< 256 strengths 0..1; sample i is for grey i / 256
+    float radius = 1.5F;                                         ///< blur radius of the noise in pixels: the coarseness
 
+    /// The strength with which the panel starts: half in the middle tones, none in black and white.
+    static Curve defaultStrength() { return {{{0.0F, 0.5F, 1.0F}, {1.0F, 0.5F, 1.0F}}, CurveKind::Straight}; }
     static const FilterDeclaration<GrainFilterParameters> &declaration();
 };
 

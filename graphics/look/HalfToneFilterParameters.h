@@ -12,6 +12,7 @@ struct HalfToneFilterParameters {
     ColorRGB<float> highlights{190 / 255.0F, 156 / 255.0F, 54 / 255.0F}; ///< tint, 0..1
     ColorRGB<float> shadows{110 / 255.0F, 148 / 255.0F, 198 / 255.0F};   ///< tint, 0..1
 
+    bool operator==(const HalfToneFilterParameters &) const = default;
     static const FilterDeclaration<HalfToneFilterParameters> &declaration();
 };
 

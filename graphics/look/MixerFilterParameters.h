@@ -10,6 +10,7 @@ namespace grisal::graphics
 struct MixerFilterParameters {
     ColorRGB<float> weights{1.0F / 3, 1.0F / 3, 1.0F / 3}; ///< multipliers of the channels
 
+    bool operator==(const MixerFilterParameters &) const = default;
     static const FilterDeclaration<MixerFilterParameters> &declaration();
 };
 

@@ -11,6 +11,7 @@ struct VignetteFilterParameters {
     VignetteParameters shape{{50, 50, 0}, 50, 50};
     bool extraBlur = false; ///< stored but unused
 
+    bool operator==(const VignetteFilterParameters &) const = default;
     static const FilterDeclaration<VignetteFilterParameters> &declaration();
 };
 

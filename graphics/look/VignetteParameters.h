@@ -12,9 +12,13 @@ struct VignetteParameters {
         float x = 0; ///< percent of the width from the left
         float y = 0; ///< percent of the height from the first row, the top of the image
         float z = 0; ///< always 0
+
+        bool operator==(const Center &) const = default;
     } center;
     float strength = 0; ///< percent; 0 is neutral
     float radius = 0;   ///< distance at which the strength is reached, in percent of the mean of width and height
+
+    bool operator==(const VignetteParameters &) const = default;
 };
 
 /// Returns the darkening at the point (px, py), in pixels, of an image of width x height pixels. With d the distance
