@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/Mixer.h"
 
+#include "graphics/look/FilmPresets.h"
 #include "math/OpponentColour.h"
-#include "ui/panels/FilmPresets.h"
 #include "ui/StatusTip.h"
 #include "ui_Mixer.h"
 
@@ -11,6 +11,8 @@
 #include <utility>
 
 using grisal::graphics::ColorRGB;
+using grisal::graphics::FilmPreset;
+using grisal::graphics::filmPresets;
 
 namespace
 {

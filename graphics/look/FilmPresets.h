@@ -5,6 +5,9 @@
 
 #include <array>
 
+namespace grisal::graphics
+{
+
 /// A preset: the channel weights that imitate how a black-and-white film renders colours.
 struct FilmPreset {
     const char *name;
@@ -34,3 +37,5 @@ constexpr std::array<FilmPreset, 17> filmPresets{{
     {"Rochester Tmax 400", 69, 92, 94},
     {"Rochester Tri-X", 64, 89, 102},
 }};
+
+} // namespace grisal::graphics
