@@ -74,6 +74,20 @@ void FilterPanels::reset()
     curves->on_buttonReset_clicked();
 }
 
+graphics::Look FilterPanels::look(const GLWidget &preview) const
+{
+    const graphics::FilterParameters &sent = preview.parameters();
+    graphics::Look look;
+    look.enabled = preview.enabledFilters();
+    look.mixer = sent.get<graphics::MixerFilter>();
+    look.toneCurve = curves->curve();
+    look.grainStrength = grain->curve();
+    look.grainRadius = sent.get<graphics::GrainFilter>().radius;
+    look.splitTone = sent.get<graphics::HalfToneFilter>();
+    look.vignette = sent.get<graphics::VignetteFilter>();
+    return look;
+}
+
 // A shortcut leaves the focus in the spin box, which emits a typed number only when the input is complete.
 void FilterPanels::takeTypedNumber()
 {

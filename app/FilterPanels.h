@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/look/Look.h"
+
 class Curves;
 class Grain;
 class Mixer;
@@ -31,6 +33,10 @@ public:
     /// Makes a panel visible or, if it is visible, returns to the mixer. Returns whether the panel is visible now, and
     /// checks the action accordingly.
     bool toggle(QWidget *panel, QAction &action);
+
+    /// Everything that the panels have sent to the preview, and which of its filters are on. Values that a panel shows
+    /// but has not sent yet are not included, because the picture does not show them either.
+    graphics::Look look(const GLWidget &preview) const;
 
     /// Resets the panels that send parameters to the preview, in a fixed order.
     void reset();

@@ -40,6 +40,15 @@ void FilterSet::resetEnabled()
     forEach([](auto &filter) { filter.enabled = filter.declaration().enabledAtLoad; });
 }
 
+EnabledFilters FilterSet::enabled() const
+{
+    EnabledFilters enabled;
+    std::apply(
+        [&](const auto &...filters) { ((enabled.get<std::decay_t<decltype(filters)>>() = filters.enabled), ...); },
+        m_filters);
+    return enabled;
+}
+
 void FilterSet::setParameters(const FilterParameters &parameters)
 {
     forEach([&](auto &filter) { filter.setParameters(parameters.get<std::decay_t<decltype(filter)>>()); });

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Filters.h"
+#include "graphics/look/EnabledFilters.h"
 #include "graphics/look/FilterParameters.h"
 
 #include <tuple>
@@ -41,6 +42,9 @@ public:
 
     /// Enables the filters that are declared as enabled at load, and disables all others.
     void resetEnabled();
+
+    /// Which filters are enabled.
+    EnabledFilters enabled() const;
 
     /// Passes the parameters to their filters; those that are stored in textures are uploaded only if they have
     /// changed. The grain radius is not passed, because setting it renders.

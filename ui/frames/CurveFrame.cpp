@@ -10,6 +10,9 @@
 #include <algorithm>
 #include <cmath>
 
+using grisal::graphics::Curve;
+using grisal::graphics::CurveKind;
+
 namespace
 {
 
@@ -51,14 +54,14 @@ void CurveFrame::setPoints(QVector<float> xs, const QVector<float> &ys)
     showChange();
 }
 
-QVector<float> CurveFrame::curve(int count) const
+Curve CurveFrame::curve() const
 {
-    return m_interpolation == Linear ? linearCurve(m_points, count) : smoothCurve(m_points, count);
+    return {m_points, m_interpolation == Linear ? CurveKind::Straight : CurveKind::Smooth};
 }
 
 QVector<float> CurveFrame::sample(int count)
 {
-    m_samples = curve(count);
+    m_samples = curve().sample(count);
     return m_samples;
 }
 
@@ -264,7 +267,7 @@ void CurveFrame::drawHistogram(QPainter &painter, const QVector<float> &histogra
 // sample().
 void CurveFrame::drawCurve(QPainter &painter) const
 {
-    const QVector<float> values = curve(bins);
+    const QVector<float> values = curve().sample(bins);
     QPolygonF line;
     for (int i = 0; i < bins; ++i) {
         line << onFrame(static_cast<double>(i) / bins, 1.0 - values[i]);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "graphics/look/CurvePoints.h"
+#include "graphics/look/Curve.h"
 #include "ui/accessible/AccessibleControl.h"
 #include "ui/accessible/FocusMark.h"
 
@@ -28,6 +28,9 @@ public:
     /// Sets the points: x from left to right, clamped to 0..1, and y measured from the top. If the numbers of x and y
     /// values differ, a warning is logged and y is truncated or padded with zeros. Clears the selection.
     void setPoints(QVector<float> xs, const QVector<float> &ys);
+
+    /// Returns the curve as it is now, also while a point is being dragged.
+    grisal::graphics::Curve curve() const;
 
     /// Returns `count` values of the curve, 0..1 from bottom to top: value i is the curve at i / count. They are stored
     /// for outputHistogram().
@@ -82,7 +85,6 @@ protected:
     void drawHistogram(QPainter &painter, const QVector<float> &histogram) const;
 
 private:
-    QVector<float> curve(int count) const;
     QString valuesAt(QPointF place) const;
     QPointF placeOf(const QMouseEvent &event) const;
     QPointF onFrame(double x, double y) const;

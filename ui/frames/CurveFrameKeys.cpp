@@ -77,7 +77,7 @@ void CurveFrame::addBehindSelected()
         return;
     }
     const auto place = std::min(static_cast<int>(std::lround(x * places)), places - 1);
-    const int added = insertPoint(m_points, x, 1 - curve(places)[place]);
+    const int added = insertPoint(m_points, x, 1 - curve().sample(places)[place]);
     if (added >= 0) {
         take(added);
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/Curves.h"
 
+#include "graphics/look/CurveFilterParameters.h"
 #include "ui/frames/CurveFrameEventFilter.h"
 #include "ui_Curves.h"
 
@@ -10,7 +11,6 @@
 namespace
 {
 
-constexpr int sampleCount = 256;
 constexpr int histogramSize = 256;
 
 } // namespace
@@ -43,15 +43,17 @@ void Curves::slotSetHistogram(QVector<float> histo)
 
 void Curves::emitAll()
 {
-    const QVector<float> samples = m_form->frameCurve->sample(sampleCount);
+    const QVector<float> samples = m_form->frameCurve->sample(grisal::graphics::curveSamples);
     const QVector<float> histogram = m_form->frameCurve->outputHistogram();
+    m_curve = m_form->frameCurve->curve();
     emit signalCurves(samples);
     emit signalOutHistogram(histogram);
 }
 
 void Curves::on_buttonReset_clicked()
 {
-    m_form->frameCurve->setPoints({0.0F, 0.5F, 1.0F}, {1.0F, 0.5F, 0.0F});
+    const auto [xs, ys] = grisal::graphics::CurveFilterParameters::defaultCurve().points;
+    m_form->frameCurve->setPoints(xs, ys);
     emitAll();
 }
 

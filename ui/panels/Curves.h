@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/look/Curve.h"
+
 #include <QVector>
 #include <QWidget>
 
@@ -22,6 +24,9 @@ public:
     explicit Curves(QWidget *parent = nullptr);
     ~Curves() override;
 
+    /// The curve whose samples were emitted last.
+    const grisal::graphics::Curve &curve() const { return m_curve; }
+
 signals:
     /// 256 outputs 0..1 for the greys 0..1.
     void signalCurves(QVector<float> curve);
@@ -38,5 +43,6 @@ public slots:
 
 private:
     std::unique_ptr<Ui::Curves> m_form;
+    grisal::graphics::Curve m_curve;
     std::unique_ptr<CurveFrameEventFilter> m_deleteKey;
 };

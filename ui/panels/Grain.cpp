@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "ui/panels/Grain.h"
 
-#include "graphics/filters/GrainFilter.h"
+#include "graphics/look/GrainFilterParameters.h"
 #include "ui/frames/CurveFrameEventFilter.h"
 #include "ui_Grain.h"
 
 #include <QCoreApplication>
 
-using grisal::graphics::GrainFilter;
+using grisal::graphics::GrainFilterParameters;
 
 namespace
 {
 
-constexpr int sampleCount = 256;
 constexpr double tenthsOfAPixel = 10.0;
 
 } // namespace
@@ -52,8 +51,9 @@ void Grain::on_doubleSpinBoxBlur_valueChanged(double blur)
 
 void Grain::emitAll()
 {
-    const QVector<float> weights = m_form->frameCurve->sample(sampleCount);
+    const QVector<float> weights = m_form->frameCurve->sample(grisal::graphics::curveSamples);
     const auto blur = static_cast<float>(m_form->doubleSpinBoxBlur->value());
+    m_curve = m_form->frameCurve->curve();
     emit signalGrain(weights, blur);
     m_form->framePreview->slotAdjustWeights(weights);
     m_form->framePreview->slotSetRadius(blur);
@@ -61,7 +61,8 @@ void Grain::emitAll()
 
 void Grain::on_buttonReset_clicked()
 {
-    m_form->frameCurve->setPoints({0.0F, 0.5F, 1.0F}, {1.0F, 0.5F, 1.0F});
-    m_form->doubleSpinBoxBlur->setValue(double{GrainFilter::Parameters().radius});
+    const auto [xs, ys] = GrainFilterParameters::defaultStrength().points;
+    m_form->frameCurve->setPoints(xs, ys);
+    m_form->doubleSpinBoxBlur->setValue(double{GrainFilterParameters().radius});
     emitAll();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/look/Curve.h"
+
 #include <QVector>
 #include <QWidget>
 
@@ -23,6 +25,9 @@ public:
     explicit Grain(QWidget *parent = nullptr);
     ~Grain() override;
 
+    /// The curve whose samples were emitted last.
+    const grisal::graphics::Curve &curve() const { return m_curve; }
+
 signals:
     /// 256 strengths 0..1 for the greys 0..1, and the blur of the noise in pixels, 0..3.
     void signalGrain(QVector<float> weights, float radius);
@@ -37,5 +42,6 @@ public slots:
 
 private:
     std::unique_ptr<Ui::Grain> m_form;
+    grisal::graphics::Curve m_curve;
     std::unique_ptr<CurveFrameEventFilter> m_deleteKey;
 };

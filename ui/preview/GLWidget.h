@@ -76,6 +76,11 @@ public:
     graphics::Message graphicsProblem() const;
 
     const graphics::FilterParameters &parameters() const { return m_stage.parameters(); }
+    /// Which filters are on; those of a newly opened image before the first one is loaded.
+    graphics::EnabledFilters enabledFilters() const
+    {
+        return m_stage.filters() != nullptr ? m_stage.filters()->enabled() : graphics::EnabledFilters();
+    }
     QAccessible::Role accessibleRole() const override { return QAccessible::Canvas; }
     QString accessibleValue() const override;
 

@@ -120,7 +120,21 @@ TEST_F(FilterSetTest, GrainGetsItsWeights)
     EXPECT_EQ(weights, (std::vector<float>{0.5F, 0.1F}));
 }
 
-TEST_F(FilterSetTest, SettingTheLookDoesNotBlurTheNoise)
+TEST_F(FilterSetTest, ReturnsWhichFiltersAreEnabled)
+{
+    FilterSet filters;
+    filters.resetEnabled();
+    EXPECT_EQ(filters.enabled(), graphics::EnabledFilters());
+
+    filters.get<GrainFilter>().enabled = true;
+    filters.get<MixerFilter>().enabled = false;
+    graphics::EnabledFilters grainOnly;
+    grainOnly.get<GrainFilter>() = true;
+    grainOnly.get<MixerFilter>() = false;
+    EXPECT_EQ(filters.enabled(), grainOnly);
+}
+
+TEST_F(FilterSetTest, SettingTheParametersDoesNotBlurTheNoise)
 {
     FilterSet filters;
 
