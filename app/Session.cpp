@@ -2,6 +2,7 @@
 #include "app/Session.h"
 
 #include "app/PictureMemory.h"
+#include "graphics/files/ImageConversion.h"
 #include "graphics/files/ImageFile.h"
 #include "graphics/files/ImageFormat.h"
 #include "graphics/files/LumioImage.h"
@@ -13,7 +14,6 @@
 #include <sys/stat.h>
 
 #include <cerrno>
-#include <stdexcept>
 
 namespace grisal
 {
@@ -23,7 +23,6 @@ namespace
 
 using graphics::Image;
 using graphics::LumioImage;
-using graphics::Raster;
 
 constexpr int saveQuality = 90;
 
@@ -32,16 +31,6 @@ bool isKnownToBeMissing(const QString &path)
     struct stat status {
     };
     return lstat(QFile::encodeName(path).constData(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
-}
-
-template <typename Sample>
-Image imageOf(LumioImage &file)
-{
-    Raster<Sample> image(file.width(), file.height());
-    if (!file.getPixels(image.samples.data(), false, file.is16Bit())) {
-        throw std::runtime_error(file.problem().english().toStdString());
-    }
-    return image;
 }
 
 // A file that was recognised by its contents may have no extension that it could be saved with.
@@ -56,23 +45,7 @@ QString proposedNameFor(const graphics::ImageFile &file)
 
 Session::PicturePointer pictureOf(LumioImage &file, const QString &proposedName)
 {
-    Image image = file.is16Bit() ? imageOf<std::uint16_t>(file) : imageOf<std::uint8_t>(file);
-    return std::make_shared<Picture>(Picture{std::move(image), file.metadata(), file.info(), proposedName});
-}
-
-/// The image as a file in memory; problem() contains the reason where that fails.
-LumioImage fileOf(const Image &image)
-{
-    const bool sixteenBit = is16Bit(image);
-    return std::visit(
-        [=](const auto &raster) {
-            LumioImage file(raster.width, raster.height, sixteenBit);
-            if (file.problem().isEmpty()) {
-                file.setPixels(raster.samples.data(), false, sixteenBit);
-            }
-            return file;
-        },
-        image);
+    return std::make_shared<Picture>(Picture{imageOf(file), file.metadata(), file.info(), proposedName});
 }
 
 QString sizeInEnglish(std::uint64_t bytes)
@@ -123,7 +96,7 @@ Session::PicturePointer Session::read(const QString &path)
 
 bool Session::fitsIntoMemory(const graphics::ImageFile &file)
 {
-    const MemoryShortage memory{memoryForPicture(file), freeMemory(m_memory)};
+    const MemoryShortage memory{memoryForPicture(file), graphics::freeMemory(m_memory)};
     if (memory.needed <= memory.free) {
         return true;
     }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/FreeMemory.h"
+#include "graphics/files/FreeMemory.h"
 #include "graphics/files/Metadata.h"
 #include "graphics/image/Image.h"
 #include "graphics/Message.h"
@@ -40,7 +40,7 @@ class Session
 public:
     using PicturePointer = std::shared_ptr<const Picture>;
 
-    explicit Session(MemorySources memory = {}) : m_memory(std::move(memory)) {}
+    explicit Session(graphics::MemorySources memory = {}) : m_memory(std::move(memory)) {}
 
     /// The open image; null before the first one.
     const PicturePointer &picture() const { return m_picture; }
@@ -79,7 +79,7 @@ private:
     bool failToWrite(const QString &path, const graphics::Message &problem);
     bool fitsIntoMemory(const graphics::ImageFile &file);
 
-    MemorySources m_memory;
+    graphics::MemorySources m_memory;
     PicturePointer m_picture;
     std::optional<MemoryShortage> m_shortage;
     graphics::Message m_problem;

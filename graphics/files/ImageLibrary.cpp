@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/ImageLibrary.h"
 
-#include <Magick++.h>
+#include "graphics/files/FreeMemory.h"
 
-#include <unistd.h>
+#include <Magick++.h>
 
 #include <algorithm>
 #include <csignal>
@@ -20,7 +20,7 @@ constexpr MagickLib::magick_int64_t maxPixels = 1'000'000'000;
 /// Three quarters of the machine's memory, in bytes.
 MagickLib::magick_int64_t memoryShare()
 {
-    return MagickLib::magick_int64_t{sysconf(_SC_PHYS_PAGES)} * sysconf(_SC_PAGESIZE) / 4 * 3;
+    return static_cast<MagickLib::magick_int64_t>(machineMemory() / 4 * 3);
 }
 
 void setLimits()
@@ -50,6 +50,11 @@ void initializeImageLibrary(const char *programPath)
     setLimits();
     std::signal(SIGXFSZ, SIG_IGN);
     initialized = true;
+}
+
+void useOneThread()
+{
+    MagickLib::SetMagickResourceLimit(MagickLib::ThreadsResource, 1);
 }
 
 ScopedPixelLimit::ScopedPixelLimit(std::uint64_t pixels)

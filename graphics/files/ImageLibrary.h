@@ -12,6 +12,10 @@ namespace grisal::graphics
 /// process. `programPath` is argv[0] or null. Only the first call has an effect; every LumioImage calls it.
 void initializeImageLibrary(const char *programPath);
 
+/// Makes GraphicsMagick work on the calling thread only: for a program that processes an image in each of several
+/// processes. To be called after initializeImageLibrary().
+void useOneThread();
+
 /// Limits the pixels of each image that GraphicsMagick allocates during its lifetime.
 class ScopedPixelLimit
 {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "graphics/look/ColorRGB.h"
+
 #include <QtGlobal>
 
 #include <array>
@@ -14,6 +16,13 @@ struct FilmPreset {
     int r; ///< 0..255; the sum of the three is about 255
     int g;
     int b;
+
+    /// The weights as multipliers, which the mixer takes.
+    ColorRGB<float> weights() const
+    {
+        constexpr float full = 255;
+        return {static_cast<float>(r) / full, static_cast<float>(g) / full, static_cast<float>(b) / full};
+    }
 };
 
 /// All presets in the order of the preset box. "Berlin 200X" adds up to 256 and "Rochester Tmax 100" to 254, and two of

@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 using namespace grisal::test;
-using grisal::MemorySources;
+using grisal::graphics::MemorySources;
 using grisal::Session;
 using grisal::graphics::Image16;
 using grisal::graphics::Image8;

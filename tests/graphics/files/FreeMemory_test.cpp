@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/FreeMemory.h"
+#include "graphics/files/FreeMemory.h"
 
 #include <gtest/gtest.h>
 
@@ -12,8 +12,8 @@
 
 #include <limits>
 
-using grisal::freeMemory;
-using grisal::MemorySources;
+using grisal::graphics::freeMemory;
+using grisal::graphics::MemorySources;
 
 namespace
 {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/FreeMemory.h"
+#include "graphics/files/FreeMemory.h"
 
 #include <QFile>
 
@@ -9,7 +9,7 @@
 #include <limits>
 #include <optional>
 
-namespace grisal
+namespace grisal::graphics
 {
 
 namespace
@@ -122,4 +122,9 @@ std::uint64_t freeMemory(const MemorySources &sources)
     return std::min({freeOnMachine(sources.proc), freeInControlGroups(sources), freeAddresses(sources.proc)});
 }
 
-} // namespace grisal
+std::uint64_t machineMemory()
+{
+    return static_cast<std::uint64_t>(sysconf(_SC_PHYS_PAGES)) * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+}
+
+} // namespace grisal::graphics

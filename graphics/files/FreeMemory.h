@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-namespace grisal
+namespace grisal::graphics
 {
 
 /// Where Linux describes the memory of the machine and of the process. Other folders are for tests.
@@ -25,4 +25,7 @@ struct MemorySources {
 /// too.
 std::uint64_t freeMemory(const MemorySources &sources = {});
 
-} // namespace grisal
+/// The memory of the machine in bytes, whether free or not.
+std::uint64_t machineMemory();
+
+} // namespace grisal::graphics
