@@ -142,12 +142,6 @@ bool containsEncodedImage(const Exiv2::Xmpdatum &datum)
     return isEncodedImage(datum.toString());
 }
 
-/// The key of the property that a key is part of: without the items of arrays and the fields of structures.
-std::string propertyOf(const std::string &key)
-{
-    return key.substr(0, key.find_first_of("[/"));
-}
-
 } // namespace
 
 void registerImageNamespaces()

@@ -5,6 +5,7 @@
 
 #include <exiv2/exiv2.hpp>
 
+#include <string>
 #include <utility>
 
 namespace grisal::graphics
@@ -27,6 +28,12 @@ void eraseIf(Data &data, Predicate predicate)
         }
     }
     data = std::move(kept);
+}
+
+/// The key of the XMP property that a key is part of: without the items of arrays and the fields of structures.
+inline std::string propertyOf(const std::string &key)
+{
+    return key.substr(0, key.find_first_of("[/"));
 }
 
 } // namespace grisal::graphics

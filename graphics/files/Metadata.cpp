@@ -3,6 +3,7 @@
 
 #include "graphics/files/EmbeddedImages.h"
 #include "graphics/files/ExivData.h"
+#include "graphics/files/LookProperty.h"
 #include "graphics/files/MetadataBlocks.h"
 #include "graphics/files/PngChunks.h"
 #include "graphics/files/TiffDirectory.h"
@@ -34,6 +35,7 @@ namespace
 // By default Exiv2 writes its warnings to standard error.
 void discardMessage(int /*level*/, const char * /*message*/) {}
 
+/// To be called before metadata is decoded or encoded.
 void initializeExiv2()
 {
     static const bool initialized = [] {
@@ -44,6 +46,7 @@ void initializeExiv2()
     if (!initialized) {
         throw std::runtime_error("XMP cannot be initialised");
     }
+    registerLookNamespace();
 }
 
 Exiv2::Image::AutoPtr imageOn(Exiv2::BasicIo::AutoPtr io, ImageFormat format, bool create = false)
@@ -144,12 +147,29 @@ void setSize(Exiv2::XmpData &xmp, int width, int height)
     }
 }
 
-/// Whether XMP fits into the single segment of a JPEG file that it may occupy.
-bool fitsSegment(const Exiv2::XmpData &xmp)
+/// Whether Exiv2 can encode XMP, which it cannot do for every structure that it decodes. In a JPEG file, XMP has to fit
+/// into a single segment.
+bool canBeWritten(const Exiv2::XmpData &xmp, ImageFormat format)
 {
-    constexpr std::size_t maxSize = 65'000;
-    std::string text;
-    return Exiv2::XmpParser::encode(text, xmp) == 0 && text.size() <= maxSize;
+    constexpr std::size_t maxSegmentSize = 65'000;
+    try {
+        std::string text;
+        return Exiv2::XmpParser::encode(text, xmp) == 0 &&
+               (format != ImageFormat::Jpeg || text.size() <= maxSegmentSize);
+    } catch (const std::exception &) {
+        return false;
+    }
+}
+
+/// Adds a look to XMP, and leaves out whatever cannot be written, preferably the look. Returns whether nothing was left
+/// out.
+bool addLook(Exiv2::XmpData &xmp, const QByteArray &look, ImageFormat format)
+{
+    const std::array candidates{withLook(xmp, look), xmp, withLook({}, look), Exiv2::XmpData()};
+    const auto *const best = std::find_if(candidates.begin(), candidates.end() - 1,
+                                          [&](const auto &candidate) { return canBeWritten(candidate, format); });
+    xmp = *best;
+    return best == candidates.begin();
 }
 
 /// `file` is what emptyImageFile() returns, and has to live as long.
@@ -211,7 +231,8 @@ bool decode(const MetadataBlocks &blocks, Exiv2::ExifData &exif, Exiv2::IptcData
         return Exiv2::IptcParser::decode(iptc, bytes, size) == 0;
     });
     const bool hasXmp = decode(blocks.xmp, [&](const Exiv2::byte * /*bytes*/, std::uint32_t /*size*/) {
-        return Exiv2::XmpParser::decode(xmp, blocks.xmp.toStdString()) == 0 && !xmp.empty();
+        const bool isDecoded = Exiv2::XmpParser::decode(xmp, blocks.xmp.toStdString()) == 0 && !xmp.empty();
+        return removeForeignLooks(xmp) && isDecoded;
     });
     return hasExif && hasIptc && hasXmp;
 }
@@ -229,6 +250,7 @@ Metadata::Metadata(const OpenFile &file, ImageFormat format)
         m_complete = blocks.complete && isDecoded && profile.isEmpty() == blocks.profile.isEmpty();
         contents->profile = isRgbProfile(profile) ? profile : QByteArray();
         m_orientation = extractOrientation(contents->exif);
+        m_sourceLook = extractLook(contents->xmp);
         eraseIf(contents->exif, [](const auto &datum) { return describesFile(datum); });
         eraseIf(contents->xmp, [](const auto &datum) { return describesFile(datum); });
         removeEmbeddedImages(contents->exif);
@@ -274,22 +296,24 @@ QByteArray Metadata::fileOf(const Contents &contents, ImageFormat format)
     return writtenBy(*image);
 }
 
+void Metadata::setLook(const QByteArray &text)
+{
+    m_look = isLookText(text) ? text : QByteArray();
+}
+
 bool Metadata::writeInto(const OpenFile &file, ImageFormat format, int width, int height) const
 {
-    if (!m_contents) {
+    if (isEmpty()) {
         return true;
     }
     QByteArray metadata;
     bool complete = true;
     try {
-        Contents contents = *m_contents;
+        initializeExiv2();
+        Contents contents = m_contents ? *m_contents : Contents();
         setSize(contents.exif, width, height);
         setSize(contents.xmp, width, height);
-        complete = format != ImageFormat::Jpeg || fitsSegment(contents.exif);
-        if (format == ImageFormat::Jpeg && !fitsSegment(contents.xmp)) {
-            contents.xmp.clear();
-            complete = false;
-        }
+        complete = addLook(contents.xmp, m_look, format) && (format != ImageFormat::Jpeg || fitsSegment(contents.exif));
         metadata = fileOf(contents, format);
     } catch (const std::exception &) {
         return false;

@@ -2,10 +2,14 @@
 #include "tests/graphics/files/MetadataFiles.h"
 
 #include "graphics/files/PngChunks.h"
+#include "graphics/files/TiffDirectory.h"
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <QFile>
 #include <QtEndian>
+
+#include <algorithm>
+#include <vector>
 
 namespace grisal::test
 {
@@ -29,6 +33,22 @@ std::string textOf(const Data &data, const Key &key)
 {
     const auto found = data.findKey(key);
     return found == data.end() ? std::string() : found->toString();
+}
+
+/// Adds an entry with a packet of XMP to a little-endian TIFF file, whose directory moves to the end.
+void addTiffXmp(const QString &file, const QByteArray &packet)
+{
+    using namespace grisal::graphics;
+    const TiffByteOrder order(false);
+    QByteArray contents = contentsOf(file);
+    std::vector<TiffEntry> entries = decodeDirectory(contents.mid(order.get<quint32>(contents.constData() + 4)), order);
+    contents += QByteArray(contents.size() % 2, '\0');
+    entries.push_back({static_cast<std::uint16_t>(TiffTag::Xmp), 1, static_cast<std::uint32_t>(packet.size()),
+                       order.bytesOf(static_cast<std::uint32_t>(contents.size()))});
+    std::sort(entries.begin(), entries.end(), [](const auto &a, const auto &b) { return a.tag < b.tag; });
+    contents += packet + QByteArray(packet.size() % 2, '\0');
+    order.put(static_cast<std::uint32_t>(contents.size()), contents.data() + 4);
+    writeFile(file, contents + encodeDirectory(entries, order));
 }
 
 } // namespace
@@ -116,6 +136,17 @@ void addChunk(const QString &path, const char *kind, const QByteArray &contents)
     constexpr int behindFirst = 33;
     QByteArray file = contentsOf(path);
     writeFile(path, file.insert(behindFirst, graphics::pngChunk(kind, contents)));
+}
+
+void addXmp(const QString &path, const QByteArray &packet)
+{
+    if (path.endsWith("jpg")) {
+        addSegment(path, '\xe1', QByteArray("http://ns.adobe.com/xap/1.0/\0", 29) + packet);
+    } else if (path.endsWith("png")) {
+        addChunk(path, "iTXt", QByteArray("XML:com.adobe.xmp\0\0\0\0\0", 22) + packet);
+    } else {
+        addTiffXmp(path, packet);
+    }
 }
 
 QByteArray exifBlock(const Exiv2::ExifData &exif)

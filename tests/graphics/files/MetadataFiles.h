@@ -39,6 +39,9 @@ void addSegment(const QString &path, char marker, const QByteArray &contents);
 /// Adds a chunk behind the first one of a PNG file.
 void addChunk(const QString &path, const char *kind, const QByteArray &contents);
 
+/// Adds a packet of XMP to a JPEG, PNG or little-endian TIFF file without any.
+void addXmp(const QString &path, const QByteArray &packet);
+
 /// A TIFF structure with these Exif values.
 QByteArray exifBlock(const Exiv2::ExifData &exif);
 

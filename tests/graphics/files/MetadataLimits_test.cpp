@@ -76,34 +76,6 @@ QByteArray xmpOf(int attributes)
     return packet + "/></rdf:RDF></x:xmpmeta>";
 }
 
-/// Adds an entry with a packet of XMP to a little-endian TIFF file, whose directory moves to the end.
-void addTiffXmp(const QString &file, const QByteArray &packet)
-{
-    using namespace grisal::graphics;
-    const TiffByteOrder order(false);
-    QByteArray contents = contentsOf(file);
-    std::vector<TiffEntry> entries = decodeDirectory(contents.mid(order.get<quint32>(contents.constData() + 4)), order);
-    contents += QByteArray(contents.size() % 2, '\0');
-    entries.push_back({static_cast<std::uint16_t>(TiffTag::Xmp), 1, static_cast<std::uint32_t>(packet.size()),
-                       order.bytesOf(static_cast<std::uint32_t>(contents.size()))});
-    std::sort(entries.begin(), entries.end(), [](const auto &a, const auto &b) { return a.tag < b.tag; });
-    contents += packet + QByteArray(packet.size() % 2, '\0');
-    order.put(static_cast<std::uint32_t>(contents.size()), contents.data() + 4);
-    writeFile(file, contents + encodeDirectory(entries, order));
-}
-
-/// Adds a packet of XMP in the way of the format.
-void addXmp(const QString &file, const QByteArray &packet)
-{
-    if (file.endsWith("jpg")) {
-        addSegment(file, '\xe1', QByteArray("http://ns.adobe.com/xap/1.0/\0", 29) + packet);
-    } else if (file.endsWith("png")) {
-        addChunk(file, "iTXt", QByteArray("XML:com.adobe.xmp\0\0\0\0\0", 22) + packet);
-    } else {
-        addTiffXmp(file, packet);
-    }
-}
-
 class XmpOfFormats : public MetadataLimitsTest, public testing::WithParamInterface<const char *>
 {
 protected:
