@@ -177,7 +177,7 @@ void MainWindow::saveImage(const QString &path)
         return;
     }
     notice.show(tr("Writing %1").arg(QFileInfo(path).fileName()));
-    if (!m_session.write(*std::move(output), path)) {
+    if (!m_session.write(*std::move(output), path, m_panels.look(*m_form->glWidgetPreview))) {
         showCannotSave(path);
         return;
     }

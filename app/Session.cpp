@@ -6,6 +6,7 @@
 #include "graphics/files/ImageFile.h"
 #include "graphics/files/ImageFormat.h"
 #include "graphics/files/LumioImage.h"
+#include "graphics/look/LookText.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -124,15 +125,15 @@ bool Session::checkName(const QString &path)
     return graphics::formatOfName(path) || failToWrite(path, graphics::unknownExtension());
 }
 
-bool Session::write(Image image, const QString &path)
+bool Session::write(Image image, const QString &path, const graphics::Look &look)
 {
     m_warning = {};
     m_problem = {};
     LumioImage file = fileOf(image);
     image = {};
-    if (m_picture) {
-        file.setMetadata(m_picture->metadata);
-    }
+    graphics::Metadata metadata = m_picture ? m_picture->metadata : graphics::Metadata();
+    metadata.setLook(graphics::lookText(look));
+    file.setMetadata(metadata);
     if (!file.problem().isEmpty() || !file.save(path, saveQuality)) {
         return failToWrite(path, file.problem());
     }

@@ -4,6 +4,7 @@
 #include "graphics/files/FreeMemory.h"
 #include "graphics/files/Metadata.h"
 #include "graphics/image/Image.h"
+#include "graphics/look/Look.h"
 #include "graphics/Message.h"
 
 #include <QString>
@@ -63,10 +64,10 @@ public:
     /// Checks that the extension of a path is that of a format; otherwise problem() contains the reason.
     bool checkName(const QString &path);
 
-    /// Writes an image with the metadata of the open image, in the format given by the extension of `path`. Returns
-    /// false on failure; problem() then contains the reason, and an existing file is unchanged, unless the new one
-    /// could not be read back.
-    bool write(graphics::Image image, const QString &path);
+    /// Writes an image with the metadata of the open image and the look that it was rendered with, in the format given
+    /// by the extension of `path`. Returns false on failure; problem() then contains the reason, and an existing file
+    /// is unchanged, unless the new one could not be read back.
+    bool write(graphics::Image image, const QString &path, const graphics::Look &look);
 
     /// Why the last read or write failed, or the last name has no extension of a format; empty otherwise. For a read
     /// that failed for lack of memory, see shortage().

@@ -15,6 +15,7 @@ struct CurveFilterParameters {
     static QVector<float> identity();
     /// The curve with which the panel starts: a straight line from black to white with a point in the middle.
     static Curve defaultCurve() { return {{{0.0F, 0.5F, 1.0F}, {1.0F, 0.5F, 0.0F}}, CurveKind::Smooth}; }
+    bool operator==(const CurveFilterParameters &) const = default;
     static const FilterDeclaration<CurveFilterParameters> &declaration();
 };
 

@@ -24,6 +24,8 @@ public:
         return std::get<ParametersOf<Filter>>(m_parameters);
     }
 
+    bool operator==(const FilterParameters &) const = default;
+
 private:
     template <typename... Filters>
     static std::tuple<ParametersOf<Filters>...> parametersOf(const std::tuple<Filters...> *);

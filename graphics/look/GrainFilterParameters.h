@@ -15,6 +15,7 @@ struct GrainFilterParameters {
 
     /// The strength with which the panel starts: half in the middle tones, none in black and white.
     static Curve defaultStrength() { return {{{0.0F, 0.5F, 1.0F}, {1.0F, 0.5F, 1.0F}}, CurveKind::Straight}; }
+    bool operator==(const GrainFilterParameters &) const = default;
     static const FilterDeclaration<GrainFilterParameters> &declaration();
 };
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Session.h"
+#include "graphics/files/LookInFile.h"
+#include "graphics/look/LookText.h"
 #include "tests/graphics/files/PictureFiles.h"
 #include "tests/support/InaccessibleFolder.h"
 #include "tests/support/LogCapture.h"
@@ -10,10 +12,11 @@
 #include <gtest/gtest.h>
 
 using namespace grisal::test;
-using grisal::graphics::MemorySources;
 using grisal::Session;
 using grisal::graphics::Image16;
 using grisal::graphics::Image8;
+using grisal::graphics::Look;
+using grisal::graphics::MemorySources;
 
 namespace
 {
@@ -98,24 +101,35 @@ TEST_F(SessionTest, WritesTheSamplesUnchanged)
 {
     Image8 image8(2, 1);
     image8.samples = {0, 1, 127, 128, 254, 255};
-    ASSERT_TRUE(session.write(image8, path("a.png")));
+    ASSERT_TRUE(session.write(image8, path("a.png"), Look()));
     EXPECT_EQ(bitsPerChannel(path("a.png")), 8);
     EXPECT_EQ(samplesOf(path("a.png")), (Samples16{0, 257, 127 * 257, 128 * 257, 254 * 257, 65535}));
 
     Image16 image16(2, 1);
     image16.samples = {0, 1, 255, 256, 65534, 65535};
-    ASSERT_TRUE(session.write(image16, path("a.tif")));
+    ASSERT_TRUE(session.write(image16, path("a.tif"), Look()));
     EXPECT_EQ(bitsPerChannel(path("a.tif")), 16);
     EXPECT_EQ(samplesOf(path("a.tif")), image16.samples);
 }
 
+TEST_F(SessionTest, WritesTheLookInsteadOfThatOfTheSource)
+{
+    Look look;
+    for (const char *name : {"a.png", "a.jpg", "a.tif"}) {
+        look.grainRadius += 0.1F;
+        ASSERT_TRUE(session.write(Image8(2, 1), path(name), look));
+        EXPECT_EQ(grisal::graphics::readLook(path(name)).text, grisal::graphics::lookText(look)) << name;
+        open(path(name));
+    }
+}
+
 TEST_F(SessionTest, LogsWhyAFileCannotBeWritten)
 {
-    EXPECT_FALSE(session.write(Image8(2, 1), path("nowhere/a.png")));
+    EXPECT_FALSE(session.write(Image8(2, 1), path("nowhere/a.png"), Look()));
     ASSERT_EQ(log.warnings().size(), 1);
     EXPECT_TRUE(log.warnings().first().startsWith("Cannot save " + path("nowhere/a.png")));
     EXPECT_FALSE(session.problem().isEmpty());
-    EXPECT_TRUE(session.write(Image8(2, 1), path("a.png")));
+    EXPECT_TRUE(session.write(Image8(2, 1), path("a.png"), Look()));
     EXPECT_TRUE(session.problem().isEmpty());
 }
 
@@ -126,7 +140,7 @@ TEST_F(SessionTest, WritesNothingIfMemoryIsInsufficient)
     const QByteArray before = contentsOf(path("a.png"));
     Image8 image;
     image.width = image.height = 1'000'000;
-    EXPECT_FALSE(session.write(image, path("a.png")));
+    EXPECT_FALSE(session.write(image, path("a.png"), Look()));
     EXPECT_EQ(contentsOf(path("a.png")), before);
     ASSERT_EQ(log.warnings().size(), 1);
     EXPECT_FALSE(log.warnings().first().contains("image is not valid")) << log.warnings().first().toStdString();
