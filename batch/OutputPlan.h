@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "batch/Options.h"
+#include "batch/SourceList.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace grisal::batch
+{
+
+/// A picture to convert and the file to write.
+struct Job {
+    QString source;
+    QString output;
+};
+
+struct OutputPlan {
+    std::vector<Job> jobs; ///< those of the shard, in the order of the sources; empty if there are problems
+    QStringList problems;  ///< sentences; after the first 20, one with the number of the others
+};
+
+/// Plans the outputs of sources; OutputNames describes how they are named. Problems are:
+///
+/// - An output that would overwrite a source: its path is that of a source, or it exists and is the same file as a
+///   source, for example through a link.
+/// - Two sources that would have the same output. Links and file systems that ignore upper and lower case are not
+///   considered.
+/// - An --output-dir that exists and is not a folder.
+///
+/// All sources are checked, also those of other shards, so that every shard finds the same problems. Otherwise,
+/// existing outputs are not considered, and folders are not made.
+OutputPlan planOutputs(const std::vector<Source> &sources, const Options &options);
+
+} // namespace grisal::batch

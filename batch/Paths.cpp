@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "batch/Paths.h"
+
+#include "graphics/ControlCharacters.h"
+
+#include <QDir>
+
+namespace grisal::batch
+{
+
+// QDir::cleanPath() keeps ".." at the root, which is the root itself.
+QString cleaned(const QString &path)
+{
+    QString result = QDir::cleanPath(path);
+    while (result.startsWith(QStringLiteral("/../"))) {
+        result.remove(0, 3);
+    }
+    return result == QStringLiteral("/..") ? QStringLiteral("/") : result;
+}
+
+QString absolutePath(const QString &path, const QString &current)
+{
+    return cleaned(path.startsWith(u'/') ? path : joined(current, path));
+}
+
+QString folderOf(const QString &path)
+{
+    return path.left(path.lastIndexOf(u'/') + 1);
+}
+
+QString nameOf(const QString &path)
+{
+    return path.mid(path.lastIndexOf(u'/') + 1);
+}
+
+QString joined(const QString &folder, const QString &name)
+{
+    return folder.isEmpty() || folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+}
+
+QString quoted(const QString &path)
+{
+    return u'\'' + graphics::escapeControlCharacters(path) + u'\'';
+}
+
+} // namespace grisal::batch
