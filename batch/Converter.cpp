@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "batch/Converter.h"
+
+#include "batch/Paths.h"
+#include "graphics/files/ImageConversion.h"
+#include "graphics/files/ImageFile.h"
+#include "graphics/files/ImageLibrary.h"
+#include "graphics/files/ImageMemory.h"
+#include "graphics/files/LookInFile.h"
+#include "graphics/look/LookText.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+
+#include <malloc.h>
+
+#include <algorithm>
+#include <exception>
+#include <new>
+
+namespace grisal::batch
+{
+
+namespace
+{
+
+using graphics::Image;
+using graphics::ImageFile;
+using graphics::LumioImage;
+
+constexpr double millisecondsPerSecond = 1000;
+
+Outcome failed(const QString &message)
+{
+    return {Result::Failed, message};
+}
+
+Outcome skipped(const QString &message)
+{
+    return {Result::Skipped, message};
+}
+
+Outcome done(const Image &image)
+{
+    return {Result::Done, {}, widthOf(image), heightOf(image), is16Bit(image) ? 16 : 8};
+}
+
+QFileInfo infoOf(const QString &path)
+{
+    return QFileInfo(absolutePath(path, QDir::currentPath()));
+}
+
+QStringList englishOf(const graphics::Message &message)
+{
+    return message.isEmpty() ? QStringList() : QStringList(message.english());
+}
+
+} // namespace
+
+Converter::Converter(const graphics::Look &look, const Options &options)
+    : m_look(look), m_lookText(graphics::lookText(look)), m_renderer(look.parameters(), look.enabled),
+      m_quality(options.quality), m_ifExists(options.ifExists)
+{
+}
+
+Outcome Converter::convert(const Job &job) const
+{
+    QElapsedTimer timer;
+    timer.start();
+    Outcome outcome;
+    try {
+        outcome = infoOf(job.output).exists() ? convertExisting(job) : convertPicture(job);
+    } catch (const std::bad_alloc &) {
+        outcome = failed(QStringLiteral("not enough memory"));
+    } catch (const std::exception &problem) {
+        outcome = failed(QString::fromLocal8Bit(problem.what()));
+    }
+    // Returns the memory of the picture to the system: the allocator would keep it for a larger or smaller one.
+    malloc_trim(0);
+    outcome.seconds = static_cast<double>(timer.elapsed()) / millisecondsPerSecond;
+    return outcome;
+}
+
+Outcome Converter::convertExisting(const Job &job) const
+{
+    switch (m_ifExists) {
+    case IfExists::Error:
+        return failed(QStringLiteral("%1 exists; --if-exists says whether to skip or replace it").arg(job.output));
+    case IfExists::Skip:
+        return skipped(QStringLiteral("%1 exists").arg(job.output));
+    case IfExists::Update:
+        return isUpToDate(job) ? skipped(QStringLiteral("%1 is up to date").arg(job.output)) : convertPicture(job);
+    case IfExists::Overwrite:
+        break;
+    }
+    return convertPicture(job);
+}
+
+bool Converter::isUpToDate(const Job &job) const
+{
+    if (infoOf(job.output).lastModified() < infoOf(job.source).lastModified()) {
+        return false;
+    }
+    QString problem;
+    return graphics::parseLook(graphics::readLook(job.output).text, problem) == m_look;
+}
+
+Outcome Converter::convertPicture(const Job &job) const
+{
+    graphics::initializeImageLibrary(nullptr);
+    graphics::useOneThread();
+    LumioImage file;
+    if (!file.read(job.source)) {
+        return failed(file.problem().english());
+    }
+    QStringList warnings = englishOf(file.warning());
+    graphics::Metadata metadata = file.metadata();
+    metadata.setLook(m_lookText);
+    Image image = graphics::imageOf(file);
+    file = {};
+    m_renderer.render(image);
+
+    Outcome outcome = done(image);
+    file = graphics::fileOf(image);
+    image = {};
+    file.setMetadata(metadata);
+    if (!file.problem().isEmpty()) {
+        return failed(file.problem().english());
+    }
+    const QString folder = infoOf(job.output).path();
+    if (!QDir().mkpath(folder)) {
+        return failed(QStringLiteral("the folder %1 cannot be made").arg(folder));
+    }
+    if (!file.save(job.output, m_quality)) {
+        return failed(QStringLiteral("%1 cannot be saved: %2").arg(job.output, file.problem().english()));
+    }
+    outcome.message = (warnings + englishOf(file.warning())).join(QStringLiteral("; "));
+    return outcome;
+}
+
+std::uint64_t memoryToConvert(const QString &source)
+{
+    const ImageFile file(source);
+    if (!file.problem().isEmpty()) {
+        return 0;
+    }
+    const std::uint64_t bytesPerSample = file.header().bitsPerSample > 8 ? 2 : 1;
+    const std::uint64_t samples = file.header().pixels() * graphics::rgbComponents * bytesPerSample;
+    return std::max(file.memoryToRead(), samples + graphics::memoryToWrite(file.header()));
+}
+
+} // namespace grisal::batch

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "batch/Program.h"
+
+#include "batch/Progress.h"
+#include "batch/RequestedLook.h"
+#include "batch/SourceList.h"
+#include "graphics/look/LookText.h"
+
+#include <cstdio>
+
+namespace grisal::batch
+{
+
+namespace
+{
+
+void print(const QString &text)
+{
+    std::fputs(text.toLocal8Bit().constData(), stdout);
+}
+
+ExitStatus showLook(const QString &path)
+{
+    QString problem;
+    const std::optional<graphics::Look> look = lookOfFile(path, problem);
+    if (!look) {
+        printProblem(problem);
+        return WrongUsage;
+    }
+    std::fputs(graphics::lookText(*look, graphics::LookFormat::Indented).constData(), stdout);
+    return AllDone;
+}
+
+void showPlan(const std::vector<Job> &jobs)
+{
+    for (const Job &job : jobs) {
+        print(QStringLiteral("%1 -> %2\n").arg(job.source, job.output));
+    }
+}
+
+ExitStatus convert(const Options &options, QIODevice &standardInput)
+{
+    QString problem;
+    const std::optional<graphics::Look> look = requestedLook(options, problem);
+    if (!look) {
+        printProblem(problem);
+        return WrongUsage;
+    }
+    const SourceList list = listSources(options, standardInput);
+    if (!list.error.isEmpty()) {
+        printProblem(list.error);
+        return WrongUsage;
+    }
+    for (const QString &warning : list.warnings) {
+        printProblem(warning);
+    }
+    const OutputPlan plan = planOutputs(list.sources, options);
+    for (const QString &found : plan.problems) {
+        printProblem(found);
+    }
+    if (!plan.problems.isEmpty()) {
+        return WrongUsage;
+    }
+    if (options.dryRun) {
+        showPlan(plan.jobs);
+        return AllDone;
+    }
+    const ExitStatus status = convertAll(plan.jobs, *look, options);
+    return status == AllDone && !list.warnings.isEmpty() ? SomeFailed : status;
+}
+
+} // namespace
+
+ExitStatus run(const QStringList &arguments, QIODevice &standardInput)
+{
+    const auto parsed = parseOptions(arguments);
+    if (const auto *exit = std::get_if<EarlyExit>(&parsed)) {
+        std::fputs(exit->text.toLocal8Bit().constData(), exit->status == AllDone ? stdout : stderr);
+        return static_cast<ExitStatus>(exit->status);
+    }
+    const auto &options = std::get<Options>(parsed);
+    if (options.listFilms) {
+        print(filmNames());
+        return AllDone;
+    }
+    return options.showLook.isEmpty() ? convert(options, standardInput) : showLook(options.showLook);
+}
+
+} // namespace grisal::batch

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "batch/MemoryBudget.h"
+
+#include <gtest/gtest.h>
+
+namespace grisal::batch
+{
+
+TEST(MemoryBudgetTest, AllowsPicturesUpToTheLimitTogether)
+{
+    MemoryBudget budget(100);
+
+    budget.take(0, 60);
+    EXPECT_TRUE(budget.allows(40));
+    EXPECT_FALSE(budget.allows(41));
+}
+
+TEST(MemoryBudgetTest, AllowsOneLargePictureAlone)
+{
+    MemoryBudget budget(100);
+
+    EXPECT_TRUE(budget.allows(1000));
+    budget.take(0, 1000);
+    EXPECT_FALSE(budget.allows(0));
+}
+
+TEST(MemoryBudgetTest, ReleasedMemoryIsAvailableAgain)
+{
+    MemoryBudget budget(100);
+    budget.take(3, 60);
+    budget.take(5, 40);
+
+    budget.release(3);
+    EXPECT_TRUE(budget.allows(60));
+    EXPECT_FALSE(budget.allows(61));
+    budget.release(7);
+    EXPECT_FALSE(budget.allows(61));
+    budget.release(5);
+    EXPECT_TRUE(budget.allows(1000));
+}
+
+TEST(MemoryBudgetTest, DefaultAllowsSmallPicturesSideBySide)
+{
+    MemoryBudget budget(std::nullopt);
+
+    budget.take(0, 1'000'000);
+    EXPECT_TRUE(budget.allows(1'000'000));
+    EXPECT_FALSE(budget.allows(std::uint64_t{1} << 50U));
+}
+
+} // namespace grisal::batch
