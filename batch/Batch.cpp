@@ -3,6 +3,7 @@
 
 #include "batch/Converter.h"
 #include "batch/Interruption.h"
+#include "batch/KeptMemory.h"
 #include "batch/MemoryBudget.h"
 #include "batch/Progress.h"
 #include "batch/Report.h"
@@ -47,6 +48,7 @@ public:
     Run(const std::vector<Job> &jobs, const graphics::Look &look, const Options &options)
         : m_jobs(jobs), m_converter(look, options),
           m_pool(options.jobs, [this](std::uint64_t index) { return convert(index); }), m_budget(options.memory),
+          m_memoryToKeep(m_budget.limit() / 2 / static_cast<std::uint64_t>(options.jobs)),
           m_progress(jobs.size(), verbosityOf(options)), m_report(options.report)
     {
     }
@@ -70,9 +72,14 @@ public:
     }
 
 private:
+    /// Runs in the processes of the pool.
     QByteArray convert(std::uint64_t index) const
     {
-        return QJsonDocument(toJson(m_converter.convert(m_jobs[index]))).toJson(QJsonDocument::Compact);
+        keepFreedMemory();
+        const QByteArray result =
+            QJsonDocument(toJson(m_converter.convert(m_jobs[index]))).toJson(QJsonDocument::Compact);
+        returnFreedMemoryAbove(m_memoryToKeep);
+        return result;
     }
 
     void startJobs()
@@ -133,6 +140,7 @@ private:
     const Interruption m_interruption;
     WorkerPool m_pool;
     MemoryBudget m_budget;
+    const std::uint64_t m_memoryToKeep; ///< of each process between two pictures
     Progress m_progress;
     Report m_report;
     std::size_t m_next = 0;

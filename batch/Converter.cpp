@@ -2,19 +2,17 @@
 #include "batch/Converter.h"
 
 #include "batch/Paths.h"
-#include "graphics/files/ImageConversion.h"
 #include "graphics/files/ImageFile.h"
 #include "graphics/files/ImageLibrary.h"
 #include "graphics/files/ImageMemory.h"
 #include "graphics/files/LookInFile.h"
+#include "graphics/files/LumioImage.h"
 #include "graphics/look/LookText.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
-
-#include <malloc.h>
 
 #include <algorithm>
 #include <exception>
@@ -40,11 +38,6 @@ Outcome failed(const QString &message)
 Outcome skipped(const QString &message)
 {
     return {Result::Skipped, message};
-}
-
-Outcome done(const Image &image)
-{
-    return {Result::Done, {}, widthOf(image), heightOf(image), is16Bit(image) ? 16 : 8};
 }
 
 QFileInfo infoOf(const QString &path)
@@ -77,8 +70,6 @@ Outcome Converter::convert(const Job &job) const
     } catch (const std::exception &problem) {
         outcome = failed(QString::fromLocal8Bit(problem.what()));
     }
-    // Returns the memory of the picture to the system: the allocator would keep it for a larger or smaller one.
-    malloc_trim(0);
     outcome.seconds = static_cast<double>(timer.elapsed()) / millisecondsPerSecond;
     return outcome;
 }
@@ -115,18 +106,13 @@ Outcome Converter::convertPicture(const Job &job) const
     if (!file.read(job.source)) {
         return failed(file.problem().english());
     }
+    Outcome outcome{Result::Done, {}, file.width(), file.height(), file.is16Bit() ? 16 : 8};
     QStringList warnings = englishOf(file.warning());
     graphics::Metadata metadata = file.metadata();
     metadata.setLook(m_lookText);
-    Image image = graphics::imageOf(file);
-    file = {};
-    m_renderer.render(image);
-
-    Outcome outcome = done(image);
-    file = graphics::fileOf(image);
-    image = {};
     file.setMetadata(metadata);
-    if (!file.problem().isEmpty()) {
+    const int height = file.height();
+    if (!file.transformRows([&](Image &rows, int first) { m_renderer.renderRows(rows, first, height); })) {
         return failed(file.problem().english());
     }
     const QString folder = infoOf(job.output).path();
@@ -146,9 +132,7 @@ std::uint64_t memoryToConvert(const QString &source)
     if (!file.problem().isEmpty()) {
         return 0;
     }
-    const std::uint64_t bytesPerSample = file.header().bitsPerSample > 8 ? 2 : 1;
-    const std::uint64_t samples = file.header().pixels() * graphics::rgbComponents * bytesPerSample;
-    return std::max(file.memoryToRead(), samples + graphics::memoryToWrite(file.header()));
+    return std::max(file.memoryToRead(), graphics::memoryToWrite(file.header()));
 }
 
 } // namespace grisal::batch

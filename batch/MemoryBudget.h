@@ -15,6 +15,8 @@ public:
     /// `limit` is in bytes. The default is half of the machine's memory, but no more than is free now.
     explicit MemoryBudget(std::optional<std::uint64_t> limit);
 
+    std::uint64_t limit() const { return m_limit; }
+
     /// Whether a picture that takes so many bytes may be started. One picture is always allowed, so that a large one is
     /// converted alone instead of never.
     bool allows(std::uint64_t bytes) const;

@@ -64,16 +64,16 @@ CpuRenderer::CpuRenderer(const FilterParameters &parameters, const EnabledFilter
 }
 
 template <typename Sample>
-void CpuRenderer::renderRows(Raster<Sample> &image, const cpu::ToneTables<Sample> &tables) const
+void CpuRenderer::renderPasses(Raster<Sample> &rows, RowRange range, const cpu::ToneTables<Sample> &tables) const
 {
-    const TileSide horizontal = planTileSide(static_cast<std::uint32_t>(image.width));
-    const TileSide vertical = planTileSide(static_cast<std::uint32_t>(image.height));
-    const std::vector<int> columns = noiseColumns(image.width, horizontal);
-    const auto components = static_cast<std::size_t>(image.components);
-    const auto width = static_cast<std::size_t>(image.width);
+    const TileSide horizontal = planTileSide(static_cast<std::uint32_t>(rows.width));
+    const TileSide vertical = planTileSide(static_cast<std::uint32_t>(range.imageHeight));
+    const std::vector<int> columns = noiseColumns(rows.width, horizontal);
+    const auto components = static_cast<std::size_t>(rows.components);
+    const auto width = static_cast<std::size_t>(rows.width);
     PixelRun run;
-    Sample *pixels = image.samples.data();
-    for (int y = 0; y < image.height; ++y) {
+    Sample *pixels = rows.samples.data();
+    for (int y = range.first; y < range.first + rows.height; ++y) {
         const int noiseRow = GrainNoise::texelFor(y % static_cast<int>(vertical.tile));
         for (std::size_t x = 0; x < width; x += run.count) {
             run.count = std::min(PixelRun::capacity, width - x);
@@ -97,22 +97,26 @@ void CpuRenderer::renderRows(Raster<Sample> &image, const cpu::ToneTables<Sample
     }
 }
 
-GRISAL_WITH_AVX2_CLONE void CpuRenderer::renderRaster(Image8 &image) const
+GRISAL_WITH_AVX2_CLONE void CpuRenderer::renderRaster(Image8 &rows, RowRange range) const
 {
-    renderRows(image, m_tables8);
+    renderPasses(rows, range, m_tables8);
 }
 
-GRISAL_WITH_AVX2_CLONE void CpuRenderer::renderRaster(Image16 &image) const
+GRISAL_WITH_AVX2_CLONE void CpuRenderer::renderRaster(Image16 &rows, RowRange range) const
 {
-    renderRows(image, m_tables16);
+    renderPasses(rows, range, m_tables16);
 }
 
 void CpuRenderer::render(Image &image) const
 {
-    if (!m_anyEnabled) {
-        return;
+    renderRows(image, 0, heightOf(image));
+}
+
+void CpuRenderer::renderRows(Image &rows, int firstRow, int imageHeight) const
+{
+    if (m_anyEnabled) {
+        std::visit([&](auto &raster) { renderRaster(raster, {firstRow, imageHeight}); }, rows);
     }
-    std::visit([this](auto &raster) { renderRaster(raster); }, image);
 }
 
 } // namespace grisal::graphics

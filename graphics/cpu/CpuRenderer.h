@@ -27,11 +27,20 @@ public:
     /// even if it is not one of them, and if only one is, it runs alone. If none is enabled, the image is unchanged.
     void render(Image &image) const;
 
+    /// Renders a part of an image of `imageHeight` rows in the same way: `rows` contains the rows from `firstRow` on.
+    void renderRows(Image &rows, int firstRow, int imageHeight) const;
+
 private:
-    void renderRaster(Image8 &image) const;
-    void renderRaster(Image16 &image) const;
+    /// The position of rows in their image.
+    struct RowRange {
+        int first;
+        int imageHeight;
+    };
+
+    void renderRaster(Image8 &rows, RowRange range) const;
+    void renderRaster(Image16 &rows, RowRange range) const;
     template <typename Sample>
-    void renderRows(Raster<Sample> &image, const cpu::ToneTables<Sample> &tables) const;
+    void renderPasses(Raster<Sample> &rows, RowRange range, const cpu::ToneTables<Sample> &tables) const;
 
     bool m_anyEnabled;
     EnabledFilters m_running; ///< the filters that run if any is enabled

@@ -97,6 +97,22 @@ void removeMetadata(Magick::Image &image)
     MagickLib::DestroyImageAttributes(image.image());
 }
 
+/// Gives an image those attributes of a new one that influence how it is written, besides those that are set for every
+/// file.
+void resetAttributes(Magick::Image &image)
+{
+    const Magick::Image fresh(Magick::Geometry(1, 1), Magick::ColorRGB(0, 0, 0));
+    const MagickLib::Image &from = *fresh.constImage();
+    MagickLib::Image &to = *image.image();
+    to.background_color = from.background_color;
+    to.gamma = from.gamma;
+    to.chromaticity = from.chromaticity;
+    to.rendering_intent = from.rendering_intent;
+    to.interlace = from.interlace;
+    to.endian = from.endian;
+    to.page = {to.columns, to.rows, 0, 0};
+}
+
 } // namespace
 
 LumioImage::LumioImage() : m_image(emptyImage()) {}
@@ -149,6 +165,7 @@ bool LumioImage::getPixels(void *buffer, bool alpha, bool sixteenBit)
 
 bool LumioImage::setPixels(const void *buffer, bool alpha, bool sixteenBit)
 {
+    m_highBytesAreSpread = false;
     return attemptWithPixels([&](Magick::PixelPacket *pixels, std::size_t count) {
         if (sixteenBit) {
             copySamples16In(static_cast<const std::uint16_t *>(buffer), count, pixels, alpha);
@@ -158,13 +175,23 @@ bool LumioImage::setPixels(const void *buffer, bool alpha, bool sixteenBit)
     });
 }
 
+bool LumioImage::transformRows(const RowsTransform &transform)
+{
+    const bool good = attemptWithPixels([&](Magick::PixelPacket *pixels, std::size_t /*count*/) {
+        transformPixelRows(pixels, width(), height(), is16Bit(), transform);
+        resetAttributes(m_image);
+    });
+    m_highBytesAreSpread = good;
+    return good;
+}
+
 // Only true colour images are written with the requested depth: GraphicsMagick chooses that of grey and palette images
 // itself. And an image that was read from a JPEG would go into a TIFF with JPEG compression.
 bool LumioImage::prepareForWriting()
 {
     return attemptWithPixels([&](Magick::PixelPacket *pixels, std::size_t count) {
         m_image.compressType(Magick::UndefinedCompression);
-        if (!is16Bit()) {
+        if (!is16Bit() && !m_highBytesAreSpread) {
             spreadHighBytes(pixels, count);
         }
     });
@@ -216,6 +243,7 @@ void LumioImage::readFrom(const ImageFile &file)
     removeMetadata(fresh);
     normaliseOrientation(fresh, metadata.orientation());
     m_image = fresh;
+    m_highBytesAreSpread = false;
     m_metadata = metadata;
 }
 

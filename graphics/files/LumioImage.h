@@ -2,6 +2,7 @@
 #pragma once
 
 #include "graphics/files/Metadata.h"
+#include "graphics/files/PixelRows.h"
 #include "graphics/Message.h"
 
 #include <Magick++.h>
@@ -70,6 +71,12 @@ public:
     /// (8-bit samples) or 65535 (16-bit samples).
     bool setPixels(const void *buffer, bool alpha, bool sixteenBit);
 
+    /// Passes all pixels to `transform`, which changes them in place, without alpha and a few rows at a time, from top
+    /// to bottom. The image then is like a new one, into which the result was copied with setPixels(): what else was
+    /// read from the file has no influence on the files that are written. In contrast to a copy of all pixels, this
+    /// needs almost no memory. If it fails or `transform` throws, the pixels are undefined.
+    bool transformRows(const RowsTransform &transform);
+
     /// A description for the log, several lines.
     std::string info() const;
 
@@ -102,6 +109,7 @@ private:
     void replaceNameInMessages(int descriptor, const QString &path);
 
     Magick::Image m_image;
+    bool m_highBytesAreSpread = false; ///< by transformRows(), so that it need not be done before saving
     Metadata m_metadata;
     Message m_problem;
     Message m_warning;

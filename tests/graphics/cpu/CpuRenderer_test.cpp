@@ -103,6 +103,29 @@ TYPED_TEST(CpuRendererTest, ParametersAtTheEndsOfTheirRangesMatchTheReference)
     this->template expectEqualAtTheEndsOfRanges<VignetteFilter>();
 }
 
+TYPED_TEST(CpuRendererTest, BlocksOfRowsGiveTheSameAsTheWholeImage)
+{
+    constexpr int rowsPerBlock = 50;
+    const auto look = everyFilterAloneAndAllTogether().back().look;
+    const graphics::CpuRenderer renderer(look.parameters, enabledIn(look));
+    for (const auto &[width, height] : {std::pair{67, 41}, {39, 2053}, {2055, 120}}) {
+        graphics::Image whole = imageOf(randomPicture<TypeParam>(width, height));
+        using Raster = graphics::Raster<TypeParam>;
+        Raster joined(width, 0);
+        for (int first = 0; first < height; first += rowsPerBlock) {
+            Raster block(width, std::min(rowsPerBlock, height - first));
+            const auto start = std::get<Raster>(whole).samples.begin() + std::ptrdiff_t{first} * width * 3;
+            std::copy_n(start, block.samples.size(), block.samples.begin());
+            graphics::Image rows = block;
+            renderer.renderRows(rows, first, height);
+            const auto &rendered = std::get<Raster>(rows).samples;
+            joined.samples.insert(joined.samples.end(), rendered.begin(), rendered.end());
+        }
+        renderer.render(whole);
+        EXPECT_EQ(joined.samples, std::get<Raster>(whole).samples) << width << " x " << height;
+    }
+}
+
 // With half floats, greys below 0 and above 1 stay until the last pass.
 TYPED_TEST(CpuRendererTest, WeightsBeyondOneAndBelowZeroMatchTheReference)
 {
