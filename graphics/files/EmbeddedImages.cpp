@@ -3,12 +3,12 @@
 
 #include "graphics/files/ExivData.h"
 #include "graphics/files/JpegSegments.h"
+#include "graphics/files/XmpNamespaces.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
 
 #include <algorithm>
-#include <array>
 #include <set>
 #include <string>
 
@@ -20,17 +20,6 @@ namespace
 
 constexpr QByteArrayView jpegStart{"\xff\xd8\xff"};
 constexpr QByteArrayView pngStart{"\x89PNG"};
-
-struct Namespace {
-    const char *uri;
-    const char *prefix;
-};
-
-// Photographs and depth maps of mobile phones.
-constexpr std::array<Namespace, 2> imageNamespaces{{
-    {"http://ns.google.com/photos/1.0/image/", "GImage"},
-    {"http://ns.google.com/photos/1.0/depthmap/", "GDepth"},
-}};
 
 bool contains(const std::string &text, const char *part)
 {
@@ -57,7 +46,7 @@ bool describesOtherImages(const Exiv2::Iptcdatum &datum)
 bool describesOtherImages(const std::string &key, const std::string &property)
 {
     return property == "Xmp.xmp.Thumbnails" || property == "Xmp.xmp.PageInfo" || contains(key, "xmpGImg:") ||
-           std::any_of(imageNamespaces.begin(), imageNamespaces.end(), [&](const Namespace &space) {
+           std::any_of(imageNamespaces.begin(), imageNamespaces.end(), [&](const XmpNamespace &space) {
                return key.starts_with(std::string("Xmp.") + space.prefix + '.') ||
                       contains(key, (std::string(space.prefix) + ':').c_str());
            });
@@ -143,13 +132,6 @@ bool containsEncodedImage(const Exiv2::Xmpdatum &datum)
 }
 
 } // namespace
-
-void registerImageNamespaces()
-{
-    for (const Namespace &space : imageNamespaces) {
-        Exiv2::XmpProperties::registerNs(space.uri, space.prefix);
-    }
-}
 
 void removeEmbeddedImages(Exiv2::ExifData &exif)
 {

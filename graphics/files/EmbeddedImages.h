@@ -6,10 +6,6 @@
 namespace grisal::graphics
 {
 
-/// Registers the name spaces of XMP that removeEmbeddedImages() knows under fixed prefixes. To be called once, before
-/// XMP is decoded.
-void registerImageNamespaces();
-
 /// Remove the images and depth maps in metadata, which would show the colours of the original: those that are known by
 /// name, such as thumbnails and previews, and those that are recognised by their contents.
 ///

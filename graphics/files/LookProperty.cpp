@@ -2,6 +2,7 @@
 #include "graphics/files/LookProperty.h"
 
 #include "graphics/files/ExivData.h"
+#include "graphics/files/XmpNamespaces.h"
 
 #include <QString>
 #include <QUtf8StringView>
@@ -15,8 +16,6 @@ namespace grisal::graphics
 namespace
 {
 
-constexpr const char *lookNamespace = "https://grisal.example/look/1.0/";
-constexpr const char *lookPrefix = "grisal";
 constexpr const char *lookKey = "Xmp.grisal.Look";
 
 constexpr qsizetype maxLookSize = 1 << 16;
@@ -39,18 +38,13 @@ QByteArray plainText(const Exiv2::Xmpdatum &datum)
 
 } // namespace
 
-void registerLookNamespace()
-{
-    Exiv2::XmpProperties::registerNs(lookNamespace, lookPrefix);
-}
-
 bool removeForeignLooks(Exiv2::XmpData &xmp)
 {
-    if (Exiv2::XmpProperties::ns(lookPrefix) == lookNamespace) {
+    if (Exiv2::XmpProperties::ns(lookNamespace.prefix) == lookNamespace.uri) {
         return true;
     }
-    eraseIf(xmp, [](const Exiv2::Xmpdatum &datum) { return datum.groupName() == lookPrefix; });
-    registerLookNamespace();
+    eraseIf(xmp, [](const Exiv2::Xmpdatum &datum) { return datum.groupName() == lookNamespace.prefix; });
+    Exiv2::XmpProperties::registerNs(lookNamespace.uri, lookNamespace.prefix);
     return false;
 }
 

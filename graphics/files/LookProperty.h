@@ -10,12 +10,8 @@ namespace grisal::graphics
 
 // The text of a look is the property `Look` of XMP in the name space "https://grisal.example/look/1.0/".
 
-/// Registers the name space with Exiv2. To be called before XMP is decoded or encoded: Exiv2 knows one name space for
-/// each prefix, and XMP that is decoded may assign the prefix to another one.
-void registerLookNamespace();
-
 /// Removes properties of another name space with the same prefix from XMP that was just decoded, since Exiv2 does not
-/// distinguish them from a look. Returns whether there were none.
+/// distinguish them from a look, and registers the name space of looks again. Returns whether there were none.
 bool removeForeignLooks(Exiv2::XmpData &xmp);
 
 /// Removes the property from XMP and returns its text. The text is empty if there is no such property, or if it is not

@@ -7,6 +7,7 @@
 #include "graphics/files/MetadataBlocks.h"
 #include "graphics/files/PngChunks.h"
 #include "graphics/files/TiffDirectory.h"
+#include "graphics/files/XmpNamespaces.h"
 
 #include <QByteArray>
 #include <QtEndian>
@@ -23,10 +24,10 @@ namespace grisal::graphics
 struct Metadata::Contents {
     Exiv2::ExifData exif;
     Exiv2::IptcData iptc;
-    Exiv2::XmpData xmp;
+    QByteArray xmp; ///< the packet, since properties can be encoded only with the name spaces of their own packet
     QByteArray profile;
 
-    bool isEmpty() const { return exif.empty() && iptc.empty() && xmp.empty() && profile.isEmpty(); }
+    bool isEmpty() const { return exif.empty() && iptc.empty() && xmp.isEmpty() && profile.isEmpty(); }
 };
 
 namespace
@@ -34,20 +35,6 @@ namespace
 
 // By default Exiv2 writes its warnings to standard error.
 void discardMessage(int /*level*/, const char * /*message*/) {}
-
-/// To be called before metadata is decoded or encoded.
-void initializeExiv2()
-{
-    static const bool initialized = [] {
-        Exiv2::LogMsg::setHandler(discardMessage);
-        registerImageNamespaces();
-        return Exiv2::XmpParser::initialize();
-    }();
-    if (!initialized) {
-        throw std::runtime_error("XMP cannot be initialised");
-    }
-    registerLookNamespace();
-}
 
 Exiv2::Image::AutoPtr imageOn(Exiv2::BasicIo::AutoPtr io, ImageFormat format, bool create = false)
 {
@@ -222,7 +209,7 @@ bool decode(const QByteArray &block, Decoder decoder)
     }
 }
 
-bool decode(const MetadataBlocks &blocks, Exiv2::ExifData &exif, Exiv2::IptcData &iptc, Exiv2::XmpData &xmp)
+bool decode(const MetadataBlocks &blocks, Exiv2::ExifData &exif, Exiv2::IptcData &iptc)
 {
     const bool hasExif = decode(blocks.exif, [&](const Exiv2::byte *bytes, std::uint32_t size) {
         return Exiv2::ExifParser::decode(exif, bytes, size) != Exiv2::invalidByteOrder;
@@ -230,11 +217,28 @@ bool decode(const MetadataBlocks &blocks, Exiv2::ExifData &exif, Exiv2::IptcData
     const bool hasIptc = decode(blocks.iptc, [&](const Exiv2::byte *bytes, std::uint32_t size) {
         return Exiv2::IptcParser::decode(iptc, bytes, size) == 0;
     });
-    const bool hasXmp = decode(blocks.xmp, [&](const Exiv2::byte * /*bytes*/, std::uint32_t /*size*/) {
-        const bool isDecoded = Exiv2::XmpParser::decode(xmp, blocks.xmp.toStdString()) == 0 && !xmp.empty();
-        return removeForeignLooks(xmp) && isDecoded;
+    return hasExif && hasIptc;
+}
+
+struct DecodedXmp {
+    Exiv2::XmpData properties; ///< those to be kept, without the look
+    QByteArray look;
+    bool complete = true; ///< whether all properties could be decoded
+};
+
+/// The properties can be encoded until another packet is decoded.
+DecodedXmp decodeXmp(const QByteArray &packet)
+{
+    resetXmpNamespaces();
+    DecodedXmp xmp;
+    const bool isDecoded = decode(packet, [&](const Exiv2::byte * /*bytes*/, std::uint32_t /*size*/) {
+        return Exiv2::XmpParser::decode(xmp.properties, packet.toStdString()) == 0 && !xmp.properties.empty();
     });
-    return hasExif && hasIptc && hasXmp;
+    xmp.complete = removeForeignLooks(xmp.properties) && isDecoded;
+    xmp.look = extractLook(xmp.properties);
+    eraseIf(xmp.properties, [](const auto &datum) { return describesFile(datum); });
+    removeEmbeddedImages(xmp.properties);
+    return xmp;
 }
 
 } // namespace
@@ -242,20 +246,20 @@ bool decode(const MetadataBlocks &blocks, Exiv2::ExifData &exif, Exiv2::IptcData
 Metadata::Metadata(const OpenFile &file, ImageFormat format)
 {
     try {
-        initializeExiv2();
+        Exiv2::LogMsg::setHandler(discardMessage);
         const MetadataBlocks blocks = extractMetadata(file, format);
         auto contents = std::make_shared<Contents>();
-        const bool isDecoded = decode(blocks, contents->exif, contents->iptc, contents->xmp);
+        const bool isDecoded = decode(blocks, contents->exif, contents->iptc);
+        const DecodedXmp xmp = decodeXmp(blocks.xmp);
+        contents->xmp = xmp.properties.empty() ? QByteArray() : blocks.xmp;
         const QByteArray profile = completeProfile(blocks.profile);
-        m_complete = blocks.complete && isDecoded && profile.isEmpty() == blocks.profile.isEmpty();
+        m_complete = blocks.complete && isDecoded && xmp.complete && profile.isEmpty() == blocks.profile.isEmpty();
         contents->profile = isRgbProfile(profile) ? profile : QByteArray();
         m_orientation = extractOrientation(contents->exif);
-        m_sourceLook = extractLook(contents->xmp);
+        m_sourceLook = xmp.look;
         eraseIf(contents->exif, [](const auto &datum) { return describesFile(datum); });
-        eraseIf(contents->xmp, [](const auto &datum) { return describesFile(datum); });
         removeEmbeddedImages(contents->exif);
         removeEmbeddedImages(contents->iptc);
-        removeEmbeddedImages(contents->xmp);
         if (!contents->isEmpty()) {
             m_contents = std::move(contents);
         }
@@ -266,12 +270,12 @@ Metadata::Metadata(const OpenFile &file, ImageFormat format)
 
 // Exiv2 would write Exif as a text chunk, which few programs read, and the profile into a chunk without a name, which
 // many programs reject.
-QByteArray Metadata::pngOf(const Contents &contents)
+QByteArray Metadata::pngOf(const Contents &contents, const Exiv2::XmpData &xmp)
 {
     const QByteArray empty = emptyImageFile(ImageFormat::Png);
     const Exiv2::Image::AutoPtr image = emptyImage(empty, ImageFormat::Png);
     image->setIptcData(contents.iptc);
-    image->setXmpData(contents.xmp);
+    image->setXmpData(xmp);
     const QByteArray end = pngChunk("IEND", {});
     QByteArray file = writtenBy(*image).chopped(end.size());
     file += contents.exif.empty() ? QByteArray() : pngChunk("eXIf", exifBlock(contents.exif));
@@ -279,16 +283,16 @@ QByteArray Metadata::pngOf(const Contents &contents)
     return file + end;
 }
 
-QByteArray Metadata::fileOf(const Contents &contents, ImageFormat format)
+QByteArray Metadata::fileOf(const Contents &contents, const Exiv2::XmpData &xmp, ImageFormat format)
 {
     if (format == ImageFormat::Png) {
-        return pngOf(contents);
+        return pngOf(contents, xmp);
     }
     const QByteArray empty = emptyImageFile(format);
     const Exiv2::Image::AutoPtr image = emptyImage(empty, format);
     image->setExifData(contents.exif);
     image->setIptcData(contents.iptc);
-    image->setXmpData(contents.xmp);
+    image->setXmpData(xmp);
     if (!contents.profile.isEmpty()) {
         Exiv2::DataBuf profile(exivBytes(contents.profile), static_cast<long>(contents.profile.size()));
         image->setIccProfile(profile, false);
@@ -309,12 +313,13 @@ bool Metadata::writeInto(const OpenFile &file, ImageFormat format, int width, in
     QByteArray metadata;
     bool complete = true;
     try {
-        initializeExiv2();
+        Exiv2::LogMsg::setHandler(discardMessage);
         Contents contents = m_contents ? *m_contents : Contents();
+        Exiv2::XmpData xmp = decodeXmp(contents.xmp).properties;
         setSize(contents.exif, width, height);
-        setSize(contents.xmp, width, height);
-        complete = addLook(contents.xmp, m_look, format) && (format != ImageFormat::Jpeg || fitsSegment(contents.exif));
-        metadata = fileOf(contents, format);
+        setSize(xmp, width, height);
+        complete = addLook(xmp, m_look, format) && (format != ImageFormat::Jpeg || fitsSegment(contents.exif));
+        metadata = fileOf(contents, xmp, format);
     } catch (const std::exception &) {
         return false;
     }

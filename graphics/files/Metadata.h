@@ -8,6 +8,11 @@
 
 #include <memory>
 
+namespace Exiv2
+{
+class XmpData;
+}
+
 namespace grisal::graphics
 {
 
@@ -54,8 +59,8 @@ public:
 private:
     struct Contents;
 
-    static QByteArray pngOf(const Contents &contents);
-    static QByteArray fileOf(const Contents &contents, ImageFormat format);
+    static QByteArray pngOf(const Contents &contents, const Exiv2::XmpData &xmp);
+    static QByteArray fileOf(const Contents &contents, const Exiv2::XmpData &xmp, ImageFormat format);
 
     std::shared_ptr<const Contents> m_contents; ///< null if the source has no metadata
     QByteArray m_sourceLook;
