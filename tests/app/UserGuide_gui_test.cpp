@@ -34,6 +34,17 @@ QString sourceOf(const QString &guide)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
+/// The names of files and the commands in a guide.
+QStringList typewriterTexts(const QString &guide)
+{
+    QStringList texts;
+    const QRegularExpression element(QStringLiteral("<tt>(.+?)</tt>"));
+    for (auto i = element.globalMatch(sourceOf(guide).simplified()); i.hasNext();) {
+        texts << i.next().captured(1);
+    }
+    return texts;
+}
+
 /// The parts of a guide as parsed by Qt.
 struct Parts {
     QStringList places; ///< the targets of links
@@ -180,6 +191,17 @@ TEST_F(UserGuideTest, EveryLanguageContainsTheLumaExample)
     for (const QString &guide : guides()) {
         const QRegularExpression example(QStringLiteral("\\b200\\b.+\\b256\\b.+\\b162, 47 .+ 47\\b"));
         EXPECT_TRUE(example.match(sourceOf(guide).simplified()).hasMatch()) << guide.toStdString();
+    }
+}
+
+// They can be copied from the guide, so that they must not be translated.
+TEST_F(UserGuideTest, AllLanguagesHaveTheSameFilesAndCommands)
+{
+    const QStringList english = typewriterTexts(QStringLiteral("guide.html"));
+    EXPECT_TRUE(english.contains(QStringLiteral(
+        "exiv2 -M\"reg grisal https://grisal.example/look/1.0/\" -M\"del Xmp.grisal.Look\" picture.jpg")));
+    for (const QString &guide : guides()) {
+        EXPECT_EQ(typewriterTexts(guide), english) << guide.toStdString();
     }
 }
 
