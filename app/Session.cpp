@@ -10,7 +10,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
 
 #include <sys/stat.h>
 
@@ -47,11 +46,6 @@ QString proposedNameFor(const graphics::ImageFile &file)
 Session::PicturePointer pictureOf(LumioImage &file, const QString &proposedName)
 {
     return std::make_shared<Picture>(Picture{imageOf(file), file.metadata(), file.info(), proposedName});
-}
-
-QString sizeInEnglish(std::uint64_t bytes)
-{
-    return QLocale::c().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
 }
 
 void logProblems(const LumioImage &file)
@@ -103,7 +97,7 @@ bool Session::fitsIntoMemory(const graphics::ImageFile &file)
     }
     m_shortage = memory;
     qWarning("%s needs %s of memory to be opened and saved, %s are free", qPrintable(file.path()),
-             qPrintable(sizeInEnglish(memory.needed)), qPrintable(sizeInEnglish(memory.free)));
+             qPrintable(graphics::memoryText(memory.needed)), qPrintable(graphics::memoryText(memory.free)));
     return false;
 }
 

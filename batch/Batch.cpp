@@ -11,7 +11,6 @@
 #include "graphics/files/FreeMemory.h"
 
 #include <QJsonDocument>
-#include <QLocale>
 
 namespace grisal::batch
 {
@@ -27,18 +26,13 @@ Verbosity verbosityOf(const Options &options)
     return options.verbose ? Verbosity::Verbose : Verbosity::Normal;
 }
 
-QString sizeText(std::uint64_t bytes)
-{
-    return QLocale::c().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
-}
-
 /// Why a picture cannot even be converted alone; empty if it can.
 QString shortageFor(std::uint64_t bytes)
 {
     const std::uint64_t free = graphics::freeMemory();
     return bytes <= free ? QString()
                          : QStringLiteral("it needs up to %1 of memory, but only %2 are free")
-                               .arg(sizeText(bytes), sizeText(free));
+                               .arg(graphics::memoryText(bytes), graphics::memoryText(free));
 }
 
 /// One call of convertAll().
@@ -65,6 +59,7 @@ public:
                 break;
             }
             finishJobs();
+            reportInterruption();
         }
         m_pool.kill();
         m_progress.finish();
@@ -117,6 +112,15 @@ private:
         m_progress.refresh();
     }
 
+    void reportInterruption()
+    {
+        if (Interruption::count() == 1 && !m_interruptionIsReported && m_pool.running() > 0) {
+            m_progress.printNotice(
+                QStringLiteral("finishing the pictures in work; interrupt once more to end at once"));
+            m_interruptionIsReported = true;
+        }
+    }
+
     void finish(std::uint64_t index, const Outcome &outcome)
     {
         m_progress.add(m_jobs[index], outcome);
@@ -144,6 +148,7 @@ private:
     Progress m_progress;
     Report m_report;
     std::size_t m_next = 0;
+    bool m_interruptionIsReported = false;
 };
 
 } // namespace

@@ -12,11 +12,14 @@
 #include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <exception>
+#include <filesystem>
 #include <new>
+#include <system_error>
 
 namespace grisal::batch
 {
@@ -43,6 +46,22 @@ Outcome skipped(const QString &message)
 QFileInfo infoOf(const QString &path)
 {
     return QFileInfo(absolutePath(path, QDir::currentPath()));
+}
+
+/// Why a file cannot be read; empty if it can, or for another reason.
+QString accessProblem(const QString &path)
+{
+    const QFileInfo file = infoOf(path);
+    if (!file.exists()) {
+        return QStringLiteral("there is no such file");
+    }
+    if (file.isDir()) {
+        return QStringLiteral("it is a folder");
+    }
+    if (!file.isFile()) {
+        return QStringLiteral("it is not a regular file");
+    }
+    return file.isReadable() ? QString() : QStringLiteral("it may not be read");
 }
 
 QStringList englishOf(const graphics::Message &message)
@@ -78,7 +97,7 @@ Outcome Converter::convertExisting(const Job &job) const
 {
     switch (m_ifExists) {
     case IfExists::Error:
-        return failed(QStringLiteral("%1 exists; --if-exists says whether to skip or replace it").arg(job.output));
+        return failed(QStringLiteral("%1 exists; choose with --if-exists to skip or replace it").arg(job.output));
     case IfExists::Skip:
         return skipped(QStringLiteral("%1 exists").arg(job.output));
     case IfExists::Update:
@@ -104,7 +123,8 @@ Outcome Converter::convertPicture(const Job &job) const
     graphics::useOneThread();
     LumioImage file;
     if (!file.read(job.source)) {
-        return failed(file.problem().english());
+        const QString problem = accessProblem(job.source);
+        return failed(problem.isEmpty() ? file.problem().english() : problem);
     }
     Outcome outcome{Result::Done, {}, file.width(), file.height(), file.is16Bit() ? 16 : 8};
     QStringList warnings = englishOf(file.warning());
@@ -116,8 +136,11 @@ Outcome Converter::convertPicture(const Job &job) const
         return failed(file.problem().english());
     }
     const QString folder = infoOf(job.output).path();
-    if (!QDir().mkpath(folder)) {
-        return failed(QStringLiteral("the folder %1 cannot be made").arg(folder));
+    std::error_code error;
+    std::filesystem::create_directories(QFile::encodeName(folder).toStdString(), error);
+    if (error) {
+        return failed(QStringLiteral("the folder %1 cannot be made: %2")
+                          .arg(folder, QString::fromLocal8Bit(error.message().c_str())));
     }
     if (!file.save(job.output, m_quality)) {
         return failed(QStringLiteral("%1 cannot be saved: %2").arg(job.output, file.problem().english()));

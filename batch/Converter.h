@@ -37,7 +37,8 @@ private:
     IfExists m_ifExists;
 };
 
-/// The most memory that convert() takes for a picture, in bytes; 0 if it cannot be opened.
+/// The most memory that convert() takes for a picture, in bytes; 0 if it cannot be opened. Reads its header only, with
+/// our own code.
 std::uint64_t memoryToConvert(const QString &source);
 
 } // namespace grisal::batch

@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "batch/Interruption.h"
 
-#include <array>
-
 namespace grisal::batch
 {
 
 namespace
 {
-
-constexpr std::array interruptions{SIGINT, SIGTERM, SIGHUP};
 
 volatile std::sig_atomic_t arrived = 0;
 
@@ -18,18 +14,11 @@ extern "C" void countSignal(int /*signal*/)
     arrived = arrived + 1;
 }
 
-void setHandlers(void (*handler)(int))
-{
-    for (const int signal : interruptions) {
-        std::signal(signal, handler);
-    }
-}
-
 sigset_t blocked()
 {
     sigset_t mask;
     sigemptyset(&mask);
-    for (const int signal : interruptions) {
+    for (const int signal : Interruption::caughtSignals) {
         sigaddset(&mask, signal);
     }
     return mask;
@@ -37,19 +26,27 @@ sigset_t blocked()
 
 } // namespace
 
+// A signal that is ignored, for example SIGHUP after nohup, stays ignored.
 Interruption::Interruption()
 {
     const sigset_t mask = blocked();
     pthread_sigmask(SIG_BLOCK, &mask, &m_maskBefore);
     arrived = 0;
-    setHandlers(countSignal);
-    std::signal(SIGPIPE, SIG_IGN);
+    for (std::size_t i = 0; i < caughtSignals.size(); ++i) {
+        sigaction(caughtSignals[i], nullptr, &m_actionsBefore[i]);
+        if (m_actionsBefore[i].sa_handler != SIG_IGN) {
+            std::signal(caughtSignals[i], countSignal);
+        }
+    }
+    m_pipeHandlerBefore = std::signal(SIGPIPE, SIG_IGN);
 }
 
 Interruption::~Interruption()
 {
-    setHandlers(SIG_DFL);
-    std::signal(SIGPIPE, SIG_DFL);
+    for (std::size_t i = 0; i < caughtSignals.size(); ++i) {
+        sigaction(caughtSignals[i], &m_actionsBefore[i], nullptr);
+    }
+    std::signal(SIGPIPE, m_pipeHandlerBefore);
     pthread_sigmask(SIG_SETMASK, &m_maskBefore, nullptr);
 }
 
@@ -60,7 +57,9 @@ int Interruption::count()
 
 void Interruption::ignoreInChild()
 {
-    setHandlers(SIG_IGN);
+    for (const int signal : Interruption::caughtSignals) {
+        std::signal(signal, SIG_IGN);
+    }
 }
 
 } // namespace grisal::batch

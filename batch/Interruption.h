@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <csignal>
 
 namespace grisal::batch
 {
 
-/// Catches SIGINT, SIGTERM and SIGHUP while it exists, and ignores SIGPIPE. The signals arrive only during a system
-/// call that is given signalMask(), so that none is missed between a check of count() and the call. There may be only
-/// one object at a time.
+/// Catches SIGINT, SIGTERM and SIGHUP while it exists, unless they are ignored, and ignores SIGPIPE. The signals arrive
+/// only during a system call that is given signalMask(), so that none is missed between a check of count() and the
+/// call. There may be only one object at a time.
 class Interruption
 {
 public:
+    static constexpr std::array caughtSignals{SIGINT, SIGTERM, SIGHUP};
+
     Interruption();
     Interruption(const Interruption &) = delete;
     Interruption &operator=(const Interruption &) = delete;
@@ -29,6 +32,8 @@ public:
 
 private:
     sigset_t m_maskBefore{};
+    std::array<struct sigaction, caughtSignals.size()> m_actionsBefore{};
+    void (*m_pipeHandlerBefore)(int) = nullptr;
 };
 
 } // namespace grisal::batch

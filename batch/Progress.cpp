@@ -97,8 +97,15 @@ QString summaryText(const Counts &counts, double seconds)
     return text + QStringLiteral(", in ") + duration(seconds);
 }
 
-Progress::Progress(std::size_t total, Verbosity verbosity)
-    : m_verbosity(verbosity), m_showsLine(verbosity != Verbosity::Quiet && isatty(STDERR_FILENO) != 0)
+Terminals Terminals::detect()
+{
+    return {isatty(STDOUT_FILENO) != 0, isatty(STDERR_FILENO) != 0};
+}
+
+Progress::Progress(std::size_t total, Verbosity verbosity, Terminals terminals)
+    : m_verbosity(verbosity), m_showsProgress(verbosity != Verbosity::Quiet && terminals.errors),
+      m_printsLines(verbosity == Verbosity::Verbose ||
+                    (verbosity == Verbosity::Normal && !(terminals.output && terminals.errors)))
 {
     m_counts.total = total;
     m_time.start();
@@ -112,18 +119,17 @@ double Progress::seconds() const
 void Progress::add(const Job &job, const Outcome &outcome)
 {
     m_counts.add(outcome.result);
-    const bool printsLine = m_verbosity == Verbosity::Verbose || (m_verbosity == Verbosity::Normal && !m_showsLine);
     if (outcome.result == Result::Failed) {
         print(stderr, QStringLiteral("%1: %2").arg(job.source, outcome.message));
         return;
     }
     if (outcome.result == Result::Skipped) {
-        if (printsLine) {
+        if (m_printsLines) {
             print(stdout, QStringLiteral("%1: skipped: %2").arg(job.source, outcome.message));
         }
         return;
     }
-    if (printsLine) {
+    if (m_printsLines) {
         const QString line = QStringLiteral("%1 -> %2").arg(job.source, job.output);
         print(stdout, m_verbosity == Verbosity::Verbose ? line + details(outcome) : line);
     }
@@ -141,17 +147,22 @@ void Progress::print(std::FILE *stream, const QString &line)
 
 void Progress::clearLine() const
 {
-    if (m_showsLine) {
+    if (m_showsProgress) {
         write(stderr, QString::fromLatin1(clearToEnd));
     }
 }
 
 void Progress::refresh()
 {
-    if (m_showsLine && (!m_sinceRefresh.isValid() || m_sinceRefresh.elapsed() >= refreshInterval)) {
+    if (m_showsProgress && (!m_sinceRefresh.isValid() || m_sinceRefresh.elapsed() >= refreshInterval)) {
         write(stderr, QString::fromLatin1(clearToEnd) + progressText(m_counts, seconds()));
         m_sinceRefresh.start();
     }
+}
+
+void Progress::printNotice(const QString &notice)
+{
+    print(stderr, notice);
 }
 
 void Progress::finish()

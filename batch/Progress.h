@@ -34,23 +34,34 @@ QString progressText(const Counts &counts, double seconds);
 /// The text at the end, for example "300 pictures: 298 done, 1 skipped, 1 failed, in 12 s".
 QString summaryText(const Counts &counts, double seconds);
 
+/// Which of the standard streams are terminals.
+struct Terminals {
+    bool output;
+    bool errors;
+
+    /// Of this process.
+    static Terminals detect();
+};
+
 /// Prints what happens to the pictures: failures and warnings to standard error; on a terminal a line of progress,
-/// which is overwritten, otherwise a line for each picture to standard output.
+/// which is overwritten; a line for each picture to standard output, unless it is a terminal with a line of progress.
 class Progress
 {
 public:
-    Progress(std::size_t total, Verbosity verbosity);
+    Progress(std::size_t total, Verbosity verbosity, Terminals terminals = Terminals::detect());
 
     void add(const Job &job, const Outcome &outcome);
 
     /// Updates the line of progress. To be called a few times a second.
     void refresh();
 
+    /// Prints a sentence to standard error.
+    void printNotice(const QString &notice);
+
     /// Prints the summary.
     void finish();
 
     const Counts &counts() const { return m_counts; }
-    bool showsLine() const { return m_showsLine; }
 
 private:
     void print(std::FILE *stream, const QString &line);
@@ -59,7 +70,8 @@ private:
 
     Counts m_counts;
     Verbosity m_verbosity;
-    bool m_showsLine;
+    bool m_showsProgress; ///< a line of progress
+    bool m_printsLines;   ///< a line for each picture
     QElapsedTimer m_time;
     QElapsedTimer m_sinceRefresh;
 };

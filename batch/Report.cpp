@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "batch/Report.h"
 
+#include "batch/Paths.h"
+
+#include <QDir>
 #include <QJsonDocument>
 
 namespace grisal::batch
 {
 
-Report::Report(const QString &path) : m_file(path)
+Report::Report(const QString &path) : m_file(path.isEmpty() ? path : absolutePath(path, QDir::currentPath()))
 {
     if (!path.isEmpty()) {
         check(m_file.open(QIODevice::WriteOnly | QIODevice::Truncate));

@@ -2,6 +2,7 @@
 #include "graphics/files/FreeMemory.h"
 
 #include <QFile>
+#include <QLocale>
 
 #include <unistd.h>
 
@@ -120,6 +121,11 @@ std::uint64_t freeInControlGroups(const MemorySources &sources)
 std::uint64_t freeMemory(const MemorySources &sources)
 {
     return std::min({freeOnMachine(sources.proc), freeInControlGroups(sources), freeAddresses(sources.proc)});
+}
+
+QString memoryText(std::uint64_t bytes)
+{
+    return QLocale::c().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
 }
 
 std::uint64_t machineMemory()

@@ -25,6 +25,9 @@ struct MemorySources {
 /// too.
 std::uint64_t freeMemory(const MemorySources &sources = {});
 
+/// A number of bytes for messages in English, for example "2.0 GB".
+QString memoryText(std::uint64_t bytes);
+
 /// The memory of the machine in bytes, whether free or not.
 std::uint64_t machineMemory();
 

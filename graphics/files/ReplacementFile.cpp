@@ -17,6 +17,7 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <set>
 
 namespace grisal::graphics
 {
@@ -102,6 +103,15 @@ bool setMode(int file, mode_t mode)
     return tight;
 }
 
+// Once in a process and folder: reading a folder of 40,000 files takes 40 ms, too long for each of them.
+void removeLeftoverFilesOnce(const fs::path &folder, std::time_t now)
+{
+    static std::set<fs::path> searched;
+    if (searched.insert(folder).second) {
+        removeLeftoverFiles(folder, now);
+    }
+}
+
 } // namespace
 
 // QSaveFile would not do: in Qt 6.4 it resolves links lexically, cannot replace files with names of more than 248
@@ -122,7 +132,7 @@ ReplacementFile::ReplacementFile(const QString &path)
     struct stat status {
     };
     if (fstat(m_file.descriptor(), &status) == 0) {
-        removeLeftoverFiles(folder, status.st_mtime);
+        removeLeftoverFilesOnce(folder, status.st_mtime);
     }
 }
 

@@ -17,11 +17,11 @@ namespace grisal::graphics
 ///
 /// It is written without a name in the same folder, or under a temporary name where the file system has no files
 /// without names, and is removed if it is not committed. A process that is killed may leave a temporary name behind
-/// (LeftoverFiles.h), while it replaces another file or on such a file system; the next ReplacementFile in that folder
-/// removes it, on another system after a day. A link is followed as the system follows it and stays a link; another
-/// hard link to the old file keeps the old file. The new file gets the old one's permissions with its access list, its
-/// extended attributes and its owner as far as that is allowed, and never gives more access than the old one. Read-only
-/// files are not replaced.
+/// (LeftoverFiles.h), while it replaces another file or on such a file system; the first ReplacementFile of a process
+/// in that folder removes it, on another system after a day. A link is followed as the system follows it and stays a
+/// link; another hard link to the old file keeps the old file. The new file gets the old one's permissions with its
+/// access list, its extended attributes and its owner as far as that is allowed, and never gives more access than the
+/// old one. Read-only files are not replaced.
 class ReplacementFile
 {
 public:

@@ -73,6 +73,35 @@ TEST(ProgressTest, PrintsFailuresAndWarningsAlways)
     }
 }
 
+TEST(ProgressTest, TerminalGetsALineThatIsOverwritten)
+{
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    Progress progress(2, Verbosity::Normal, {true, true});
+    progress.refresh();
+    progress.add(job, {Result::Failed, QStringLiteral("bad")});
+    progress.refresh();
+    progress.refresh();
+    progress.add(job, done());
+    progress.finish();
+
+    const std::string clear = "\r\x1b[K";
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              clear + "0/2" + clear + "a.jpg: bad\n" + clear + "1/2, 1 failed" + clear);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "2 pictures: 1 done, 1 failed, in 0 s\n");
+}
+
+TEST(ProgressTest, PrintsALineForEachPictureIfOnlyTheErrorsGoToATerminal)
+{
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    Progress progress(1, Verbosity::Normal, {false, true});
+    progress.add(job, done());
+
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "a.jpg -> bw/a.jpg\n");
+    testing::internal::GetCapturedStderr();
+}
+
 TEST(ProgressTest, EscapesControlCharactersOfNames)
 {
     testing::internal::CaptureStderr();

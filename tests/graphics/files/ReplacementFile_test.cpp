@@ -264,19 +264,25 @@ TEST_F(ReplacementFileTest, CommittedFileIsNotEnlargedToTestTheDisk)
     EXPECT_EQ(contentsOf(path("a.png")), "new");
 }
 
-/// Runs a step as an ordinary user in a child process; returns its result.
+/// Runs a step in a child process; returns its result.
 template <typename Step>
-bool asAnybody(Step step)
+bool inChildProcess(Step step)
 {
-    constexpr uid_t nobody = 65534;
     const pid_t process = fork();
     if (process == 0) {
-        const bool changed = geteuid() != 0 || setresuid(nobody, nobody, nobody) == 0;
-        _exit(changed && step() ? EXIT_SUCCESS : EXIT_FAILURE);
+        _exit(step() ? EXIT_SUCCESS : EXIT_FAILURE);
     }
     int status = 0;
     waitpid(process, &status, 0);
     return WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS;
+}
+
+/// The same as an ordinary user.
+template <typename Step>
+bool asAnybody(Step step)
+{
+    constexpr uid_t nobody = 65534;
+    return inChildProcess([&] { return (geteuid() != 0 || setresuid(nobody, nobody, nobody) == 0) && step(); });
 }
 
 TEST_F(ReplacementFileTest, DoesNotReplaceReadOnlyFiles)
@@ -328,11 +334,24 @@ TEST_F(ReplacementFileTest, RemovesTemporaryFilesOfKilledProcesses)
     writeFile(path("a.png"), "old");
     while (replaceAndKill(path("a.png"), "new", kills)) {
         left += static_cast<int>(names().size()) - 1;
-        ASSERT_TRUE(replace(path("a.png"), "old"));
+        // A process searches a folder once only.
+        ASSERT_TRUE(inChildProcess([&] { return replace(path("a.png"), "old"); }));
         ASSERT_EQ(names(), QStringList("a.png")) << "killed after " << kills << " stops";
         ++kills;
     }
     EXPECT_GT(left, 0);
+}
+
+TEST_F(ReplacementFileTest, SearchesAFolderForLeftoversOnlyOnce)
+{
+    ASSERT_TRUE(replace(path("a.png"), "old"));
+    const QString leftover = QStringLiteral(".grisal-0123456789abcdef-1-aBcDeF");
+    writeFile(path(leftover), "pixels");
+    const timespec longAgo[2]{};
+    ASSERT_EQ(utimensat(AT_FDCWD, QFile::encodeName(path(leftover)).constData(), longAgo, 0), 0);
+
+    ASSERT_TRUE(replace(path("a.png"), "new"));
+    EXPECT_EQ(names(), (QStringList{leftover, "a.png"}));
 }
 
 TEST_F(ReplacementFileTest, LeavesNothingIfTheProcessIsKilledWhileItCreatesAFile)
