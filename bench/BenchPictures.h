@@ -9,14 +9,14 @@ namespace grisal::bench
 {
 
 /// An image with gradients, edges and a little noise, so that its files have the size and decoding time of photographs.
-/// It depends on its size only. `depth` is 8 or 16 bits per channel.
-inline Magick::Image paintedPicture(unsigned width, unsigned height, unsigned depth)
+/// Its noise depends on `seed`, the rest on its size only. `depth` is 8 or 16 bits per channel.
+inline Magick::Image paintedPicture(unsigned width, unsigned height, unsigned depth, std::uint32_t seed = 1)
 {
     Magick::Image image(Magick::Geometry(width, height), Magick::Color());
     image.type(Magick::TrueColorType);
     image.depth(depth);
     const std::uint32_t mask = depth == 16 ? 0xffffU : 0xff00U;
-    std::uint32_t noise = 1;
+    std::uint32_t noise = seed;
     for (unsigned y = 0; y < height; ++y) {
         Magick::PixelPacket *pixel = image.setPixels(0, y, width, 1);
         for (unsigned x = 0; x < width; ++x, ++pixel) {

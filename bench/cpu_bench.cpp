@@ -65,7 +65,10 @@ void prepare(benchmark::State &state)
 {
     for ([[maybe_unused]] auto _ : state) {
         const CpuRenderer renderer(visibleParameters(), allFilters());
-        benchmark::DoNotOptimize(&renderer);
+        Image image8 = Image8(1, 1);
+        Image image16 = Image16(1, 1);
+        renderer.render(image8);
+        renderer.render(image16);
     }
 }
 

@@ -54,9 +54,7 @@ std::vector<int> noiseColumns(int width, const TileSide &side)
 } // namespace
 
 CpuRenderer::CpuRenderer(const FilterParameters &parameters, const EnabledFilters &enabled)
-    : m_anyEnabled(enabled.count() > 0), m_running(runningFilters(enabled)),
-      m_weights(parameters.get<MixerFilter>().weights), m_vignette(parameters.get<VignetteFilter>().shape),
-      m_tables8(parameters, m_running), m_tables16(parameters, m_running)
+    : m_anyEnabled(enabled.count() > 0), m_running(runningFilters(enabled)), m_parameters(parameters)
 {
     if (m_running.get<GrainFilter>()) {
         m_noise.emplace(parameters.get<GrainFilter>().radius);
@@ -69,6 +67,8 @@ void CpuRenderer::renderPasses(Raster<Sample> &rows, RowRange range, const cpu::
     const TileSide horizontal = planTileSide(static_cast<std::uint32_t>(rows.width));
     const TileSide vertical = planTileSide(static_cast<std::uint32_t>(range.imageHeight));
     const std::vector<int> columns = noiseColumns(rows.width, horizontal);
+    const ColorRGB<float> weights = m_parameters.get<MixerFilter>().weights;
+    const VignetteParameters vignette = m_parameters.get<VignetteFilter>().shape;
     const auto components = static_cast<std::size_t>(rows.components);
     const auto width = static_cast<std::size_t>(rows.width);
     PixelRun run;
@@ -77,7 +77,7 @@ void CpuRenderer::renderPasses(Raster<Sample> &rows, RowRange range, const cpu::
         const int noiseRow = GrainNoise::texelFor(y % static_cast<int>(vertical.tile));
         for (std::size_t x = 0; x < width; x += run.count) {
             run.count = std::min(PixelRun::capacity, width - x);
-            cpu::mixAndTone(pixels, components, m_weights, tables, run);
+            cpu::mixAndTone(pixels, components, weights, tables, run);
             if (m_noise) {
                 cpu::setNoise(m_noise->row(noiseRow), columns.data() + x, run);
                 cpu::applyGrain(run.red, run);
@@ -85,7 +85,7 @@ void CpuRenderer::renderPasses(Raster<Sample> &rows, RowRange range, const cpu::
                 cpu::applyGrain(run.blue, run);
             }
             if (m_running.get<VignetteFilter>()) {
-                cpu::setMask(m_vignette, static_cast<float>(horizontal.padded), static_cast<float>(vertical.padded),
+                cpu::setMask(vignette, static_cast<float>(horizontal.padded), static_cast<float>(vertical.padded),
                              static_cast<int>(x), y, run);
                 cpu::applyMask<Sample>(run.red, run);
                 cpu::applyMask<Sample>(run.green, run);
@@ -99,12 +99,12 @@ void CpuRenderer::renderPasses(Raster<Sample> &rows, RowRange range, const cpu::
 
 GRISAL_WITH_AVX2_CLONE void CpuRenderer::renderRaster(Image8 &rows, RowRange range) const
 {
-    renderPasses(rows, range, m_tables8);
+    renderPasses(rows, range, m_tables8.get(m_parameters, m_running));
 }
 
 GRISAL_WITH_AVX2_CLONE void CpuRenderer::renderRaster(Image16 &rows, RowRange range) const
 {
-    renderPasses(rows, range, m_tables16);
+    renderPasses(rows, range, m_tables16.get(m_parameters, m_running));
 }
 
 void CpuRenderer::render(Image &image) const

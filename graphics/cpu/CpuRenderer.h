@@ -6,6 +6,7 @@
 #include "graphics/image/Image.h"
 
 #include <cstdint>
+#include <mutex>
 #include <optional>
 
 namespace grisal::graphics
@@ -15,8 +16,8 @@ namespace grisal::graphics
 /// tiles, mask and roundings of renderFinalImage(). 8-bit samples are rounded after each pass; 16-bit samples are
 /// processed as half floats, rounded when they are read and truncated after each pass.
 ///
-/// The constructor computes tables of about 2 megabytes. A render allocates four bytes per column, and several threads
-/// may render different images with the same renderer.
+/// The first render of a depth computes its tables, about 2 megabytes at 16 bits. A render allocates four bytes per
+/// column, and several threads may render different images with the same renderer.
 class CpuRenderer
 {
 public:
@@ -31,6 +32,23 @@ public:
     void renderRows(Image &rows, int firstRow, int imageHeight) const;
 
 private:
+    /// The tables of a depth, computed when they are needed for the first time: for a small image they take longer than
+    /// its render.
+    template <typename Sample>
+    class Tables
+    {
+    public:
+        const cpu::ToneTables<Sample> &get(const FilterParameters &parameters, const EnabledFilters &running) const
+        {
+            std::call_once(m_once, [&] { m_tables.emplace(parameters, running); });
+            return *m_tables;
+        }
+
+    private:
+        mutable std::once_flag m_once;
+        mutable std::optional<cpu::ToneTables<Sample>> m_tables;
+    };
+
     /// The position of rows in their image.
     struct RowRange {
         int first;
@@ -44,10 +62,9 @@ private:
 
     bool m_anyEnabled;
     EnabledFilters m_running; ///< the filters that run if any is enabled
-    ColorRGB<float> m_weights;
-    VignetteParameters m_vignette;
-    cpu::ToneTables<std::uint8_t> m_tables8;
-    cpu::ToneTables<std::uint16_t> m_tables16;
+    FilterParameters m_parameters;
+    Tables<std::uint8_t> m_tables8;
+    Tables<std::uint16_t> m_tables16;
     std::optional<cpu::GrainNoise> m_noise; ///< empty without grain
 };
 

@@ -25,8 +25,7 @@ void copyOut(const Magick::PixelPacket *pixels, std::size_t count, Image16 &rows
 
 void copyIn(const Image8 &rows, std::size_t count, Magick::PixelPacket *pixels)
 {
-    copySamples8In(rows.samples.data(), count, pixels, false);
-    spreadHighBytes(pixels, count);
+    copySpreadSamples8In(rows.samples.data(), count, pixels);
 }
 
 void copyIn(const Image16 &rows, std::size_t count, Magick::PixelPacket *pixels)

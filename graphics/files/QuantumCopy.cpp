@@ -56,6 +56,16 @@ void copySamples8In(const std::uint8_t *source, std::size_t count, PixelPacket *
     }
 }
 
+void copySpreadSamples8In(const std::uint8_t *source, std::size_t count, PixelPacket *pixels)
+{
+    for (PixelPacket *pixel = pixels; pixel != pixels + count; ++pixel) {
+        pixel->red = static_cast<Quantum>(*source++ * byteSpread);
+        pixel->green = static_cast<Quantum>(*source++ * byteSpread);
+        pixel->blue = static_cast<Quantum>(*source++ * byteSpread);
+        pixel->opacity = defaultOpacity8;
+    }
+}
+
 void copySamples16In(const std::uint16_t *source, std::size_t count, PixelPacket *pixels, bool alpha)
 {
     for (PixelPacket *pixel = pixels; pixel != pixels + count; ++pixel) {

@@ -18,6 +18,8 @@ void copySamples16Out(const Magick::PixelPacket *pixels, std::size_t count, std:
 
 /// An 8-bit sample b becomes b << 8. The opacity is the fourth component unscaled, or 255 without alpha.
 void copySamples8In(const std::uint8_t *source, std::size_t count, Magick::PixelPacket *pixels, bool alpha);
+/// Combines copySamples8In() without alpha and spreadHighBytes().
+void copySpreadSamples8In(const std::uint8_t *source, std::size_t count, Magick::PixelPacket *pixels);
 /// The opacity is the fourth component, or 65535 without alpha.
 void copySamples16In(const std::uint16_t *source, std::size_t count, Magick::PixelPacket *pixels, bool alpha);
 

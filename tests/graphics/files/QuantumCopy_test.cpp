@@ -139,6 +139,15 @@ TEST_P(QuantumCopy, BytesInAreTheHighBytesAndTheUnscaledOpacity)
     EXPECT_EQ(copiedIn(bytes, copySamples8In), expected<Samples>(4, quantum));
 }
 
+TEST_P(QuantumCopy, BytesAreSpreadWhileTheyAreCopiedIn)
+{
+    const auto bytes = mixed<Bytes>(count() * 3);
+    const auto quantum = [&](std::size_t c, std::size_t i) { return c < 3 ? bytes[i * 3 + c] * 257 : 255; };
+    const auto copy = [](const std::uint8_t *source, std::size_t pixelCount, Magick::PixelPacket *pixels,
+                         bool /*alpha*/) { copySpreadSamples8In(source, pixelCount, pixels); };
+    EXPECT_EQ(copiedIn(bytes, copy), expected<Samples>(4, quantum));
+}
+
 TEST_P(QuantumCopy, SamplesInAreTheQuanta)
 {
     const auto samples = mixed<Samples>(count() * components());
