@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "batch/ExitStatus.h"
 #include "batch/Shard.h"
 #include "graphics/files/ImageFormat.h"
 
@@ -52,8 +53,8 @@ struct Options {
 
 /// Reason to end the program at once.
 struct EarlyExit {
-    QString text; ///< complete lines: for standard output if the status is 0, otherwise for standard error
-    int status;   ///< 0 for --help and --version, 2 for wrong usage
+    QString text;      ///< complete lines: for standard output if the status is AllDone, otherwise for standard error
+    ExitStatus status; ///< AllDone for --help and --version, WrongUsage otherwise
 };
 
 /// Converts the command line, whose first element is the name of the program, into options. Reads and prints nothing.

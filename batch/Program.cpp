@@ -76,7 +76,7 @@ ExitStatus run(const QStringList &arguments, QIODevice &standardInput)
     const auto parsed = parseOptions(arguments);
     if (const auto *exit = std::get_if<EarlyExit>(&parsed)) {
         std::fputs(exit->text.toLocal8Bit().constData(), exit->status == AllDone ? stdout : stderr);
-        return static_cast<ExitStatus>(exit->status);
+        return exit->status;
     }
     const auto &options = std::get<Options>(parsed);
     if (options.listFilms) {
