@@ -24,15 +24,6 @@ bool isFolder(const QString &path)
     return std::filesystem::is_directory(QFile::encodeName(path).toStdString(), error);
 }
 
-QString withoutLastSlash(const QString &path)
-{
-    qsizetype size = path.size();
-    while (size > 1 && path.at(size - 1) == u'/') {
-        --size;
-    }
-    return path.left(size);
-}
-
 QStringList entriesIn(const QByteArray &list, bool nulSeparated)
 {
     QStringList entries;
@@ -118,7 +109,7 @@ private:
         if (m_options.filesFrom == QStringLiteral("-")) {
             return standardInput.readAll();
         }
-        QFile file(m_options.filesFrom);
+        QFile file(pathForQt(m_options.filesFrom));
         QByteArray list = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
         if (file.error() != QFileDevice::NoError) {
             fail(QStringLiteral("Cannot read the list %1 of --files-from: %2.")

@@ -299,6 +299,11 @@ TEST_F(SourceListTest, AcceptsNamesThatStartWithAColon)
     options.sources = QStringList{":b.jpg", ":x"};
     EXPECT_EQ(paths(), (Texts{":b.jpg", ":x/a.jpg"}));
     EXPECT_EQ(list().sources.at(0).absolute.toStdString(), (current + "/:b.jpg").toStdString());
+
+    makeFile(":list", "c.jpg");
+    options.sources.clear();
+    options.filesFrom = ":list";
+    EXPECT_EQ(paths(), Texts{"c.jpg"});
 }
 
 } // namespace
