@@ -5,14 +5,16 @@
 #include "batch/Paths.h"
 
 #include <QCommandLineParser>
+#include <QFile>
+#include <QSet>
 #include <QThread>
 
 #include <algorithm>
 #include <limits>
 #include <utility>
+#include <vector>
 
 namespace grisal::batch
-#include <vector>
 {
 
 namespace
@@ -86,6 +88,10 @@ public:
     explicit OptionReader(const QCommandLineParser &parser) : m_parser(parser) {}
 
     Options read();
+
+    /// Moves invalid operands to their own list.
+    void separate(const QStringList &invalid, Options &options);
+
     QString problem() const { return m_problem; }
 
 private:
@@ -126,6 +132,20 @@ Options OptionReader::read()
     readExecution(options);
     checkCombinations(options);
     return options;
+}
+
+void OptionReader::separate(const QStringList &invalid, Options &options)
+{
+    const QSet<QString> operands(options.sources.begin(), options.sources.end());
+    for (const QString &argument : invalid) {
+        if (operands.contains(argument)) {
+            options.invalidSources.append(argument);
+        } else {
+            fail(QStringLiteral("The argument %1 is not valid UTF-8.").arg(quoted(argument)));
+        }
+    }
+    const QSet<QString> leftOut(invalid.begin(), invalid.end());
+    options.sources.removeIf([&leftOut](const QString &source) { return leftOut.contains(source); });
 }
 
 void OptionReader::readOutput(Options &options)
@@ -287,7 +307,19 @@ QString problemOf(const QCommandLineParser &parser)
 
 } // namespace
 
-std::variant<Options, EarlyExit> parseOptions(const QStringList &arguments)
+QStringList invalidArguments(int argc, const char *const *argv)
+{
+    QStringList invalid;
+    for (const char *const *argument = argv; argument != argv + argc; ++argument) {
+        const QString decoded = QFile::decodeName(*argument);
+        if (QFile::encodeName(decoded) != *argument) {
+            invalid.append(decoded);
+        }
+    }
+    return invalid;
+}
+
+std::variant<Options, EarlyExit> parseOptions(const QStringList &arguments, const QStringList &invalid)
 {
     QCommandLineParser parser;
     for (const OptionGroup &group : optionGroups()) {
@@ -303,7 +335,8 @@ std::variant<Options, EarlyExit> parseOptions(const QStringList &arguments)
         return EarlyExit{versionText(), AllDone};
     }
     OptionReader reader(parser);
-    const Options options = reader.read();
+    Options options = reader.read();
+    reader.separate(invalid, options);
     if (!reader.problem().isEmpty()) {
         return exitFor(reader.problem());
     }

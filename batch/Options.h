@@ -31,8 +31,9 @@ struct Options {
     QString showLook;
     bool listFilms = false;
 
-    QStringList sources; ///< the operands, none of them empty
-    QString filesFrom;   ///< path of a list of sources; "-" is standard input
+    QStringList sources;        ///< the operands, none of them empty
+    QStringList invalidSources; ///< operands that are not valid UTF-8, as Qt decodes them
+    QString filesFrom;          ///< path of a list of sources; "-" is standard input
     bool nulSeparated = false;
     bool recursive = false;
     Shard shard;
@@ -57,7 +58,12 @@ struct EarlyExit {
     ExitStatus status; ///< AllDone for --help and --version, WrongUsage otherwise
 };
 
-/// Converts the command line, whose first element is the name of the program, into options. Reads and prints nothing.
-std::variant<Options, EarlyExit> parseOptions(const QStringList &arguments);
+/// Which arguments are not valid UTF-8. Each is returned as Qt decodes it: as the name of another file, since U+FFFD
+/// replaces the invalid bytes.
+QStringList invalidArguments(int argc, const char *const *argv);
+
+/// Converts the command line, whose first element is the name of the program, into options. `invalid` is the result of
+/// invalidArguments(): such an argument is wrong usage, unless it is an operand. Reads and prints nothing.
+std::variant<Options, EarlyExit> parseOptions(const QStringList &arguments, const QStringList &invalid = {});
 
 } // namespace grisal::batch

@@ -57,4 +57,9 @@ QString quoted(const QString &path)
     return u'\'' + graphics::escapeControlCharacters(path) + u'\'';
 }
 
+QString warningOfInvalidName(const QString &path)
+{
+    return QStringLiteral("%1 is left out, because its name is not valid UTF-8; please rename it.").arg(quoted(path));
+}
+
 } // namespace grisal::batch

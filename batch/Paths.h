@@ -34,4 +34,7 @@ QString joined(const QString &folder, const QString &name);
 /// A path for a message: in quotes, with control characters escaped.
 QString quoted(const QString &path);
 
+/// A sentence about a source that Qt cannot open: its name is not valid UTF-8. `path` is the name as Qt decodes it.
+QString warningOfInvalidName(const QString &path);
+
 } // namespace grisal::batch

@@ -71,9 +71,9 @@ ExitStatus convert(const Options &options, QIODevice &standardInput)
 
 } // namespace
 
-ExitStatus run(const QStringList &arguments, QIODevice &standardInput)
+ExitStatus run(const QStringList &arguments, QIODevice &standardInput, const QStringList &invalid)
 {
-    const auto parsed = parseOptions(arguments);
+    const auto parsed = parseOptions(arguments, invalid);
     if (const auto *exit = std::get_if<EarlyExit>(&parsed)) {
         std::fputs(exit->text.toLocal8Bit().constData(), exit->status == AllDone ? stdout : stderr);
         return exit->status;

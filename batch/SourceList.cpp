@@ -24,7 +24,7 @@ bool isFolder(const QString &path)
     return std::filesystem::is_directory(QFile::encodeName(path).toStdString(), error);
 }
 
-QStringList entriesIn(const QByteArray &list, bool nulSeparated)
+QStringList entriesIn(const QByteArray &list, bool nulSeparated, QStringList &warnings)
 {
     QStringList entries;
     const char separator = nulSeparated ? '\0' : '\n';
@@ -33,8 +33,11 @@ QStringList entriesIn(const QByteArray &list, bool nulSeparated)
         const qsizetype end = found < 0 ? list.size() : found;
         const bool hasReturn = !nulSeparated && end > start && list.at(end - 1) == '\r';
         const QByteArray entry = list.mid(start, end - start - (hasReturn ? 1 : 0));
-        if (!entry.isEmpty()) {
-            entries.append(QFile::decodeName(entry));
+        const QString name = QFile::decodeName(entry);
+        if (QFile::encodeName(name) != entry) {
+            warnings.append(warningOfInvalidName(name));
+        } else if (!entry.isEmpty()) {
+            entries.append(name);
         }
         start = end + 1;
     }
@@ -74,11 +77,14 @@ public:
 
     SourceList list(QIODevice &standardInput)
     {
+        for (const QString &operand : m_options.invalidSources) {
+            m_list.warnings.append(warningOfInvalidName(operand));
+        }
         for (const QString &operand : m_options.sources) {
             addOperand(operand);
         }
         if (!m_options.filesFrom.isEmpty() && m_list.error.isEmpty()) {
-            addEntries(entriesIn(readList(standardInput), m_options.nulSeparated));
+            addEntries(entriesIn(readList(standardInput), m_options.nulSeparated, m_list.warnings));
         }
         return std::move(m_list);
     }
