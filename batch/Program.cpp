@@ -8,6 +8,7 @@
 
 #include <cstdio>
 
+#include <utility>
 namespace grisal::batch
 {
 
@@ -46,7 +47,7 @@ ExitStatus convert(const Options &options, QIODevice &standardInput)
         printProblem(problem);
         return WrongUsage;
     }
-    const SourceList list = listSources(options, standardInput);
+    SourceList list = listSources(options, standardInput);
     if (!list.error.isEmpty()) {
         printProblem(list.error);
         return WrongUsage;
@@ -54,7 +55,7 @@ ExitStatus convert(const Options &options, QIODevice &standardInput)
     for (const QString &warning : list.warnings) {
         printProblem(warning);
     }
-    const OutputPlan plan = planOutputs(list.sources, options);
+    const OutputPlan plan = planOutputs(std::move(list.sources), options);
     for (const QString &found : plan.problems) {
         printProblem(found);
     }

@@ -187,6 +187,30 @@ TEST_F(OutputPlanTest, RejectsAnOutputFolderThatIsALinkToThatOfTheSources)
     EXPECT_EQ(problems({source("x/a.jpg")}).size(), 1U);
 }
 
+TEST_F(OutputPlanTest, RejectsTwoOutputsInOneFolderBehindALink)
+{
+    QDir().mkpath("bw/B");
+    ASSERT_EQ(symlink("B", "bw/A"), 0);
+    options.outputDir = "bw";
+    EXPECT_EQ(problems({source("in/A/x.jpg", "A"), source("in/B/x.jpg", "B")}),
+              Texts{"'in/A/x.jpg' and 'in/B/x.jpg' would have the same output 'bw/B/x.jpg'; convert them in separate "
+                    "runs with different folders (-o) or names (--name)."});
+    EXPECT_EQ(problems({source("in/A/C/x.jpg", "A/C"), source("in/B/C/x.jpg", "B/C")}).size(), 1U);
+    EXPECT_EQ(problems({source("in/A/x.jpg", "A"), source("in/B/y.jpg", "B"), source("in/x.jpg")}), Texts());
+}
+
+TEST_F(OutputPlanTest, RejectsTwoExistingOutputsThatAreOneFile)
+{
+    QDir().mkpath("bw");
+    writeFile("bw/b.jpg", "b");
+    ASSERT_EQ(symlink("b.jpg", "bw/a.jpg"), 0);
+    options.outputDir = "bw";
+    EXPECT_EQ(problems({source("a.jpg"), source("b.jpg"), source("c.jpg")}),
+              Texts{"'bw/a.jpg' and 'bw/b.jpg', the outputs of 'a.jpg' and 'b.jpg', are the same file; convert them in "
+                    "separate runs with different folders (-o) or names (--name)."});
+    EXPECT_EQ(problems({source("a.jpg"), source("c.jpg")}), Texts());
+}
+
 TEST_F(OutputPlanTest, AcceptsExistingOutputs)
 {
     QDir().mkpath("bw");
