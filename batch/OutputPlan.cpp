@@ -4,9 +4,11 @@
 #include "batch/FileIdentity.h"
 #include "batch/OutputNames.h"
 #include "batch/Paths.h"
+#include "graphics/files/LookInFile.h"
 
 #include <QHash>
 #include <QLatin1String>
+#include <QSet>
 
 #include <cstddef>
 #include <optional>
@@ -23,6 +25,11 @@ constexpr qsizetype maxListedProblems = 20;
 constexpr QLatin1String remedy("choose another folder with -o, or other names with --name");
 constexpr QLatin1String remedyForTwo("convert them in separate runs with different folders (-o) or names (--name)");
 
+bool hasLook(const QString &path)
+{
+    return !graphics::readLook(path).text.isEmpty();
+}
+
 class Planner
 {
 public:
@@ -32,6 +39,7 @@ public:
     {
         checkFolder();
         nameOutputs();
+        leaveOutEarlierOutputs();
         checkPaths();
         checkIdentities();
         if (m_problemCount > maxListedProblems) {
@@ -46,6 +54,7 @@ public:
 private:
     void checkFolder();
     void nameOutputs();
+    void leaveOutEarlierOutputs();
     void checkPaths();
     void checkIdentities();
     void makeJobs();
@@ -82,6 +91,27 @@ void Planner::nameOutputs()
     for (const Source &source : m_sources) {
         m_outputs.push_back(names.outputFor(source));
     }
+}
+
+void Planner::leaveOutEarlierOutputs()
+{
+    QSet<QString> outputsOfOthers;
+    outputsOfOthers.reserve(static_cast<qsizetype>(m_sources.size()));
+    for (std::size_t i = 0; i < m_sources.size(); ++i) {
+        if (m_outputs[i].absolute != m_sources[i].absolute) {
+            outputsOfOthers.insert(m_outputs[i].absolute);
+        }
+    }
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < m_sources.size(); ++i) {
+        if (!outputsOfOthers.contains(m_sources[i].absolute) || !hasLook(m_sources[i].path)) {
+            std::swap(m_sources[kept], m_sources[i]);
+            std::swap(m_outputs[kept], m_outputs[i]);
+            ++kept;
+        }
+    }
+    m_sources.resize(kept);
+    m_outputs.resize(kept);
 }
 
 void Planner::checkPaths()

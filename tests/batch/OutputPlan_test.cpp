@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "batch/OutputPlan.h"
 
+#include "graphics/files/LumioImage.h"
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <QDir>
@@ -52,6 +53,28 @@ protected:
         }
         EXPECT_EQ(plan.jobs.front().source.toStdString(), path.toStdString());
         return plan.jobs.front().output.toStdString();
+    }
+
+    /// "source -> output"
+    Texts jobs(const std::vector<Source> &sources) const
+    {
+        const OutputPlan plan = planOutputs(sources, options);
+        EXPECT_EQ(plan.problems.join('\n').toStdString(), "");
+        Texts texts;
+        for (const Job &job : plan.jobs) {
+            texts.push_back((job.source + " -> " + job.output).toStdString());
+        }
+        return texts;
+    }
+
+    /// A picture with a look, unless that is empty.
+    static void writePicture(const QString &path, const QByteArray &look)
+    {
+        grisal::graphics::LumioImage image(3, 2, false);
+        grisal::graphics::Metadata metadata;
+        metadata.setLook(look);
+        image.setMetadata(metadata);
+        ASSERT_TRUE(image.save(path, 90));
     }
 
     Texts problems(const std::vector<Source> &sources) const
@@ -209,6 +232,34 @@ TEST_F(OutputPlanTest, RejectsTwoExistingOutputsThatAreOneFile)
               Texts{"'bw/a.jpg' and 'bw/b.jpg', the outputs of 'a.jpg' and 'b.jpg', are the same file; convert them in "
                     "separate runs with different folders (-o) or names (--name)."});
     EXPECT_EQ(problems({source("a.jpg"), source("c.jpg")}), Texts());
+}
+
+TEST_F(OutputPlanTest, LeavesOutTheOutputsOfAnEarlierRunBesideTheSources)
+{
+    for (const char *name : {"a.png", "a-bw.png", "a-bw-bw.png", "b-bw.png"}) {
+        writePicture(name, QByteArray(name).contains("-bw") ? "{}" : "");
+    }
+    const std::vector<Source> sources{source("a-bw-bw.png"), source("a-bw.png"), source("a.png"), source("b-bw.png")};
+    EXPECT_EQ(jobs(sources), (Texts{"a.png -> a-bw.png", "b-bw.png -> b-bw-bw.png"}));
+    options.format = ImageFormat::Jpeg;
+    EXPECT_EQ(jobs(sources).size(), 4U);
+}
+
+TEST_F(OutputPlanTest, RejectsAnOutputWithThePathOfASourceWithoutLook)
+{
+    writePicture("a-bw.png", "");
+    EXPECT_EQ(problems({source("a.png"), source("a-bw.png")}).size(), 1U);
+    writePicture("a-bw.png", "{}");
+    writePicture("a-bw-bw.png", "");
+    EXPECT_EQ(jobs({source("a.png"), source("a-bw.png"), source("a-bw-bw.png")}),
+              (Texts{"a.png -> a-bw.png", "a-bw-bw.png -> a-bw-bw-bw.png"}));
+}
+
+TEST_F(OutputPlanTest, RejectsAnOutputWithThePathOfItsOwnSourceThatHasALook)
+{
+    writePicture("a.png", "{}");
+    options.namePattern = "{name}";
+    EXPECT_EQ(problems({source("a.png")}).size(), 1U);
 }
 
 TEST_F(OutputPlanTest, AcceptsExistingOutputs)
