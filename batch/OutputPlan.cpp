@@ -4,6 +4,7 @@
 #include "batch/FileIdentity.h"
 #include "batch/OutputNames.h"
 #include "batch/Paths.h"
+#include "batch/ReportCheck.h"
 #include "graphics/files/LookInFile.h"
 
 #include <QHash>
@@ -42,6 +43,7 @@ public:
         leaveOutEarlierOutputs();
         checkPaths();
         checkIdentities();
+        checkReport();
         if (m_problemCount > maxListedProblems) {
             m_plan.problems.append(
                 QStringLiteral("Further problems that are not listed: %1.").arg(m_problemCount - maxListedProblems));
@@ -57,6 +59,7 @@ private:
     void leaveOutEarlierOutputs();
     void checkPaths();
     void checkIdentities();
+    void checkReport();
     void makeJobs();
     QHash<Identity, std::size_t> existingOutputs();
 
@@ -180,6 +183,14 @@ QHash<Identity, std::size_t> Planner::existingOutputs()
         }
     }
     return existing;
+}
+
+void Planner::checkReport()
+{
+    const QString problem = problemOfReport(m_options, m_sources, m_outputs);
+    if (!problem.isEmpty()) {
+        addProblem(problem);
+    }
 }
 
 void Planner::makeJobs()

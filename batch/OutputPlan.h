@@ -30,6 +30,7 @@ struct OutputPlan {
 /// - Two sources that would have the same output, or two outputs that exist and are the same file, for example through
 ///   a link or because the file system ignores upper and lower case.
 /// - An --output-dir that exists and is not a folder.
+/// - A --report that would overwrite something, see problemOfReport().
 ///
 /// A source that has the path of another source's output and carries a look is the result of an earlier run beside the
 /// sources and has no job; nor has it an output that another source could be.
