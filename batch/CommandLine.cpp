@@ -59,8 +59,8 @@ OptionGroup sourceOptions()
                    "folders below the folder of -o"),
             option({"0", "null"}, "", "a NUL, not a line end, separates names in the\nFILE of --files-from"),
             option({"shard"}, "I/N",
-                   "convert only part I of N; a picture is always in\nthe same part; parts may be numbered from 0\n"
-                   "or from 1, since part N is part 0"),
+                   "convert only part I of N; the part of a picture\nfollows from its name and its subfolder with -r;\n"
+                   "parts may be numbered from 0 or from 1, since\npart N is part 0"),
         }};
 }
 

@@ -31,6 +31,12 @@ bool hasLook(const QString &path)
     return !graphics::readLook(path).text.isEmpty();
 }
 
+/// What a picture is to a shard: independent of the current folder and of how the searched folder is spelled.
+QString pathInList(const Source &source)
+{
+    return joined(source.subfolder, nameOf(source.absolute));
+}
+
 class Planner
 {
 public:
@@ -196,7 +202,7 @@ void Planner::checkReport()
 void Planner::makeJobs()
 {
     for (std::size_t i = 0; i < m_sources.size(); ++i) {
-        if (contains(m_options.shard, m_sources[i].path)) {
+        if (contains(m_options.shard, pathInList(m_sources[i]))) {
             m_plan.jobs.push_back({m_sources[i].path, m_outputs[i].path});
         }
     }

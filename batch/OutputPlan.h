@@ -35,8 +35,9 @@ struct OutputPlan {
 /// A source that has the path of another source's output and carries a look is the result of an earlier run beside the
 /// sources and has no job; nor has it an output that another source could be.
 ///
-/// All sources are checked, also those of other shards, so that every shard finds the same problems. Otherwise,
-/// existing outputs are not considered, and folders are not made.
+/// All sources are checked, also those of other shards, so that every shard finds the same problems. The shard of a
+/// source follows from its subfolder and its name. Otherwise, existing outputs are not considered, and folders are not
+/// made.
 OutputPlan planOutputs(std::vector<Source> sources, const Options &options);
 
 } // namespace grisal::batch

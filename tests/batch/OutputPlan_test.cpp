@@ -320,6 +320,18 @@ TEST_F(OutputPlanTest, ContainsTheJobsOfTheShardInOrder)
     EXPECT_EQ(found.size(), sources.size());
 }
 
+TEST_F(OutputPlanTest, ShardFollowsFromSubfolderAndName)
+{
+    for (int i = 0; i < 20; ++i) {
+        const QString name = QStringLiteral("%1.jpg").arg(i);
+        options.shard = {1, 2};
+        const std::size_t jobs = planOutputs({source(name, "x")}, options).jobs.size();
+        for (const QString &place : {QStringLiteral("in/x/"), QStringLiteral("/y//in/x/"), current + "/x/"}) {
+            EXPECT_EQ(planOutputs({source(place + name, "x")}, options).jobs.size(), jobs) << i;
+        }
+    }
+}
+
 TEST_F(OutputPlanTest, FindsProblemsOfOtherShards)
 {
     options.outputDir = "bw";
