@@ -88,7 +88,7 @@ OptionGroup executionOptions()
                        "pictures to convert at once, 1 to 1024; default:\nthe number of processor cores"),
                 option({"memory"}, "SIZE",
                        "limit of the memory in bytes, or with the suffix\nK, M or G (powers of 1024); at least 64M"),
-                option({"dry-run"}, "", "only show what would be done"),
+                option({"dry-run"}, "", "only show what would be done; whether outputs are\nup to date is not checked"),
                 option({"report"}, "FILE", "write a line of JSON about each picture to FILE"),
                 option({"q", "quiet"}, "", "print errors only"),
                 option({"v", "verbose"}, "", "print a line about each picture"),

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "batch/Program.h"
 
+#include "batch/DryRun.h"
 #include "batch/Progress.h"
 #include "batch/RequestedLook.h"
 #include "batch/SourceList.h"
 #include "graphics/look/LookText.h"
 
 #include <cstdio>
-
 #include <utility>
+
 namespace grisal::batch
 {
 
@@ -30,13 +31,6 @@ ExitStatus showLook(const QString &path)
     }
     std::fputs(graphics::lookText(*look, graphics::LookFormat::Indented).constData(), stdout);
     return AllDone;
-}
-
-void showPlan(const std::vector<Job> &jobs)
-{
-    for (const Job &job : jobs) {
-        print(QStringLiteral("%1 -> %2\n").arg(job.source, job.output));
-    }
 }
 
 ExitStatus convert(const Options &options, QIODevice &standardInput)
@@ -62,11 +56,8 @@ ExitStatus convert(const Options &options, QIODevice &standardInput)
     if (!plan.problems.isEmpty()) {
         return WrongUsage;
     }
-    if (options.dryRun) {
-        showPlan(plan.jobs);
-        return AllDone;
-    }
-    const ExitStatus status = convertAll(plan.jobs, *look, options);
+    const ExitStatus status =
+        options.dryRun ? showPlan(plan.jobs, options.ifExists) : convertAll(plan.jobs, *look, options);
     return status == AllDone && !list.warnings.isEmpty() ? SomeFailed : status;
 }
 
