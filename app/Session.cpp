@@ -9,7 +9,6 @@
 #include "graphics/look/LookText.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <sys/stat.h>
 
@@ -36,11 +35,9 @@ bool isKnownToBeMissing(const QString &path)
 // A file that was recognised by its contents may have no extension that it could be saved with.
 QString proposedNameFor(const graphics::ImageFile &file)
 {
-    const QFileInfo name(file.path());
-    if (graphics::formatOfName(file.path())) {
-        return name.completeBaseName() + QStringLiteral("-bw.") + name.suffix();
-    }
-    return name.fileName() + QStringLiteral("-bw.") + graphics::extensionOf(file.format());
+    const auto [base, extension] = graphics::partsOfName(file.path());
+    return base + graphics::convertedSuffix + u'.' +
+           (extension.isEmpty() ? graphics::extensionOf(file.format()) : extension);
 }
 
 Session::PicturePointer pictureOf(LumioImage &file, const QString &proposedName)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "batch/ExitStatus.h"
 #include "batch/Options.h"
 #include "batch/OutputPlan.h"
 #include "graphics/look/Look.h"
@@ -9,9 +10,6 @@
 
 namespace grisal::batch
 {
-
-/// The exit statuses of the program.
-enum ExitStatus { AllDone = 0, SomeFailed = 1, WrongUsage = 2, Interrupted = 130 };
 
 /// Converts pictures in several processes, of which as many work at the same time as the memory allows. Prints the
 /// progress and writes the report.

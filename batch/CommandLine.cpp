@@ -59,8 +59,8 @@ OptionGroup sourceOptions()
                    "folders below the folder of -o"),
             option({"0", "null"}, "", "a NUL, not a line end, separates names in the\nFILE of --files-from"),
             option({"shard"}, "I/N",
-                   "convert only part I of N; a picture is always in\nthe same part; parts may be numbered from 0\n"
-                   "or from 1, since part N is part 0"),
+                   "convert only part I of N; the part of a picture\nfollows from its name and its subfolder with -r;\n"
+                   "parts may be numbered from 0 or from 1, since\npart N is part 0"),
         }};
 }
 
@@ -88,7 +88,7 @@ OptionGroup executionOptions()
                        "pictures to convert at once, 1 to 1024; default:\nthe number of processor cores"),
                 option({"memory"}, "SIZE",
                        "limit of the memory in bytes, or with the suffix\nK, M or G (powers of 1024); at least 64M"),
-                option({"dry-run"}, "", "only show what would be done"),
+                option({"dry-run"}, "", "only show what would be done; whether outputs are\nup to date is not checked"),
                 option({"report"}, "FILE", "write a line of JSON about each picture to FILE"),
                 option({"q", "quiet"}, "", "print errors only"),
                 option({"v", "verbose"}, "", "print a line about each picture"),

@@ -69,8 +69,7 @@ private:
         const QString path = pathIn(entry.path());
         std::error_code error;
         if (nativePath(path) != entry.path()) {
-            m_warnings.append(QStringLiteral("%1 is left out, because its name is not valid UTF-8; please rename it.")
-                                  .arg(quoted(path)));
+            m_warnings.append(warningOfInvalidName(path));
         } else if (entry.symlink_status(error).type() == fs::file_type::directory) {
             if (!fs::equivalent(entry.path(), m_leftOut, error)) {
                 m_folders.push_back(entry.path());

@@ -5,12 +5,14 @@
 #include "batch/Paths.h"
 
 #include <QCommandLineParser>
+#include <QFile>
+#include <QSet>
 #include <QThread>
 
 #include <algorithm>
-#include <array>
 #include <limits>
 #include <utility>
+#include <vector>
 
 namespace grisal::batch
 {
@@ -18,7 +20,6 @@ namespace grisal::batch
 namespace
 {
 
-constexpr int wrongUsage = 2;
 constexpr std::uint64_t maxQuality = 100;
 constexpr std::uint64_t maxJobs = 1024;
 constexpr std::uint64_t minMemory = std::uint64_t{64} << 20;
@@ -87,6 +88,10 @@ public:
     explicit OptionReader(const QCommandLineParser &parser) : m_parser(parser) {}
 
     Options read();
+
+    /// Moves invalid operands to their own list.
+    void separate(const QStringList &invalid, Options &options);
+
     QString problem() const { return m_problem; }
 
 private:
@@ -99,8 +104,8 @@ private:
     QString text(const QString &name, const char *allowed);
     int number(const QString &name, std::uint64_t lowest, std::uint64_t highest, int otherwise);
 
-    template <typename Value, std::size_t Count>
-    std::optional<Value> choice(const QString &name, const std::array<std::pair<const char *, Value>, Count> &choices,
+    template <typename Value>
+    std::optional<Value> choice(const QString &name, const std::vector<std::pair<QString, Value>> &choices,
                                 const char *allowed);
 
     bool isSet(const char *name) const { return m_parser.isSet(QString::fromUtf8(name)); }
@@ -129,19 +134,33 @@ Options OptionReader::read()
     return options;
 }
 
+void OptionReader::separate(const QStringList &invalid, Options &options)
+{
+    const QSet<QString> operands(options.sources.begin(), options.sources.end());
+    for (const QString &argument : invalid) {
+        if (operands.contains(argument)) {
+            options.invalidSources.append(argument);
+        } else {
+            fail(QStringLiteral("The argument %1 is not valid UTF-8.").arg(quoted(argument)));
+        }
+    }
+    const QSet<QString> leftOut(invalid.begin(), invalid.end());
+    options.sources.removeIf([&leftOut](const QString &source) { return leftOut.contains(source); });
+}
+
 void OptionReader::readOutput(Options &options)
 {
-    constexpr std::array<std::pair<const char *, graphics::ImageFormat>, 3> formats{{
-        {"jpg", graphics::ImageFormat::Jpeg},
-        {"png", graphics::ImageFormat::Png},
-        {"tif", graphics::ImageFormat::Tiff},
-    }};
-    constexpr std::array<std::pair<const char *, IfExists>, 4> actions{{
+    using graphics::ImageFormat;
+    std::vector<std::pair<QString, ImageFormat>> formats;
+    for (const ImageFormat format : {ImageFormat::Jpeg, ImageFormat::Png, ImageFormat::Tiff}) {
+        formats.emplace_back(graphics::extensionOf(format), format);
+    }
+    const std::vector<std::pair<QString, IfExists>> actions{
         {"error", IfExists::Error},
         {"skip", IfExists::Skip},
         {"overwrite", IfExists::Overwrite},
         {"update", IfExists::Update},
-    }};
+    };
     options.outputDir = text("output-dir", "the name of a folder");
     options.namePattern = text("name", "a name that contains {name}");
     if (isSet("name") && !isNamePattern(options.namePattern)) {
@@ -245,9 +264,8 @@ int OptionReader::number(const QString &name, std::uint64_t lowest, std::uint64_
     return static_cast<int>(*number);
 }
 
-template <typename Value, std::size_t Count>
-std::optional<Value> OptionReader::choice(const QString &name,
-                                          const std::array<std::pair<const char *, Value>, Count> &choices,
+template <typename Value>
+std::optional<Value> OptionReader::choice(const QString &name, const std::vector<std::pair<QString, Value>> &choices,
                                           const char *allowed)
 {
     if (!m_parser.isSet(name)) {
@@ -255,7 +273,7 @@ std::optional<Value> OptionReader::choice(const QString &name,
     }
     const QString value = m_parser.value(name);
     for (const auto &[text, meaning] : choices) {
-        if (value == QLatin1String(text)) {
+        if (value == text) {
             return meaning;
         }
     }
@@ -277,7 +295,7 @@ void OptionReader::fail(const QString &problem)
 
 EarlyExit exitFor(const QString &problem)
 {
-    return {QStringLiteral("grisal-batch: ") + problem + QStringLiteral("\nTry 'grisal-batch --help'.\n"), wrongUsage};
+    return {QStringLiteral("grisal-batch: ") + problem + QStringLiteral("\nTry 'grisal-batch --help'.\n"), WrongUsage};
 }
 
 QString problemOf(const QCommandLineParser &parser)
@@ -289,7 +307,19 @@ QString problemOf(const QCommandLineParser &parser)
 
 } // namespace
 
-std::variant<Options, EarlyExit> parseOptions(const QStringList &arguments)
+QStringList invalidArguments(int argc, const char *const *argv)
+{
+    QStringList invalid;
+    for (const char *const *argument = argv; argument != argv + argc; ++argument) {
+        const QString decoded = QFile::decodeName(*argument);
+        if (QFile::encodeName(decoded) != *argument) {
+            invalid.append(decoded);
+        }
+    }
+    return invalid;
+}
+
+std::variant<Options, EarlyExit> parseOptions(const QStringList &arguments, const QStringList &invalid)
 {
     QCommandLineParser parser;
     for (const OptionGroup &group : optionGroups()) {
@@ -299,13 +329,14 @@ std::variant<Options, EarlyExit> parseOptions(const QStringList &arguments)
         return exitFor(problemOf(parser));
     }
     if (parser.isSet(QStringLiteral("help"))) {
-        return EarlyExit{helpText(), 0};
+        return EarlyExit{helpText(), AllDone};
     }
     if (parser.isSet(QStringLiteral("version"))) {
-        return EarlyExit{versionText(), 0};
+        return EarlyExit{versionText(), AllDone};
     }
     OptionReader reader(parser);
-    const Options options = reader.read();
+    Options options = reader.read();
+    reader.separate(invalid, options);
     if (!reader.problem().isEmpty()) {
         return exitFor(reader.problem());
     }

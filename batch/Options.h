@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "batch/ExitStatus.h"
 #include "batch/Shard.h"
 #include "graphics/files/ImageFormat.h"
 
@@ -30,8 +31,9 @@ struct Options {
     QString showLook;
     bool listFilms = false;
 
-    QStringList sources; ///< the operands, none of them empty
-    QString filesFrom;   ///< path of a list of sources; "-" is standard input
+    QStringList sources;        ///< the operands, none of them empty
+    QStringList invalidSources; ///< operands that are not valid UTF-8, as Qt decodes them
+    QString filesFrom;          ///< path of a list of sources; "-" is standard input
     bool nulSeparated = false;
     bool recursive = false;
     Shard shard;
@@ -52,11 +54,16 @@ struct Options {
 
 /// Reason to end the program at once.
 struct EarlyExit {
-    QString text; ///< complete lines: for standard output if the status is 0, otherwise for standard error
-    int status;   ///< 0 for --help and --version, 2 for wrong usage
+    QString text;      ///< complete lines: for standard output if the status is AllDone, otherwise for standard error
+    ExitStatus status; ///< AllDone for --help and --version, WrongUsage otherwise
 };
 
-/// Converts the command line, whose first element is the name of the program, into options. Reads and prints nothing.
-std::variant<Options, EarlyExit> parseOptions(const QStringList &arguments);
+/// Which arguments are not valid UTF-8. Each is returned as Qt decodes it: as the name of another file, since U+FFFD
+/// replaces the invalid bytes.
+QStringList invalidArguments(int argc, const char *const *argv);
+
+/// Converts the command line, whose first element is the name of the program, into options. `invalid` is the result of
+/// invalidArguments(): such an argument is wrong usage, unless it is an operand. Reads and prints nothing.
+std::variant<Options, EarlyExit> parseOptions(const QStringList &arguments, const QStringList &invalid = {});
 
 } // namespace grisal::batch

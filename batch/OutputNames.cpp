@@ -5,7 +5,6 @@
 #include "graphics/files/ImageFile.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 namespace grisal::batch
 {
@@ -24,7 +23,7 @@ QString patternOrDefault(const QString &pattern, bool besideSource)
     if (!pattern.isEmpty()) {
         return pattern;
     }
-    return besideSource ? namePlaceholder + QStringLiteral("-bw") : QString(namePlaceholder);
+    return besideSource ? namePlaceholder + graphics::convertedSuffix : QString(namePlaceholder);
 }
 
 QString withLastSlash(const QString &folder)
@@ -64,16 +63,13 @@ OutputNames::Folder OutputNames::folderFor(const Source &source) const
 
 QString OutputNames::nameFor(const Source &source, bool besideSource) const
 {
-    const QString sourceName = nameOf(source.absolute);
-    const QFileInfo parts(sourceName);
-    const bool hasExtension = graphics::formatOfName(sourceName).has_value();
-    QString extension = m_extension;
+    const graphics::NameParts parts = graphics::partsOfName(nameOf(source.absolute));
+    QString extension = m_extension.isEmpty() ? parts.extension : m_extension;
     if (extension.isEmpty()) {
-        extension = hasExtension ? parts.suffix() : extensionOfContents(source.path);
+        extension = extensionOfContents(source.path);
     }
     const QString pattern = patternOrDefault(m_pattern, besideSource);
-    const QString name = pattern.split(namePlaceholder).join(hasExtension ? parts.completeBaseName() : sourceName);
-    return name + u'.' + extension;
+    return pattern.split(namePlaceholder).join(parts.base) + u'.' + extension;
 }
 
 } // namespace grisal::batch

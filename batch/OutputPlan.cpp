@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "batch/OutputPlan.h"
 
+#include "batch/FileIdentity.h"
 #include "batch/OutputNames.h"
 #include "batch/Paths.h"
+#include "batch/ReportCheck.h"
+#include "graphics/files/LookInFile.h"
 
-#include <QFile>
 #include <QHash>
 #include <QLatin1String>
-
-#include <sys/stat.h>
+#include <QSet>
 
 #include <cstddef>
 #include <optional>
@@ -23,34 +24,32 @@ namespace
 constexpr qsizetype maxListedProblems = 20;
 
 constexpr QLatin1String remedy("choose another folder with -o, or other names with --name");
+constexpr QLatin1String remedyForTwo("convert them in separate runs with different folders (-o) or names (--name)");
 
-/// Device and inode of a file.
-using Identity = std::pair<quint64, quint64>;
-
-std::optional<struct stat> statusOf(const QString &path)
+bool hasLook(const QString &path)
 {
-    struct stat status {
-    };
-    return stat(QFile::encodeName(path).constData(), &status) == 0 ? std::optional(status) : std::nullopt;
+    return !graphics::readLook(path).text.isEmpty();
 }
 
-std::optional<Identity> identityOf(const QString &path)
+/// What a picture is to a shard: independent of the current folder and of how the searched folder is spelled.
+QString pathInList(const Source &source)
 {
-    const auto status = statusOf(path);
-    return status ? std::optional(Identity(status->st_dev, status->st_ino)) : std::nullopt;
+    return joined(source.subfolder, nameOf(source.absolute));
 }
 
 class Planner
 {
 public:
-    Planner(const std::vector<Source> &sources, const Options &options) : m_sources(sources), m_options(options) {}
+    Planner(std::vector<Source> sources, const Options &options) : m_sources(std::move(sources)), m_options(options) {}
 
     OutputPlan plan()
     {
         checkFolder();
         nameOutputs();
+        leaveOutEarlierOutputs();
         checkPaths();
         checkIdentities();
+        checkReport();
         if (m_problemCount > maxListedProblems) {
             m_plan.problems.append(
                 QStringLiteral("Further problems that are not listed: %1.").arg(m_problemCount - maxListedProblems));
@@ -63,10 +62,12 @@ public:
 private:
     void checkFolder();
     void nameOutputs();
+    void leaveOutEarlierOutputs();
     void checkPaths();
     void checkIdentities();
+    void checkReport();
     void makeJobs();
-    QHash<Identity, std::size_t> existingOutputs() const;
+    QHash<Identity, std::size_t> existingOutputs();
 
     void addProblem(const QString &problem)
     {
@@ -76,10 +77,10 @@ private:
         }
     }
 
-    const std::vector<Source> &m_sources;
+    std::vector<Source> m_sources;
     const Options &m_options;
-    QHash<QString, std::size_t> m_sourceOfPath; ///< by absolute path
-    std::vector<Output> m_outputs;              ///< as many as sources
+    std::vector<Output> m_outputs;  ///< as many as sources
+    std::vector<bool> m_hasOwnPath; ///< whether an output has neither the path of a source nor that of another output
     qsizetype m_problemCount = 0;
     OutputPlan m_plan;
 };
@@ -96,29 +97,58 @@ void Planner::nameOutputs()
 {
     const OutputNames names(m_options);
     m_outputs.reserve(m_sources.size());
-    m_sourceOfPath.reserve(static_cast<qsizetype>(m_sources.size()));
     for (const Source &source : m_sources) {
-        m_sourceOfPath.insert(source.absolute, m_outputs.size());
         m_outputs.push_back(names.outputFor(source));
     }
 }
 
+void Planner::leaveOutEarlierOutputs()
+{
+    QSet<QString> outputsOfOthers;
+    outputsOfOthers.reserve(static_cast<qsizetype>(m_sources.size()));
+    for (std::size_t i = 0; i < m_sources.size(); ++i) {
+        if (m_outputs[i].absolute != m_sources[i].absolute) {
+            outputsOfOthers.insert(m_outputs[i].absolute);
+        }
+    }
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < m_sources.size(); ++i) {
+        if (!outputsOfOthers.contains(m_sources[i].absolute) || !hasLook(m_sources[i].path)) {
+            std::swap(m_sources[kept], m_sources[i]);
+            std::swap(m_outputs[kept], m_outputs[i]);
+            ++kept;
+        }
+    }
+    m_sources.resize(kept);
+    m_outputs.resize(kept);
+}
+
 void Planner::checkPaths()
 {
-    QHash<QString, std::size_t> known;
-    known.reserve(static_cast<qsizetype>(m_sources.size()));
+    QHash<QString, std::size_t> sourceOfPath;
+    QHash<QString, std::size_t> outputOfKey;
+    PathKeys keys;
+    sourceOfPath.reserve(static_cast<qsizetype>(m_sources.size()));
+    outputOfKey.reserve(static_cast<qsizetype>(m_sources.size()));
+    m_hasOwnPath.resize(m_sources.size(), true);
+    for (std::size_t i = 0; i < m_sources.size(); ++i) {
+        sourceOfPath.insert(m_sources[i].absolute, i);
+    }
     for (std::size_t i = 0; i < m_sources.size(); ++i) {
         const Output &output = m_outputs[i];
-        if (const auto source = m_sourceOfPath.constFind(output.absolute); source != m_sourceOfPath.constEnd()) {
+        if (const auto source = sourceOfPath.constFind(output.absolute); source != sourceOfPath.constEnd()) {
+            m_hasOwnPath[i] = false;
             addProblem(QStringLiteral("The output of %1 would overwrite the source %2; %3.")
                            .arg(quoted(m_sources[i].path), quoted(m_sources[*source].path), remedy));
         }
-        if (const auto other = known.constFind(output.absolute); other != known.constEnd()) {
-            addProblem(QStringLiteral("%1 and %2 would have the same output %3; convert them in separate runs with "
-                                      "different folders (-o) or names (--name).")
-                           .arg(quoted(m_sources[*other].path), quoted(m_sources[i].path), quoted(output.path)));
+        const QString key = keys.keyOf(output.path);
+        if (const auto other = outputOfKey.constFind(key); other != outputOfKey.constEnd()) {
+            m_hasOwnPath[i] = false;
+            addProblem(
+                QStringLiteral("%1 and %2 would have the same output %3; %4.")
+                    .arg(quoted(m_sources[*other].path), quoted(m_sources[i].path), quoted(output.path), remedyForTwo));
         } else {
-            known.insert(output.absolute, i);
+            outputOfKey.insert(key, i);
         }
     }
 }
@@ -141,24 +171,38 @@ void Planner::checkIdentities()
     }
 }
 
-/// The outputs that exist, without those that checkPaths() reports.
-QHash<Identity, std::size_t> Planner::existingOutputs() const
+/// The outputs that exist, without those that checkPaths() reports. Reports those that are the same file.
+QHash<Identity, std::size_t> Planner::existingOutputs()
 {
     QHash<Identity, std::size_t> existing;
     for (std::size_t i = 0; i < m_outputs.size(); ++i) {
-        if (!m_sourceOfPath.contains(m_outputs[i].absolute)) {
-            if (const std::optional<Identity> identity = identityOf(m_outputs[i].path)) {
-                existing.insert(*identity, i);
-            }
+        const std::optional<Identity> identity = m_hasOwnPath[i] ? identityOf(m_outputs[i].path) : std::nullopt;
+        if (!identity) {
+            continue;
+        }
+        if (const auto other = existing.constFind(*identity); other != existing.constEnd()) {
+            addProblem(QStringLiteral("%1 and %2, the outputs of %3 and %4, are the same file; %5.")
+                           .arg(quoted(m_outputs[*other].path), quoted(m_outputs[i].path),
+                                quoted(m_sources[*other].path), quoted(m_sources[i].path), remedyForTwo));
+        } else {
+            existing.insert(*identity, i);
         }
     }
     return existing;
 }
 
+void Planner::checkReport()
+{
+    const QString problem = problemOfReport(m_options, m_sources, m_outputs);
+    if (!problem.isEmpty()) {
+        addProblem(problem);
+    }
+}
+
 void Planner::makeJobs()
 {
     for (std::size_t i = 0; i < m_sources.size(); ++i) {
-        if (contains(m_options.shard, m_sources[i].path)) {
+        if (contains(m_options.shard, pathInList(m_sources[i]))) {
             m_plan.jobs.push_back({m_sources[i].path, m_outputs[i].path});
         }
     }
@@ -166,9 +210,9 @@ void Planner::makeJobs()
 
 } // namespace
 
-OutputPlan planOutputs(const std::vector<Source> &sources, const Options &options)
+OutputPlan planOutputs(std::vector<Source> sources, const Options &options)
 {
-    return Planner(sources, options).plan();
+    return Planner(std::move(sources), options).plan();
 }
 
 } // namespace grisal::batch

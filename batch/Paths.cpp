@@ -33,6 +33,20 @@ QString nameOf(const QString &path)
     return path.mid(path.lastIndexOf(u'/') + 1);
 }
 
+QString withoutLastSlash(const QString &path)
+{
+    qsizetype size = path.size();
+    while (size > 1 && path.at(size - 1) == u'/') {
+        --size;
+    }
+    return path.left(size);
+}
+
+QString pathForQt(const QString &path)
+{
+    return path.startsWith(u':') ? QStringLiteral("./") + path : path;
+}
+
 QString joined(const QString &folder, const QString &name)
 {
     return folder.isEmpty() || folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
@@ -41,6 +55,11 @@ QString joined(const QString &folder, const QString &name)
 QString quoted(const QString &path)
 {
     return u'\'' + graphics::escapeControlCharacters(path) + u'\'';
+}
+
+QString warningOfInvalidName(const QString &path)
+{
+    return QStringLiteral("%1 is left out, because its name is not valid UTF-8; please rename it.").arg(quoted(path));
 }
 
 } // namespace grisal::batch

@@ -22,10 +22,19 @@ QString folderOf(const QString &path);
 /// The name of a file without its folder.
 QString nameOf(const QString &path);
 
+/// The path without slashes at its end; that of the root is "/".
+QString withoutLastSlash(const QString &path);
+
+/// The path for QFile and other classes of Qt, with "./" in front of a colon at its start.
+QString pathForQt(const QString &path);
+
 /// A name in a folder. An empty folder gives the name alone.
 QString joined(const QString &folder, const QString &name);
 
 /// A path for a message: in quotes, with control characters escaped.
 QString quoted(const QString &path);
+
+/// A sentence about a source that Qt cannot open: its name is not valid UTF-8. `path` is the name as Qt decodes it.
+QString warningOfInvalidName(const QString &path);
 
 } // namespace grisal::batch

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "batch/Program.h"
 
+#include "batch/DryRun.h"
 #include "batch/Progress.h"
 #include "batch/RequestedLook.h"
 #include "batch/SourceList.h"
 #include "graphics/look/LookText.h"
 
 #include <cstdio>
+#include <utility>
 
 namespace grisal::batch
 {
@@ -31,13 +33,6 @@ ExitStatus showLook(const QString &path)
     return AllDone;
 }
 
-void showPlan(const std::vector<Job> &jobs)
-{
-    for (const Job &job : jobs) {
-        print(QStringLiteral("%1 -> %2\n").arg(job.source, job.output));
-    }
-}
-
 ExitStatus convert(const Options &options, QIODevice &standardInput)
 {
     QString problem;
@@ -46,7 +41,7 @@ ExitStatus convert(const Options &options, QIODevice &standardInput)
         printProblem(problem);
         return WrongUsage;
     }
-    const SourceList list = listSources(options, standardInput);
+    SourceList list = listSources(options, standardInput);
     if (!list.error.isEmpty()) {
         printProblem(list.error);
         return WrongUsage;
@@ -54,29 +49,26 @@ ExitStatus convert(const Options &options, QIODevice &standardInput)
     for (const QString &warning : list.warnings) {
         printProblem(warning);
     }
-    const OutputPlan plan = planOutputs(list.sources, options);
+    const OutputPlan plan = planOutputs(std::move(list.sources), options);
     for (const QString &found : plan.problems) {
         printProblem(found);
     }
     if (!plan.problems.isEmpty()) {
         return WrongUsage;
     }
-    if (options.dryRun) {
-        showPlan(plan.jobs);
-        return AllDone;
-    }
-    const ExitStatus status = convertAll(plan.jobs, *look, options);
+    const ExitStatus status =
+        options.dryRun ? showPlan(plan.jobs, options.ifExists) : convertAll(plan.jobs, *look, options);
     return status == AllDone && !list.warnings.isEmpty() ? SomeFailed : status;
 }
 
 } // namespace
 
-ExitStatus run(const QStringList &arguments, QIODevice &standardInput)
+ExitStatus run(const QStringList &arguments, QIODevice &standardInput, const QStringList &invalid)
 {
-    const auto parsed = parseOptions(arguments);
+    const auto parsed = parseOptions(arguments, invalid);
     if (const auto *exit = std::get_if<EarlyExit>(&parsed)) {
         std::fputs(exit->text.toLocal8Bit().constData(), exit->status == AllDone ? stdout : stderr);
-        return static_cast<ExitStatus>(exit->status);
+        return exit->status;
     }
     const auto &options = std::get<Options>(parsed);
     if (options.listFilms) {

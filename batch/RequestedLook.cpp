@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "batch/RequestedLook.h"
 
+#include "batch/Paths.h"
 #include "graphics/files/ImageFile.h"
 #include "graphics/files/LookInFile.h"
 #include "graphics/look/FilmPresets.h"
@@ -61,12 +62,17 @@ std::optional<Look> lookOfFile(const QString &path, QString &problem)
     if (graphics::startsLikeImage(path)) {
         return lookOfPicture(path, problem);
     }
-    QFile file(path);
+    QFile file(pathForQt(path));
     if (!file.open(QIODevice::ReadOnly)) {
         problem = QStringLiteral("%1 cannot be read: %2").arg(path, file.errorString());
         return std::nullopt;
     }
-    return parsed(file.read(longestText), path, problem);
+    const QByteArray text = file.read(longestText + 1);
+    if (text.size() > longestText) {
+        problem = QStringLiteral("%1 is larger than 1 MiB").arg(path);
+        return std::nullopt;
+    }
+    return parsed(text, path, problem);
 }
 
 std::optional<Look> requestedLook(const Options &options, QString &problem)

@@ -14,9 +14,8 @@ struct Shard {
 };
 
 /// Whether a file belongs to a part. Every file belongs to exactly one of the parts 0 to count - 1. The part follows
-/// from the cleaned path as it is listed, neither from the rest of the list nor from the current folder, and is the
-/// same in every version of the program: "a.jpg" and "./a.jpg" belong to the same part, "/x/a.jpg" may belong to
-/// another.
+/// from the cleaned path only and is the same in every version of the program. For a Source, the path consists of its
+/// subfolder and its name: "*.jpg" in the folder "x", "-r x" and "-r /y/x" put a picture into the same part.
 bool contains(const Shard &shard, const QString &path);
 
 } // namespace grisal::batch

@@ -24,16 +24,7 @@ bool isFolder(const QString &path)
     return std::filesystem::is_directory(QFile::encodeName(path).toStdString(), error);
 }
 
-QString withoutLastSlash(const QString &path)
-{
-    qsizetype size = path.size();
-    while (size > 1 && path.at(size - 1) == u'/') {
-        --size;
-    }
-    return path.left(size);
-}
-
-QStringList entriesIn(const QByteArray &list, bool nulSeparated)
+QStringList entriesIn(const QByteArray &list, bool nulSeparated, QStringList &warnings)
 {
     QStringList entries;
     const char separator = nulSeparated ? '\0' : '\n';
@@ -42,8 +33,11 @@ QStringList entriesIn(const QByteArray &list, bool nulSeparated)
         const qsizetype end = found < 0 ? list.size() : found;
         const bool hasReturn = !nulSeparated && end > start && list.at(end - 1) == '\r';
         const QByteArray entry = list.mid(start, end - start - (hasReturn ? 1 : 0));
-        if (!entry.isEmpty()) {
-            entries.append(QFile::decodeName(entry));
+        const QString name = QFile::decodeName(entry);
+        if (QFile::encodeName(name) != entry) {
+            warnings.append(warningOfInvalidName(name));
+        } else if (!entry.isEmpty()) {
+            entries.append(name);
         }
         start = end + 1;
     }
@@ -83,11 +77,14 @@ public:
 
     SourceList list(QIODevice &standardInput)
     {
+        for (const QString &operand : m_options.invalidSources) {
+            m_list.warnings.append(warningOfInvalidName(operand));
+        }
         for (const QString &operand : m_options.sources) {
             addOperand(operand);
         }
         if (!m_options.filesFrom.isEmpty() && m_list.error.isEmpty()) {
-            addEntries(entriesIn(readList(standardInput), m_options.nulSeparated));
+            addEntries(entriesIn(readList(standardInput), m_options.nulSeparated, m_list.warnings));
         }
         return std::move(m_list);
     }
@@ -118,7 +115,7 @@ private:
         if (m_options.filesFrom == QStringLiteral("-")) {
             return standardInput.readAll();
         }
-        QFile file(m_options.filesFrom);
+        QFile file(pathForQt(m_options.filesFrom));
         QByteArray list = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
         if (file.error() != QFileDevice::NoError) {
             fail(QStringLiteral("Cannot read the list %1 of --files-from: %2.")

@@ -21,7 +21,7 @@ struct Source {
 
 struct SourceList {
     std::vector<Source> sources;
-    QStringList warnings; ///< sentences about what could not be searched
+    QStringList warnings; ///< sentences about what could not be searched or opened
     QString error;        ///< a sentence about wrong usage; nothing should be done if it is not empty
 };
 
@@ -31,11 +31,11 @@ struct SourceList {
 /// Folders: with --recursive, operands that are folders, or links to folders, are searched; otherwise they are an
 /// error. A search finds every file that starts like an image, whatever its name, and sorts them by path. It leaves out
 /// hidden files and folders, links to folders and, so that a second run does not find the results of the first, the
-/// folder of
-/// --output-dir where it lies below the searched one. Folders that cannot be read and names that are not valid UTF-8,
-/// which Qt cannot open, are reported as warnings.
+/// folder of --output-dir where it lies below the searched one. Folders that cannot be read are reported as warnings.
 ///
-/// The file of --files-from: each entry names a file, relative to the current folder; entries are not looked at, so
+/// Names that are not valid UTF-8, which Qt cannot open, are left out and reported as warnings.
+///
+/// The file of --files-from: each entry names a file, relative to the current folder; entries are not inspected, so
 /// that an entry that is a folder fails when it is converted. An entry ends with a line feed, before which a carriage
 /// return is ignored, or, with --null, with a NUL; empty entries are ignored. A file that cannot be read is an error.
 ///

@@ -75,6 +75,12 @@ std::optional<ImageFormat> formatOfName(const QString &path)
     return std::nullopt;
 }
 
+NameParts partsOfName(const QString &path)
+{
+    const QFileInfo name(path);
+    return formatOfName(path) ? NameParts{name.completeBaseName(), name.suffix()} : NameParts{name.fileName(), {}};
+}
+
 QString extensionOf(ImageFormat format)
 {
     switch (format) {

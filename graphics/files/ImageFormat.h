@@ -4,6 +4,7 @@
 #include "graphics/Message.h"
 
 #include <QByteArrayView>
+#include <QLatin1String>
 #include <QString>
 
 #include <optional>
@@ -24,6 +25,17 @@ std::optional<ImageFormat> formatOfContents(QByteArrayView start);
 
 /// The format of a file by the extension of its name, in upper or lower case.
 std::optional<ImageFormat> formatOfName(const QString &path);
+
+/// The name of a file in two parts, without its folder.
+struct NameParts {
+    QString base;
+    QString extension; ///< without the dot; empty if the name has none of an image format, which is then part of `base`
+};
+
+NameParts partsOfName(const QString &path);
+
+/// What is added to the base of a name for the name of the converted image in the same folder.
+constexpr QLatin1String convertedSuffix("-bw");
 
 /// The extension for files of a format, without the dot.
 QString extensionOf(ImageFormat format);

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 namespace
@@ -56,6 +57,22 @@ std::string problemOf(const QStringList &arguments)
 std::string problemWith(const QStringList &arguments)
 {
     return problemOf(QStringList{"--film", "Film", "a.jpg"} + arguments);
+}
+
+TEST(Options, SeparateOperandsThatAreNotUtf8)
+{
+    const std::array<const char *, 7> argv{"grisal-batch", "--film",   "Film",    "a.jpg",
+                                           "\xe9.jpg",     "\xe8.jpg", "\xc3\xa9"};
+    const QString name = QStringLiteral("\ufffd.jpg");
+    const QStringList invalid = invalidArguments(argv.size(), argv.data());
+    EXPECT_EQ(invalid, (QStringList{name, name}));
+
+    const auto parsed = parseOptions({"grisal-batch", "--film", "Film", "a.jpg", name, name}, invalid);
+    ASSERT_TRUE(std::holds_alternative<Options>(parsed));
+    EXPECT_EQ(std::get<Options>(parsed).sources, QStringList{"a.jpg"});
+    EXPECT_EQ(std::get<Options>(parsed).invalidSources, invalid);
+    EXPECT_TRUE(std::holds_alternative<EarlyExit>(
+        parseOptions({"grisal-batch", "--film", "Film", "-o", name, "a.jpg"}, {name})));
 }
 
 TEST(Options, HaveDefaults)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "batch/OutputPlan.h"
 
+#include "graphics/files/LumioImage.h"
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <QDir>
@@ -52,6 +53,28 @@ protected:
         }
         EXPECT_EQ(plan.jobs.front().source.toStdString(), path.toStdString());
         return plan.jobs.front().output.toStdString();
+    }
+
+    /// "source -> output"
+    Texts jobs(const std::vector<Source> &sources) const
+    {
+        const OutputPlan plan = planOutputs(sources, options);
+        EXPECT_EQ(plan.problems.join('\n').toStdString(), "");
+        Texts texts;
+        for (const Job &job : plan.jobs) {
+            texts.push_back((job.source + " -> " + job.output).toStdString());
+        }
+        return texts;
+    }
+
+    /// A picture with a look, unless that is empty.
+    static void writePicture(const QString &path, const QByteArray &look)
+    {
+        grisal::graphics::LumioImage image(3, 2, false);
+        grisal::graphics::Metadata metadata;
+        metadata.setLook(look);
+        image.setMetadata(metadata);
+        ASSERT_TRUE(image.save(path, 90));
     }
 
     Texts problems(const std::vector<Source> &sources) const
@@ -187,6 +210,58 @@ TEST_F(OutputPlanTest, RejectsAnOutputFolderThatIsALinkToThatOfTheSources)
     EXPECT_EQ(problems({source("x/a.jpg")}).size(), 1U);
 }
 
+TEST_F(OutputPlanTest, RejectsTwoOutputsInOneFolderBehindALink)
+{
+    QDir().mkpath("bw/B");
+    ASSERT_EQ(symlink("B", "bw/A"), 0);
+    options.outputDir = "bw";
+    EXPECT_EQ(problems({source("in/A/x.jpg", "A"), source("in/B/x.jpg", "B")}),
+              Texts{"'in/A/x.jpg' and 'in/B/x.jpg' would have the same output 'bw/B/x.jpg'; convert them in separate "
+                    "runs with different folders (-o) or names (--name)."});
+    EXPECT_EQ(problems({source("in/A/C/x.jpg", "A/C"), source("in/B/C/x.jpg", "B/C")}).size(), 1U);
+    EXPECT_EQ(problems({source("in/A/x.jpg", "A"), source("in/B/y.jpg", "B"), source("in/x.jpg")}), Texts());
+}
+
+TEST_F(OutputPlanTest, RejectsTwoExistingOutputsThatAreOneFile)
+{
+    QDir().mkpath("bw");
+    writeFile("bw/b.jpg", "b");
+    ASSERT_EQ(symlink("b.jpg", "bw/a.jpg"), 0);
+    options.outputDir = "bw";
+    EXPECT_EQ(problems({source("a.jpg"), source("b.jpg"), source("c.jpg")}),
+              Texts{"'bw/a.jpg' and 'bw/b.jpg', the outputs of 'a.jpg' and 'b.jpg', are the same file; convert them in "
+                    "separate runs with different folders (-o) or names (--name)."});
+    EXPECT_EQ(problems({source("a.jpg"), source("c.jpg")}), Texts());
+}
+
+TEST_F(OutputPlanTest, LeavesOutTheOutputsOfAnEarlierRunBesideTheSources)
+{
+    for (const char *name : {"a.png", "a-bw.png", "a-bw-bw.png", "b-bw.png"}) {
+        writePicture(name, QByteArray(name).contains("-bw") ? "{}" : "");
+    }
+    const std::vector<Source> sources{source("a-bw-bw.png"), source("a-bw.png"), source("a.png"), source("b-bw.png")};
+    EXPECT_EQ(jobs(sources), (Texts{"a.png -> a-bw.png", "b-bw.png -> b-bw-bw.png"}));
+    options.format = ImageFormat::Jpeg;
+    EXPECT_EQ(jobs(sources).size(), 4U);
+}
+
+TEST_F(OutputPlanTest, RejectsAnOutputWithThePathOfASourceWithoutLook)
+{
+    writePicture("a-bw.png", "");
+    EXPECT_EQ(problems({source("a.png"), source("a-bw.png")}).size(), 1U);
+    writePicture("a-bw.png", "{}");
+    writePicture("a-bw-bw.png", "");
+    EXPECT_EQ(jobs({source("a.png"), source("a-bw.png"), source("a-bw-bw.png")}),
+              (Texts{"a.png -> a-bw.png", "a-bw-bw.png -> a-bw-bw-bw.png"}));
+}
+
+TEST_F(OutputPlanTest, RejectsAnOutputWithThePathOfItsOwnSourceThatHasALook)
+{
+    writePicture("a.png", "{}");
+    options.namePattern = "{name}";
+    EXPECT_EQ(problems({source("a.png")}).size(), 1U);
+}
+
 TEST_F(OutputPlanTest, AcceptsExistingOutputs)
 {
     QDir().mkpath("bw");
@@ -243,6 +318,18 @@ TEST_F(OutputPlanTest, ContainsTheJobsOfTheShardInOrder)
         }
     }
     EXPECT_EQ(found.size(), sources.size());
+}
+
+TEST_F(OutputPlanTest, ShardFollowsFromSubfolderAndName)
+{
+    for (int i = 0; i < 20; ++i) {
+        const QString name = QStringLiteral("%1.jpg").arg(i);
+        options.shard = {1, 2};
+        const std::size_t jobs = planOutputs({source(name, "x")}, options).jobs.size();
+        for (const QString &place : {QStringLiteral("in/x/"), QStringLiteral("/y//in/x/"), current + "/x/"}) {
+            EXPECT_EQ(planOutputs({source(place + name, "x")}, options).jobs.size(), jobs) << i;
+        }
+    }
 }
 
 TEST_F(OutputPlanTest, FindsProblemsOfOtherShards)

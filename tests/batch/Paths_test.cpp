@@ -39,6 +39,19 @@ TEST(Paths, AreSplitAndJoined)
     EXPECT_EQ(joined("", "c.jpg"), "c.jpg");
 }
 
+TEST(Paths, LoseSlashesAtTheirEnds)
+{
+    EXPECT_EQ(withoutLastSlash("a//"), "a");
+    EXPECT_EQ(withoutLastSlash("//"), "/");
+    EXPECT_EQ(withoutLastSlash(""), "");
+}
+
+TEST(Paths, StartWithNoColonForQt)
+{
+    EXPECT_EQ(pathForQt(":a"), "./:a");
+    EXPECT_EQ(pathForQt("a:b"), "a:b");
+}
+
 TEST(Paths, AreQuotedWithoutControlCharacters)
 {
     EXPECT_EQ(quoted("a\n.jpg"), "'a\\n.jpg'");

@@ -4,6 +4,7 @@
 #include "graphics/look/LookText.h"
 #include "tests/graphics/files/PictureFiles.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -20,7 +21,7 @@ using graphics::Look;
 class RequestedLookTest : public testing::Test
 {
 protected:
-    QString path(const char *name) const { return directory.filePath(QString::fromLatin1(name)); }
+    QString path(const char *name) const { return directory.path() + "/" + QString::fromLatin1(name); }
 
     QString savedPicture(const char *name, const QByteArray &look) const
     {
@@ -77,6 +78,30 @@ TEST_F(RequestedLookTest, ProblemsNameTheFile)
     EXPECT_EQ(problem, path("other.png") + QStringLiteral(" has no valid look: \"version\" is missing; it is 1"));
     EXPECT_FALSE(fromFile(path("missing.jpg")));
     EXPECT_EQ(problem, path("missing.jpg") + QStringLiteral(" cannot be read: No such file or directory"));
+}
+
+TEST_F(RequestedLookTest, IsReadFromNamesThatStartWithAColon)
+{
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(directory.path());
+    savedPicture(":a.jpg", graphics::lookText(grainyLook()));
+    test::writeFile(path(":a.json"), graphics::lookText(grainyLook()));
+
+    EXPECT_EQ(fromFile(":a.jpg"), grainyLook());
+    EXPECT_EQ(fromFile(":a.json"), grainyLook()) << problem.toStdString();
+    QDir::setCurrent(before);
+}
+
+TEST_F(RequestedLookTest, TextAboveOneMebibyteIsAProblem)
+{
+    QByteArray text = graphics::lookText(grainyLook());
+    text += QByteArray((1 << 20) - text.size(), ' ');
+    test::writeFile(path("long.json"), text);
+    EXPECT_TRUE(fromFile(path("long.json"))) << problem.toStdString();
+
+    test::writeFile(path("long.json"), text + ' ');
+    EXPECT_FALSE(fromFile(path("long.json")));
+    EXPECT_EQ(problem, path("long.json") + QStringLiteral(" is larger than 1 MiB"));
 }
 
 TEST_F(RequestedLookTest, FilmSetsTheWeightsOfTheMixer)

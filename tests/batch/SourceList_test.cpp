@@ -233,6 +233,26 @@ TEST_F(SourceListTest, ReportsNamesThatAreNotUtf8)
     EXPECT_TRUE(found.warnings.at(0).endsWith(" is left out, because its name is not valid UTF-8; please rename it."));
 }
 
+TEST_F(SourceListTest, LeavesOutListedNamesThatAreNotUtf8)
+{
+    options.filesFrom = "-";
+    const SourceList found = list("a.jpg\n\xe9.jpg\n\xe8.jpg\n\xef\xbf\xbd.jpg\n");
+    EXPECT_EQ(found.error.toStdString(), "");
+    ASSERT_EQ(found.sources.size(), 2U);
+    EXPECT_EQ(found.sources.at(1).path.toStdString(), "\xef\xbf\xbd.jpg");
+    const std::string warning =
+        "'\xef\xbf\xbd.jpg' is left out, because its name is not valid UTF-8; please rename it.";
+    EXPECT_EQ(texts(found.warnings), (Texts{warning, warning}));
+}
+
+TEST_F(SourceListTest, ReportsOperandsThatAreNotUtf8)
+{
+    options.sources = QStringList{"a.jpg"};
+    options.invalidSources = QStringList{QStringLiteral("\ufffd.jpg")};
+    EXPECT_EQ(list().sources.size(), 1U);
+    EXPECT_EQ(list().warnings.size(), 1);
+}
+
 TEST_F(SourceListTest, ContainsTheLinesOfAListAfterTheOperands)
 {
     writeFile("list", "b.jpg\r\n\nGr\xc3\xbc\xc3\x9f"
@@ -299,6 +319,11 @@ TEST_F(SourceListTest, AcceptsNamesThatStartWithAColon)
     options.sources = QStringList{":b.jpg", ":x"};
     EXPECT_EQ(paths(), (Texts{":b.jpg", ":x/a.jpg"}));
     EXPECT_EQ(list().sources.at(0).absolute.toStdString(), (current + "/:b.jpg").toStdString());
+
+    makeFile(":list", "c.jpg");
+    options.sources.clear();
+    options.filesFrom = ":list";
+    EXPECT_EQ(paths(), Texts{"c.jpg"});
 }
 
 } // namespace
