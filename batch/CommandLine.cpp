@@ -90,7 +90,7 @@ OptionGroup executionOptions()
                        "limit of the memory in bytes, or with the suffix\nK, M or G (powers of 1024); at least 64M"),
                 option({"dry-run"}, "", "only show what would be done; whether outputs are\nup to date is not checked"),
                 option({"report"}, "FILE", "write a line of JSON about each picture to FILE"),
-                option({"q", "quiet"}, "", "print errors only"),
+                option({"q", "quiet"}, "", "print errors and warnings only"),
                 option({"v", "verbose"}, "", "print a line about each picture"),
                 option({"h", "help"}, "", "print this help"),
                 option({"version"}, "", "print the version"),

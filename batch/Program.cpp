@@ -21,6 +21,16 @@ void print(const QString &text)
     std::fputs(text.toLocal8Bit().constData(), stdout);
 }
 
+/// The status of a run that only prints: a text that is cut short must not count as complete.
+ExitStatus printed(ExitStatus status)
+{
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) {
+        return status;
+    }
+    printProblem(QStringLiteral("standard output cannot be written"));
+    return SomeFailed;
+}
+
 ExitStatus showLook(const QString &path)
 {
     QString problem;
@@ -30,7 +40,7 @@ ExitStatus showLook(const QString &path)
         return WrongUsage;
     }
     std::fputs(graphics::lookText(*look, graphics::LookFormat::Indented).constData(), stdout);
-    return AllDone;
+    return printed(AllDone);
 }
 
 ExitStatus convert(const Options &options, QIODevice &standardInput)
@@ -57,7 +67,7 @@ ExitStatus convert(const Options &options, QIODevice &standardInput)
         return WrongUsage;
     }
     const ExitStatus status =
-        options.dryRun ? showPlan(plan.jobs, options.ifExists) : convertAll(plan.jobs, *look, options);
+        options.dryRun ? printed(showPlan(plan.jobs, options.ifExists)) : convertAll(plan.jobs, *look, options);
     return status == AllDone && !list.warnings.isEmpty() ? SomeFailed : status;
 }
 
@@ -73,7 +83,7 @@ ExitStatus run(const QStringList &arguments, QIODevice &standardInput, const QSt
     const auto &options = std::get<Options>(parsed);
     if (options.listFilms) {
         print(filmNames());
-        return AllDone;
+        return printed(AllDone);
     }
     return options.showLook.isEmpty() ? convert(options, standardInput) : showLook(options.showLook);
 }

@@ -36,7 +36,8 @@ std::optional<Look> lookOfPicture(const QString &path, QString &problem)
         return std::nullopt;
     }
     if (found.text.isEmpty()) {
-        problem = QStringLiteral("%1 has no look; pictures that Grisal 0.2 or later has saved have one").arg(path);
+        problem = QStringLiteral("%1 has no look; pictures that this or a later version of Grisal has saved have one")
+                      .arg(path);
         return std::nullopt;
     }
     return parsed(found.text, path, problem);

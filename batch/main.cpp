@@ -30,5 +30,6 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     QFile standardInput;
     standardInput.open(stdin, QIODevice::ReadOnly);
-    return grisal::batch::run(QCoreApplication::arguments(), standardInput);
+    return grisal::batch::run(QCoreApplication::arguments(), standardInput,
+                              grisal::batch::invalidArguments(argc, argv));
 }

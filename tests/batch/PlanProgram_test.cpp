@@ -138,4 +138,19 @@ TEST_F(PlanProgram, ListedNamesThatAreNotUtf8AreReported)
     EXPECT_EQ(filesIn("bw"), QStringList{"a.png"});
 }
 
+// QProcess could not pass the name.
+TEST_F(PlanProgram, OperandsThatAreNotUtf8AreReported)
+{
+    makePictures({"a.png"});
+    QProcess process;
+    process.setWorkingDirectory(directory.path());
+    process.start("/bin/sh", {"-c", QStringLiteral(GRISAL_BATCH_PROGRAM) +
+                                        " --film 'Rochester Tri-X' -o bw a.png \"$(printf '\\351.png')\""});
+    ASSERT_TRUE(process.waitForFinished(patience));
+
+    EXPECT_EQ(process.exitCode(), 1);
+    EXPECT_EQ(process.readAllStandardError().count("is not valid UTF-8"), 1);
+    EXPECT_EQ(filesIn("bw"), QStringList{"a.png"});
+}
+
 } // namespace grisal::batch

@@ -196,6 +196,19 @@ TEST_F(BatchProgram, ListsTheFilms)
     EXPECT_TRUE(ended.output.contains("Rochester Tri-X\n"));
 }
 
+TEST_F(BatchProgram, ReportsThatStandardOutputIsIncomplete)
+{
+    makePictures(1);
+    for (const char *options : {"--list-films", "--film Luma --dry-run 0.png"}) {
+        QProcess process;
+        process.setWorkingDirectory(directory.path());
+        process.start("sh", {"-c", QStringLiteral("exec %1 %2 > /dev/full").arg(GRISAL_BATCH_PROGRAM, options)});
+        ASSERT_TRUE(process.waitForFinished(patience));
+        EXPECT_EQ(process.exitCode(), 1) << options;
+        EXPECT_TRUE(process.readAllStandardError().contains("standard output cannot be written")) << options;
+    }
+}
+
 TEST_F(BatchProgram, ReadsNamesFromStandardInput)
 {
     makePictures(2);

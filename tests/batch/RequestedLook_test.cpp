@@ -73,7 +73,8 @@ TEST_F(RequestedLookTest, ProblemsNameTheFile)
                   QStringLiteral(" has no valid look: \"grain.radius\" is 9; allowed is a number from 0 to 3"));
     EXPECT_FALSE(fromFile(savedPicture("none.png", {})));
     EXPECT_EQ(problem,
-              path("none.png") + QStringLiteral(" has no look; pictures that Grisal 0.2 or later has saved have one"));
+              path("none.png") +
+                  QStringLiteral(" has no look; pictures that this or a later version of Grisal has saved have one"));
     EXPECT_FALSE(fromFile(savedPicture("other.png", "{}")));
     EXPECT_EQ(problem, path("other.png") + QStringLiteral(" has no valid look: \"version\" is missing; it is 1"));
     EXPECT_FALSE(fromFile(path("missing.jpg")));
