@@ -151,7 +151,11 @@ TEST_F(MainWindowRotatedImages, AreSavedWithNormalisedOrientationAndMetadata)
     }
     openWithDialog(makePicture(QStringLiteral("plain.jpg"), 30, 20));
     saveWithDialog(inHome(QStringLiteral("c.jpg")));
-    EXPECT_TRUE(metadataIn(inHome(QStringLiteral("c.jpg"))).isEmpty());
+    // Only the look, which every saved image gets.
+    const Metadata written = metadataIn(inHome(QStringLiteral("c.jpg")));
+    EXPECT_TRUE(written.exif.empty() && written.iptc.empty() && written.profile.isEmpty());
+    EXPECT_EQ(written.xmp.count(), 1);
+    EXPECT_NE(written["Xmp.grisal.Look"], "");
 }
 
 class MainWindowManyPictures : public FilesTest
