@@ -10,6 +10,7 @@
 #include "batch/WorkerPool.h"
 #include "graphics/files/FreeMemory.h"
 
+#include <QByteArrayList>
 #include <QJsonDocument>
 
 namespace grisal::batch
@@ -35,13 +36,25 @@ QString shortageFor(std::uint64_t bytes)
                                .arg(graphics::memoryText(bytes), graphics::memoryText(free));
 }
 
+// A path contains no NUL.
+QByteArray requestOf(const Job &job)
+{
+    return job.source.toUtf8() + '\0' + job.output.toUtf8();
+}
+
+Job jobOf(const QByteArray &request)
+{
+    const QByteArrayList paths = request.split('\0');
+    return {QString::fromUtf8(paths.value(0)), QString::fromUtf8(paths.value(1))};
+}
+
 /// One call of convertAll().
 class Run
 {
 public:
     Run(const std::vector<Job> &jobs, const graphics::Look &look, const Options &options)
         : m_jobs(jobs), m_converter(look, options),
-          m_pool(options.jobs, [this](std::uint64_t index) { return convert(index); }), m_budget(options.memory),
+          m_pool(options.jobs, [this](const QByteArray &job) { return convert(jobOf(job)); }), m_budget(options.memory),
           m_memoryToKeep(m_budget.limit() / 2 / static_cast<std::uint64_t>(options.jobs)),
           m_progress(jobs.size(), verbosityOf(options)), m_report(options.report)
     {
@@ -68,11 +81,10 @@ public:
 
 private:
     /// Runs in the processes of the pool.
-    QByteArray convert(std::uint64_t index) const
+    QByteArray convert(const Job &job) const
     {
         keepFreedMemory();
-        const QByteArray result =
-            QJsonDocument(toJson(m_converter.convert(m_jobs[index]))).toJson(QJsonDocument::Compact);
+        const QByteArray result = QJsonDocument(toJson(m_converter.convert(job))).toJson(QJsonDocument::Compact);
         returnFreedMemoryAbove(m_memoryToKeep);
         return result;
     }
@@ -87,7 +99,7 @@ private:
             const bool alone = m_pool.running() == 0;
             QString problem = alone ? shortageFor(bytes) : QString();
             if (problem.isEmpty()) {
-                problem = m_pool.start(m_next);
+                problem = m_pool.start(m_next, requestOf(m_jobs[m_next]));
             }
             if (problem.isEmpty()) {
                 m_budget.take(m_next, bytes);

@@ -20,11 +20,24 @@ namespace grisal::batch
 namespace
 {
 
-constexpr std::size_t longestResult = 100'000;
+constexpr std::size_t longestMessage = 100'000;
 
 QString reasonOf(int error)
 {
     return QString::fromLocal8Bit(std::strerror(error));
+}
+
+bool sendMessage(int socket, const QByteArray &message)
+{
+    return send(socket, message.constData(), static_cast<std::size_t>(message.size()), MSG_NOSIGNAL) >= 0;
+}
+
+/// Empty if the process at the other end has ended.
+QByteArray receiveMessage(int socket)
+{
+    QByteArray message(longestMessage, Qt::Uninitialized);
+    const ssize_t size = recv(socket, message.data(), longestMessage, 0);
+    return message.first(std::max<ssize_t>(size, 0));
 }
 
 QString describeEnd(int status)
@@ -64,7 +77,7 @@ bool WorkerPool::hasIdleWorker() const
 }
 
 // An idle process is used before a new one is forked.
-QString WorkerPool::start(std::uint64_t task)
+QString WorkerPool::start(std::uint64_t task, const QByteArray &request)
 {
     const auto isIdle = [](const Worker &worker) { return worker.exists() && !worker.task; };
     auto worker = std::find_if(m_workers.begin(), m_workers.end(), isIdle);
@@ -76,7 +89,7 @@ QString WorkerPool::start(std::uint64_t task)
     }
     worker->task = task;
     // If the process is gone, receive() notices it.
-    send(worker->socket, &task, sizeof task, MSG_NOSIGNAL);
+    sendMessage(worker->socket, request);
     return {};
 }
 
@@ -108,14 +121,12 @@ QString WorkerPool::fork(Worker &worker)
 void WorkerPool::work(int socket) const
 {
     Interruption::ignoreInChild();
-    std::uint64_t task = 0;
-    while (recv(socket, &task, sizeof task, 0) == sizeof task) {
-        const QByteArray result = m_task(task);
-        if (send(socket, result.constData(), static_cast<std::size_t>(result.size()), MSG_NOSIGNAL) < 0) {
-            break;
+    for (;;) {
+        const QByteArray request = receiveMessage(socket);
+        if (request.isEmpty() || !sendMessage(socket, m_task(request))) {
+            _exit(0);
         }
     }
-    _exit(0);
 }
 
 std::vector<WorkerPool::Finished> WorkerPool::wait(int milliseconds, const sigset_t &mask)
@@ -143,12 +154,8 @@ std::vector<WorkerPool::Finished> WorkerPool::wait(int milliseconds, const sigse
 
 WorkerPool::Finished WorkerPool::receive(Worker &worker)
 {
-    QByteArray result(longestResult, Qt::Uninitialized);
-    const ssize_t size = recv(worker.socket, result.data(), longestResult, 0);
-    Finished finished{*std::exchange(worker.task, std::nullopt), {}, {}};
-    if (size > 0) {
-        finished.result = result.first(size);
-    } else {
+    Finished finished{*std::exchange(worker.task, std::nullopt), receiveMessage(worker.socket), {}};
+    if (finished.result.isEmpty()) {
         finished.crash = describeEnd(end(worker));
     }
     return finished;

@@ -15,7 +15,7 @@
 namespace grisal::batch
 {
 
-/// Runs tasks, which are numbers, in processes that are forked from this one when they are needed. A task that crashes
+/// Runs tasks in processes that are forked from this one when they are needed. A task that crashes
 /// ends only its own process, and the libraries that decode images, which have global state, need no locks.
 ///
 /// The program must have a single thread. A process ends after its current task when this object is destroyed or this
@@ -23,12 +23,13 @@ namespace grisal::batch
 class WorkerPool
 {
 public:
-    /// Runs in another process and returns a result of up to 100 kilobytes. What it reads of the state of this process
-    /// is as of the time when that process was forked.
-    using Task = std::function<QByteArray(std::uint64_t)>;
+    /// Runs in another process and turns a request into a result, each of 1 byte to 100 kilobytes. Everything that
+    /// differs between tasks is in the request: memory that is shared with this process is copied where it is changed,
+    /// which includes the reference counts of texts.
+    using Task = std::function<QByteArray(const QByteArray &request)>;
 
     struct Finished {
-        std::uint64_t task;
+        std::uint64_t task; ///< as it was passed to start()
         QByteArray result;
         QString crash; ///< how the process ended without a result, a sentence in English; empty normally
     };
@@ -43,7 +44,7 @@ public:
 
     /// Starts a task on an idle worker. Returns a reason, for example that there are too many processes, if that is
     /// impossible.
-    QString start(std::uint64_t task);
+    QString start(std::uint64_t task, const QByteArray &request);
 
     /// Waits until tasks have finished, a signal that `mask` does not block has arrived or the time has passed.
     std::vector<Finished> wait(int milliseconds, const sigset_t &mask);
