@@ -29,10 +29,10 @@ namespace
 using namespace grisal::test;
 using grisal::graphics::ColorRGB;
 using grisal::graphics::CurveFilter;
+using grisal::graphics::FilterParameters;
 using grisal::graphics::GrainFilter;
 using grisal::graphics::HalfToneFilter;
 using grisal::graphics::IFilter;
-using grisal::graphics::FilterParameters;
 using grisal::graphics::MixerFilter;
 using grisal::graphics::VignetteFilter;
 
@@ -179,7 +179,8 @@ TEST_F(MainWindowActions, MixerPanelSetsThePreviewParameters)
 {
     start();
     child<QComboBox>(panel<Mixer>(), "comboPresets").setCurrentText(QStringLiteral("Rochester Tri-X"));
-    EXPECT_EQ(preview().parameters().get<MixerFilter>().weights, (ColorRGB<float>{64 / 255.0F, 89 / 255.0F, 102 / 255.0F}));
+    EXPECT_EQ(preview().parameters().get<MixerFilter>().weights,
+              (ColorRGB<float>{64 / 255.0F, 89 / 255.0F, 102 / 255.0F}));
 }
 
 TEST_F(MainWindowActions, VignettePanelSetsThePreviewParameters)

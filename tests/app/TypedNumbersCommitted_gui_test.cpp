@@ -22,8 +22,8 @@ namespace
 {
 
 using namespace grisal::test;
-using grisal::graphics::HalfToneFilter;
 using grisal::graphics::FilterParameters;
+using grisal::graphics::HalfToneFilter;
 using grisal::graphics::MixerFilter;
 using grisal::graphics::VignetteFilter;
 
@@ -38,8 +38,10 @@ struct Box {
 };
 
 constexpr std::array<Box, 3> boxes{{
-    {"actionVignette", "spinBoxX", [](const FilterParameters &now) { return now.get<VignetteFilter>().shape.center.x; }, 60},
-    {"actionSplitTone", "spinBoxWeight", [](const FilterParameters &now) { return now.get<HalfToneFilter>().weight; }, 1.05F},
+    {"actionVignette", "spinBoxX", [](const FilterParameters &now) { return now.get<VignetteFilter>().shape.center.x; },
+     60},
+    {"actionSplitTone", "spinBoxWeight", [](const FilterParameters &now) { return now.get<HalfToneFilter>().weight; },
+     1.05F},
     {"actionMixer", "spinBoxLuma",
      [](const FilterParameters &now) {
          return 255 * (now.get<MixerFilter>().weights.r + now.get<MixerFilter>().weights.g +
@@ -235,7 +237,8 @@ TEST_F(TypedNumbersCommitted, ByEveryChangeOfThePanel)
             trigger(window, box.action);
             typeSixty(box.name);
             press(other, control);
-            EXPECT_FLOAT_EQ(box.value(preview().parameters()), box.forSixty) << box.name << " before Ctrl+" << char(other);
+            EXPECT_FLOAT_EQ(box.value(preview().parameters()), box.forSixty)
+                << box.name << " before Ctrl+" << char(other);
         }
     }
 }
