@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "graphics/files/ReplacementFile.h"
-#include "tests/graphics/files/PictureFiles.h"
+#include "tests/graphics/files/ReplacementFileTest.h"
 
 #include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
+#include <QFileInfo>
 
 #include <fcntl.h>
 #include <sys/ptrace.h>
@@ -24,68 +24,39 @@ namespace
 using namespace grisal::test;
 using grisal::graphics::ReplacementFile;
 
-class ReplacementFileTest : public testing::Test
+/// Replaces a file in a child process and kills it at the start or end of the system call with this number. Returns
+/// false if the process has ended before.
+bool replaceAndKill(const QString &path, const QByteArray &contents, int systemCallStops)
 {
-protected:
-    QString path(const QString &name) const { return directory.filePath(name); }
-
-    QStringList names() const
-    {
-        return QDir(directory.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    }
-
-    static void put(const ReplacementFile &file, const QByteArray &contents)
-    {
-        ASSERT_EQ(write(file.file().descriptor(), contents.constData(), static_cast<std::size_t>(contents.size())),
-                  contents.size());
-    }
-
-    static bool replace(const QString &path, const QByteArray &contents)
-    {
-        ReplacementFile file(path);
-        if (!file.problem().isEmpty()) {
-            return false;
+    const pid_t process = fork();
+    if (process == 0) {
+        if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) {
+            std::_Exit(EXIT_FAILURE);
         }
-        put(file, contents);
-        return file.commit();
+        std::raise(SIGSTOP);
+        replace(path, contents);
+        std::_Exit(EXIT_SUCCESS);
     }
-
-    /// Replaces a file in a child process and kills it at the start or end of the system call with this number.
-    /// Returns false if the process has ended before.
-    static bool replaceAndKill(const QString &path, const QByteArray &contents, int systemCallStops)
-    {
-        const pid_t process = fork();
-        if (process == 0) {
-            if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) {
-                std::_Exit(EXIT_FAILURE);
-            }
-            std::raise(SIGSTOP);
-            replace(path, contents);
-            std::_Exit(EXIT_SUCCESS);
-        }
-        int status = 0;
+    int status = 0;
+    waitpid(process, &status, 0);
+    for (int i = 0; i < systemCallStops && WIFSTOPPED(status); ++i) {
+        ptrace(PTRACE_SYSCALL, process, nullptr, nullptr);
         waitpid(process, &status, 0);
-        for (int i = 0; i < systemCallStops && WIFSTOPPED(status); ++i) {
-            ptrace(PTRACE_SYSCALL, process, nullptr, nullptr);
-            waitpid(process, &status, 0);
-        }
-        const bool killed = WIFSTOPPED(status);
-        if (killed) {
-            kill(process, SIGKILL);
-            waitpid(process, nullptr, 0);
-        }
-        return killed;
     }
-
-    static mode_t modeOf(const QString &path)
-    {
-        struct stat status {
-        };
-        return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+    const bool killed = WIFSTOPPED(status);
+    if (killed) {
+        kill(process, SIGKILL);
+        waitpid(process, nullptr, 0);
     }
+    return killed;
+}
 
-    QTemporaryDir directory;
-};
+mode_t modeOf(const QString &path)
+{
+    struct stat status {
+    };
+    return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
 
 TEST_F(ReplacementFileTest, CreatesAFile)
 {
