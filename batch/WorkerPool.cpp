@@ -83,7 +83,7 @@ QString WorkerPool::start(std::uint64_t task, const QByteArray &request)
     auto worker = std::find_if(m_workers.begin(), m_workers.end(), isIdle);
     if (worker == m_workers.end()) {
         worker = std::find_if(m_workers.begin(), m_workers.end(), [](const Worker &each) { return !each.exists(); });
-        if (const QString problem = fork(*worker); !problem.isEmpty()) {
+        if (QString problem = fork(*worker); !problem.isEmpty()) {
             return problem;
         }
     }
