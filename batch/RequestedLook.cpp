@@ -21,7 +21,7 @@ constexpr qint64 longestText = 1 << 20;
 
 std::optional<Look> parsed(const QByteArray &text, const QString &path, QString &problem)
 {
-    const std::optional<Look> look = graphics::parseLook(text, problem);
+    std::optional<Look> look = graphics::parseLook(text, problem);
     if (!look) {
         problem = QStringLiteral("%1 has no valid look: %2").arg(path, problem);
     }
