@@ -84,7 +84,7 @@ private:
     QByteArray convert(const Job &job) const
     {
         keepFreedMemory();
-        const QByteArray result = QJsonDocument(toJson(m_converter.convert(job))).toJson(QJsonDocument::Compact);
+        QByteArray result = QJsonDocument(toJson(m_converter.convert(job))).toJson(QJsonDocument::Compact);
         returnFreedMemoryAbove(m_memoryToKeep);
         return result;
     }
