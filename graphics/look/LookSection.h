@@ -30,7 +30,7 @@ struct NumberRange {
     double highest;
 };
 
-/// A JSON object that is read strictly: a value of the wrong type or out of range and a key that nobody has read throw
+/// A JSON object that is read strictly: a value of the wrong type or out of range and a key that was not read throw
 /// a LookError.
 class LookSection
 {

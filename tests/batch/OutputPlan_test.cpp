@@ -2,11 +2,11 @@
 #include "batch/OutputPlan.h"
 
 #include "graphics/files/LumioImage.h"
+#include "tests/batch/FolderTest.h"
 #include "tests/graphics/files/PictureFiles.h"
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -26,18 +26,9 @@ using grisal::test::writeFile;
 
 using Texts = std::vector<std::string>;
 
-/// Tests that run in a temporary folder, so that relative paths can be used.
-class OutputPlanTest : public testing::Test
+class OutputPlanTest : public FolderTest
 {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(folder.isValid());
-        QDir::setCurrent(folder.path());
-        current = QDir::currentPath();
-    }
-    void TearDown() override { QDir::setCurrent(before); }
-
     Source source(const QString &path, const QString &subfolder = {}) const
     {
         return {path, QDir::cleanPath(path.startsWith('/') ? path : current + '/' + path), subfolder};
@@ -88,9 +79,6 @@ protected:
         return texts;
     }
 
-    const QString before = QDir::currentPath();
-    const QTemporaryDir folder;
-    QString current;
     Options options;
 };
 

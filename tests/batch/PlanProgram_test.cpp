@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Runs grisal-batch as users do: which pictures are converted, and which files are never touched.
-#include "tests/graphics/files/PictureFiles.h"
-
-#include <QDir>
-#include <QProcess>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "tests/batch/ProgramTest.h"
 
 namespace grisal::batch
 {
@@ -14,28 +8,12 @@ namespace grisal::batch
 namespace
 {
 
-constexpr int patience = 60'000;
-
-struct Ended {
-    int status;
-    QString output;
-    QString errors;
-};
-
-class PlanProgram : public testing::Test
+class PlanProgram : public ProgramTest
 {
 protected:
     Ended run(const QStringList &arguments, const QByteArray &input = {}) const
     {
-        QProcess process;
-        process.setWorkingDirectory(directory.path());
-        process.start(QStringLiteral(GRISAL_BATCH_PROGRAM),
-                      QStringList{QStringLiteral("--film"), QStringLiteral("Rochester Tri-X")} + arguments);
-        process.write(input);
-        process.closeWriteChannel();
-        EXPECT_TRUE(process.waitForFinished(patience));
-        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-                QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
+        return ProgramTest::run(film + arguments, input);
     }
 
     void makePictures(const QStringList &names) const
@@ -47,12 +25,6 @@ protected:
             }).write(path(name).toStdString());
         }
     }
-
-    QString path(const QString &name) const { return directory.path() + "/" + name; }
-    QByteArray contents(const QString &name) const { return test::contentsOf(path(name)); }
-    QStringList filesIn(const QString &folder) const { return QDir(path(folder)).entryList(QDir::Files); }
-
-    const QTemporaryDir directory;
 };
 
 } // namespace

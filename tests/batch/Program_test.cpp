@@ -3,15 +3,10 @@
 #include "graphics/files/LookInFile.h"
 #include "graphics/files/LumioImage.h"
 #include "graphics/look/LookText.h"
-#include "tests/graphics/files/PictureFiles.h"
+#include "tests/batch/ProgramTest.h"
 
-#include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <csignal>
 #include <map>
@@ -22,35 +17,9 @@ namespace grisal::batch
 namespace
 {
 
-constexpr int patience = 60'000;
-
-struct Ended {
-    int status;
-    QString output;
-    QString errors;
-};
-
-class BatchProgram : public testing::Test
+class BatchProgram : public ProgramTest
 {
 protected:
-    void start(QProcess &process, const QStringList &arguments) const
-    {
-        process.setWorkingDirectory(directory.path());
-        process.start(QStringLiteral(GRISAL_BATCH_PROGRAM), arguments);
-        ASSERT_TRUE(process.waitForStarted(patience));
-    }
-
-    Ended run(const QStringList &arguments, const QByteArray &input = {}) const
-    {
-        QProcess process;
-        start(process, arguments);
-        process.write(input);
-        process.closeWriteChannel();
-        EXPECT_TRUE(process.waitForFinished(patience));
-        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-                QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
-    }
-
     /// Makes pictures with the names 0.png, 1.png and so on, each with another size.
     QStringList makePictures(int count, int side = 40) const
     {
@@ -65,13 +34,6 @@ protected:
         return names;
     }
 
-    QString path(const QString &name) const { return directory.path() + "/" + name; }
-    QStringList filesIn(const QString &folder) const
-    {
-        return QDir(path(folder)).entryList(QDir::Files | QDir::Hidden);
-    }
-    QByteArray contents(const QString &name) const { return test::contentsOf(path(name)); }
-
     std::map<QString, QByteArray> allFilesIn(const QString &folder) const
     {
         std::map<QString, QByteArray> files;
@@ -80,11 +42,7 @@ protected:
         }
         return files;
     }
-
-    const QTemporaryDir directory;
 };
-
-const QStringList film{QStringLiteral("--film"), QStringLiteral("Rochester Tri-X")};
 
 } // namespace
 

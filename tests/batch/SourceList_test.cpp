@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "batch/SourceList.h"
 
+#include "tests/batch/FolderTest.h"
 #include "tests/graphics/files/PictureFiles.h"
 #include "tests/support/InaccessibleFolder.h"
 
 #include <QBuffer>
 #include <QDir>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -34,18 +34,9 @@ Texts texts(const QStringList &list)
     return result;
 }
 
-/// Tests that run in a temporary folder, so that relative paths can be used.
-class SourceListTest : public testing::Test
+class SourceListTest : public FolderTest
 {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(folder.isValid());
-        QDir::setCurrent(folder.path());
-        current = QDir::currentPath();
-    }
-    void TearDown() override { QDir::setCurrent(before); }
-
     /// A file that starts like an image.
     static void makeImage(const QString &path) { makeFile(path, "\xff\xd8\xff\xe0"); }
 
@@ -86,9 +77,6 @@ protected:
         return names;
     }
 
-    const QString before = QDir::currentPath();
-    const QTemporaryDir folder;
-    QString current;
     Options options;
 };
 
