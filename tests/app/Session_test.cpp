@@ -7,6 +7,7 @@
 #include "tests/support/LogCapture.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -120,6 +121,19 @@ TEST_F(SessionTest, WritesTheLookInsteadOfThatOfTheSource)
         ASSERT_TRUE(session.write(Image8(2, 1), path(name), look));
         EXPECT_EQ(grisal::graphics::readLook(path(name)).text, grisal::graphics::lookText(look)) << name;
         open(path(name));
+    }
+}
+
+TEST_F(SessionTest, WritesNoNamesOfFilesAndFolders)
+{
+    const QByteArray folder = QFileInfo(directory.path()).fileName().toUtf8();
+    for (const QString &extension : {QStringLiteral(".png"), QStringLiteral(".jpg"), QStringLiteral(".tif")}) {
+        open(makePicture("source-name" + extension, 8));
+        ASSERT_TRUE(session.write(Image8(2, 1), path("output-name" + extension), Look()));
+        const QByteArray written = contentsOf(path("output-name" + extension));
+        for (const QByteArray &name : {QByteArray("source-name"), QByteArray("output-name"), folder}) {
+            EXPECT_FALSE(written.contains(name)) << extension.toStdString() << ": " << name.toStdString();
+        }
     }
 }
 
