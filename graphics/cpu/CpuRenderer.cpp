@@ -11,7 +11,8 @@
 #include <vector>
 
 // Compiles a function, with everything that it calls, also for processors with AVX2; the dynamic linker chooses.
-#if defined(__x86_64__) && defined(__gnu_linux__)
+// It does so before the thread sanitizer is ready, which would crash.
+#if defined(__x86_64__) && defined(__gnu_linux__) && !defined(__SANITIZE_THREAD__)
 #define GRISAL_WITH_AVX2_CLONE [[gnu::target_clones("avx2", "default"), gnu::flatten]]
 #else
 #define GRISAL_WITH_AVX2_CLONE

@@ -9,6 +9,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <thread>
+#include <vector>
+
 namespace grisal::test
 {
 
@@ -123,6 +127,26 @@ TYPED_TEST(CpuRendererTest, BlocksOfRowsGiveTheSameAsTheWholeImage)
         }
         renderer.render(whole);
         EXPECT_EQ(joined.samples, std::get<Raster>(whole).samples) << width << " x " << height;
+    }
+}
+
+TYPED_TEST(CpuRendererTest, ThreadsRenderDifferentImagesWithTheSameRenderer)
+{
+    const auto look = everyFilterAloneAndAllTogether().back().look;
+    const graphics::CpuRenderer renderer(look.parameters, enabledIn(look));
+    const graphics::Image source = imageOf(randomPicture<TypeParam>(67, 41));
+    std::array<graphics::Image, 4> images{source, source, source, source};
+    {
+        std::vector<std::jthread> threads;
+        for (graphics::Image &image : images) {
+            threads.emplace_back([&] { renderer.render(image); });
+        }
+    }
+    graphics::Image expected = source;
+    renderer.render(expected);
+    for (const graphics::Image &image : images) {
+        using Raster = graphics::Raster<TypeParam>;
+        EXPECT_EQ(std::get<Raster>(image).samples, std::get<Raster>(expected).samples);
     }
 }
 
