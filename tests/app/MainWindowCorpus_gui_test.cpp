@@ -65,7 +65,7 @@ protected:
             return;
         }
         if (corpusFolder().isEmpty()) {
-            GTEST_SKIP() << "GRISAL_CORPUS does not say where the pictures are";
+            GTEST_SKIP() << "GRISAL_CORPUS, the folder of the pictures, is not set";
         }
         expectWarning(QStringLiteral("No JPEG, PNG or TIFF picture in "));
         for (const char *part : {"Cannot open ", "Magick: ", " contains texts that are too long",

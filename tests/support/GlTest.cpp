@@ -3,6 +3,7 @@
 
 #include "tests/support/GlPresence.h"
 
+#include <iostream>
 #include <memory>
 #include <string_view>
 
@@ -14,6 +15,17 @@ namespace
 
 std::unique_ptr<graphics::OffscreenContext> context;
 
+/// Names the driver in the output, once in a program.
+void printDriver()
+{
+    static const bool printed = [] {
+        std::cout << "OpenGL driver: " << glGetString(GL_VENDOR) << ", " << glGetString(GL_RENDERER) << ", "
+                  << glGetString(GL_VERSION) << std::endl;
+        return true;
+    }();
+    static_cast<void>(printed);
+}
+
 } // namespace
 
 void GlTest::SetUp()
@@ -21,6 +33,7 @@ void GlTest::SetUp()
     GRISAL_SKIP_WITHOUT_GL();
     context = std::make_unique<graphics::OffscreenContext>();
     ASSERT_EQ(graphics::initialiseGlEntryPoints(), graphics::GlStart::Ready);
+    printDriver();
     clearGlErrors();
 }
 

@@ -95,7 +95,7 @@ protected:
     void SetUp() override
     {
         if (corpusFolder().isEmpty()) {
-            GTEST_SKIP() << "GRISAL_CORPUS does not say where the pictures are";
+            GTEST_SKIP() << "GRISAL_CORPUS, the folder of the pictures, is not set";
         }
         grisal::graphics::initializeImageLibrary(nullptr);
         m_folderBefore = QDir::currentPath();
