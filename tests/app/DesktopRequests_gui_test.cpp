@@ -5,6 +5,8 @@
 #include <QEventLoop>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPixmap>
+#include <QScreen>
 #include <QTest>
 #include <QWidget>
 
@@ -26,6 +28,13 @@ protected:
     {
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    }
+
+    /// The colour of the screen in the middle of the window.
+    QColor shownColour() const
+    {
+        const QPoint middle = window.mapToGlobal(window.rect().center());
+        return window.screen()->grabWindow(0, middle.x(), middle.y(), 1, 1).toImage().pixelColor(0, 0);
     }
 
     void expectNothingOpensSoon()
@@ -77,14 +86,20 @@ TEST_F(DesktopRequests, AMaximisedWindowStaysMaximised)
     EXPECT_EQ(window.windowState() & (Qt::WindowMaximized | Qt::WindowMinimized), Qt::WindowMaximized);
 }
 
-TEST_F(DesktopRequests, TheWindowBecomesActive)
+TEST_F(DesktopRequests, ACoveredWindowBecomesVisibleAndActive)
 {
+    window.setPalette(Qt::blue);
     QWidget other;
+    other.setPalette(Qt::yellow);
+    other.setGeometry(window.geometry());
     other.show();
+    other.raise();
     other.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return shownColour() == QColor(Qt::yellow); }));
     requests.add({}, {});
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shownColour() == QColor(Qt::blue); }));
 }
 
 TEST_F(DesktopRequests, FilesWaitForTheEndOfADialogWhichBecomesActive)

@@ -30,13 +30,16 @@ protected:
         bus.start();
     }
 
-    /// Starts the service and waits until it has its name.
+    ~DesktopService() override { QDBusConnection::disconnectFromBus(id); }
+
+    /// Starts the service and waits until it has its name. It has a connection of its own: calls within one connection
+    /// do not use the bus.
     void startService()
     {
         QObject::connect(
             &service, &grisal::DesktopService::requested, &window,
             [this](const QStringList &uris, const QString &token) { requests << uris.join(u',') + u'|' + token; });
-        service.start(bus.connection(), id);
+        service.start(bus.connectAs(id), id);
         ASSERT_TRUE(QTest::qWaitFor([this] { return bus.processWith(id) != 0; }));
     }
 
@@ -100,7 +103,7 @@ TEST_F(DesktopService, GetsTheNameWhenTheProgramThatHasItEnds)
 {
     const QString other = QStringLiteral("other");
     ASSERT_TRUE(bus.connectAs(other).registerService(id));
-    service.start(bus.connection(), id);
+    service.start(bus.connectAs(id), id);
     EXPECT_EQ(call(QStringLiteral("Activate"), {QVariantMap()}).type(), QDBusMessage::ErrorMessage);
     QDBusConnection::disconnectFromBus(other);
     const auto answers = [this] {
