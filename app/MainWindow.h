@@ -48,6 +48,10 @@ public:
     /// if rendering fails, nothing is written.
     void saveImage(const QString &path);
 
+    /// Opens the first picture among files that another program passes, like a choice from the Recent menu. Shows a
+    /// message if none is a file on this computer.
+    void openUris(const QStringList &uris);
+
     /// Why OpenGL cannot draw images; empty if there is no problem.
     graphics::Message graphicsProblem() const;
 
@@ -99,7 +103,8 @@ private:
     void showSaved(const QString &path);
     void showCannotLoad(const QString &filename);
     void openFile(const QString &filename);
-    void openDropped(const QStringList &paths);
+    void openFirst(const QStringList &paths);
+    void showNotLocal(const QString &uri);
     std::optional<graphics::Image> renderOutput(BusyNotice &notice);
     std::optional<graphics::Image> renderImage(BusyNotice &notice);
     void showRenderFailed(const QString &reason);

@@ -3,7 +3,7 @@
 #include "app/MainWindow.h"
 
 #include "app/BusyNotice.h"
-#include "app/DroppedImages.h"
+#include "app/LocalFiles.h"
 #include "app/Product.h"
 #include "app/StatusBar.h"
 #include "ui_MainWindow.h"
@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QTimer>
+#include <QUrl>
 
 #include <malloc.h>
 
@@ -25,6 +26,10 @@ namespace grisal::ui
 
 namespace
 {
+
+// An address that another program passes may have any length.
+constexpr int longestUri = 200; // characters in the log
+constexpr int widestUri = 600;  // pixels in a message box
 
 QString titleFor(const QString &path, const graphics::Image &image)
 {
@@ -76,7 +81,7 @@ void MainWindow::openImage(QString filename)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!droppedImages(*event->mimeData()).isEmpty()) {
+    if (!imagesAmong(localFiles(event->mimeData()->urls())).isEmpty()) {
         acceptCopy(*event);
     }
 }
@@ -84,12 +89,12 @@ void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 // Opened afterwards, because a message box would block the program that the files come from.
 void MainWindow::dropEvent(QDropEvent *event)
 {
-    const QStringList paths = droppedImages(*event->mimeData());
+    const QStringList paths = imagesAmong(localFiles(event->mimeData()->urls()));
     acceptCopy(*event);
-    QTimer::singleShot(0, this, [this, paths] { openDropped(paths); });
+    QTimer::singleShot(0, this, [this, paths] { openFirst(paths); });
 }
 
-void MainWindow::openDropped(const QStringList &paths)
+void MainWindow::openFirst(const QStringList &paths)
 {
     if (paths.isEmpty()) {
         return;
@@ -100,6 +105,18 @@ void MainWindow::openDropped(const QStringList &paths)
     if (opened && m_session.warning().isEmpty() && paths.size() > 1) {
         m_form->statusbar->showBriefly(tr("Only the first of the %1 pictures was opened").arg(paths.size()));
     }
+}
+
+// A single file is opened whatever it contains: the message then states why it is no picture.
+void MainWindow::openUris(const QStringList &uris)
+{
+    const QStringList files = localFiles(QUrl::fromStringList(uris));
+    if (files.isEmpty()) {
+        showNotLocal(uris.value(0));
+        return;
+    }
+    const QStringList images = imagesAmong(files);
+    openFirst(images.isEmpty() ? files.mid(0, 1) : images);
 }
 
 void MainWindow::openFile(const QString &filename)
@@ -151,6 +168,19 @@ void MainWindow::showCannotLoad(const QString &filename)
         box.setInformativeText(m_session.problem().translated());
     }
     // A file name may contain characters that look like HTML.
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void MainWindow::showNotLocal(const QString &uri)
+{
+    const QString start = uri.left(longestUri);
+    qWarning("%s is not a file on this computer", qPrintable(start));
+    const QString shown = fontMetrics().elidedText(start, Qt::ElideMiddle, widestUri);
+    QMessageBox box(QMessageBox::Information, tr("Open Image"), tr("Cannot load %1.").arg(shown), QMessageBox::Ok,
+                    this);
+    box.setInformativeText(tr("It is not a file on this computer, or its name is invalid. Please copy the picture to "
+                              "a folder on this computer and open the copy."));
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Appearance.h"
+#include "app/DesktopRequests.h"
+#include "app/DesktopService.h"
 #include "app/MainWindow.h"
 #include "app/MessageLog.h"
 #include "app/Settings.h"
@@ -9,6 +11,7 @@
 #include "graphics/gl/SurfaceFormat.h"
 
 #include <QApplication>
+#include <QDBusConnection>
 #include <QLocale>
 #include <QMessageBox>
 #include <QString>
@@ -88,5 +91,10 @@ int main(int argc, char **argv)
         reportGraphicsProblem(problem);
         return EXIT_FAILURE;
     }
+    grisal::DesktopRequests requests(*window);
+    grisal::DesktopService service;
+    QObject::connect(&service, &grisal::DesktopService::requested, &requests, &grisal::DesktopRequests::add);
+    QObject::connect(&requests, &grisal::DesktopRequests::signalOpen, window.get(), &grisal::ui::MainWindow::openUris);
+    service.start(QDBusConnection::sessionBus(), QStringLiteral(GRISAL_APP_ID));
     return QApplication::exec();
 }

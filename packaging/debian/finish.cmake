@@ -18,5 +18,15 @@ function(finish component program)
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 endfunction()
 
+# CPack installs into the staging folder, whose path is then in the file for D-Bus.
+function(finish_service)
+  set(staging "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/window")
+  file(GLOB service "${staging}/usr/share/dbus-1/services/*.service")
+  file(READ "${service}" text)
+  string(REPLACE "${staging}" "" text "${text}")
+  file(WRITE "${service}" "${text}")
+endfunction()
+
+finish_service()
 finish(window grisal)
 finish(batch grisal-batch)

@@ -1097,6 +1097,10 @@ Grisal braucht OpenGL 2.1, um Bilder anzuzeigen und zu speichern. Bitte installi
         <source>Saved %1</source>
         <translation>%1 gespeichert</translation>
     </message>
+    <message>
+        <source>It is not a file on this computer, or its name is invalid. Please copy the picture to a folder on this computer and open the copy.</source>
+        <translation>Es ist keine Datei auf diesem Computer, oder ihr Name ist ungültig. Bitte kopieren Sie das Bild in einen Ordner auf diesem Computer und öffnen Sie die Kopie.</translation>
+    </message>
 </context>
 <context>
     <name>grisal::ui::StatusBar</name>

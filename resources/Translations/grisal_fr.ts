@@ -1097,6 +1097,10 @@ Grisal a besoin d’OpenGL 2.1 pour afficher et enregistrer des images. Veuillez
         <source>Saved %1</source>
         <translation>%1 enregistré</translation>
     </message>
+    <message>
+        <source>It is not a file on this computer, or its name is invalid. Please copy the picture to a folder on this computer and open the copy.</source>
+        <translation>Ce n’est pas un fichier de cet ordinateur, ou son nom n’est pas valide. Veuillez copier l’image dans un dossier de cet ordinateur et ouvrir la copie.</translation>
+    </message>
 </context>
 <context>
     <name>grisal::ui::StatusBar</name>

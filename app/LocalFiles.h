@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QStringList>
+#include <QUrl>
+
+namespace grisal
+{
+
+/// Returns the paths of the URLs that name files on this computer, in their order. The others are left out: other
+/// schemes and hosts, relative paths, paths that are too long for the system, and names that are not UTF-8, which Qt's
+/// paths cannot contain.
+QStringList localFiles(const QList<QUrl> &urls);
+
+/// Returns the paths of the files that start like JPEG, PNG or TIFF files, in their order.
+QStringList imagesAmong(const QStringList &paths);
+
+} // namespace grisal
