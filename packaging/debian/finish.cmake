@@ -4,16 +4,19 @@ function(finish component program)
   set(staging "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/${component}/usr")
   set(doc "${staging}/share/doc/${program}")
 
-  file(COPY_FILE "${CPACK_GRISAL_DEBIAN}/copyright.${component}" "${doc}/copyright")
-  file(COPY_FILE "${CPACK_GRISAL_DEBIAN}/changelog.Debian" "${doc}/changelog.Debian")
-  file(RENAME "${doc}/CHANGELOG.md" "${doc}/changelog")
+  file(MAKE_DIRECTORY "${doc}")
+  foreach(text changelog changelog.Debian copyright)
+    file(COPY_FILE "${CPACK_GRISAL_TEXTS}/${text}" "${doc}/${text}")
+  endforeach()
 
   set(texts "${staging}/share/man/man1/${program}.1" "${doc}/changelog" "${doc}/changelog.Debian")
   execute_process(COMMAND gzip -9 --no-name ${texts} COMMAND_ERROR_IS_FATAL ANY)
+  execute_process(COMMAND strip --remove-section=.comment --remove-section=.note "${staging}/bin/${program}"
+    COMMAND_ERROR_IS_FATAL ANY)
+
+  # Fixed permissions, independent of those of the sources and of the umask of the build.
   list(TRANSFORM texts APPEND ".gz")
   file(CHMOD ${texts} "${doc}/copyright" FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
-
-  # Fixed permissions, independent of the umask of the build.
   file(CHMOD_RECURSE "${staging}" DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 endfunction()
