@@ -16,7 +16,8 @@ function(finish component program)
 
   # Fixed permissions, independent of those of the sources and of the umask of the build.
   list(TRANSFORM texts APPEND ".gz")
-  file(CHMOD ${texts} "${doc}/copyright" FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+  file(GLOB overrides "${staging}/share/lintian/overrides/*")
+  file(CHMOD ${texts} ${overrides} "${doc}/copyright" FILE_PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
   file(CHMOD_RECURSE "${staging}" DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 endfunction()
@@ -30,6 +31,13 @@ function(finish_service)
   file(WRITE "${service}" "${text}")
 endfunction()
 
+function(finish_overrides)
+  set(folder "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/window/usr/share/lintian/overrides")
+  file(MAKE_DIRECTORY "${folder}")
+  file(COPY_FILE "${CPACK_GRISAL_TEXTS}/lintian-overrides" "${folder}/grisal")
+endfunction()
+
 finish_service()
+finish_overrides()
 finish(window grisal)
 finish(batch grisal-batch)
