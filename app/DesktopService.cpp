@@ -28,45 +28,28 @@ QDBusMessage requestForName(const QString &name)
 
 } // namespace
 
-void ApplicationInterface::Activate(const QVariantMap &platformData)
+void DesktopService::start(QDBusConnection bus, const QString &applicationId)
+{
+    if (bus.isConnected() && bus.registerObject(objectPathOf(applicationId), this, QDBusConnection::ExportAllSlots)) {
+        bus.send(requestForName(applicationId));
+    }
+}
+
+void DesktopService::Activate(const QVariantMap &platformData)
 {
     emit requested({}, tokenIn(platformData));
 }
 
-void ApplicationInterface::Open(const QStringList &uris, const QVariantMap &platformData)
+void DesktopService::Open(const QStringList &uris, const QVariantMap &platformData)
 {
     emit requested(uris, tokenIn(platformData));
 }
 
-void ApplicationInterface::ActivateAction(const QString &name, const QVariantList & /*parameter*/,
-                                          const QVariantMap &platformData)
+void DesktopService::ActivateAction(const QString &name, const QVariantList & /*parameter*/,
+                                    const QVariantMap &platformData)
 {
-    emit unknownAction(name);
+    qWarning("There is no action %s", qPrintable(name));
     emit requested({}, tokenIn(platformData));
-}
-
-void DesktopService::start(const QDBusConnection &bus, const QString &applicationId)
-{
-    if (!bus.isConnected()) {
-        return;
-    }
-    m_bus = bus;
-    m_path = objectPathOf(applicationId);
-    connect(&m_interface, &ApplicationInterface::requested, this, &DesktopService::requested);
-    connect(&m_interface, &ApplicationInterface::unknownAction, this,
-            [](const QString &name) { qWarning("There is no action %s", qPrintable(name)); });
-    m_interface.moveToThread(&m_thread);
-    m_thread.start();
-    if (m_bus.registerObject(m_path, &m_interface, QDBusConnection::ExportAllSlots)) {
-        m_bus.send(requestForName(applicationId));
-    }
-}
-
-DesktopService::~DesktopService()
-{
-    m_bus.unregisterObject(m_path);
-    m_thread.quit();
-    m_thread.wait();
 }
 
 QString objectPathOf(QString applicationId)

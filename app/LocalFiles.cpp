@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <climits>
+#include <filesystem>
 #include <iterator>
+#include <system_error>
 
 namespace grisal
 {
@@ -37,6 +39,12 @@ QStringList localFiles(const QList<QUrl> &urls)
         }
     }
     return paths;
+}
+
+bool isMissing(const QString &path)
+{
+    std::error_code problem;
+    return !std::filesystem::exists(path.toStdString(), problem) && !problem;
 }
 
 QStringList imagesAmong(const QStringList &paths)

@@ -107,16 +107,19 @@ void MainWindow::openFirst(const QStringList &paths)
     }
 }
 
-// A single file is opened whatever it contains: the message then states why it is no picture.
+// A single file is opened whatever it contains: the message then states why it is no picture. A missing file would be
+// opened as the picture that is open already.
 void MainWindow::openUris(const QStringList &uris)
 {
     const QStringList files = localFiles(QUrl::fromStringList(uris));
-    if (files.isEmpty()) {
-        showNotLocal(uris.value(0));
-        return;
-    }
     const QStringList images = imagesAmong(files);
-    openFirst(images.isEmpty() ? files.mid(0, 1) : images);
+    if (!images.isEmpty()) {
+        openFirst(images);
+    } else if (files.isEmpty() || isMissing(files.first())) {
+        showNotLocal(uris.value(0));
+    } else {
+        openImage(files.first());
+    }
 }
 
 void MainWindow::openFile(const QString &filename)

@@ -69,6 +69,14 @@ TEST(LocalFiles, KeepsTheOrder)
     EXPECT_EQ(localFiles(QUrl::fromStringList(uris)), QStringList({QStringLiteral("/b"), QStringLiteral("/a")}));
 }
 
+TEST(IsMissing, IsTrueOnlyIfThereIsNoSuchFile)
+{
+    const QTemporaryDir folder;
+    EXPECT_FALSE(grisal::isMissing(folder.path()));
+    EXPECT_TRUE(grisal::isMissing(folder.filePath(QStringLiteral("a.png"))));
+    EXPECT_FALSE(grisal::isMissing(folder.filePath(QString(300, u'a')))) << "the system refuses the name";
+}
+
 TEST(ImagesAmong, ReturnsTheFilesThatStartLikeImages)
 {
     const QTemporaryDir folder;

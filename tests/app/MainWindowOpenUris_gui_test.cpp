@@ -87,7 +87,7 @@ TEST_F(MainWindowOpenUris, ShowsTheBoxOfAnOpenedFileForAnythingElse)
 {
     const QString text = inHome(QStringLiteral("text.png"));
     writeFile(text, "no picture");
-    for (const QString &path : {text, homePath(), inHome(QStringLiteral("missing.png"))}) {
+    for (const QString &path : {text, homePath()}) {
         allowWarning(path);
         MessageBoxAnswer box(QMessageBox::Ok);
         open({path});
@@ -102,6 +102,15 @@ TEST_F(MainWindowOpenUris, FilesThatAreNotLocalShowABox)
                             "file:///tmp/%FF.png", "<b>bold</b>"}) {
         expectBoxForNoLocalFile(QString::fromLatin1(uri), QString::fromLatin1(uri));
     }
+}
+
+// The Recent menu shows the open picture under the name of a file that is gone.
+TEST_F(MainWindowOpenUris, AMissingFileShowsABoxAndThePictureStays)
+{
+    open({makePicture(QStringLiteral("a.png"), 30, 20)});
+    const QString missing = QUrl::fromLocalFile(inHome(QStringLiteral("missing.png"))).toString();
+    expectBoxForNoLocalFile(missing, missing);
+    EXPECT_EQ(title(), "Lumio Grisal (Alpha) - a.png 30x20");
 }
 
 TEST_F(MainWindowOpenUris, AVeryLongAddressIsShortened)

@@ -5,11 +5,13 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QDBusReply>
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTest>
 
 /// Skips the test if the machine has no D-Bus. For SetUp().
 #define GRISAL_SKIP_WITHOUT_DBUS()                                                                                     \
@@ -66,14 +68,22 @@ public:
     /// Another connection; the caller closes it by its name.
     QDBusConnection connectAs(const QString &name) const { return QDBusConnection::connectToBus(m_address, name); }
 
-    /// Calls a method of org.freedesktop.Application and waits for the reply.
-    QDBusMessage call(const QString &name, const QString &path, const QString &method,
-                      const QVariantList &arguments) const
+    /// Calls a method of org.freedesktop.Application.
+    QDBusPendingCall startCall(const QString &name, const QString &path, const QString &method,
+                               const QVariantList &arguments) const
     {
         QDBusMessage message =
             QDBusMessage::createMethodCall(name, path, QStringLiteral("org.freedesktop.Application"), method);
         message.setArguments(arguments);
-        return connection().call(message, QDBus::Block, patience);
+        return connection().asyncCall(message, patience);
+    }
+
+    /// Calls a method and returns its reply. Runs the event loop, because the service may be in this thread.
+    QDBusMessage call(const QString &name, const QString &path, const QString &method,
+                      const QVariantList &arguments) const
+    {
+        const QDBusPendingCall pending = startCall(name, path, method, arguments);
+        return QTest::qWaitFor([&] { return pending.isFinished(); }, patience) ? pending.reply() : QDBusMessage();
     }
 
     /// The process that has a name; 0 if there is none.
