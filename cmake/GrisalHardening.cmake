@@ -21,6 +21,8 @@ add_compile_options("$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:${hardening}>
 add_link_options("$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-pie;LINKER:-z,relro,-z,now>")
 
 # Otherwise CMake pads the run path in the build folder with empty elements if that of the installed program is longer,
-# and an empty element stands for the current folder.
-set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
+# and an empty element stands for the current folder. Shared libraries of the build are found by that run path.
+if(NOT BUILD_SHARED_LIBS)
+  set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
+endif()
 set(CMAKE_INSTALL_RPATH_USE_LINK_PATH ON)

@@ -10,9 +10,9 @@ add_library(grisal_options INTERFACE)
 target_include_directories(grisal_options INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_options(grisal_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
 
-# grisal_add_library(NAME sources...): adds a static library of the program. Headers are included by their path from the
-# project root.
+# grisal_add_library(NAME sources...): adds a library of the program, which is static unless BUILD_SHARED_LIBS is set.
+# Headers are included by their path from the project root.
 function(grisal_add_library name)
-  add_library(${name} STATIC ${ARGN})
+  add_library(${name} ${ARGN})
   target_link_libraries(${name} PUBLIC grisal_options)
 endfunction()

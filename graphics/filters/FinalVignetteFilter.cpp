@@ -41,7 +41,6 @@ void FinalVignetteFilter::applyPart(int x, int y, int partWidth, int partHeight,
     moved.center.y = movedCentre(parameters.center.y, y, height);
     setVignetteUniforms(program(), moved, width, height, maxWidth, maxHeight);
     renderToFramebuffer(partWidth, partHeight, program().program, target);
-    glBindFramebuffer(GL_FRAMEBUFFER, 0);
 }
 
 } // namespace grisal::graphics

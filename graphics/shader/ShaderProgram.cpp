@@ -146,7 +146,6 @@ void runPass(const ShaderProgram &program, std::int32_t width, std::int32_t heig
 {
     bindTexture2D(program, "MainTexture", sourceTexture, unit::source);
     renderToFramebuffer(width, height, program.program, target);
-    glBindFramebuffer(GL_FRAMEBUFFER, 0);
     glActiveTexture(GL_TEXTURE0);
     glBindTexture(GL_TEXTURE_2D, 0);
 }

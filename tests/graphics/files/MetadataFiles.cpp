@@ -109,6 +109,8 @@ Metadata fullMetadata()
     all.exif["Exif.Photo.DateTimeOriginal"] = "2024:05:06 07:08:09";
     all.exif["Exif.Photo.PixelXDimension"] = std::uint32_t{4000};
     all.exif["Exif.Photo.PixelYDimension"] = std::uint32_t{3000};
+    all.exif["Exif.Iop.RelatedImageWidth"] = std::uint32_t{4000};
+    all.exif["Exif.Iop.RelatedImageLength"] = std::uint32_t{3000};
     all.exif["Exif.GPSInfo.GPSLatitudeRef"] = "N";
     all.exif["Exif.GPSInfo.GPSLatitude"] = "47/1 30/1 0/1";
     const QByteArray thumbnail = "\xff\xd8 a small picture \xff\xd9";

@@ -93,6 +93,8 @@ TEST_P(FromFormatToFormat, UpdatesOrientationAndSize)
     EXPECT_EQ(all["Exif.Image.Orientation"], "1");
     EXPECT_EQ(all["Exif.Photo.PixelXDimension"], "16");
     EXPECT_EQ(all["Exif.Photo.PixelYDimension"], "24");
+    EXPECT_EQ(all["Exif.Iop.RelatedImageWidth"], "16");
+    EXPECT_EQ(all["Exif.Iop.RelatedImageLength"], "24");
     EXPECT_EQ(all["Xmp.tiff.Orientation"], "1");
     EXPECT_EQ(all["Xmp.tiff.ImageWidth"], "16");
 }
@@ -258,6 +260,19 @@ TEST_F(MetadataTest, KeepsAProfileOfSeveralSegments)
     EXPECT_EQ(metadataIn(path(QStringLiteral("c.png"))).profile, all.profile);
     EXPECT_EQ(savedAs(path(QStringLiteral("c.png")), path(QStringLiteral("d.tif"))), "");
     EXPECT_EQ(metadataIn(path(QStringLiteral("d.tif"))).profile, all.profile);
+}
+
+// Readers of JFIF expect its segment directly after the start of the image.
+TEST_F(MetadataTest, FollowsTheJfifSegmentOfAJpeg)
+{
+    const QString source = written(QStringLiteral("a.png"));
+    setMetadata(source, fullMetadata());
+    EXPECT_EQ(savedAs(source, path(QStringLiteral("b.jpg"))), "");
+    const QByteArray contents = contentsOf(path(QStringLiteral("b.jpg")));
+    EXPECT_EQ(contents.first(11), QByteArray("\xff\xd8\xff\xe0\0\x10JFIF\0", 11));
+    constexpr int jfifEnd = 2 + 2 + 16;
+    EXPECT_EQ(contents.mid(jfifEnd, 2), "\xff\xe1");
+    EXPECT_EQ(contents.mid(jfifEnd + 4, 4), "Exif");
 }
 
 // XMP has to fit into one segment of a JPEG file, 64 KB.

@@ -154,15 +154,35 @@ TEST_F(ShaderProgramTest, InvalidFragmentShaderGivesProgramZero)
     EXPECT_EQ(log.debugs().filter("noSuchThing").size(), 1);
 }
 
-TEST_F(ShaderProgramTest, DestructorDeletesTheProgram)
+/// The number of existing shaders and programs, whose names OpenGL assigns from the same small numbers.
+int liveObjects()
 {
-    GLuint name = 0;
+    constexpr GLuint largestName = 1000;
+    int count = 0;
+    for (GLuint name = 1; name <= largestName; ++name) {
+        count += glIsShader(name) + glIsProgram(name);
+    }
+    return count;
+}
+
+TEST_F(ShaderProgramTest, DestructorDeletesTheProgramAndItsShaders)
+{
+    const int before = liveObjects();
     {
         const ShaderProgram program("short-lived", vertexSource(), goodFragment);
-        name = program.program;
-        ASSERT_TRUE(glIsProgram(name));
+        ASSERT_TRUE(glIsProgram(program.program));
+        ASSERT_EQ(liveObjects(), before + 3);
     }
-    EXPECT_FALSE(glIsProgram(name));
+    EXPECT_EQ(liveObjects(), before);
+}
+
+TEST_F(ShaderProgramTest, InvalidFragmentShaderLeavesNoGlObjects)
+{
+    const int before = liveObjects();
+
+    const ShaderProgram program("broken", vertexSource(), badFragment);
+
+    EXPECT_EQ(liveObjects(), before);
 }
 
 TEST_F(ShaderProgramTest, SettingAUniformLeavesNoProgramInUse)

@@ -155,6 +155,7 @@ TEST(ChromaPlane, HueIsTheNearestSaturatedColour)
 {
     EXPECT_EQ(hueOf({0, 0}), Hue::Grey);
     EXPECT_EQ(hueOf({0.4F, -0.4F}), Hue::Grey);
+    EXPECT_EQ(hueOf({-0.25F, 0.5F}), Hue::Red);
     EXPECT_EQ(hueOf({-0.5F, 1}), Hue::Red);
     EXPECT_EQ(hueOf({-170, 85}), Hue::Yellow);
     EXPECT_EQ(hueOf({-170, -170}), Hue::Green);

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The markers of the points in the curve editor.
+// The curve and the markers of its points in the curve editor.
 #include "tests/support/GuiTest.h"
 #include "ui/frames/CurveFrame.h"
 
 #include <QImage>
+#include <QTest>
 
 namespace
 {
@@ -64,6 +65,34 @@ TEST_F(CurveFrameMarkers, PointAwayFromTheEdgesIsDrawnAtItsPosition)
     const QPointF centre = whiteIn({90, 40, 20, 20}).center();
     EXPECT_NEAR(centre.x(), 100, 1);
     EXPECT_NEAR(centre.y(), 50, 1);
+}
+
+TEST_F(CurveFrameMarkers, SelectedPointIsOrange)
+{
+    frame.setPoints({0, 0.5F, 1}, {1, 0.5F, 0});
+    QTest::mouseClick(&frame, Qt::LeftButton, {}, frame.contentsRect().center());
+    ASSERT_EQ(frame.selected(), 1);
+    const QImage shown = frame.grab().toImage();
+    const int ratio = qRound(shown.devicePixelRatio());
+    EXPECT_EQ(shown.pixelColor(100 * ratio, 50 * ratio), QColor(214, 110, 0));
+}
+
+TEST_F(CurveFrameMarkers, CurveIsTwoPixelsWide)
+{
+    constexpr int darkestGround = 130; // on the lines of the grid
+    frame.setPoints({0, 1}, {0.5F, 0.5F});
+    frame.setHistogram(QVector<float>(256, 0.0F));
+    const QImage shown = frame.grab().toImage();
+    const int ratio = qRound(shown.devicePixelRatio());
+    int covered = 0;
+    int touched = 0;
+    for (int y = ratio; y < shown.height() - ratio; ++y) {
+        const QColor colour = shown.pixelColor(60 * ratio, y);
+        covered += colour == QColor(20, 20, 20) ? 1 : 0;
+        touched += colour.red() < darkestGround ? 1 : 0;
+    }
+    EXPECT_EQ(covered, 2 * ratio);
+    EXPECT_EQ(touched, 2 * ratio);
 }
 
 } // namespace

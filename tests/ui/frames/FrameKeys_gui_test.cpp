@@ -5,6 +5,7 @@
 #include "ui/frames/VFrame.h"
 #include "ui/frames/YUVFrame.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -333,6 +334,19 @@ TEST_F(CurveKeys, KeysAreIgnoredDuringADrag)
     EXPECT_TRUE(moved.isEmpty());
     QTest::mouseRelease(frame, Qt::LeftButton, {}, frame->contentsRect().center());
     EXPECT_EQ(moved.count(), 1);
+}
+
+// Otherwise the page keys would also scroll the panels.
+TEST_F(CurveKeys, KeysThatEditAreNotPassedOn)
+{
+    for (const auto key : {Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Insert, Qt::Key_Left, Qt::Key_Up}) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(frame, &event);
+        EXPECT_TRUE(event.isAccepted()) << key;
+    }
+    QKeyEvent other(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+    QCoreApplication::sendEvent(frame, &other);
+    EXPECT_FALSE(other.isAccepted());
 }
 
 TEST_F(CurveKeys, OtherKeysAreIgnored)
