@@ -25,17 +25,17 @@ bool isIdle()
 // A dialog must not be covered by the window that it blocks.
 void bringToFront(QWidget &window, const QString &activationToken)
 {
+    // On Wayland, Qt takes the token from the environment.
     constexpr const char *variable = "XDG_ACTIVATION_TOKEN";
+    if (!activationToken.isEmpty()) {
+        qputenv(variable, activationToken.toUtf8());
+    }
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
     window.raise();
     QWidget *dialog = QApplication::activeModalWidget();
     QWidget &front = dialog != nullptr ? *dialog : window;
     front.raise();
-    // On Wayland, Qt takes the token from the environment.
-    if (!activationToken.isEmpty()) {
-        qputenv(variable, activationToken.toUtf8());
-    }
     front.activateWindow();
     qunsetenv(variable);
 }

@@ -9,6 +9,8 @@ namespace grisal
 namespace
 {
 
+constexpr int longestName = 200; // characters of an action in the log
+
 QString tokenIn(const QVariantMap &platformData)
 {
     const QString token = platformData.value(QStringLiteral("activation-token")).toString();
@@ -48,7 +50,7 @@ void DesktopService::Open(const QStringList &uris, const QVariantMap &platformDa
 void DesktopService::ActivateAction(const QString &name, const QVariantList & /*parameter*/,
                                     const QVariantMap &platformData)
 {
-    qWarning("There is no action %s", qPrintable(name));
+    qWarning("There is no action %s", qPrintable(name.left(longestName)));
     emit requested({}, tokenIn(platformData));
 }
 

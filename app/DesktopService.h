@@ -37,7 +37,7 @@ signals:
     void requested(QStringList uris, QString activationToken);
 };
 
-/// The path of the object that provides ApplicationInterface.
+/// The path of the object that provides DesktopService.
 QString objectPathOf(QString applicationId);
 
 } // namespace grisal

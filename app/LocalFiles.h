@@ -13,7 +13,7 @@ namespace grisal
 /// paths cannot contain.
 QStringList localFiles(const QList<QUrl> &urls);
 
-/// Whether there is no such file. False if a folder on the path does not allow to look.
+/// Whether there is no such file. False if that is unknown, because a folder on the path cannot be searched.
 bool isMissing(const QString &path);
 
 /// Returns the paths of the files that start like JPEG, PNG or TIFF files, in their order.

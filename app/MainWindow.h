@@ -49,7 +49,7 @@ public:
     void saveImage(const QString &path);
 
     /// Opens the first picture among files that another program passes, like a choice from the Recent menu. Shows a
-    /// message if none is a file on this computer.
+    /// message if none is an existing file on this computer.
     void openUris(const QStringList &uris);
 
     /// Why OpenGL cannot draw images; empty if there is no problem.
@@ -104,7 +104,7 @@ private:
     void showCannotLoad(const QString &filename);
     void openFile(const QString &filename);
     void openFirst(const QStringList &paths);
-    void showNotLocal(const QString &uri);
+    void showCannotOpen(const QString &name, const QString &reason);
     std::optional<graphics::Image> renderOutput(BusyNotice &notice);
     std::optional<graphics::Image> renderImage(BusyNotice &notice);
     void showRenderFailed(const QString &reason);

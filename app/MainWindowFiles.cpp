@@ -8,6 +8,7 @@
 #include "app/StatusBar.h"
 #include "ui_MainWindow.h"
 
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLocale>
@@ -18,6 +19,7 @@
 
 #include <malloc.h>
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -28,8 +30,8 @@ namespace
 {
 
 // An address that another program passes may have any length.
-constexpr int longestUri = 200; // characters in the log
-constexpr int widestUri = 600;  // pixels in a message box
+constexpr int longestName = 200; // characters in the log
+constexpr int widestName = 600;  // pixels in a message box
 
 QString titleFor(const QString &path, const graphics::Image &image)
 {
@@ -107,18 +109,25 @@ void MainWindow::openFirst(const QStringList &paths)
     }
 }
 
-// A single file is opened whatever it contains: the message then states why it is no picture. A missing file would be
-// opened as the picture that is open already.
+// Without a picture among them, the first file is opened whatever it contains: the message then states why it is no
+// picture. Missing files are not, because openImage() would show the open picture under their name.
 void MainWindow::openUris(const QStringList &uris)
 {
     const QStringList files = localFiles(QUrl::fromStringList(uris));
     const QStringList images = imagesAmong(files);
+    const auto existing = std::find_if_not(files.begin(), files.end(), isMissing);
     if (!images.isEmpty()) {
         openFirst(images);
-    } else if (files.isEmpty() || isMissing(files.first())) {
-        showNotLocal(uris.value(0));
+    } else if (existing != files.end()) {
+        openImage(*existing);
+    } else if (!files.isEmpty()) {
+        showCannotOpen(files.first(), tr("There is no such file. It may have been moved or deleted."));
     } else {
-        openImage(files.first());
+        // Without the password that an address may contain.
+        const QString address = QUrl(uris.value(0)).toDisplayString();
+        showCannotOpen(address.isEmpty() ? uris.value(0) : address,
+                       tr("It is not a file on this computer, or its name is invalid. Please copy the picture to a "
+                          "folder on this computer and open the copy."));
     }
 }
 
@@ -175,15 +184,14 @@ void MainWindow::showCannotLoad(const QString &filename)
     box.exec();
 }
 
-void MainWindow::showNotLocal(const QString &uri)
+void MainWindow::showCannotOpen(const QString &name, const QString &reason)
 {
-    const QString start = uri.left(longestUri);
-    qWarning("%s is not a file on this computer", qPrintable(start));
-    const QString shown = fontMetrics().elidedText(start, Qt::ElideMiddle, widestUri);
+    const QString start = name.left(longestName);
+    qWarning("There is no file %s", qPrintable(start));
+    const QString shown = fontMetrics().elidedText(start, Qt::ElideMiddle, widestName);
     QMessageBox box(QMessageBox::Information, tr("Open Image"), tr("Cannot load %1.").arg(shown), QMessageBox::Ok,
                     this);
-    box.setInformativeText(tr("It is not a file on this computer, or its name is invalid. Please copy the picture to "
-                              "a folder on this computer and open the copy."));
+    box.setInformativeText(reason);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
@@ -282,6 +290,8 @@ void MainWindow::on_actionSave_triggered()
     if (file.exists()) {
         const QString question = tr("File %1 already exists.\n Do you want to replace it?").arg(file.baseName());
         QMessageBox box(QMessageBox::Question, tr("Overwrite?"), question, QMessageBox::Ok | QMessageBox::Cancel);
+        // The open picture may be another one of the same name.
+        box.setInformativeText(QDir::toNativeSeparators(file.absoluteFilePath()));
         box.setTextFormat(Qt::PlainText);
         box.setDefaultButton(QMessageBox::Ok);
         if (box.exec() == QMessageBox::Ok) {

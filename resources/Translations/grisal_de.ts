@@ -1101,6 +1101,10 @@ Grisal braucht OpenGL 2.1, um Bilder anzuzeigen und zu speichern. Bitte installi
         <source>It is not a file on this computer, or its name is invalid. Please copy the picture to a folder on this computer and open the copy.</source>
         <translation>Es ist keine Datei auf diesem Computer, oder ihr Name ist ungültig. Bitte kopieren Sie das Bild in einen Ordner auf diesem Computer und öffnen Sie die Kopie.</translation>
     </message>
+    <message>
+        <source>There is no such file. It may have been moved or deleted.</source>
+        <translation>Diese Datei gibt es nicht. Vielleicht wurde sie verschoben oder gelöscht.</translation>
+    </message>
 </context>
 <context>
     <name>grisal::ui::StatusBar</name>

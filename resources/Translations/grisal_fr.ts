@@ -1101,6 +1101,10 @@ Grisal a besoin d’OpenGL 2.1 pour afficher et enregistrer des images. Veuillez
         <source>It is not a file on this computer, or its name is invalid. Please copy the picture to a folder on this computer and open the copy.</source>
         <translation>Ce n’est pas un fichier de cet ordinateur, ou son nom n’est pas valide. Veuillez copier l’image dans un dossier de cet ordinateur et ouvrir la copie.</translation>
     </message>
+    <message>
+        <source>There is no such file. It may have been moved or deleted.</source>
+        <translation>Ce fichier n’existe pas. Il a peut-être été déplacé ou supprimé.</translation>
+    </message>
 </context>
 <context>
     <name>grisal::ui::StatusBar</name>

@@ -156,9 +156,28 @@ TEST_F(DesktopRequests, ARequestWithoutFilesKeepsThoseThatWait)
     EXPECT_TRUE(opens(a));
 }
 
-TEST_F(DesktopRequests, LeavesNoTokenInTheEnvironment)
+/// The activation token in the environment while a window is raised.
+class TokenAtRaise : public QObject
 {
+public:
+    QByteArray token;
+
+protected:
+    bool eventFilter(QObject * /*window*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::ZOrderChange) {
+            token = qgetenv("XDG_ACTIVATION_TOKEN");
+        }
+        return false;
+    }
+};
+
+TEST_F(DesktopRequests, TheTokenIsInTheEnvironmentOnlyWhileTheWindowIsRaised)
+{
+    TokenAtRaise atRaise;
+    window.installEventFilter(&atRaise);
     requests.add({}, QStringLiteral("token"));
+    EXPECT_EQ(atRaise.token, QByteArray("token"));
     EXPECT_FALSE(qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
 }
 

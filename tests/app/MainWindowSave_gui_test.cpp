@@ -198,6 +198,7 @@ TEST_F(MainWindowSave, SaveAsksBeforeReplacingAFile)
     trigger(window, "actionSave");
     EXPECT_EQ(box.title, QStringLiteral("Overwrite?"));
     EXPECT_EQ(box.text, QStringLiteral("File a already exists.\n Do you want to replace it?"));
+    EXPECT_EQ(box.informativeText, path) << "the picture in the window may be another one of the same name";
     EXPECT_EQ(box.buttons, QMessageBox::Ok | QMessageBox::Cancel);
     EXPECT_EQ(box.defaultButton, QMessageBox::Ok);
     EXPECT_LE(distanceFromGrey(samplesOf(path), source, triX), level);

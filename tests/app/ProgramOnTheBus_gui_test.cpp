@@ -38,7 +38,7 @@ protected:
 
     ~ProgramOnTheBus() override
     {
-        for (QProcess *process : {&first, &second}) {
+        for (QProcess *process : {&first, &owner}) {
             process->kill();
             process->waitForFinished();
         }
@@ -65,7 +65,10 @@ protected:
 
     QString uri() const { return QUrl::fromLocalFile(picture).toString(QUrl::FullyEncoded); }
 
-    QByteArray logged() const { return contentsOf(home.filePath(QStringLiteral("GrisalLog.txt"))); }
+    QByteArray logged() const
+    {
+        return contentsOf(environment.value(QStringLiteral("HOME")) + QStringLiteral("/GrisalLog.txt"));
+    }
 
     bool logs(const QByteArray &part, int times = 1) const
     {
@@ -93,7 +96,7 @@ protected:
     SessionBus bus;
     QString picture;
     QProcess first;
-    QProcess second;
+    QProcess owner;
 };
 
 TEST_F(ProgramOnTheBus, OpensAPicture)
@@ -133,7 +136,7 @@ TEST_F(ProgramOnTheBus, AnswersWhileAMessageBoxIsOpen)
     start(first);
     ASSERT_TRUE(becomesOwner(first));
     EXPECT_TRUE(open({QStringLiteral("https://grisal.example/a.png")}));
-    ASSERT_TRUE(logs("https://grisal.example/a.png is not a file on this computer"));
+    ASSERT_TRUE(logs("There is no file https://grisal.example/a.png"));
     EXPECT_TRUE(open({uri()}));
     QTest::qWait(300);
     EXPECT_FALSE(logged().contains(picture.toUtf8())) << "the message box is interrupted";
@@ -141,10 +144,12 @@ TEST_F(ProgramOnTheBus, AnswersWhileAMessageBoxIsOpen)
 
 TEST_F(ProgramOnTheBus, ASecondProgramRunsIndependently)
 {
-    start(second);
-    ASSERT_TRUE(becomesOwner(second));
+    start(owner);
+    ASSERT_TRUE(becomesOwner(owner));
+    const QTemporaryDir otherHome;
+    environment.insert(QStringLiteral("HOME"), otherHome.path());
     expectOrdinaryStart();
-    EXPECT_TRUE(becomesOwner(second));
+    EXPECT_TRUE(becomesOwner(owner));
 }
 
 TEST_F(ProgramOnTheBus, RunsWithoutABus)
