@@ -11,6 +11,7 @@ function(finish component program)
 
   set(texts "${staging}/share/man/man1/${program}.1" "${doc}/changelog" "${doc}/changelog.Debian")
   execute_process(COMMAND gzip -9 --no-name ${texts} COMMAND_ERROR_IS_FATAL ANY)
+  # CPack's own stripping keeps these sections.
   execute_process(COMMAND strip --remove-section=.comment --remove-section=.note "${staging}/bin/${program}"
     COMMAND_ERROR_IS_FATAL ANY)
 
