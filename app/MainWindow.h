@@ -102,9 +102,10 @@ private:
     void showCannotSave(const QString &path);
     void showSaved(const QString &path);
     void showCannotLoad(const QString &filename);
+    void showCannotLoad(const QString &name, const QString &reason);
     void openFile(const QString &filename);
     void openFirst(const QStringList &paths);
-    void showCannotOpen(const QString &name, const QString &reason);
+    void showNoFile(const QString &name, const QString &reason);
     std::optional<graphics::Image> renderOutput(BusyNotice &notice);
     std::optional<graphics::Image> renderImage(BusyNotice &notice);
     void showRenderFailed(const QString &reason);

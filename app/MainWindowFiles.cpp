@@ -121,13 +121,13 @@ void MainWindow::openUris(const QStringList &uris)
     } else if (existing != files.end()) {
         openImage(*existing);
     } else if (!files.isEmpty()) {
-        showCannotOpen(files.first(), tr("There is no such file. It may have been moved or deleted."));
+        showNoFile(files.first(), tr("There is no such file. It may have been moved or deleted."));
     } else {
         // Without the password that an address may contain.
         const QString address = QUrl(uris.value(0)).toDisplayString();
-        showCannotOpen(address.isEmpty() ? uris.value(0) : address,
-                       tr("It is not a file on this computer, or its name is invalid. Please copy the picture to a "
-                          "folder on this computer and open the copy."));
+        showNoFile(address.isEmpty() ? uris.value(0) : address,
+                   tr("It is not a file on this computer, or its name is invalid. Please copy the picture to a "
+                      "folder on this computer and open the copy."));
     }
 }
 
@@ -171,29 +171,28 @@ void MainWindow::showWarning()
 
 void MainWindow::showCannotLoad(const QString &filename)
 {
-    QMessageBox box(QMessageBox::Information, tr("Open Image"), tr("Cannot load %1.").arg(filename), QMessageBox::Ok,
-                    this);
     if (const auto &shortage = m_session.shortage()) {
-        box.setInformativeText(tr("Opening and saving it takes up to %1 of memory, but only %2 are free.")
-                                   .arg(memorySize(shortage->needed), memorySize(shortage->free)));
+        showCannotLoad(filename, tr("Opening and saving it takes up to %1 of memory, but only %2 are free.")
+                                     .arg(memorySize(shortage->needed), memorySize(shortage->free)));
     } else {
-        box.setInformativeText(m_session.problem().translated());
+        showCannotLoad(filename, m_session.problem().translated());
     }
+}
+
+void MainWindow::showCannotLoad(const QString &name, const QString &reason)
+{
+    QMessageBox box(QMessageBox::Information, tr("Open Image"), tr("Cannot load %1.").arg(name), QMessageBox::Ok, this);
+    box.setInformativeText(reason);
     // A file name may contain characters that look like HTML.
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
 
-void MainWindow::showCannotOpen(const QString &name, const QString &reason)
+void MainWindow::showNoFile(const QString &name, const QString &reason)
 {
     const QString start = name.left(longestName);
     qWarning("There is no file %s", qPrintable(start));
-    const QString shown = fontMetrics().elidedText(start, Qt::ElideMiddle, widestName);
-    QMessageBox box(QMessageBox::Information, tr("Open Image"), tr("Cannot load %1.").arg(shown), QMessageBox::Ok,
-                    this);
-    box.setInformativeText(reason);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    showCannotLoad(fontMetrics().elidedText(start, Qt::ElideMiddle, widestName), reason);
 }
 
 void MainWindow::saveImage(const QString &path)
