@@ -85,9 +85,7 @@ TEST(ProgressTest, TerminalGetsALineThatIsOverwritten)
     progress.add(job, done());
     progress.finish();
 
-    const std::string clear = "\r\x1b[K";
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              clear + "0/2" + clear + "a.jpg: bad\n" + clear + "1/2, 1 failed" + clear);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "\r\x1b[K0/2\r\x1b[Ka.jpg: bad\n\r\x1b[K1/2, 1 failed\r\x1b[K");
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "2 pictures: 1 done, 1 failed, in 0 s\n");
 }
 
