@@ -58,6 +58,17 @@ TEST_F(SplitToneForm, HasItsRangesAndInitialValues)
     EXPECT_EQ(frame("frameShadows").colorSpace(), 0);
 }
 
+TEST_F(SplitToneForm, WheelsAreSquareInAPanelThatIsWideEnough)
+{
+    panel.show();
+    for (const int width : {300, 400}) {
+        panel.resize(width, 1000);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(frame("frameHighlights").width(), frame("frameHighlights").height()) << width;
+        EXPECT_EQ(frame("frameShadows").width(), frame("frameShadows").height()) << width;
+    }
+}
+
 TEST_F(SplitToneForm, HasItsTexts)
 {
     EXPECT_EQ(panel.windowTitle(), QStringLiteral("Form"));
