@@ -310,6 +310,25 @@ TEST_F(MetadataLimitsTest, LargeMakersNotesAreKeptExceptInJpegFiles)
     EXPECT_TRUE(image.metadata().isComplete());
 }
 
+TEST_F(MetadataLimitsTest, SegmentsOfIncompleteIptcAreLimited)
+{
+    const QByteArray incomplete("Photoshop 3.0\0"
+                                "8BIM\4\4\0\0\x7f\0\0\0",
+                                26);
+    for (const int count : {64, 65}) {
+        const QString source = written(QStringLiteral("a.jpg"));
+        Metadata all = fullMetadata();
+        all.xmp.clear();
+        all.iptc.clear();
+        setMetadata(source, all);
+        for (int i = 0; i < count; ++i) {
+            addSegment(source, '\xed', incomplete);
+        }
+        EXPECT_EQ(carried(source)["Exif.Image.Make"], "Acme");
+        EXPECT_EQ(isComplete(), count == 64);
+    }
+}
+
 TEST_F(MetadataLimitsTest, SegmentsWithoutContentsAreLimited)
 {
     const QString source = written(QStringLiteral("a.jpg"));

@@ -262,6 +262,39 @@ TEST_F(MetadataTest, KeepsAProfileOfSeveralSegments)
     EXPECT_EQ(metadataIn(path(QStringLiteral("d.tif"))).profile, all.profile);
 }
 
+// A segment of a JPEG file has 65,533 bytes.
+TEST_F(MetadataTest, KeepsIptcOfSeveralSegments)
+{
+    const QString source = written(QStringLiteral("a.jpg"));
+    Said all;
+    for (int i = 0; i < 2'000; ++i) {
+        Exiv2::Iptcdatum keyword(Exiv2::IptcKey("Iptc.Application2.Keywords"));
+        keyword.setValue(std::string(60, 'k'));
+        all.iptc.add(keyword);
+    }
+    setMetadata(source, all);
+    ASSERT_EQ(contentsOf(source).count("Photoshop 3.0"), 2);
+    EXPECT_EQ(savedAs(source, path(QStringLiteral("b.tif"))), "");
+    EXPECT_EQ(metadataIn(path(QStringLiteral("b.tif"))).iptc.count(), 2'000);
+}
+
+TEST_F(MetadataTest, TakesIptcFromTheFirstOfTwoCompleteSegments)
+{
+    const QString source = written(QStringLiteral("a.jpg"));
+    Said later;
+    later.iptc["Iptc.Application2.Keywords"] = "later";
+    setMetadata(source, later);
+    addSegment(source, '\xed',
+               QByteArray("Photoshop 3.0\0"
+                          "8BIM\4\4\0\0\0\0\0\x0a"
+                          "\x1c\2\x19\0\5first",
+                          36));
+    EXPECT_EQ(savedAs(source, path(QStringLiteral("b.tif"))), "");
+    const Said saved = metadataIn(path(QStringLiteral("b.tif")));
+    EXPECT_EQ(saved.iptc.count(), 1);
+    EXPECT_EQ(saved["Iptc.Application2.Keywords"], "first");
+}
+
 // Readers of JFIF expect its segment directly after the start of the image.
 TEST_F(MetadataTest, FollowsTheJfifSegmentOfAJpeg)
 {
