@@ -102,7 +102,6 @@ void YUVFrame::turnWheel(int delta)
 {
     m_luma = lumaAfterWheel(m_luma, delta);
     m_wheelImageIsOld = true;
-    update();
     emitWeights();
     notifyValueChanged();
 }
