@@ -278,6 +278,27 @@ TEST_F(CurveFrameTest, BackgroundIsLightAtTheTopRight)
     EXPECT_NEAR(grey(10, 10), 163, 2);
 }
 
+TEST_F(CurveFrameTest, GridLinesDivideTheWholeFrame)
+{
+    frame.setHistogram(QVector<float>(256, 0.0F));
+    const QImage shown = frame.grab().toImage();
+    const int ratio = qRound(shown.devicePixelRatio());
+    const auto grey = [&](int x, int y) { return QColor(shown.pixel(x * ratio, y * ratio)).red(); };
+    // A line may cover half of each of two pixels.
+    const auto columnIsDark = [&](int x, int y) { return grey(x - 4, y) - std::min(grey(x, y), grey(x + 1, y)) > 8; };
+    const auto rowIsDark = [&](int x, int y) { return grey(x, y - 4) - std::min(grey(x, y), grey(x, y + 1)) > 8; };
+    for (const int end : {5, 95}) {
+        for (const int x : {50, 100, 150}) {
+            EXPECT_TRUE(columnIsDark(x, end)) << x << ", " << end;
+        }
+        for (const int y : {25, 50, 75}) {
+            EXPECT_TRUE(rowIsDark(2 * end, y)) << y << ", " << end;
+        }
+    }
+    EXPECT_FALSE(columnIsDark(199, 95));
+    EXPECT_FALSE(rowIsDark(190, 99));
+}
+
 TEST_F(CurveFrameTest, HistogramCurveAndPointsHaveDifferentColours)
 {
     QVector<float> histogram(256, 0.0F);
