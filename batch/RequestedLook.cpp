@@ -32,7 +32,7 @@ std::optional<Look> lookOfPicture(const QString &path, QString &problem)
 {
     const graphics::LookInFile found = graphics::readLook(path);
     if (!found.problem.isEmpty()) {
-        problem = QStringLiteral("%1: %2").arg(path, found.problem.english());
+        problem = found.problem.english();
         return std::nullopt;
     }
     if (found.text.isEmpty()) {

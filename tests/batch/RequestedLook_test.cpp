@@ -81,6 +81,15 @@ TEST_F(RequestedLookTest, ProblemsNameTheFile)
     EXPECT_EQ(problem, path("missing.jpg") + QStringLiteral(" cannot be read: No such file or directory"));
 }
 
+TEST_F(RequestedLookTest, DamagedPictureIsAProblem)
+{
+    // 32,768 x 32,768 pixels without any data
+    test::writeFile(path("cut.png"), QByteArray("\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR\0\0\x80\0\0\0\x80\0\x08\2\0\0\0", 29));
+
+    EXPECT_FALSE(fromFile(path("cut.png")));
+    EXPECT_EQ(problem, path("cut.png") + QStringLiteral(" is too small a file for its number of pixels"));
+}
+
 TEST_F(RequestedLookTest, IsReadFromNamesThatStartWithAColon)
 {
     const QString before = QDir::currentPath();

@@ -190,6 +190,22 @@ TEST_F(ImageHeaderTest, ReadsABigTiff)
     EXPECT_EQ(header->samplesPerPixel, 3);
 }
 
+TEST_F(ImageHeaderTest, ReadsTheDepthOfABigTiffBehindItsDirectory)
+{
+    const TiffByteOrder order(false);
+    const auto entry = [&](std::uint16_t tag, std::uint64_t count, std::uint64_t value) {
+        return order.bytesOf(tag) + order.bytesOf(std::uint16_t{3}) + order.bytesOf(count) + order.bytesOf(value);
+    };
+    constexpr std::uint64_t behind = 16 + 8 + 4 * 20;
+    const QByteArray file = QByteArray("II+\0\x08\0\0\0", 8) + order.bytesOf(std::uint64_t{16}) +
+                            order.bytesOf(std::uint64_t{4}) + entry(256, 1, 40) + entry(257, 1, 50) +
+                            entry(258, 5, behind) + entry(277, 1, 5) + order.bytesOf(std::uint16_t{16}).repeated(5);
+    const auto header = headerOf(file, ImageFormat::Tiff);
+    ASSERT_TRUE(header);
+    EXPECT_EQ(header->bitsPerSample, 16);
+    EXPECT_EQ(header->samplesPerPixel, 5);
+}
+
 TEST_F(ImageHeaderTest, ReturnsNothingWithoutASize)
 {
     for (const QByteArray &contents : {QByteArray(), QByteArray("\xff\xd8\xff"), start + segment('\xe0', "JFIF"),

@@ -95,6 +95,20 @@ TEST_F(TiffMetadataTest, LeavesOutAMakersNoteBeyondTheLimit)
     }
 }
 
+TEST_F(TiffMetadataTest, LeavesOutTheMakersNoteOfLargeMetadata)
+{
+    const QByteArray exif = encodeDirectory({{37500, 7, 10, number(16)}}, order);
+    for (const int size : {500'000, 550'000}) {
+        const QByteArray description(size, 'd');
+        const QByteArray front = "........MakersNote" + exif;
+        const auto at = static_cast<std::uint32_t>(tiffHeaderSize + front.size());
+        const MetadataBlocks blocks = extractTiffMetadata(opened(tiffOf(
+            front + description, {{270, 2, static_cast<std::uint32_t>(size), number(at)}, {34665, 4, 1, number(26)}})));
+        EXPECT_EQ(blocks.exif.contains("MakersNote"), size == 500'000);
+        EXPECT_TRUE(blocks.exif.contains(description));
+    }
+}
+
 TEST_F(TiffMetadataTest, LeavesOutValuesBeyondTheEndOfTheFile)
 {
     const MetadataBlocks blocks =
