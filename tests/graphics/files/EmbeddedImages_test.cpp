@@ -4,9 +4,9 @@
 #include "graphics/files/LumioImage.h"
 #include "tests/graphics/files/MetadataFiles.h"
 #include "tests/graphics/files/PictureFiles.h"
+#include "tests/support/CpuTimer.h"
 
 #include <gtest/gtest.h>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <string>
@@ -232,7 +232,7 @@ TEST_F(EmbeddedImagesTest, PreviewsInIptcAreDropped)
 }
 
 /// Instead of minutes; also with sanitizers.
-constexpr qint64 generousMilliseconds = 10'000;
+constexpr double generousSeconds = 20;
 
 TEST_F(EmbeddedImagesTest, ManyIptcRecordsAreDroppedInLinearTime)
 {
@@ -243,10 +243,9 @@ TEST_F(EmbeddedImagesTest, ManyIptcRecordsAreDroppedInLinearTime)
         iptc.add(datum);
     }
     iptc["Iptc.Application2.City"] = "Chur";
-    QElapsedTimer timer;
-    timer.start();
+    const CpuTimer timer;
     grisal::graphics::removeEmbeddedImages(iptc);
-    EXPECT_LT(timer.elapsed(), generousMilliseconds);
+    EXPECT_LT(timer.seconds(), generousSeconds);
     EXPECT_EQ(iptc.count(), 1);
 }
 
@@ -255,10 +254,9 @@ TEST_F(EmbeddedImagesTest, LongListsOfImagesInXmpAreDroppedInLinearTime)
     // A structure among the items makes a property of each.
     const QByteArray items =
         "<rdf:li rdf:parseType='Resource'><q:a>1</q:a></rdf:li>" + QByteArray("<rdf:li>1</rdf:li>").repeated(49'998);
-    QElapsedTimer timer;
-    timer.start();
+    const CpuTimer timer;
     EXPECT_TRUE(dropsXmp("<xmp:Thumbnails><rdf:Bag>" + items + "</rdf:Bag></xmp:Thumbnails>"));
-    EXPECT_LT(timer.elapsed(), generousMilliseconds);
+    EXPECT_LT(timer.seconds(), generousSeconds);
 }
 
 } // namespace
