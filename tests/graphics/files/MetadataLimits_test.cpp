@@ -235,6 +235,19 @@ TEST_F(MetadataLimitsTest, InvalidRawProfilesOfAPngAreReported)
     }
 }
 
+TEST_F(MetadataLimitsTest, MetadataOfAPngIsLeftOutBehindSixteenMebibytesOfTexts)
+{
+    const QByteArray invalid = QByteArray("Raw profile type exif\0", 22).leftJustified(4 << 20);
+    for (const int count : {3, 4}) {
+        const QString source = written(QStringLiteral("a.png"));
+        for (int i = 0; i < count; ++i) {
+            addChunk(source, "tEXt", invalid);
+        }
+        EXPECT_EQ(carried(source)["Exif.Image.Make"], count == 3 ? "Acme" : "");
+        EXPECT_FALSE(isComplete());
+    }
+}
+
 TEST_F(MetadataLimitsTest, RecordsOfIptcAreLimited)
 {
     for (const int count : {1'000, 12'000}) {

@@ -70,14 +70,17 @@ TEST_F(TiffMetadataTest, ExtractsValuesInlineAndElsewhereWithoutThePixels)
 
 TEST_F(TiffMetadataTest, LeavesTheMakersNoteAtItsOffset)
 {
-    const QByteArray exif = encodeDirectory({{37500, 7, 10, number(16)}}, order);
-    const QByteArray file = tiffOf("........MakersNote" + exif, {{34665, 4, 1, number(26)}});
-    const MetadataBlocks blocks = extractTiffMetadata(opened(file));
-    EXPECT_TRUE(blocks.complete);
-    EXPECT_EQ(blocks.exif.indexOf("MakersNote"), 16);
-    auto entries = entriesAt(blocks.exif, numberAt(blocks.exif, 4));
-    auto inner = entriesAt(blocks.exif, numberAt(entries[34665].content, 0));
-    EXPECT_EQ(numberAt(inner[37500].content, 0), 16U);
+    for (const QByteArray &before : {QByteArray(), QByteArray("........")}) {
+        const auto noteOffset = static_cast<std::uint32_t>(tiffHeaderSize + before.size());
+        const QByteArray exif = encodeDirectory({{37500, 7, 10, number(noteOffset)}}, order);
+        const QByteArray file = tiffOf(before + "MakersNote" + exif, {{34665, 4, 1, number(noteOffset + 10)}});
+        const MetadataBlocks blocks = extractTiffMetadata(opened(file));
+        EXPECT_TRUE(blocks.complete);
+        EXPECT_EQ(blocks.exif.indexOf("MakersNote"), noteOffset);
+        auto entries = entriesAt(blocks.exif, numberAt(blocks.exif, 4));
+        auto inner = entriesAt(blocks.exif, numberAt(entries[34665].content, 0));
+        EXPECT_EQ(numberAt(inner[37500].content, 0), noteOffset);
+    }
 }
 
 TEST_F(TiffMetadataTest, LeavesOutAMakersNoteBeyondTheLimit)
