@@ -206,6 +206,20 @@ TEST_F(ImageHeaderTest, ReadsTheDepthOfABigTiffBehindItsDirectory)
     EXPECT_EQ(header->samplesPerPixel, 5);
 }
 
+TEST_F(ImageHeaderTest, LeavesOutTheCutEntryOfABigTiff)
+{
+    const TiffByteOrder order(false);
+    const auto entry = [&](std::uint16_t tag) {
+        return order.bytesOf(tag) + order.bytesOf(std::uint16_t{3}) + order.bytesOf(std::uint64_t{1}) +
+               order.bytesOf(std::uint64_t{50});
+    };
+    const QByteArray file = QByteArray("II+\0\x08\0\0\0", 8) + order.bytesOf(std::uint64_t{16}) +
+                            order.bytesOf(std::uint64_t{2}) + entry(256) + entry(257);
+    EXPECT_TRUE(headerOf(file, ImageFormat::Tiff));
+    EXPECT_FALSE(headerOf(file.chopped(1), ImageFormat::Tiff));
+    EXPECT_FALSE(headerOf(file.chopped(8), ImageFormat::Tiff));
+}
+
 TEST_F(ImageHeaderTest, ReturnsNothingWithoutASize)
 {
     for (const QByteArray &contents : {QByteArray(), QByteArray("\xff\xd8\xff"), start + segment('\xe0', "JFIF"),
