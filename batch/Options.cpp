@@ -173,7 +173,7 @@ void OptionReader::readOutput(Options &options)
 
 void OptionReader::readExecution(Options &options)
 {
-    options.jobs = number("jobs", 1, maxJobs, std::max(QThread::idealThreadCount(), 1));
+    options.jobs = number("jobs", 1, maxJobs, QThread::idealThreadCount());
     const QString memory = m_parser.value("memory");
     options.memory = bytesIn(memory);
     if (isSet("memory") && options.memory.value_or(0) < minMemory) {

@@ -11,9 +11,6 @@ namespace grisal::batch
 
 bool contains(const Shard &shard, const QString &path)
 {
-    if (shard.count == 1) {
-        return true;
-    }
     // qHash() differs between versions of Qt and, by default, between processes.
     const QByteArray hash = QCryptographicHash::hash(cleaned(path).toUtf8(), QCryptographicHash::Sha256);
     const auto number = qFromBigEndian<quint64>(hash.constData());

@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
 #include <string>
 
@@ -85,7 +84,7 @@ TEST(Options, HaveDefaults)
     EXPECT_EQ(options.namePattern, "");
     EXPECT_FALSE(options.format);
     EXPECT_EQ(options.quality, 90);
-    EXPECT_EQ(options.jobs, std::max(QThread::idealThreadCount(), 1));
+    EXPECT_EQ(options.jobs, QThread::idealThreadCount());
     EXPECT_EQ(options.ifExists, IfExists::Error);
     EXPECT_FALSE(options.recursive);
     EXPECT_EQ(options.filesFrom, "");

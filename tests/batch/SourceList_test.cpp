@@ -255,6 +255,7 @@ TEST_F(SourceListTest, ContainsTheLinesOfStandardInput)
     options.filesFrom = "-";
     EXPECT_EQ(paths("a.jpg\nx/b.jpg\n"), (Texts{"a.jpg", "x/b.jpg"}));
     EXPECT_EQ(subfolders("a.jpg\nx/b.jpg\n"), (Texts{"", ""}));
+    EXPECT_EQ(paths("\na.jpg\nx/b.jpg\n"), (Texts{"a.jpg", "x/b.jpg"}));
     EXPECT_EQ(paths(""), Texts());
 }
 

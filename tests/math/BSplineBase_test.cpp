@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iostream>
+#include <iterator>
 #include <limits>
 #include <sstream>
 #include <string>
@@ -152,6 +153,13 @@ TEST(BSplineBase, DebugModePrintsSmallMatricesOnly)
     const auto lines = [](const std::string &text) { return std::count(text.begin(), text.end(), '\n'); };
     const auto matrices = (lines(small) - 30) - (lines(large) - 31);
     EXPECT_EQ(matrices, 3 * 30);
+
+    const std::string title = "Array Q after addition of P.\n";
+    std::istringstream firstRow(small.substr(small.find(title) + title.size()));
+    std::string row;
+    std::getline(firstRow, row);
+    std::istringstream columns(row);
+    EXPECT_EQ(std::distance(std::istream_iterator<double>(columns), std::istream_iterator<double>()), 30);
     EXPECT_NE(small.find("    0     0 "), std::string::npos);
 }
 
