@@ -151,6 +151,21 @@ TEST_F(MainWindowActions, SharpenShowsAPanelWithoutAFilter)
     EXPECT_FALSE(action("actionSharpen").isChecked());
 }
 
+// There is no filter behind the panel. Weights that nobody announced show whether the picture was rendered again.
+TEST_F(MainWindowActions, SharpenRendersThePreviewWhenItsPanelIsShown)
+{
+    start();
+    const auto centreAfterTrigger = [this](float weight) {
+        dynamic_cast<MixerFilter &>(*preview().filter<MixerFilter>()).weights = {weight, weight, weight};
+        trigger(window, "actionSharpen");
+        const QImage frame = preview().grabFramebuffer();
+        return frame.pixelColor(frame.rect().center());
+    };
+    EXPECT_EQ(centreAfterTrigger(0), QColor(Qt::black));
+    EXPECT_EQ(centreAfterTrigger(1), QColor(Qt::black));
+    EXPECT_EQ(centreAfterTrigger(1), QColor(Qt::white));
+}
+
 TEST_F(MainWindowActions, WithoutAnImageThePanelIsShownAndAWarningLogged)
 {
     for (const FilterRow &row : filterTable) {
