@@ -7,7 +7,7 @@ namespace grisal::test
 {
 
 /// Measures the processor time of all threads of this process since its construction, for tests of work that must not
-/// take minutes. Other programs that use the machine do not affect it, unlike the time of day.
+/// take minutes. Unlike elapsed time, it hardly depends on what else the machine is doing; waiting does not count.
 class CpuTimer
 {
 public:

@@ -204,7 +204,9 @@ TEST_F(ImageHeaderTest, ReadsTheDepthOfABigTiffBehindItsDirectory)
     ASSERT_TRUE(header);
     EXPECT_EQ(header->bitsPerSample, 16);
     EXPECT_EQ(header->samplesPerPixel, 5);
-    EXPECT_EQ(headerOf(file.chopped(10), ImageFormat::Tiff)->bitsPerSample, 0);
+    const auto cut = headerOf(file.chopped(10), ImageFormat::Tiff);
+    ASSERT_TRUE(cut);
+    EXPECT_EQ(cut->bitsPerSample, 0);
 }
 
 TEST_F(ImageHeaderTest, LeavesOutTheCutEntryOfABigTiff)
